@@ -1,0 +1,38 @@
+# A room is one folder of the library: a static archive that knows the rooms below it. The
+# installed library is all rooms in one shared object; a test links just the rooms that it needs.
+
+add_library(corvane_options INTERFACE)
+target_include_directories(corvane_options INTERFACE ${PROJECT_SOURCE_DIR})
+target_compile_options(corvane_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Wnon-virtual-dtor
+  -Woverloaded-virtual -Werror)
+if(WIN32)
+  target_compile_definitions(corvane_options INTERFACE UNICODE _UNICODE)
+endif()
+if(CORVANE_SANITIZE)
+  target_compile_options(corvane_options INTERFACE
+    -fsanitize=${CORVANE_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  target_link_options(corvane_options INTERFACE -fsanitize=${CORVANE_SANITIZE})
+endif()
+
+# corvane_room(NAME SOURCES file... [ROOMS room...] [LIBRARIES library...])
+function(corvane_room name)
+  cmake_parse_arguments(ROOM "" "" "SOURCES;ROOMS;LIBRARIES" ${ARGN})
+  add_library(room_${name} STATIC ${ROOM_SOURCES})
+  list(TRANSFORM ROOM_ROOMS PREPEND room_)
+  target_link_libraries(room_${name} PUBLIC corvane_options ${ROOM_ROOMS})
+  target_link_libraries(room_${name} PRIVATE ${ROOM_LIBRARIES})
+  set_property(GLOBAL APPEND PROPERTY CORVANE_ROOMS room_${name})
+endfunction()
+
+# corvane_test(NAME SOURCES file... ROOMS room... [LIBRARIES library...])
+function(corvane_test name)
+  cmake_parse_arguments(TEST "" "" "SOURCES;ROOMS;LIBRARIES" ${ARGN})
+  add_executable(${name} ${TEST_SOURCES})
+  list(TRANSFORM TEST_ROOMS PREPEND room_)
+  target_link_libraries(${name} PRIVATE ${TEST_ROOMS} corvane_options GTest::gtest_main
+    GTest::gmock ${TEST_LIBRARIES})
+  target_compile_definitions(${name} PRIVATE CORVANE_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120
+    ENVIRONMENT "CORVANE_DISPLAY=headless")
+endfunction()

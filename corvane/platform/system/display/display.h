@@ -1,0 +1,48 @@
+#pragma once
+// What the window system needs from the outside: a screen, a clock, input and sleep.
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "corvane/platform/system/display/input_event.h"
+#include "corvane/platform/system/gdi/region.h"
+#include "corvane/platform/system/gdi/surface.h"
+#include "corvane/platform/system/types.h"
+
+namespace corvane::system {
+
+enum class CursorShape {
+  none, arrow, ibeam, wait, cross, size_nwse, size_nesw, size_we, size_ns, size_all, no, hand
+};
+
+class Display {
+ public:
+  virtual ~Display() = default;
+  virtual SIZE size() const = 0;  // of the screen, pixels
+  // Shows the damaged part of the frame. The frame has the display's size and lives until return.
+  virtual void present(const Surface& frame, const Region& damage) = 0;
+  // Milliseconds since some fixed start; never goes back.
+  virtual std::uint64_t now() const = 0;
+  // Appends the input that has arrived. Called on the user-interface thread.
+  virtual void poll(std::vector<InputEvent>& events) = 0;
+  // Sleeps until input, wake() or the deadline (milliseconds of now(); none: for ever).
+  // A display whose clock moves only when told moves it to the deadline and returns; without a
+  // deadline it returns false at once: nothing can ever happen.
+  virtual bool wait(std::optional<std::uint64_t> deadline) = 0;
+  virtual void wake() {}  // ends a wait from any thread
+  // A file descriptor that becomes readable when poll() may have something, or -1.
+  virtual int event_fd() const { return -1; }
+
+  virtual void set_cursor(CursorShape) {}
+  virtual void set_title(const wchar_t*) {}
+  virtual void set_capture(bool) {}  // keep receiving the mouse outside the native window
+  // The native window, where there is one: moved by dx, dy. False: the display has none.
+  virtual bool move_native_window(int /*dx*/, int /*dy*/) { return false; }
+  // Where the pointer is on the native desktop (moves with the native window), if known.
+  virtual std::optional<POINT> native_pointer() const { return std::nullopt; }
+  virtual bool warp_pointer(POINT) { return false; }
+  // The first top-level window was shown: an on-screen display opens its native window now.
+  virtual void show() {}
+};
+
+}  // namespace corvane::system

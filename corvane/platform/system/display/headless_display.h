@@ -1,0 +1,33 @@
+#pragma once
+// A display in memory with a clock that moves only when told (or when a wait would sleep).
+#include "corvane/platform/system/display/display.h"
+
+namespace corvane::system {
+
+class HeadlessDisplay : public Display {
+ public:
+  explicit HeadlessDisplay(SIZE size = {1280, 800});
+  SIZE size() const override { return size_; }
+  void present(const Surface& frame, const Region& damage) override;
+  std::uint64_t now() const override { return now_; }
+  void poll(std::vector<InputEvent>& events) override;
+  bool wait(std::optional<std::uint64_t> deadline) override;
+  void set_cursor(CursorShape shape) override { cursor_ = shape; }
+
+  void advance(std::uint64_t milliseconds) { now_ += milliseconds; }
+  void push(const InputEvent& event) { pending_.push_back(event); }
+  void resize(SIZE size);  // arrives as a resize event
+  CursorShape cursor() const { return cursor_; }
+  const Surface& frame() const { return frame_; }  // what was last presented
+  int presents() const { return presents_; }
+
+ private:
+  SIZE size_;
+  std::uint64_t now_ = 1000;
+  CursorShape cursor_ = CursorShape::arrow;
+  Surface frame_;
+  int presents_ = 0;
+  std::vector<InputEvent> pending_;
+};
+
+}  // namespace corvane::system

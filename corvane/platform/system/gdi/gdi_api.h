@@ -1,0 +1,156 @@
+#pragma once
+// Device contexts, pens, brushes, fonts, bitmaps and what is drawn with them, under the platform's
+// names. Solid drawing writes an alpha byte of 0, as the platform does; copies keep all 32 bits.
+// Coordinates are logical pixels relative to the device context's origin.
+#include "corvane/platform/system/types.h"
+
+namespace corvane_system {
+
+constexpr int LF_FACESIZE = 32;
+struct LOGFONTW {
+  LONG lfHeight;  // positive: cell height; negative: character height; pixels
+  LONG lfWidth;
+  LONG lfEscapement;
+  LONG lfOrientation;
+  LONG lfWeight;  // 400 normal, 700 bold
+  BYTE lfItalic;
+  BYTE lfUnderline;
+  BYTE lfStrikeOut;
+  BYTE lfCharSet;
+  BYTE lfOutPrecision;
+  BYTE lfClipPrecision;
+  BYTE lfQuality;
+  BYTE lfPitchAndFamily;
+  WCHAR lfFaceName[LF_FACESIZE];
+};
+struct TEXTMETRICW {
+  LONG tmHeight;
+  LONG tmAscent;
+  LONG tmDescent;
+  LONG tmInternalLeading;
+  LONG tmExternalLeading;
+  LONG tmAveCharWidth;
+  LONG tmMaxCharWidth;
+  LONG tmWeight;
+};
+struct BITMAP {
+  LONG bmType;
+  LONG bmWidth;
+  LONG bmHeight;
+  LONG bmWidthBytes;
+  WORD bmPlanes;
+  WORD bmBitsPixel;
+  LPVOID bmBits;
+};
+struct BLENDFUNCTION {
+  BYTE BlendOp;
+  BYTE BlendFlags;
+  BYTE SourceConstantAlpha;
+  BYTE AlphaFormat;
+};
+struct BITMAPINFOHEADER {
+  DWORD biSize;
+  LONG biWidth;
+  LONG biHeight;  // negative: the first row is the top one
+  WORD biPlanes;
+  WORD biBitCount;
+  DWORD biCompression;
+  DWORD biSizeImage;
+  LONG biXPelsPerMeter;
+  LONG biYPelsPerMeter;
+  DWORD biClrUsed;
+  DWORD biClrImportant;
+};
+struct RGBQUAD {
+  BYTE rgbBlue;
+  BYTE rgbGreen;
+  BYTE rgbRed;
+  BYTE rgbReserved;
+};
+struct BITMAPINFO {
+  BITMAPINFOHEADER bmiHeader;
+  RGBQUAD bmiColors[1];
+};
+
+constexpr int PS_SOLID = 0, PS_DASH = 1, PS_DOT = 2, PS_NULL = 5;
+constexpr int TRANSPARENT = 1, OPAQUE = 2;
+constexpr int WHITE_BRUSH = 0, LTGRAY_BRUSH = 1, GRAY_BRUSH = 2, DKGRAY_BRUSH = 3, BLACK_BRUSH = 4,
+              NULL_BRUSH = 5, WHITE_PEN = 6, BLACK_PEN = 7, NULL_PEN = 8, SYSTEM_FONT = 13,
+              DEFAULT_GUI_FONT = 17;
+constexpr UINT DT_TOP = 0x0, DT_LEFT = 0x0, DT_CENTER = 0x1, DT_RIGHT = 0x2, DT_VCENTER = 0x4,
+               DT_BOTTOM = 0x8, DT_WORDBREAK = 0x10, DT_SINGLELINE = 0x20, DT_NOCLIP = 0x100,
+               DT_CALCRECT = 0x400, DT_NOPREFIX = 0x800, DT_END_ELLIPSIS = 0x8000;
+constexpr DWORD SRCCOPY = 0x00CC0020, PATCOPY = 0x00F00021, BLACKNESS = 0x00000042,
+                WHITENESS = 0x00FF0062;
+constexpr int BLACKONWHITE = 1, WHITEONBLACK = 2, COLORONCOLOR = 3, HALFTONE = 4;
+constexpr UINT ETO_OPAQUE = 0x0002, ETO_CLIPPED = 0x0004;
+constexpr int FW_NORMAL = 400, FW_BOLD = 700;
+constexpr BYTE DEFAULT_CHARSET = 1, GB2312_CHARSET = 134;
+constexpr BYTE DEFAULT_QUALITY = 0, ANTIALIASED_QUALITY = 4, CLEARTYPE_QUALITY = 5;
+constexpr BYTE CLEARTYPE_NATURAL_QUALITY = 6;
+constexpr BYTE AC_SRC_OVER = 0, AC_SRC_ALPHA = 1;
+constexpr COLORREF CLR_INVALID = 0xFFFFFFFF;
+constexpr UINT DIB_RGB_COLORS = 0;
+constexpr DWORD BI_RGB = 0;
+constexpr UINT OBJ_PEN = 1, OBJ_BRUSH = 2, OBJ_FONT = 6, OBJ_BITMAP = 7;
+constexpr int COLOR_WINDOW = 5, COLOR_BTNFACE = 15;
+
+// --- Objects. The caller owns what a Create function returns and frees it with DeleteObject;
+// an object selected into a device context is freed when it is no longer selected.
+HPEN CreatePen(int style, int width, COLORREF color);
+HBRUSH CreateSolidBrush(COLORREF color);
+HFONT CreateFontIndirectW(const LOGFONTW* description);
+HFONT CreateFontW(int height, int width, int escapement, int orientation, int weight, DWORD italic,
+                  DWORD underline, DWORD strikeout, DWORD charset, DWORD out_precision,
+                  DWORD clip_precision, DWORD quality, DWORD pitch_and_family, LPCWSTR face);
+HBITMAP CreateCompatibleBitmap(HDC dc, int width, int height);
+HBITMAP CreateDIBSection(HDC dc, const BITMAPINFO* info, UINT usage, void** bits, HANDLE section,
+                         DWORD offset);
+HGDIOBJ GetStockObject(int which);
+HBRUSH GetSysColorBrush(int index);
+COLORREF GetSysColor(int index);
+BOOL DeleteObject(HGDIOBJ object);
+HGDIOBJ SelectObject(HDC dc, HGDIOBJ object);  // returns the previously selected one
+HGDIOBJ GetCurrentObject(HDC dc, UINT type);
+int GetObjectW(HANDLE object, int size, LPVOID out);
+
+// --- Device contexts
+HDC CreateCompatibleDC(HDC dc);
+BOOL DeleteDC(HDC dc);
+int SaveDC(HDC dc);
+BOOL RestoreDC(HDC dc, int saved);
+COLORREF SetTextColor(HDC dc, COLORREF color);
+COLORREF GetTextColor(HDC dc);
+COLORREF SetBkColor(HDC dc, COLORREF color);
+COLORREF GetBkColor(HDC dc);
+int SetBkMode(HDC dc, int mode);
+int GetBkMode(HDC dc);
+int SetStretchBltMode(HDC dc, int mode);
+BOOL SetViewportOrgEx(HDC dc, int x, int y, LPPOINT previous);
+int IntersectClipRect(HDC dc, int left, int top, int right, int bottom);
+int ExcludeClipRect(HDC dc, int left, int top, int right, int bottom);
+int GetClipBox(HDC dc, LPRECT rect);
+BOOL RectVisible(HDC dc, const RECT* rect);
+
+// --- Drawing
+BOOL MoveToEx(HDC dc, int x, int y, LPPOINT previous);
+BOOL LineTo(HDC dc, int x, int y);
+int FillRect(HDC dc, const RECT* rect, HBRUSH brush);
+int FrameRect(HDC dc, const RECT* rect, HBRUSH brush);
+BOOL Rectangle(HDC dc, int left, int top, int right, int bottom);
+BOOL PatBlt(HDC dc, int x, int y, int width, int height, DWORD operation);
+BOOL BitBlt(HDC target, int x, int y, int width, int height, HDC source, int source_x, int source_y,
+            DWORD operation);
+BOOL StretchBlt(HDC target, int x, int y, int width, int height, HDC source, int source_x,
+                int source_y, int source_width, int source_height, DWORD operation);
+COLORREF GetPixel(HDC dc, int x, int y);
+COLORREF SetPixel(HDC dc, int x, int y, COLORREF color);
+int DrawTextW(HDC dc, LPCWSTR text, int length, LPRECT rect, UINT format);
+BOOL ExtTextOutW(HDC dc, int x, int y, UINT options, const RECT* rect, LPCWSTR text, UINT length,
+                 const INT* spacing);
+BOOL TextOutW(HDC dc, int x, int y, LPCWSTR text, int length);
+BOOL GetTextExtentPoint32W(HDC dc, LPCWSTR text, int length, LPSIZE size);
+BOOL GetTextMetricsW(HDC dc, TEXTMETRICW* metrics);
+BOOL GdiFlush();
+
+}  // namespace corvane_system

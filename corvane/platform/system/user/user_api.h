@@ -1,0 +1,234 @@
+#pragma once
+// Windows, messages, input, painting and timers under the platform's names. Every function acts on
+// the calling thread's current window system; PostMessageW alone may be called from any thread.
+// A stale or made-up handle makes a call fail (0 or null) and sets error 1400.
+#include "corvane/platform/system/gdi/gdi_api.h"
+#include "corvane/platform/system/types.h"
+
+namespace corvane_system {
+
+struct MSG {
+  HWND hwnd;
+  UINT message;
+  WPARAM wParam;
+  LPARAM lParam;
+  DWORD time;  // milliseconds
+  POINT pt;    // pointer position, screen coordinates
+};
+using LPMSG = MSG*;
+
+struct CREATESTRUCTW {
+  LPVOID lpCreateParams;
+  HINSTANCE hInstance;
+  HMENU hMenu;
+  HWND hwndParent;
+  int cy;
+  int cx;
+  int y;
+  int x;
+  LONG style;
+  LPCWSTR lpszName;
+  LPCWSTR lpszClass;
+  DWORD dwExStyle;
+};
+using CREATESTRUCT = CREATESTRUCTW;
+using LPCREATESTRUCTW = CREATESTRUCTW*;
+using LPCREATESTRUCT = CREATESTRUCTW*;
+struct CBT_CREATEWNDW {
+  CREATESTRUCTW* lpcs;
+  HWND hwndInsertAfter;
+};
+
+struct WNDCLASSW {
+  UINT style;
+  WNDPROC lpfnWndProc;
+  int cbClsExtra;
+  int cbWndExtra;
+  HINSTANCE hInstance;
+  HICON hIcon;
+  HCURSOR hCursor;
+  HBRUSH hbrBackground;
+  LPCWSTR lpszMenuName;
+  LPCWSTR lpszClassName;
+};
+struct PAINTSTRUCT {
+  HDC hdc;
+  BOOL fErase;
+  RECT rcPaint;  // bounding box of the update region, client coordinates
+  BOOL fRestore;
+  BOOL fIncUpdate;
+  BYTE rgbReserved[32];
+};
+using LPPAINTSTRUCT = PAINTSTRUCT*;
+struct WINDOWPOS {
+  HWND hwnd;
+  HWND hwndInsertAfter;
+  int x;
+  int y;
+  int cx;
+  int cy;
+  UINT flags;
+};
+struct NCCALCSIZE_PARAMS {
+  RECT rgrc[3];
+  WINDOWPOS* lppos;
+};
+struct MINMAXINFO {
+  POINT ptReserved;
+  POINT ptMaxSize;
+  POINT ptMaxPosition;
+  POINT ptMinTrackSize;
+  POINT ptMaxTrackSize;
+};
+struct STYLESTRUCT {
+  DWORD styleOld;
+  DWORD styleNew;
+};
+struct NMHDR {
+  HWND hwndFrom;
+  UINT_PTR idFrom;
+  UINT code;
+};
+struct TRACKMOUSEEVENT {
+  DWORD cbSize;
+  DWORD dwFlags;
+  HWND hwndTrack;
+  DWORD dwHoverTime;
+};
+struct MOUSEINPUT {
+  LONG dx;
+  LONG dy;
+  DWORD mouseData;
+  DWORD dwFlags;
+  DWORD time;
+  ULONG_PTR dwExtraInfo;
+};
+struct KEYBDINPUT {
+  WORD wVk;
+  WORD wScan;
+  DWORD dwFlags;
+  DWORD time;
+  ULONG_PTR dwExtraInfo;
+};
+struct INPUT {
+  DWORD type;
+  union {
+    MOUSEINPUT mi;
+    KEYBDINPUT ki;
+  };
+};
+using LPINPUT = INPUT*;
+
+// --- Window classes and windows
+ATOM RegisterClassW(const WNDCLASSW* window_class);
+BOOL UnregisterClassW(LPCWSTR name, HINSTANCE instance);
+BOOL GetClassInfoW(HINSTANCE instance, LPCWSTR name, WNDCLASSW* out);
+int GetClassNameW(HWND window, LPWSTR buffer, int size);
+HWND CreateWindowExW(DWORD ex_style, LPCWSTR class_name, LPCWSTR window_name, DWORD style, int x,
+                     int y, int width, int height, HWND parent, HMENU menu_or_id,
+                     HINSTANCE instance, LPVOID parameter);
+BOOL DestroyWindow(HWND window);
+BOOL IsWindow(HWND window);
+BOOL IsWindowVisible(HWND window);
+BOOL IsWindowEnabled(HWND window);
+BOOL IsChild(HWND parent, HWND window);
+BOOL ShowWindow(HWND window, int command);
+BOOL MoveWindow(HWND window, int x, int y, int width, int height, BOOL repaint);
+BOOL SetWindowPos(HWND window, HWND insert_after, int x, int y, int width, int height, UINT flags);
+BOOL BringWindowToTop(HWND window);
+BOOL EnableWindow(HWND window, BOOL enable);
+BOOL GetWindowRect(HWND window, LPRECT rect);  // screen coordinates
+BOOL GetClientRect(HWND window, LPRECT rect);  // (0, 0, width, height)
+BOOL ClientToScreen(HWND window, LPPOINT point);
+BOOL ScreenToClient(HWND window, LPPOINT point);
+int MapWindowPoints(HWND from, HWND to, LPPOINT points, UINT count);
+HWND GetParent(HWND window);  // a child's parent, a pop-up's owner
+HWND SetParent(HWND window, HWND parent);
+HWND GetAncestor(HWND window, UINT kind);
+HWND GetWindow(HWND window, UINT relation);
+HWND GetTopWindow(HWND window);
+HWND GetDesktopWindow();
+HWND GetDlgItem(HWND window, int id);
+int GetDlgCtrlID(HWND window);
+BOOL EnumChildWindows(HWND window, WNDENUMPROC callback, LPARAM parameter);
+BOOL SetWindowTextW(HWND window, LPCWSTR text);
+int GetWindowTextW(HWND window, LPWSTR buffer, int size);
+int GetWindowTextLengthW(HWND window);
+LONG GetWindowLongW(HWND window, int index);
+LONG SetWindowLongW(HWND window, int index, LONG value);
+LONG_PTR GetWindowLongPtrW(HWND window, int index);
+LONG_PTR SetWindowLongPtrW(HWND window, int index, LONG_PTR value);
+ULONG_PTR GetClassLongPtrW(HWND window, int index);
+HWND WindowFromPoint(POINT screen_point);
+HWND ChildWindowFromPoint(HWND parent, POINT client_point);
+DWORD GetWindowThreadProcessId(HWND window, DWORD* process);
+
+// --- Messages
+LRESULT SendMessageW(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
+BOOL PostMessageW(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
+void PostQuitMessage(int exit_code);
+BOOL GetMessageW(LPMSG message, HWND window, UINT first, UINT last);
+BOOL PeekMessageW(LPMSG message, HWND window, UINT first, UINT last, UINT remove);
+BOOL TranslateMessage(const MSG* message);
+LRESULT DispatchMessageW(const MSG* message);
+BOOL WaitMessage();
+LRESULT DefWindowProcW(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
+LRESULT CallWindowProcW(WNDPROC procedure, HWND window, UINT message, WPARAM wparam, LPARAM lparam);
+UINT RegisterWindowMessageW(LPCWSTR name);
+HHOOK SetWindowsHookExW(int kind, HOOKPROC procedure, HINSTANCE instance, DWORD thread);
+BOOL UnhookWindowsHookEx(HHOOK hook);
+LRESULT CallNextHookEx(HHOOK hook, int code, WPARAM wparam, LPARAM lparam);
+
+// --- Timers; periods in milliseconds, below 10 they act as 10
+UINT_PTR SetTimer(HWND window, UINT_PTR id, UINT period, TIMERPROC procedure);
+BOOL KillTimer(HWND window, UINT_PTR id);
+DWORD GetTickCount();
+
+// --- Painting
+HDC BeginPaint(HWND window, LPPAINTSTRUCT paint);
+BOOL EndPaint(HWND window, const PAINTSTRUCT* paint);
+HDC GetDC(HWND window);  // null: the screen
+HDC GetWindowDC(HWND window);
+int ReleaseDC(HWND window, HDC dc);
+BOOL InvalidateRect(HWND window, const RECT* rect, BOOL erase);
+BOOL ValidateRect(HWND window, const RECT* rect);
+BOOL RedrawWindow(HWND window, const RECT* rect, HRGN region, UINT flags);
+BOOL UpdateWindow(HWND window);
+BOOL GetUpdateRect(HWND window, LPRECT rect, BOOL erase);
+
+// --- Layered windows
+BOOL SetLayeredWindowAttributes(HWND window, COLORREF key, BYTE alpha, DWORD flags);
+BOOL GetLayeredWindowAttributes(HWND window, COLORREF* key, BYTE* alpha, DWORD* flags);
+BOOL UpdateLayeredWindow(HWND window, HDC target, POINT* position, SIZE* size, HDC source,
+                         POINT* source_point, COLORREF key, BLENDFUNCTION* blend, DWORD flags);
+
+// --- Input
+HWND SetCapture(HWND window);
+BOOL ReleaseCapture();
+HWND GetCapture();
+HWND SetFocus(HWND window);
+HWND GetFocus();
+HWND SetActiveWindow(HWND window);
+HWND GetActiveWindow();
+BOOL SetForegroundWindow(HWND window);
+HWND GetForegroundWindow();
+BOOL SetCursorPos(int x, int y);
+BOOL GetCursorPos(LPPOINT point);
+UINT SendInput(UINT count, LPINPUT inputs, int size);
+SHORT GetKeyState(int virtual_key);       // as of the message last retrieved
+SHORT GetAsyncKeyState(int virtual_key);  // now
+UINT GetDoubleClickTime();                // milliseconds
+BOOL TrackMouseEvent(TRACKMOUSEEVENT* request);
+HCURSOR LoadCursorW(HINSTANCE instance, LPCWSTR name);
+HCURSOR LoadCursorFromFileW(LPCWSTR path);
+HCURSOR SetCursor(HCURSOR cursor);  // returns the previous one
+HCURSOR GetCursor();
+BOOL DestroyCursor(HCURSOR cursor);
+
+// --- The system
+BOOL SystemParametersInfoW(UINT action, UINT parameter, void* data, UINT flags);
+int GetSystemMetrics(int index);
+HMODULE GetModuleHandleW(LPCWSTR name);
+DWORD GetCurrentThreadId();
+
+}  // namespace corvane_system

@@ -1,0 +1,55 @@
+#pragma once
+// One window system: all windows, the queue, timers, focus, capture, cursor and display of one
+// user-interface thread. The platform-named functions act on the calling thread's current one.
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "corvane/platform/system/display/display.h"
+#include "corvane/platform/system/gdi/gdi.h"
+#include "corvane/platform/system/user/user_api.h"
+
+namespace corvane::system {
+
+class WindowSystem {
+ public:
+  // Becomes the thread's current one; the destructor destroys all windows and makes the previous
+  // one current again. Systems of one thread are destroyed in reverse order of their making.
+  explicit WindowSystem(std::unique_ptr<Display> display);
+  ~WindowSystem();
+  WindowSystem(const WindowSystem&) = delete;
+  WindowSystem& operator=(const WindowSystem&) = delete;
+
+  static WindowSystem* current();  // null: the thread has none
+  // Makes this one current (two systems in one thread); returns the previous one.
+  WindowSystem* make_current();
+
+  Display& display();
+  Gdi& gdi();
+
+  // For a host with a loop of its own: dispatches all that is pending (input, posted messages,
+  // paints, due timers), shows the result, and says in how many milliseconds the next timer is due
+  // (nothing: only input or a posted message can bring work). *quit is set when WM_QUIT came.
+  std::optional<std::uint64_t> process_pending(bool* quit = nullptr);
+  // Becomes readable when there is work: input, or a message posted from another thread.
+  int event_fd() const;
+
+  // Composes what is damaged and shows it on the display.
+  void present();
+  // The finished frame; composes first. Valid until the next call or change of size.
+  const Surface& frame();
+
+  // One line per window, top first, children indented: class "text" id, screen rectangle, state.
+  std::string window_tree() const;
+  int live_windows() const;
+  int live_timers() const;
+
+  struct Impl;
+  Impl& impl() { return *impl_; }
+
+ private:
+  std::unique_ptr<Impl> impl_;
+};
+
+}  // namespace corvane::system
