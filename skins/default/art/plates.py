@@ -65,7 +65,7 @@ def toolbar_button(c, w, h, state):
         gradient(c, h, p.rgba(p.ACCENT, .13), p.rgba(p.ACCENT, .27))
         c.fill()
         rim(p.rgba(p.ACCENT, .20), p.rgba(p.ACCENT, .42))
-        rounded(c, 28, h - 3, w - 56, 2, 1)
+        rounded(c, 28, h - 2, w - 56, 2, 1)
         c.set_source_rgba(*p.rgba(p.ACCENT_LIGHT))
         c.fill()
 
@@ -86,7 +86,8 @@ def bar_button(c, w, h, state, primary):
     elif state == "selected":
         top, bottom = (p.mix(top, p.BLACK, .14), p.mix(bottom, p.BLACK, .04))
     elif state == "disabled" and primary:
-        top, bottom = (p.mix(top, "#36403E", .72), p.mix(bottom, "#28302F", .72))
+        top, bottom = (p.mix(top, "#36403E", .72),
+                       p.mix(bottom, "#28302F", .72))
     if not primary:
         light *= .55
     c.rectangle(0, 0, w, h)
