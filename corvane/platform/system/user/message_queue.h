@@ -1,0 +1,43 @@
+#pragma once
+// Posted messages in posting order and the pending WM_QUIT. Posting is safe from any thread.
+#include <deque>
+#include <mutex>
+#include <optional>
+#include <unordered_set>
+
+#include "corvane/platform/system/user/user_api.h"
+
+namespace corvane::system {
+
+class MessageQueue {
+ public:
+  // The windows that may be posted to; the queue drops a window's messages when it goes.
+  void add_window(HWND window);
+  void remove_window(HWND window);
+
+  // False when the window is not one of this queue's. Null: a thread message.
+  bool post(const MSG& message);
+  void post_quit(int exit_code);
+
+  // The first message that `matches`; erases it when `remove` is set.
+  template <typename Predicate>
+  std::optional<MSG> take(const Predicate& matches, bool remove) {
+    std::lock_guard lock(mutex_);
+    for (auto it = messages_.begin(); it != messages_.end(); ++it) {
+      if (!matches(*it)) continue;
+      MSG found = *it;
+      if (remove) messages_.erase(it);
+      return found;
+    }
+    return std::nullopt;
+  }
+  std::optional<int> take_quit(bool remove);
+
+ private:
+  std::mutex mutex_;
+  std::deque<MSG> messages_;
+  std::unordered_set<HWND> windows_;
+  std::optional<int> quit_;
+};
+
+}  // namespace corvane::system

@@ -1,0 +1,51 @@
+#include "corvane/platform/system/user/system_registry.h"
+
+#include <map>
+#include <mutex>
+
+#include "corvane/platform/system/user/system_state.h"
+
+namespace corvane::system {
+namespace {
+
+constexpr int kTagShift = 40;
+
+struct Registry {
+  std::mutex mutex;
+  std::map<std::uintptr_t, System*> systems;
+  std::uintptr_t last_tag = 0;
+};
+
+Registry& registry() {
+  static Registry instance;
+  return instance;
+}
+
+}  // namespace
+
+std::uintptr_t register_system(System* state) {
+  Registry& all = registry();
+  std::lock_guard lock(all.mutex);
+  do {
+    all.last_tag = (all.last_tag + 1) & 0xFFFF;
+  } while (all.last_tag == 0 || all.systems.count(all.last_tag) != 0);
+  all.systems[all.last_tag] = state;
+  return all.last_tag << kTagShift;
+}
+
+void unregister_system(std::uintptr_t tag) {
+  Registry& all = registry();
+  std::lock_guard lock(all.mutex);
+  all.systems.erase(tag >> kTagShift);
+}
+
+bool post_from_any_thread(const MSG& message) {
+  Registry& all = registry();
+  std::lock_guard lock(all.mutex);
+  auto it = all.systems.find(reinterpret_cast<std::uintptr_t>(message.hwnd) >> kTagShift);
+  if (it == all.systems.end() || !it->second->queue.post(message)) return false;
+  it->second->display->wake();
+  return true;
+}
+
+}  // namespace corvane::system

@@ -1,0 +1,101 @@
+#include "corvane/platform/system/user/system_state.h"
+
+#include <cwctype>
+
+namespace corvane::system {
+
+Window* System::find(HWND window) {
+  auto it = windows.find(window);
+  return it == windows.end() ? nullptr : it->second.get();
+}
+
+HWND System::new_handle() {
+  last_handle += 4;
+  return reinterpret_cast<HWND>(tag | last_handle);
+}
+
+System* system() {
+  WindowSystem* current = WindowSystem::current();
+  return current == nullptr ? nullptr : &current->impl();
+}
+
+Window* find(HWND window) {
+  System* state = system();
+  return state == nullptr ? nullptr : state->find(window);
+}
+
+Window* checked(HWND window) {
+  Window* found = find(window);
+  if (found == nullptr) SetLastError(ERROR_INVALID_WINDOW_HANDLE);
+  return found;
+}
+
+bool is_top_level(const Window& window) {
+  return window.parent != nullptr && window.parent->parent == nullptr;
+}
+
+Window* top_level_of(Window& window) {
+  Window* top = &window;
+  while (top->parent != nullptr && top->parent->parent != nullptr) top = top->parent;
+  return top;
+}
+
+Window* surface_owner(Window& window) {
+  Window* owner = &window;
+  while (!is_top_level(*owner) && !owner->is_layered() && owner->parent != nullptr) {
+    owner = owner->parent;
+  }
+  return owner;
+}
+
+bool shown_on_screen(const Window& window) {
+  for (const Window* it = &window; it->parent != nullptr; it = it->parent) {
+    if ((it->style & WS_VISIBLE) == 0) return false;
+  }
+  return true;
+}
+
+bool enabled_with_parents(const Window& window) {
+  for (const Window* it = &window; it->parent != nullptr; it = it->parent) {
+    if ((it->style & WS_DISABLED) != 0) return false;
+  }
+  return true;
+}
+
+bool is_descendant(const Window& ancestor, const Window& window) {
+  for (const Window* it = window.parent; it != nullptr; it = it->parent) {
+    if (it == &ancestor) return true;
+  }
+  return false;
+}
+
+POINT client_origin(const Window& window) {
+  POINT origin{window.client.left, window.client.top};
+  for (const Window* it = window.parent; it != nullptr; it = it->parent) {
+    origin.x += it->client.left;
+    origin.y += it->client.top;
+  }
+  return origin;
+}
+
+RECT frame_on_screen(const Window& window) {
+  POINT base = window.parent == nullptr ? POINT{0, 0} : client_origin(*window.parent);
+  RECT rect = window.frame;
+  OffsetRect(&rect, base.x, base.y);
+  return rect;
+}
+
+RECT client_on_screen(const Window& window) {
+  POINT origin = client_origin(window);
+  RECT rect = window.client_area();
+  OffsetRect(&rect, origin.x, origin.y);
+  return rect;
+}
+
+std::wstring lower_case(std::wstring_view text) {
+  std::wstring result(text);
+  for (wchar_t& letter : result) letter = static_cast<wchar_t>(std::towlower(static_cast<wint_t>(letter)));
+  return result;
+}
+
+}  // namespace corvane::system

@@ -1,0 +1,87 @@
+#pragma once
+// Everything that one window system holds, and the look-ups all other files of the room share.
+#include <map>
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "corvane/platform/system/gdi/gdi.h"
+#include "corvane/platform/system/user/input_state.h"
+#include "corvane/platform/system/user/message_queue.h"
+#include "corvane/platform/system/user/timer_list.h"
+#include "corvane/platform/system/user/window.h"
+#include "corvane/platform/system/user/window_system.h"
+
+namespace corvane::system {
+
+struct Hook {
+  HHOOK handle = nullptr;
+  int kind = 0;
+  HOOKPROC procedure = nullptr;
+};
+
+struct SystemParameters {
+  BOOL drag_full_windows = FALSE;
+  UINT wheel_lines = 3;
+  DWORD wheel_routing = MOUSEWHEEL_ROUTING_MOUSE_POS;
+};
+
+struct OpenPaint {
+  HWND window = nullptr;
+  HDC dc = nullptr;
+};
+
+struct WindowSystem::Impl {
+  explicit Impl(std::unique_ptr<Display> new_display);
+
+  std::unique_ptr<Display> display;
+  Gdi gdi;
+  std::uintptr_t tag = 0;  // upper bits of this system's handles
+  std::uintptr_t last_handle = 0;
+
+  std::unordered_map<HWND, std::unique_ptr<Window>> windows;
+  Window* desktop = nullptr;
+  std::map<std::wstring, std::shared_ptr<WindowClass>> classes;  // by lower-case name
+  std::map<std::wstring, UINT> registered_messages;              // by lower-case name
+  std::vector<Hook> hooks;
+  std::map<HCURSOR, CursorShape> cursors;
+
+  MessageQueue queue;
+  TimerList timers;
+  InputState input;
+  SystemParameters parameters;
+  std::vector<OpenPaint> open_paints;
+
+  Surface frame;
+  Region frame_damage;  // besides what the surfaces marked
+  std::uint64_t last_present = 0;
+  bool display_shown = false;
+
+  Window* find(HWND window);
+  HWND new_handle();
+  std::uint64_t now() const { return display->now(); }
+};
+using System = WindowSystem::Impl;
+
+// The calling thread's system, or null.
+System* system();
+// The window behind a handle; null (and error 1400) when it is none of the current system's.
+Window* checked(HWND window);
+// The same without setting an error.
+Window* find(HWND window);
+
+// --- Where windows are
+bool is_top_level(const Window& window);
+Window* top_level_of(Window& window);
+Window* surface_owner(Window& window);  // the window whose surface it draws into
+bool shown_on_screen(const Window& window);  // visible with all its parents
+bool enabled_with_parents(const Window& window);
+bool is_descendant(const Window& ancestor, const Window& window);
+POINT client_origin(const Window& window);  // screen coordinates
+RECT frame_on_screen(const Window& window);
+RECT client_on_screen(const Window& window);
+
+std::wstring lower_case(std::wstring_view text);
+
+}  // namespace corvane::system

@@ -1,0 +1,11 @@
+#pragma once
+#include <memory>
+
+#include "corvane/platform/system/user/system_state.h"
+
+namespace corvane::system {
+
+// By name or by the atom that RegisterClassW returned; null when there is none.
+std::shared_ptr<WindowClass> find_class(System& state, LPCWSTR name);
+
+}  // namespace corvane::system
