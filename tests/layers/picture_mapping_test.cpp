@@ -1,0 +1,175 @@
+#include "corvane/layers/crop/picture_mapping.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <random>
+#include <vector>
+
+#include "corvane/layers/crop/saturating.h"
+#include "tests/layers/rect_matchers.h"
+
+namespace {
+
+using corvane::fit_picture;
+using corvane::has_area;
+using corvane::height_of;
+using corvane::picture_pixels;
+using corvane::width_of;
+using corvane_tests::is_rect;
+using corvane_tests::same_rect;
+
+constexpr LONG lowest = std::numeric_limits<LONG>::min();
+constexpr LONG highest = std::numeric_limits<LONG>::max();
+
+struct MapCase {
+  SIZE picture;
+  RECT shown;
+  RECT framed;
+  RECT pixels;
+};
+
+TEST(PicturePixels, Table) {
+  constexpr RECT nothing = {0, 0, 0, 0};
+  const std::vector<MapCase> cases = {
+      {{640, 480}, {10, 20, 650, 500}, {110, 120, 210, 220}, {100, 100, 200, 200}},  // 1:1
+      {{640, 480}, {10, 20, 330, 260}, {20, 30, 21, 31}, {20, 20, 22, 22}},          // half
+      {{10, 10}, {0, 0, 100, 100}, {11, 19, 20, 21}, {1, 1, 2, 3}},                  // 10 times
+      {{3, 3}, {0, 0, 10, 10}, {3, 4, 4, 6}, {0, 1, 2, 2}},  // pixel 0 ends at 3.33 in the view
+      {{640, 480}, {10, 20, 330, 260}, {10, 20, 330, 260}, {0, 0, 640, 480}},
+      {{640, 480}, {10, 20, 330, 260}, {-50, -50, 900, 900}, {0, 0, 640, 480}},
+      {{640, 480}, {10, 20, 330, 260}, {-50, 250, 20, 900}, {0, 460, 20, 480}},
+      {{640, 480}, {-100, -50, 220, 190}, {0, 0, 10, 10}, {200, 100, 220, 120}},  // scrolled
+      {{640, 480}, {10, 20, 330, 260}, {330, 30, 400, 60}, nothing},              // beside
+      {{640, 480}, {10, 20, 330, 260}, {0, 0, 10, 300}, nothing},
+      {{640, 480}, {10, 20, 330, 260}, {50, 50, 50, 90}, nothing},  // empty
+      {{640, 480}, {10, 20, 330, 260}, {90, 50, 40, 90}, nothing},  // inverted
+      {{640, 480}, {330, 260, 10, 20}, {50, 50, 90, 90}, nothing},
+      {{0, 480}, {10, 20, 330, 260}, {50, 50, 90, 90}, nothing},
+      {{640, -1}, {10, 20, 330, 260}, {50, 50, 90, 90}, nothing},
+      {{highest, highest},
+       {lowest, lowest, highest, highest},
+       {lowest, lowest, highest, highest},
+       {0, 0, highest, highest}},
+      {{1, 1}, {lowest, lowest, highest, highest}, {0, 0, 1, 1}, {0, 0, 1, 1}}};
+  for (const MapCase& test : cases) {
+    EXPECT_THAT(picture_pixels(test.picture, test.shown, test.framed), same_rect(test.pixels))
+        << "picture " << test.picture.cx << " x " << test.picture.cy << ", framed from "
+        << test.framed.left << ", " << test.framed.top;
+  }
+}
+
+// Pixel p of `size` fills p * length / size to (p + 1) * length / size along the view.
+bool covers(std::int64_t size, std::int64_t length, std::int64_t first, std::int64_t last,
+            std::int64_t pixel) {
+  return pixel * length < last * size && (pixel + 1) * length > first * size;
+}
+
+TEST(PicturePixels, HoldsExactlyThePixelsThatTheFrameTouches) {
+  std::mt19937 random(7);
+  const auto below = [&](unsigned limit) { return static_cast<LONG>(random() % limit); };
+  for (int round = 0; round < 3000; ++round) {
+    const SIZE picture = {1 + below(40), 1 + below(40)};
+    const LONG x = below(200) - 100, y = below(200) - 100;
+    const RECT shown = {x, y, x + 1 + below(90), y + 1 + below(90)};
+    const LONG l = x + below(static_cast<unsigned>(width_of(shown)));
+    const LONG t = y + below(static_cast<unsigned>(height_of(shown)));
+    const RECT framed = {l, t, l + 1 + below(static_cast<unsigned>(shown.right - l)),
+                         t + 1 + below(static_cast<unsigned>(shown.bottom - t))};
+    const RECT pixels = picture_pixels(picture, shown, framed);
+    for (LONG p = 0; p < picture.cx; ++p) {
+      ASSERT_EQ(p >= pixels.left && p < pixels.right,
+                covers(picture.cx, width_of(shown), framed.left - x, framed.right - x, p));
+    }
+    for (LONG p = 0; p < picture.cy; ++p) {
+      ASSERT_EQ(p >= pixels.top && p < pixels.bottom,
+                covers(picture.cy, height_of(shown), framed.top - y, framed.bottom - y, p));
+    }
+  }
+}
+
+TEST(PicturePixels, IsExactForVeryLargePictures) {
+  std::mt19937 random(8);
+  const std::vector<SIZE> pictures = {
+      {10000, 10000}, {100000000, 1}, {1, 100000000}, {99999989, 1}, {31607, 3163}};
+  for (const SIZE& picture : pictures) {
+    for (int round = 0; round < 2000; ++round) {
+      const LONG width = 1 + static_cast<LONG>(random() % 5000);
+      const LONG height = 1 + static_cast<LONG>(random() % 5000);
+      const LONG l = static_cast<LONG>(random() % static_cast<unsigned>(width));
+      const LONG r = l + 1 + static_cast<LONG>(random() % static_cast<unsigned>(width - l));
+      const RECT pixels = picture_pixels(picture, {0, 0, width, height}, {l, 0, r, height});
+      ASSERT_TRUE(has_area(pixels));
+      ASSERT_TRUE(covers(picture.cx, width, l, r, pixels.left));
+      ASSERT_FALSE(covers(picture.cx, width, l, r, std::int64_t{pixels.left} - 1));
+      ASSERT_TRUE(covers(picture.cx, width, l, r, pixels.right - 1));
+      ASSERT_FALSE(covers(picture.cx, width, l, r, pixels.right));
+      ASSERT_EQ(pixels.top, 0);
+      ASSERT_EQ(pixels.bottom, picture.cy);
+    }
+  }
+}
+
+TEST(PicturePixels, NeighboursInTheViewAreNeighboursInThePictureAtWholeScales) {
+  for (const int scale : {1, 2, 3, 7}) {
+    const RECT shown = {30, 40, 30 + 200, 40 + 100};
+    const SIZE picture = {200 * scale, 100 * scale};
+    for (LONG seam = 31; seam < 230; ++seam) {
+      const RECT left = picture_pixels(picture, shown, {30, 40, seam, 140});
+      const RECT right = picture_pixels(picture, shown, {seam, 40, 230, 140});
+      ASSERT_EQ(left.right, right.left) << "scale " << scale << " at " << seam;
+      ASSERT_EQ(left.right, (seam - 30) * scale);
+    }
+  }
+}
+
+TEST(FitPicture, Table) {
+  struct FitCase {
+    SIZE picture;
+    RECT area;
+    RECT shown;
+  };
+  const std::vector<FitCase> cases = {
+      {{400, 300}, {0, 0, 800, 600}, {200, 150, 600, 450}},  // small: its own size
+      {{800, 600}, {0, 0, 800, 600}, {0, 0, 800, 600}},
+      {{1600, 600}, {0, 0, 800, 600}, {0, 150, 800, 450}},
+      {{800, 1200}, {0, 0, 800, 600}, {200, 0, 600, 600}},
+      {{4000, 3000}, {100, 50, 900, 650}, {100, 50, 900, 650}},
+      {{100000, 10}, {0, 0, 100, 100}, {0, 49, 100, 50}},  // never thinner than a pixel
+      {{10, 100000}, {0, 0, 1, 100}, {0, 0, 1, 100}},
+      {{5, 5}, {0, 0, 8, 8}, {1, 1, 6, 6}},
+      {{5, 5}, {-9, -9, -1, -1}, {-8, -8, -3, -3}},
+      {{0, 5}, {0, 0, 8, 8}, {0, 0, 0, 0}},
+      {{5, 5}, {8, 0, 8, 8}, {0, 0, 0, 0}},
+      {{highest, highest},
+       {lowest, lowest, highest, highest},
+       {lowest / 2, lowest / 2, highest / 2, highest / 2}}};
+  for (const FitCase& test : cases) {
+    EXPECT_THAT(fit_picture(test.picture, test.area), same_rect(test.shown))
+        << test.picture.cx << " x " << test.picture.cy;
+  }
+}
+
+TEST(FitPicture, KeepsProportionsCentreAndArea) {
+  std::mt19937 random(9);
+  const auto below = [&](unsigned limit) { return static_cast<LONG>(random() % limit); };
+  for (int round = 0; round < 5000; ++round) {
+    const SIZE picture = {1 + below(20000), 1 + below(20000)};
+    const RECT area = {below(50), below(50), 51 + below(3000), 51 + below(3000)};
+    const RECT shown = fit_picture(picture, area);
+    ASSERT_TRUE(has_area(shown));
+    ASSERT_TRUE(shown.left >= area.left && shown.right <= area.right && shown.top >= area.top &&
+                shown.bottom <= area.bottom);
+    ASSERT_LE(std::abs((shown.left - area.left) - (area.right - shown.right)), 1);
+    ASSERT_LE(std::abs((shown.top - area.top) - (area.bottom - shown.bottom)), 1);
+    const bool own_size = width_of(shown) == picture.cx && height_of(shown) == picture.cy;
+    ASSERT_TRUE(own_size || width_of(shown) == width_of(area) ||
+                height_of(shown) == height_of(area));
+    if (width_of(shown) > 1 && height_of(shown) > 1) {  // each at most half a pixel off
+      ASSERT_LE(std::abs(width_of(shown) * picture.cy - height_of(shown) * picture.cx) * 2,
+                std::max<std::int64_t>(picture.cx, picture.cy));
+    }
+  }
+}
+
+}  // namespace
