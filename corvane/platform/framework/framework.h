@@ -1,0 +1,18 @@
+#pragma once
+// The whole application framework.
+#include "corvane/platform/framework/brush.h"
+#include "corvane/platform/framework/c_string.h"
+#include "corvane/platform/framework/client_dc.h"
+#include "corvane/platform/framework/dc.h"
+#include "corvane/platform/framework/font.h"
+#include "corvane/platform/framework/message_map.h"
+#include "corvane/platform/framework/object.h"
+#include "corvane/platform/framework/paint_dc.h"
+#include "corvane/platform/framework/pen.h"
+#include "corvane/platform/framework/point.h"
+#include "corvane/platform/framework/rect.h"
+#include "corvane/platform/framework/size.h"
+#include "corvane/platform/framework/win_app.h"
+#include "corvane/platform/framework/window_class.h"
+#include "corvane/platform/framework/window_dc.h"
+#include "corvane/platform/framework/wnd.h"
