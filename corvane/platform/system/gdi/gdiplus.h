@@ -35,7 +35,11 @@ enum InterpolationMode {
   InterpolationModeHighQualityBilinear = 6,
   InterpolationModeHighQualityBicubic = 7
 };
-enum PixelOffsetMode { PixelOffsetModeDefault = 0, PixelOffsetModeNone = 3, PixelOffsetModeHalf = 4 };
+enum PixelOffsetMode {
+  PixelOffsetModeDefault = 0,
+  PixelOffsetModeNone = 3,
+  PixelOffsetModeHalf = 4
+};
 enum SmoothingMode { SmoothingModeDefault = 0, SmoothingModeNone = 3, SmoothingModeAntiAlias = 4 };
 enum TextRenderingHint { TextRenderingHintSystemDefault = 0, TextRenderingHintAntiAlias = 4 };
 enum StringAlignment { StringAlignmentNear = 0, StringAlignmentCenter = 1, StringAlignmentFar = 2 };
@@ -91,7 +95,8 @@ class Image {
 class Bitmap : public Image {
  public:
   Bitmap(INT width, INT height, INT stride, DWORD format, BYTE* scan0);
-  Bitmap(const WCHAR* path, BOOL embedded_color_management = FALSE) : Image(path, embedded_color_management) {}
+  Bitmap(const WCHAR* path, BOOL embedded_color_management = FALSE)
+      : Image(path, embedded_color_management) {}
 };
 constexpr DWORD PixelFormat32bppARGB = 0x26200A;
 
@@ -160,7 +165,8 @@ class Graphics {
   Status DrawImage(Image* image, const Rect& target);
   Status DrawImage(Image* image, const RectF& target);
   // Draws the part (x, y, width, height) of the image, in image pixels, into target.
-  Status DrawImage(Image* image, const Rect& target, INT x, INT y, INT width, INT height, Unit unit);
+  Status DrawImage(Image* image, const Rect& target, INT x, INT y, INT width, INT height,
+                   Unit unit);
   Status FillRectangle(const Brush* brush, INT x, INT y, INT width, INT height);
   Status DrawRectangle(const Pen* pen, INT x, INT y, INT width, INT height);
   Status DrawLine(const Pen* pen, INT x1, INT y1, INT x2, INT y2);

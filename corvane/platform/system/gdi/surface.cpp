@@ -1,0 +1,169 @@
+#include "corvane/platform/system/gdi/surface.h"
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+namespace corvane::system {
+
+namespace {
+
+constexpr int kLargestSize = 65535;
+
+int checked_size(int size) { return std::clamp(size, 0, kLargestSize); }
+
+std::size_t index_of(int y) { return static_cast<std::size_t>(y); }
+
+}  // namespace
+
+Surface::Surface(int width, int height, Pixel color)
+    : width_(checked_size(width)), height_(checked_size(height)) {
+  rows_.assign(index_of(height_), Row{color, false});
+}
+
+Surface::Surface(const Surface& other)
+    : width_(other.width_),
+      height_(other.height_),
+      bottom_up_(other.bottom_up_),
+      rows_(other.rows_),
+      marks_(other.marks_) {
+  for (int y = 0; y < height_; ++y)
+    if (rows_[index_of(y)].stored)
+      std::memcpy(writable(y), other.address(y), sizeof(Pixel) * index_of(width_));
+}
+
+Surface& Surface::operator=(const Surface& other) {
+  if (this != &other) *this = Surface(other);
+  return *this;
+}
+
+std::optional<Pixel> Surface::uniform() const {
+  if (rows_.empty()) return std::nullopt;
+  const Pixel color = rows_.front().color;
+  for (const Row& row : rows_)
+    if (row.stored || row.color != color) return std::nullopt;
+  return color;
+}
+
+Pixel* Surface::address(int y) const {
+  const int line = bottom_up_ ? height_ - 1 - y : y;
+  return pixels_.get() + index_of(line) * index_of(width_);
+}
+
+Pixel* Surface::writable(int y) {
+  if (!pixels_)
+    pixels_ = std::make_unique_for_overwrite<Pixel[]>(
+        std::max<std::size_t>(1, index_of(width_) * index_of(height_)));
+  return address(y);
+}
+
+Pixel* Surface::row(int y) {
+  if (y < 0 || y >= height_) return nullptr;
+  Row& row = rows_[index_of(y)];
+  Pixel* target = writable(y);
+  if (!row.stored) {
+    std::fill_n(target, width_, row.color);
+    row.stored = true;
+  }
+  return target;
+}
+
+Pixel* Surface::pixels() {
+  for (int y = 0; y < height_; ++y) row(y);
+  return pixels_.get();
+}
+
+const Pixel* Surface::row_if_stored(int y) const {
+  if (y < 0 || y >= height_ || !rows_[index_of(y)].stored) return nullptr;
+  return address(y);
+}
+
+Pixel Surface::uniform_row(int y) const {
+  return y < 0 || y >= height_ ? 0 : rows_[index_of(y)].color;
+}
+
+const Pixel* Surface::read_row(int y, std::vector<Pixel>& scratch) const {
+  if (y < 0 || y >= height_) return nullptr;
+  if (rows_[index_of(y)].stored) return address(y);
+  scratch.assign(index_of(width_), rows_[index_of(y)].color);
+  return scratch.data();
+}
+
+Pixel Surface::at(int x, int y) const {
+  if (x < 0 || x >= width_ || y < 0 || y >= height_) return 0;
+  const Row& row = rows_[index_of(y)];
+  return row.stored ? address(y)[x] : row.color;
+}
+
+void Surface::fill(const RECT& rect, Pixel color) {
+  const int left = std::max<int>(0, rect.left);
+  const int top = std::max<int>(0, rect.top);
+  const int right = std::min<int>(width_, rect.right);
+  const int bottom = std::min<int>(height_, rect.bottom);
+  if (left >= right) return;
+  const bool whole_rows = left == 0 && right == width_ && !pinned_;
+  for (int y = top; y < bottom; ++y) {
+    if (whole_rows)
+      rows_[index_of(y)] = Row{color, false};
+    else
+      fill_part(y, left, right, color);
+  }
+}
+
+void Surface::fill_part(int y, int left, int right, Pixel color) {
+  Row& row = rows_[index_of(y)];
+  if (!row.stored && row.color == color) return;
+  Pixel* target = writable(y);
+  if (!row.stored) {
+    std::fill(target, target + left, row.color);
+    std::fill(target + right, target + width_, row.color);
+    row.stored = true;
+  }
+  std::fill(target + left, target + right, color);
+}
+
+void Surface::resize(int width, int height) {
+  if (checked_size(width) == width_ && checked_size(height) == height_) return;
+  Surface resized(width, height);
+  for (int y = 0; y < std::min(height_, resized.height_); ++y) {
+    const Row& row = rows_[index_of(y)];
+    const int kept = std::min(width_, resized.width_);
+    if (!row.stored)
+      resized.fill({0, y, kept, y + 1}, row.color);
+    else if (kept > 0)
+      std::memcpy(resized.row(y), address(y), sizeof(Pixel) * index_of(kept));
+  }
+  resized.marks_ = std::move(marks_);
+  resized.marks_.intersect(resized.rect());
+  *this = std::move(resized);
+}
+
+Pixel* Surface::pin(RowOrder order) {
+  const bool bottom_up = order == RowOrder::BottomUp;
+  if (bottom_up != bottom_up_) {
+    Pixel* first = pixels();
+    for (int y = 0; y < height_ / 2; ++y)
+      std::swap_ranges(first + index_of(y) * index_of(width_),
+                       first + index_of(y + 1) * index_of(width_),
+                       first + index_of(height_ - 1 - y) * index_of(width_));
+    bottom_up_ = bottom_up;
+  }
+  pinned_ = true;
+  return pixels();
+}
+
+void Surface::mark(const RECT& rect) {
+  Region part(rect);
+  part.intersect(this->rect());
+  marks_.unite(part);
+}
+
+void Surface::mark(const Region& region) {
+  Region part(region);
+  part.intersect(rect());
+  marks_.unite(part);
+}
+
+Region Surface::take_marks() { return std::exchange(marks_, Region()); }
+
+}  // namespace corvane::system
