@@ -35,5 +35,6 @@ install(FILES
 
 set(pkgconfig_folder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 file(RELATIVE_PATH CORVANE_PREFIX_FROM_PC /${pkgconfig_folder} /)
+string(REGEX REPLACE "/$" "" CORVANE_PREFIX_FROM_PC "${CORVANE_PREFIX_FROM_PC}")
 configure_file(cmake/corvane.pc.in corvane.pc @ONLY)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/corvane.pc DESTINATION ${pkgconfig_folder})

@@ -1,0 +1,69 @@
+// A window with a layer of three buttons from the default skin; prints the buttons that are
+// clicked.
+#include <cstdio>
+
+#include "corvane/layers/frame/layer_messages.h"
+#include "corvane/layers/frame/window_layer.h"
+#include "corvane/platform/framework/framework.h"
+#include "corvane/skin/xml_list_mgr.h"
+
+namespace {
+
+using namespace corvane;
+
+constexpr int kToolbarList = 100;  // the list of the default skin that holds the buttons
+constexpr int kButtons[] = {1, 2, 3};
+constexpr RECT kPlace{0, 0, 296, 76};
+
+class CHostWindow : public CWnd {
+ public:
+  bool Open() {
+    const wchar_t* window_class = AfxRegisterWndClass(CS_DBLCLKS);
+    if (!CreateEx(0, window_class, L"Minimal host", WS_POPUP, kPlace, nullptr, 0)) return false;
+    m_skin.LoadCtrlList(L"ui_control.xml", kToolbarList);
+    m_skin.LoadLanguageList(L"ui_language.xml", kToolbarList);
+    m_skin.LoadLogfontList(L"ui_logfont.xml");
+    m_layer.SetXmlListMgr(&m_skin);
+    for (const int id : kButtons) m_layer.AddBtn(id);
+    m_layer.CreateEx(0, window_class, L"", WS_CHILD, kPlace, this, 0);
+    m_layer.ShowWindow(SW_SHOW);
+    ShowWindow(SW_SHOW);
+    return true;
+  }
+
+ protected:
+  const MessageMap* GetMessageMap() const override {
+    static constexpr auto kMessages =
+        MessageTable(OnMessage<WM_LAYER_BTN_CLICK>(&CHostWindow::OnButton));
+    static const MessageMap map = kMessages.Extending(CWnd::GetMessageMap());
+    return &map;
+  }
+
+ private:
+  LRESULT OnButton(WPARAM id, LPARAM) {
+    std::printf("button %d was clicked\n", static_cast<int>(id));
+    std::fflush(stdout);
+    return 0;
+  }
+
+  CXmlListMgr m_skin;  // outlives the layer, which borrows it
+  CWindowLayer m_layer;
+};
+
+class CHostApp : public CWinApp {
+ public:
+  bool InitInstance() override {
+    m_pMainWnd = &m_window;
+    return m_window.Open();
+  }
+
+ private:
+  CHostWindow m_window;
+};
+
+}  // namespace
+
+int main() {
+  CHostApp app;
+  return RunApp(app);
+}
