@@ -1,0 +1,54 @@
+#pragma once
+// The window that a host lays over its picture to run a crop. It is practically invisible but takes
+// the mouse everywhere, keeps a CCutRectLayer exactly over itself and hands the mouse to it, so the
+// whole area behaves as one. The host chooses its class, style and place; a mid-grey background
+// brush changes what shows through least.
+#include "corvane/layers/crop/cut_rect_layer.h"
+#include "corvane/layers/frame/liveness.h"
+#include "corvane/platform/framework/rect.h"
+#include "corvane/platform/framework/wnd.h"
+
+namespace corvane {
+
+class CCutBgLayer : public CWnd {
+ public:
+  CCutBgLayer();
+  ~CCutBgLayer() override;
+
+  static const CRuntimeClass classCCutBgLayer;
+  const CRuntimeClass* GetRuntimeClass() const override;
+  const MessageMap* GetMessageMap() const override;
+  BOOL PreTranslateMessage(MSG* message) override;
+
+  // The window that gets WM_CUT_CMD when a button of the bar is clicked; borrowed.
+  void SetParentHwnd(HWND window);
+  // Non-zero: the bar of buttons is used.
+  void ShowBtn(int use_bar);
+  // Non-zero: text recognition (a hint, and its own row of buttons). Call it after creation.
+  void SetOCRMode(int text_recognition);
+  // Starts (SW_SHOW) or ends (SW_HIDE) a crop, each with an empty rectangle. Returns whether the
+  // window was visible before.
+  int ShowWindow(int command);
+  // The last value given to ShowWindow; 0 before.
+  int GetShowWindow() const { return shown_; }
+  // The crop rectangle in client coordinates; see CCutRectLayer::GetCutRect.
+  CRect GetCutRect() const;
+
+  int OnCreate(LPCREATESTRUCT creation);
+  void OnSize(UINT kind, int width, int height);
+  using CWnd::OnDestroy;
+  void OnLButtonDown(UINT flags, CPoint point);
+  void OnLButtonUp(UINT flags, CPoint point);
+  void OnMouseMove(UINT flags, CPoint point);
+  void OnMove(int x, int y);
+
+ private:
+  bool CreateRectLayer();
+  void CoverWithRectLayer();
+
+  CCutRectLayer rect_layer_;
+  int shown_ = 0;
+  Liveness liveness_;
+};
+
+}  // namespace corvane

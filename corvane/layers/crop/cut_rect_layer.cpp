@@ -1,0 +1,185 @@
+#include "corvane/layers/crop/cut_rect_layer.h"
+
+#include "corvane/layers/crop/overlay_class.h"
+#include "corvane/layers/frame/layer_key_filter.h"
+#include "corvane/platform/base_services/set_font.h"
+#include "corvane/platform/framework/client_dc.h"
+#include "corvane/platform/framework/paint_dc.h"
+
+namespace corvane {
+namespace {
+
+constexpr CRect buffer_rect(0, 0, 10, 10);
+constexpr COLORREF dark = RGB(0, 0, 0);
+constexpr COLORREF clear = RGB(255, 255, 255);  // the colour key: what is below shows through
+constexpr COLORREF green = RGB(0, 255, 0);
+constexpr BYTE dimming = 120;  // of 255
+constexpr int outline_width = 2;
+constexpr int hint_height = 32;
+constexpr const wchar_t* hint_face = L"宋体";
+constexpr const wchar_t* hint_text = L"请按住鼠标左键框选识别文字";
+
+void show_cursor_of(int code) {
+  ::SetCursor(::LoadCursorW(nullptr, MAKEINTRESOURCEW(crop_cursor_id(code))));
+}
+
+}  // namespace
+
+constexpr CRuntimeClass CCutRectLayer::classCCutRectLayer{"CCutRectLayer", &CWnd::classCWnd};
+
+CCutRectLayer::CCutRectLayer() = default;
+
+CCutRectLayer::~CCutRectLayer() { DestroyWindow(); }
+
+const CRuntimeClass* CCutRectLayer::GetRuntimeClass() const { return &classCCutRectLayer; }
+
+const MessageMap* CCutRectLayer::GetMessageMap() const {
+  static constexpr auto messages = MessageTable(
+      On<WM_CREATE>(&CCutRectLayer::OnCreate), On<WM_SIZE>(&CCutRectLayer::OnSize),
+      On<WM_DESTROY>(&CCutRectLayer::OnDestroy), On<WM_PAINT>(&CCutRectLayer::OnPaint),
+      On<WM_ERASEBKGND>(&CCutRectLayer::OnEraseBkgnd),
+      On<WM_LBUTTONDOWN>(&CCutRectLayer::OnLButtonDown),
+      On<WM_LBUTTONUP>(&CCutRectLayer::OnLButtonUp), On<WM_MOUSEMOVE>(&CCutRectLayer::OnMouseMove));
+  static const MessageMap map = messages.Extending(CWnd::GetMessageMap());
+  return &map;
+}
+
+BOOL CCutRectLayer::PreTranslateMessage(MSG* message) {
+  if (filter_layer_key(KeyFilter::to_parent, m_hWnd, message)) return TRUE;
+  return CWnd::PreTranslateMessage(message);
+}
+
+int CCutRectLayer::ShowWindow(int command) {
+  frame_.clear();
+  const auto watch = liveness_.watch();
+  HideBar();
+  return watch.gone() ? FALSE : CWnd::ShowWindow(command);
+}
+
+CRect CCutRectLayer::GetCutRect() const { return frame_.rectangle(); }
+
+void CCutRectLayer::ShowBtn(int use_bar) { show_buttons_ = use_bar != 0; }
+
+void CCutRectLayer::SetOCRMode(int text_recognition) {
+  text_recognition_ = text_recognition != 0;
+  button_layer_.SetOCRMode(text_recognition);
+}
+
+void CCutRectLayer::SetParentHwnd(HWND window) { button_layer_.SetParentHwnd(window); }
+
+int CCutRectLayer::DragFrame(CPoint point) const { return frame_.hit_test(point); }
+
+void CCutRectLayer::DrawGreenFrame(HDC dc) const {
+  {
+    const CPen pen(PS_SOLID, outline_width, green);
+    const HGDIOBJ former = ::SelectObject(dc, pen.GetSafeHandle());
+    const auto outline = frame_.outline();
+    ::MoveToEx(dc, outline.front().x, outline.front().y, nullptr);
+    for (const POINT& point : outline) ::LineTo(dc, point.x, point.y);
+    ::SelectObject(dc, former);
+  }
+  const CBrush brush(green);
+  for (const RECT& square : frame_.handle_squares()) ::FillRect(dc, &square, brush);
+}
+
+int CCutRectLayer::OnCreate(LPCREATESTRUCT creation) {
+  if (CWnd::OnCreate(creation) == -1) return -1;
+  CreateFillBuffers();
+  const auto watch = liveness_.watch();
+  ModifyStyleEx(WS_EX_APPWINDOW, WS_EX_LAYERED);
+  if (watch.gone() || !m_hWnd) return -1;
+  SetLayeredWindowAttributes(clear, dimming, LWA_COLORKEY | LWA_ALPHA);
+  return CreateBar() ? 0 : -1;
+}
+
+void CCutRectLayer::CreateFillBuffers() {
+  CClientDC dc(this);
+  dark_buffer_.CreateBufferDC(dc, buffer_rect);
+  dark_buffer_.SetBackColor(buffer_rect, dark);
+  clear_buffer_.CreateBufferDC(dc, buffer_rect);
+  clear_buffer_.SetBackColor(buffer_rect, clear);
+}
+
+// False: the layer did not outlive it. A bar that cannot be made leaves the layer without one.
+bool CCutRectLayer::CreateBar() {
+  const auto watch = liveness_.watch();
+  button_layer_.CreateEx(WS_EX_TOOLWINDOW, overlay_class(), L"cutBtnLayer", WS_POPUP, 0, 0, 0, 0,
+                         m_hWnd, nullptr);
+  if (watch.gone()) return false;
+  if (button_layer_.GetSafeHwnd()) button_layer_.ShowWindow(SW_HIDE);
+  return !watch.gone() && m_hWnd;
+}
+
+void CCutRectLayer::OnPaint() {
+  const auto watch = liveness_.watch();
+  CPaintDC dc(this);
+  if (watch.gone()) return;
+  CRect client;
+  GetClientRect(client);
+  if (dark_buffer_.GetDC()) dark_buffer_.Paste(dc, client, SRCCOPY);
+  if (!frame_.empty()) {
+    if (clear_buffer_.GetDC()) clear_buffer_.Paste(dc, frame_.rectangle(), SRCCOPY);
+    DrawGreenFrame(dc);
+  } else if (text_recognition_) {
+    DrawHint(dc, client);
+  }
+}
+
+void CCutRectLayer::DrawHint(HDC dc, CRect client) const {
+  ::SetTextColor(dc, green);
+  ::SetBkMode(dc, TRANSPARENT);
+  const CSetFont font(dc, hint_height, 0, FW_BOLD, hint_face);
+  ::DrawTextW(dc, hint_text, -1, client, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+}
+
+BOOL CCutRectLayer::OnEraseBkgnd(CDC*) { return FALSE; }
+
+void CCutRectLayer::OnLButtonDown(UINT flags, CPoint point) {
+  const auto watch = liveness_.watch();
+  SetCapture();
+  if (watch.gone()) return;
+  const int code = frame_.press(point);
+  show_cursor_of(code);
+  if (code == crop_hit::outside) HideBar();
+  if (!watch.gone()) CWnd::OnLButtonDown(flags, point);
+}
+
+void CCutRectLayer::OnMouseMove(UINT flags, CPoint point) {
+  const auto watch = liveness_.watch();
+  CRect client;
+  GetClientRect(client);
+  show_cursor_of(frame_.move(point, client));
+  if (frame_.dragging()) {
+    if (HasBar() && button_layer_.IsWindowVisible()) PlaceBar();
+    if (watch.gone()) return;
+    Invalidate(FALSE);
+  }
+  CWnd::OnMouseMove(flags, point);
+}
+
+void CCutRectLayer::OnLButtonUp(UINT flags, CPoint point) {
+  const auto watch = liveness_.watch();
+  ::ReleaseCapture();
+  if (watch.gone()) return;
+  if (frame_.release() && HasBar()) {
+    PlaceBar();
+    if (!watch.gone() && HasBar()) button_layer_.ShowWindow(SW_SHOW);
+  }
+  if (!watch.gone()) CWnd::OnLButtonUp(flags, point);
+}
+
+void CCutRectLayer::HideBar() {
+  if (HasBar()) button_layer_.ShowWindow(SW_HIDE);
+}
+
+void CCutRectLayer::PlaceBar() {
+  CRect bar;
+  button_layer_.GetClientRect(bar);
+  CRect client;
+  GetClientRect(client);
+  CPoint corner = CRect(place_crop_bar(frame_.rectangle(), bar.Size(), client)).TopLeft();
+  ClientToScreen(&corner);
+  button_layer_.MoveWindow(corner.x, corner.y, bar.Width(), bar.Height(), TRUE);
+}
+
+}  // namespace corvane

@@ -1,0 +1,70 @@
+#pragma once
+// The overlay on which the user marks a rectangle of the picture below: everything is darkened
+// except the rectangle, which is clear, outlined in green and has eight handles. Dragging draws,
+// moves and resizes it; a bar of buttons follows it. Usually part of CCutBgLayer, which feeds it
+// the mouse; a host may use it alone as a layered pop-up over its picture.
+#include "corvane/layers/crop/crop_frame.h"
+#include "corvane/layers/crop/cut_btn_layer.h"
+#include "corvane/layers/frame/liveness.h"
+#include "corvane/platform/drawing/buffer_dc.h"
+#include "corvane/platform/framework/rect.h"
+#include "corvane/platform/framework/wnd.h"
+
+namespace corvane {
+
+class CCutRectLayer : public CWnd {
+ public:
+  CCutRectLayer();
+  ~CCutRectLayer() override;
+
+  static const CRuntimeClass classCCutRectLayer;
+  const CRuntimeClass* GetRuntimeClass() const override;
+  const MessageMap* GetMessageMap() const override;
+  BOOL PreTranslateMessage(MSG* message) override;
+
+  // Empties the rectangle, hides the bar, and shows or hides this window. Returns whether it was
+  // visible before.
+  int ShowWindow(int command);
+  // As it stands, in client coordinates. It is empty when nothing was drawn, and inverted when an
+  // edge was dragged past its opposite.
+  CRect GetCutRect() const;
+  // Non-zero: the bar is used. Nothing is shown or hidden at once.
+  void ShowBtn(int use_bar);
+  // Non-zero: text recognition, with a hint while the rectangle is empty and its own row of
+  // buttons. The row changes only while the bar's window exists; nothing is repainted at once.
+  void SetOCRMode(int text_recognition);
+  // The window that gets WM_CUT_CMD; borrowed.
+  void SetParentHwnd(HWND window);
+
+  // The crop_hit code at a point in client coordinates.
+  int DragFrame(CPoint point) const;
+  // Draws outline and handles on a device context that has this window's client coordinates.
+  void DrawGreenFrame(HDC dc) const;
+
+  int OnCreate(LPCREATESTRUCT creation);
+  using CWnd::OnDestroy;
+  using CWnd::OnSize;
+  void OnPaint();
+  BOOL OnEraseBkgnd(CDC* dc);
+  void OnLButtonDown(UINT flags, CPoint point);
+  void OnLButtonUp(UINT flags, CPoint point);
+  void OnMouseMove(UINT flags, CPoint point);
+
+ private:
+  void CreateFillBuffers();
+  bool CreateBar();
+  bool HasBar() const { return show_buttons_ && button_layer_.GetSafeHwnd(); }
+  void HideBar();
+  void PlaceBar();
+  void DrawHint(HDC dc, CRect client) const;
+
+  CBufferDC dark_buffer_;
+  CBufferDC clear_buffer_;
+  CropFrame frame_;
+  bool show_buttons_ = false;
+  CCutBtnLayer button_layer_;
+  bool text_recognition_ = false;
+  Liveness liveness_;
+};
+
+}  // namespace corvane

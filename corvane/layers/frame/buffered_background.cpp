@@ -1,0 +1,26 @@
+#include "corvane/layers/frame/buffered_background.h"
+
+#include "corvane/platform/framework/paint_dc.h"
+
+namespace corvane {
+
+bool BufferedBackground::rebuild(const CWnd& layer, CDC* like, COLORREF color) {
+  CRect client;
+  layer.GetClientRect(client);
+  if (client.Size() == rect().Size()) return false;
+  buffer_.Release();
+  buffer_.CreateBufferDC(like ? like->GetSafeHdc() : nullptr, client);
+  buffer_.SetBackColor(client, color);
+  return true;
+}
+
+void BufferedBackground::show(CWnd& layer, const Liveness& liveness) {
+  const auto watch = liveness.watch();
+  CPaintDC paint(&layer);
+  if (watch.gone() || !dc()) return;
+  CRect client;
+  layer.GetClientRect(client);
+  buffer_.Paste(paint, client, SRCCOPY);
+}
+
+}  // namespace corvane

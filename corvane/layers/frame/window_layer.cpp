@@ -1,0 +1,140 @@
+#include "corvane/layers/frame/window_layer.h"
+
+#include <algorithm>
+#include <new>
+#include <utility>
+
+#include "corvane/layers/frame/layer_key_filter.h"
+#include "corvane/layers/frame/layer_messages.h"
+
+namespace corvane {
+namespace {
+
+constexpr COLORREF white = RGB(255, 255, 255);
+constexpr WPARAM drag_by_caption = SC_MOVE | HTCAPTION;
+
+}  // namespace
+
+constexpr CRuntimeClass CWindowLayer::classCWindowLayer{"CWindowLayer", &CWnd::classCWnd};
+
+CWindowLayer::CWindowLayer() = default;
+
+CWindowLayer::~CWindowLayer() { DestroyWindow(); }
+
+const CRuntimeClass* CWindowLayer::GetRuntimeClass() const { return &classCWindowLayer; }
+
+const MessageMap* CWindowLayer::GetMessageMap() const {
+  static constexpr auto messages = MessageTable(
+      On<WM_CREATE>(&CWindowLayer::OnCreate), On<WM_ERASEBKGND>(&CWindowLayer::OnEraseBkgnd),
+      On<WM_PAINT>(&CWindowLayer::OnPaint), On<WM_LBUTTONDOWN>(&CWindowLayer::OnLButtonDown),
+      On<WM_DESTROY>(&CWindowLayer::OnDestroy));
+  static const MessageMap map = messages.Extending(CWnd::GetMessageMap());
+  return &map;
+}
+
+BOOL CWindowLayer::PreTranslateMessage(MSG* message) {
+  if (filter_layer_key(KeyFilter::to_main_window, m_hWnd, message)) return TRUE;
+  return CWnd::PreTranslateMessage(message);
+}
+
+void CWindowLayer::SetXmlListMgr(CXmlListMgr* skin) { skin_ = skin; }
+
+int CWindowLayer::AddBtn(int id) {
+  try {
+    buttons_.push_back(std::make_shared<Button>());
+  } catch (const std::bad_alloc&) {
+    return -1;
+  }
+  buttons_.back()->id = id;
+  return static_cast<int>(buttons_.size());
+}
+
+void CWindowLayer::DelAllBtn() {
+  const auto buttons = std::exchange(buttons_, {});
+  for (const ButtonPointer& button : buttons) button->control.DestroyWindow();
+}
+
+CWindowLayer::ButtonPointer CWindowLayer::Find(int id) const {
+  const auto found = std::find_if(buttons_.begin(), buttons_.end(),
+                                  [id](const ButtonPointer& button) { return button->id == id; });
+  return found == buttons_.end() ? nullptr : *found;
+}
+
+CRect CWindowLayer::GetBtnRect(int id) const {
+  const ButtonPointer button = Find(id);
+  return button ? button->rect : CRect();
+}
+
+void CWindowLayer::SetBtnRect(int id, CRect rect) {
+  const ButtonPointer button = Find(id);
+  if (!button) return;
+  button->rect = rect;
+  if (button->control.GetSafeHwnd()) button->control.MoveWindow(rect, TRUE);
+}
+
+void CWindowLayer::SetBgImage(Gdiplus::Image* image, CRect) { image_ = image; }
+
+int CWindowLayer::ShowWindow(int command) {
+  show_state_ = command;
+  return CWnd::ShowWindow(command);
+}
+
+int CWindowLayer::IsShowWindow() const { return show_state_ == SW_SHOW ? 1 : 0; }
+
+int CWindowLayer::OnCreate(LPCREATESTRUCT creation) {
+  if (CWnd::OnCreate(creation) == -1) return -1;
+  drawing_.Init();
+  const auto watch = liveness_.watch();
+  // The loader's messages may change the list and take back the skin.
+  for (std::size_t i = 0; skin_ && i < buttons_.size(); ++i) {
+    const ButtonPointer button = buttons_[i];
+    skin_->LoadGdiBtn(button->control, button->rect, this, button->id);
+    if (watch.gone()) return -1;
+  }
+  return 0;
+}
+
+BOOL CWindowLayer::OnEraseBkgnd(CDC* dc) {
+  if (!background_.rebuild(*this, dc, white)) return TRUE;
+  drawing_.DrawImage(background_.dc(), image_, background_.rect());
+  const auto watch = liveness_.watch();
+  for (std::size_t i = 0; i < buttons_.size(); ++i) {
+    const ButtonPointer button = buttons_[i];
+    if (button->control.GetSafeHwnd()) button->control.MoveWindow(button->rect, TRUE);
+    if (watch.gone()) return TRUE;
+    button->control.SetBkGnd(background_.dc(), button->rect);
+  }
+  return TRUE;
+}
+
+void CWindowLayer::OnPaint() { background_.show(*this, liveness_); }
+
+void CWindowLayer::OnLButtonDown(UINT, CPoint) {
+  ::SystemParametersInfoW(SPI_SETDRAGFULLWINDOWS, TRUE, nullptr, 0);
+  // The window system drags the parent until the button is released; by then this layer may be
+  // gone.
+  ::SendMessageW(::GetParent(m_hWnd), WM_SYSCOMMAND, drag_by_caption, 0);
+}
+
+BOOL CWindowLayer::OnCommand(WPARAM wparam, LPARAM lparam) {
+  const HWND sender = reinterpret_cast<HWND>(lparam);
+  if (sender) {
+    for (const ButtonPointer& button : buttons_) {
+      if (button->control.GetSafeHwnd() != sender) continue;
+      const HWND parent = ::GetParent(m_hWnd);
+      if (parent) {
+        ::PostMessageW(parent, WM_LAYER_BTN_CLICK, static_cast<WPARAM>(button->id), lparam);
+      }
+      return TRUE;
+    }
+  }
+  return CWnd::OnCommand(wparam, lparam);
+}
+
+void CWindowLayer::OnDestroy() {
+  const auto watch = liveness_.watch();
+  CWnd::OnDestroy();
+  if (!watch.gone()) DelAllBtn();
+}
+
+}  // namespace corvane
