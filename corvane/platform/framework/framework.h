@@ -11,6 +11,7 @@
 #include "corvane/platform/framework/pen.h"
 #include "corvane/platform/framework/point.h"
 #include "corvane/platform/framework/rect.h"
+#include "corvane/platform/framework/scroll_bar.h"
 #include "corvane/platform/framework/size.h"
 #include "corvane/platform/framework/win_app.h"
 #include "corvane/platform/framework/window_class.h"

@@ -14,7 +14,8 @@ class CScrollBar;
 // CWnd::FromHandle, for the traits.
 CWnd* wnd_from_parameter(WPARAM window);
 CWnd* wnd_from_parameter(LPARAM window);
-CScrollBar* scroll_bar_from_parameter(LPARAM window);  // null: the window's own bar
+// Null for the window's own bar and for a control without a CScrollBar object.
+CScrollBar* scroll_bar_from_parameter(LPARAM window);
 
 // Each family has the handler's Signature and Call(handler, wparam, lparam, result), which returns
 // false when the message shall go on to its default handling. `handler` is a callable with the

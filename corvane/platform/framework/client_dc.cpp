@@ -1,0 +1,16 @@
+#include "corvane/platform/framework/client_dc.h"
+
+#include "corvane/platform/framework/wnd.h"
+
+namespace corvane {
+
+CClientDC::CClientDC(const CWnd* window) : window_(window ? window->GetSafeHwnd() : nullptr) {
+  // An object without a window must not get the screen.
+  if (!window || window_) Attach(::GetDC(window_));
+}
+
+CClientDC::~CClientDC() {
+  if (const HDC dc = Detach()) ::ReleaseDC(window_, dc);
+}
+
+}  // namespace corvane

@@ -1,0 +1,15 @@
+#include "corvane/platform/framework/font.h"
+
+namespace corvane {
+
+bool CFont::CreateFontIndirectW(const LOGFONTW* description) {
+  if (!description) return false;
+  DeleteObject();
+  return Attach(::CreateFontIndirectW(description));
+}
+
+bool CFont::GetLogFont(LOGFONTW* description) const {
+  return description && m_hObject && ::GetObjectW(m_hObject, sizeof *description, description) != 0;
+}
+
+}  // namespace corvane

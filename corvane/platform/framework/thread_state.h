@@ -1,0 +1,42 @@
+#pragma once
+// What the framework knows of the calling thread's windows.
+#include <set>
+#include <string>
+
+#include "corvane/platform/framework/handle_maps.h"
+#include "corvane/platform/platform.h"
+
+namespace corvane {
+
+class WindowHook;
+
+struct ThreadState {
+  HandleMaps handles;
+  const MSG* message = nullptr;    // the innermost one being handled
+  int depth = 0;                   // of messages being handled
+  WindowHook* creation = nullptr;  // the innermost creation under way
+  std::set<std::wstring> class_names;
+
+  static ThreadState& current();
+};
+
+// A message is being handled, until the end of the scope.
+class MessageScope {
+ public:
+  MessageScope(ThreadState& state, const MSG& message) : state_(state), outer_(state.message) {
+    state_.message = &message;
+    ++state_.depth;
+  }
+  ~MessageScope() {
+    state_.message = outer_;
+    --state_.depth;
+  }
+  MessageScope(const MessageScope&) = delete;
+  MessageScope& operator=(const MessageScope&) = delete;
+
+ private:
+  ThreadState& state_;
+  const MSG* outer_;
+};
+
+}  // namespace corvane

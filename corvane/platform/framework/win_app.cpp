@@ -1,0 +1,83 @@
+#include "corvane/platform/framework/win_app.h"
+
+#include "corvane/platform/framework/platform_session.h"
+#include "corvane/platform/framework/thread_state.h"
+
+namespace corvane {
+namespace {
+
+thread_local CWinApp* live_app = nullptr;
+
+void release_temporaries() {
+  ThreadState& state = ThreadState::current();
+  if (state.depth == 0) state.handles.release_temporaries();
+}
+
+// Asks the windows from the message's own up to its top-level one, or to the main window.
+bool swallowed_on_the_way_up(MSG* message, HWND main_window) {
+  for (HWND window = message->hwnd; window;) {
+    CWnd* object = CWnd::FromHandlePermanent(window);
+    if (object && object->PreTranslateMessage(message)) return true;
+    const bool child = (::GetWindowLongW(window, GWL_STYLE) & static_cast<LONG>(WS_CHILD)) != 0;
+    if (!child || window == main_window) return false;
+    window = ::GetParent(window);
+  }
+  return false;
+}
+
+}  // namespace
+
+CWinApp::CWinApp() : session_(std::make_unique<PlatformSession>()), previous_(live_app) {
+  live_app = this;
+}
+
+CWinApp::~CWinApp() {
+  if (live_app == this) live_app = previous_;
+}
+
+bool CWinApp::InitInstance() { return true; }
+
+int CWinApp::ExitInstance() { return exit_code_; }
+
+bool CWinApp::OnIdle(LONG) { return false; }
+
+int CWinApp::Run() {
+  MSG message{};
+  for (;;) {
+    LONG idle_count = 0;
+    while (!::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE) && OnIdle(idle_count))
+      ++idle_count;
+    if (::GetMessageW(&message, nullptr, 0, 0) <= 0) break;
+    if (PreTranslateInput(&message)) continue;
+    ::TranslateMessage(&message);
+    ::DispatchMessageW(&message);
+  }
+  exit_code_ = message.message == WM_QUIT ? static_cast<int>(message.wParam) : 0;
+  return ExitInstance();
+}
+
+BOOL CWinApp::PreTranslateMessage(MSG* message) {
+  if (!message || !message->hwnd) return FALSE;
+  const HWND main_window = m_pMainWnd ? m_pMainWnd->GetSafeHwnd() : nullptr;
+  const bool of_main = ::GetAncestor(message->hwnd, GA_ROOT) == main_window;
+  if (swallowed_on_the_way_up(message, main_window)) return TRUE;
+  // A filter may have destroyed the main window.
+  return m_pMainWnd && !of_main && m_pMainWnd->PreTranslateMessage(message);
+}
+
+CWinApp* AfxGetApp() { return live_app; }
+
+CWnd* AfxGetMainWnd() { return live_app ? live_app->m_pMainWnd : nullptr; }
+
+HINSTANCE AfxGetInstanceHandle() { return ::GetModuleHandleW(nullptr); }
+
+bool PreTranslateInput(MSG* message) {
+  release_temporaries();
+  if (!message) return false;
+  if (live_app) return live_app->PreTranslateMessage(message);
+  return swallowed_on_the_way_up(message, nullptr);
+}
+
+int RunApp(CWinApp& app) { return app.InitInstance() ? app.Run() : app.ExitInstance(); }
+
+}  // namespace corvane

@@ -1,0 +1,16 @@
+#include "corvane/platform/framework/window_dc.h"
+
+#include "corvane/platform/framework/wnd.h"
+
+namespace corvane {
+
+CWindowDC::CWindowDC(const CWnd* window) : window_(window ? window->GetSafeHwnd() : nullptr) {
+  // An object without a window must not get the screen.
+  if (!window || window_) Attach(::GetWindowDC(window_));
+}
+
+CWindowDC::~CWindowDC() {
+  if (const HDC dc = Detach()) ::ReleaseDC(window_, dc);
+}
+
+}  // namespace corvane

@@ -1,0 +1,80 @@
+#include "corvane/platform/framework/window_hook.h"
+
+#include <utility>
+
+#include "corvane/platform/framework/thread_state.h"
+#include "corvane/platform/framework/win_app.h"
+#include "corvane/platform/framework/wnd.h"
+
+namespace corvane {
+
+WindowHook::WindowHook(CWnd* object)
+    : state_(ThreadState::current()),
+      outer_(state_.creation),
+      waiting_(object),
+      hook_(::SetWindowsHookExW(WH_CBT, &on_creation, nullptr, ::GetCurrentThreadId())) {
+  state_.creation = this;
+}
+
+WindowHook::~WindowHook() {
+  if (hook_) ::UnhookWindowsHookEx(hook_);
+  state_.creation = outer_;
+  if (waiting_) {
+    waiting_->PostNcDestroy();
+    return;
+  }
+  // The creation was refused before the window's first message.
+  CWnd* object = state_.handles.permanent(window_);
+  if (object && !::IsWindow(window_)) finish(*object);
+}
+
+LRESULT CALLBACK WindowHook::on_creation(int code, WPARAM wparam, LPARAM lparam) {
+  WindowHook* innermost = ThreadState::current().creation;
+  if (!innermost) return 0;
+  if (code == HCBT_CREATEWND && innermost->waiting_)
+    innermost->adopt(reinterpret_cast<HWND>(wparam));
+  return ::CallNextHookEx(innermost->hook_, code, wparam, lparam);
+}
+
+void WindowHook::adopt(HWND window) {
+  CWnd& object = *std::exchange(waiting_, nullptr);
+  window_ = window;
+  object.m_hWnd = window;
+  state_.handles.add_permanent(window, &object);
+  const auto replaced = reinterpret_cast<WNDPROC>(
+      ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&procedure)));
+  object.super_procedure_ = replaced == &procedure ? nullptr : replaced;
+}
+
+LRESULT CALLBACK WindowHook::procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+  ThreadState& state = ThreadState::current();
+  CWnd* object = state.handles.permanent(window);
+  if (!object) return ::DefWindowProcW(window, message, wparam, lparam);
+  const MSG current{window, message, wparam, lparam, 0, {}};
+  const MessageScope scope(state, current);
+  const LRESULT result = object->WindowProc(message, wparam, lparam);
+  // A handler of WM_NCDESTROY may have left out the base's.
+  if (message == WM_NCDESTROY && state.handles.permanent(window) == object) finish(*object);
+  return result;
+}
+
+void WindowHook::release(CWnd& object) {
+  const HWND window = std::exchange(object.m_hWnd, nullptr);
+  const WNDPROC original = std::exchange(object.super_procedure_, nullptr);
+  ThreadState::current().handles.remove_permanent(window);
+  const auto present = reinterpret_cast<WNDPROC>(::GetWindowLongPtrW(window, GWLP_WNDPROC));
+  if (original && present == &procedure)
+    ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original));
+}
+
+void WindowHook::finish(CWnd& object) {
+  CWinApp* app = AfxGetApp();
+  if (app && app->m_pMainWnd == &object) {
+    app->m_pMainWnd = nullptr;
+    ::PostQuitMessage(0);
+  }
+  release(object);
+  object.PostNcDestroy();
+}
+
+}  // namespace corvane
