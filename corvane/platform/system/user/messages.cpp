@@ -31,8 +31,8 @@ LRESULT send(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
 bool post(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
   System* state = system();
   if (state == nullptr) return false;
-  return state->queue.post(MSG{window, message, wparam, lparam,
-                               static_cast<DWORD>(state->now()), state->input.pointer});
+  return state->queue.post(
+      MSG{window, message, wparam, lparam, static_cast<DWORD>(state->now()), state->input.pointer});
 }
 
 bool ask_creation_hooks(HWND window, CREATESTRUCTW& create) {
@@ -40,8 +40,8 @@ bool ask_creation_hooks(HWND window, CREATESTRUCTW& create) {
   if (state == nullptr || state->hooks.empty()) return true;
   CBT_CREATEWNDW info{&create, HWND_TOP};
   HOOKPROC last = state->hooks.back().procedure;
-  return last(HCBT_CREATEWND, reinterpret_cast<WPARAM>(window),
-              reinterpret_cast<LPARAM>(&info)) == 0;
+  return last(HCBT_CREATEWND, reinterpret_cast<WPARAM>(window), reinterpret_cast<LPARAM>(&info)) ==
+         0;
 }
 
 }  // namespace corvane::system
@@ -72,7 +72,10 @@ LRESULT DispatchMessageW(const MSG* message) {
   if (message == nullptr) return 0;
   if (message->message == WM_TIMER && message->lParam != 0) {
     auto procedure = reinterpret_cast<TIMERPROC>(message->lParam);
-    procedure(message->hwnd, WM_TIMER, message->wParam, GetTickCount());
+    System* state = corvane::system::system();
+    if (state != nullptr && state->timers.knows(procedure)) {
+      procedure(message->hwnd, WM_TIMER, message->wParam, GetTickCount());
+    }
     return 0;
   }
   if (message->hwnd == nullptr || checked(message->hwnd) == nullptr) return 0;

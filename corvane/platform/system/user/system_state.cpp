@@ -94,7 +94,8 @@ RECT client_on_screen(const Window& window) {
 
 std::wstring lower_case(std::wstring_view text) {
   std::wstring result(text);
-  for (wchar_t& letter : result) letter = static_cast<wchar_t>(std::towlower(static_cast<wint_t>(letter)));
+  for (wchar_t& letter : result)
+    letter = static_cast<wchar_t>(std::towlower(static_cast<wint_t>(letter)));
   return result;
 }
 

@@ -74,7 +74,7 @@ Window* find(HWND window);
 // --- Where windows are
 bool is_top_level(const Window& window);
 Window* top_level_of(Window& window);
-Window* surface_owner(Window& window);  // the window whose surface it draws into
+Window* surface_owner(Window& window);       // the window whose surface it draws into
 bool shown_on_screen(const Window& window);  // visible with all its parents
 bool enabled_with_parents(const Window& window);
 bool is_descendant(const Window& ancestor, const Window& window);

@@ -17,6 +17,7 @@ UINT_PTR TimerList::set(HWND window, UINT_PTR id, UINT period, TIMERPROC procedu
   timer.due = now + timer.period;
   kill(window, id);
   timers_.push_back(timer);
+  if (procedure != nullptr) procedures_.insert(procedure);
   return id == 0 ? 1 : id;
 }
 
@@ -39,9 +40,8 @@ std::optional<std::uint64_t> TimerList::next_due() const {
 }
 
 bool TimerList::contains(HWND window, UINT_PTR id) const {
-  return std::any_of(timers_.begin(), timers_.end(), [&](const Timer& timer) {
-    return timer.window == window && timer.id == id;
-  });
+  return std::any_of(timers_.begin(), timers_.end(),
+                     [&](const Timer& timer) { return timer.window == window && timer.id == id; });
 }
 
 }  // namespace corvane::system

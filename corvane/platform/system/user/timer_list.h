@@ -2,6 +2,7 @@
 // Window timers: due times on the display's clock, in milliseconds.
 #include <cstdint>
 #include <optional>
+#include <set>
 #include <vector>
 
 #include "corvane/platform/system/user/user_api.h"
@@ -39,10 +40,13 @@ class TimerList {
   }
   std::optional<std::uint64_t> next_due() const;
   bool contains(HWND window, UINT_PTR id) const;
+  // False for a procedure that no timer was ever set with: a made-up WM_TIMER must not call it.
+  bool knows(TIMERPROC procedure) const { return procedures_.count(procedure) != 0; }
   int count() const { return static_cast<int>(timers_.size()); }
 
  private:
   std::vector<Timer> timers_;
+  std::set<TIMERPROC> procedures_;
   UINT_PTR next_free_id_ = 0x7F00;
 };
 

@@ -45,19 +45,19 @@ struct Window {
   RECT frame{};
   RECT client{};
 
-  Window* parent = nullptr;        // the desktop for top-level windows
-  HWND owner = nullptr;            // top-level windows only
-  std::vector<Window*> children;   // z-order, top first
-  UINT_PTR id = 0;                 // child id or menu
+  Window* parent = nullptr;       // the desktop for top-level windows
+  HWND owner = nullptr;           // top-level windows only
+  std::vector<Window*> children;  // z-order, top first
+  UINT_PTR id = 0;                // child id or menu
   HINSTANCE instance = nullptr;
   std::wstring text;
   LONG_PTR user_data = 0;
   std::vector<std::uint8_t> extra;
 
-  Region update;              // to be painted, client coordinates
-  bool needs_paint = false;   // a WM_PAINT is due (also with an empty region)
+  Region update;             // to be painted, client coordinates
+  bool needs_paint = false;  // a WM_PAINT is due (also with an empty region)
   bool needs_erase = false;
-  bool redraw = true;         // WM_SETREDRAW
+  bool redraw = true;  // WM_SETREDRAW
 
   LayeredState layered;
   std::shared_ptr<Surface> surface;  // top-level and layered windows: pixels of the whole frame

@@ -1,9 +1,10 @@
 // Window classes: registration and look-up, names without regard to case.
+#include "corvane/platform/system/user/window_classes.h"
+
 #include <algorithm>
 #include <cstring>
 
 #include "corvane/platform/system/user/system_state.h"
-#include "corvane/platform/system/user/window_classes.h"
 
 namespace corvane::system {
 namespace {
@@ -78,9 +79,9 @@ BOOL GetClassInfoW(HINSTANCE, LPCWSTR name, WNDCLASSW* out) {
     SetLastError(ERROR_CLASS_DOES_NOT_EXIST);
     return FALSE;
   }
-  *out = WNDCLASSW{record->style,  record->procedure,  0,       record->window_extra,
-                   record->instance, nullptr, record->cursor, record->background,
-                   nullptr, record->name.c_str()};
+  *out = WNDCLASSW{
+      record->style,  record->procedure,  0,       record->window_extra, record->instance, nullptr,
+      record->cursor, record->background, nullptr, record->name.c_str()};
   return TRUE;
 }
 

@@ -21,9 +21,8 @@ void lift_owned_windows(System& state) {
   for (std::size_t step = 0; step < order.size(); ++step) {
     auto low = std::find_if(order.begin(), order.end(), [&](Window* window) {
       Window* owner = state.find(window->owner);
-      return owner != nullptr &&
-             std::find(order.begin(), order.end(), owner) <
-                 std::find(order.begin(), order.end(), window);
+      return owner != nullptr && std::find(order.begin(), order.end(), owner) <
+                                     std::find(order.begin(), order.end(), window);
     });
     if (low == order.end()) return;
     Window* window = *low;
@@ -94,8 +93,8 @@ bool move_in_z_order(System& state, Window& window, HWND after) {
   if (window.parent == nullptr || after == window.handle) return false;
   Siblings& order = window.parent->children;
   Siblings before = order;
-  bool special = after == HWND_TOP || after == HWND_BOTTOM || after == HWND_TOPMOST ||
-                 after == HWND_NOTOPMOST;
+  bool special =
+      after == HWND_TOP || after == HWND_BOTTOM || after == HWND_TOPMOST || after == HWND_NOTOPMOST;
   if (!special) {
     Window* other = state.find(after);
     if (other == nullptr || other->parent != window.parent) return false;

@@ -1,0 +1,12 @@
+#pragma once
+#include "corvane/platform/system/user/system_state.h"
+
+namespace corvane::system {
+
+// WM_NCDESTROY and then forget_window.
+void finish_destruction(HWND window);
+// Removes the record with its timers, messages, focus, capture; sends nothing. Children that a
+// handler left behind go with it.
+void forget_window(HWND window);
+
+}  // namespace corvane::system

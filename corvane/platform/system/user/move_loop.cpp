@@ -1,0 +1,132 @@
+#include "corvane/platform/system/user/move_loop.h"
+
+#include <optional>
+
+#include "corvane/platform/system/user/input_routing.h"
+#include "corvane/platform/system/user/messages.h"
+#include "corvane/platform/system/user/retrieval.h"
+
+namespace corvane::system {
+namespace {
+
+enum class Step { go_on, done, cancelled };
+
+class MoveLoop {
+ public:
+  MoveLoop(System& state, HWND window) : state_(state), window_(window) {
+    const Window& found = *state.find(window);
+    start_frame_ = found.frame;
+    start_pointer_ = state.input.pointer;
+    if (is_top_level(found) && EqualRect(&found.frame, &state.desktop->frame)) {
+      native_pointer_ = state.display->native_pointer();
+    }
+  }
+
+  void run() {
+    while (true) {
+      if (state_.find(window_) == nullptr || state_.input.capture != window_) return;
+      Step step = take_step();
+      if (step == Step::cancelled) place(start_frame_);
+      if (step != Step::go_on) return;
+    }
+  }
+
+ private:
+  Step take_step() {
+    if (auto message = take_posted(state_, {}, true)) {
+      TranslateMessage(&*message);
+      DispatchMessageW(&*message);
+      return Step::go_on;
+    }
+    poll_display(state_);
+    if (!state_.input.events.empty()) return handle_event();
+    if (state_.queue.take_quit(false)) return Step::done;
+    if (auto message = take_paint(state_, {})) {
+      DispatchMessageW(&*message);
+      return Step::go_on;
+    }
+    if (auto message = take_timer(state_, {}, true)) {
+      DispatchMessageW(&*message);
+      return Step::go_on;
+    }
+    return sleep_until_work(state_) ? Step::go_on : Step::done;
+  }
+
+  Step handle_event() {
+    InputEvent event = state_.input.events.front();
+    state_.input.events.pop_front();
+    if (event.kind == InputKind::mouse_button) {
+      state_.input.keys_retrieved[static_cast<std::size_t>(event.button & 0xFF)] = event.down;
+      if (event.button == VK_LBUTTON && !event.down) {
+        follow(event.position);
+        return Step::done;
+      }
+    } else if (event.kind == InputKind::mouse_move) {
+      follow(event.position);
+    } else if (event.kind == InputKind::key && event.down) {
+      if (event.virtual_key == VK_ESCAPE) return Step::cancelled;
+      if (event.virtual_key == VK_RETURN) return Step::done;
+    } else if (event.kind == InputKind::resize || event.kind == InputKind::close ||
+               event.kind == InputKind::focus) {
+      state_.input.events.push_front(event);
+      route_next_event(state_);
+    }
+    return Step::go_on;
+  }
+
+  void follow(POINT pointer) {
+    if (native_pointer_) {
+      follow_natively();
+      return;
+    }
+    RECT frame = start_frame_;
+    OffsetRect(&frame, pointer.x - start_pointer_.x, pointer.y - start_pointer_.y);
+    Window* found = state_.find(window_);
+    if (found == nullptr || EqualRect(&found->frame, &frame)) return;
+    POINT base = client_origin(*found->parent);
+    OffsetRect(&frame, base.x, base.y);
+    send(window_, WM_MOVING, 0, reinterpret_cast<LPARAM>(&frame));
+    OffsetRect(&frame, -base.x, -base.y);
+    place(frame);
+  }
+
+  // The native window moves under the pointer, so only the pointer's place on the native desktop
+  // tells how far it travelled.
+  void follow_natively() {
+    std::optional<POINT> now = state_.display->native_pointer();
+    if (!now) return;
+    int dx = now->x - native_pointer_->x;
+    int dy = now->y - native_pointer_->y;
+    if ((dx != 0 || dy != 0) && state_.display->move_native_window(dx, dy)) native_pointer_ = now;
+  }
+
+  void place(const RECT& frame) {
+    if (state_.find(window_) == nullptr) return;
+    SetWindowPos(window_, nullptr, frame.left, frame.top, frame.right - frame.left,
+                 frame.bottom - frame.top, SWP_NOZORDER | SWP_NOACTIVATE);
+  }
+
+  System& state_;
+  HWND window_;
+  RECT start_frame_{};
+  POINT start_pointer_{};
+  std::optional<POINT> native_pointer_;
+};
+
+}  // namespace
+
+void run_move_loop(HWND window) {
+  System* state = system();
+  if (state == nullptr || state->find(window) == nullptr) return;
+  MINMAXINFO info{};
+  send(window, WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&info));
+  send(window, WM_ENTERSIZEMOVE);
+  if (state->find(window) == nullptr) return;
+  SetCapture(window);
+  if (state->find(window) == nullptr) return;
+  MoveLoop(*state, window).run();
+  if (state->input.capture == window) ReleaseCapture();
+  send(window, WM_EXITSIZEMOVE);
+}
+
+}  // namespace corvane::system

@@ -1,0 +1,31 @@
+#pragma once
+// Update regions: invalidating only records; WM_PAINT is generated while something is recorded.
+#include "corvane/platform/system/user/system_state.h"
+
+namespace corvane::system {
+
+enum class Children { by_style, always, never };
+
+// Adds a region (client coordinates) to the window's update region and, as its style says, to its
+// children's. Hidden windows and windows with WM_SETREDRAW off record nothing.
+void invalidate(Window& window, const Region& region, bool erase,
+                Children children = Children::by_style);
+void invalidate_all(Window& window, bool erase);
+// Invalidates, with erase, what lies below a screen rectangle in the window's client area.
+void invalidate_uncovered(Window& parent, const RECT& screen_rect);
+void validate(Window& window, const Region& region);
+// Sends WM_ERASEBKGND for a pending erase; keeps it pending when the handler returns 0.
+void erase_now(HWND window);
+// Sends WM_PAINT to the window and then to its invalid children.
+void update_now(HWND window);
+// The window whose WM_PAINT is next (parents before children), restricted to `within` and its
+// children unless null.
+Window* next_to_paint(System& state, HWND within);
+bool paints_pending(System& state);
+
+// The part of the window's surface that its client area shows, surface coordinates.
+Region visible_region(Window& window);
+// A device context on the client area (or the whole frame) limited to `clip` (client coordinates).
+HDC open_window_dc(Window& window, const Region* clip, bool whole_frame);
+
+}  // namespace corvane::system

@@ -1,0 +1,109 @@
+#include "corvane/platform/system/user/window_system.h"
+
+#include "corvane/platform/system/user/destroy_window.h"
+#include "corvane/platform/system/user/presenting.h"
+#include "corvane/platform/system/user/retrieval.h"
+#include "corvane/platform/system/user/system_registry.h"
+#include "corvane/platform/system/user/system_state.h"
+#include "corvane/platform/system/user/window_tree_text.h"
+
+namespace corvane::system {
+namespace {
+
+thread_local WindowSystem* current_system = nullptr;
+// The current system of the time before the one that is being destroyed.
+thread_local std::vector<WindowSystem*> systems_of_thread;
+
+// Most messages one call of process_pending dispatches, so that a program that keeps posting to
+// itself still comes back to its host.
+constexpr int kMostPerTurn = 10000;
+
+void add_desktop(System& state) {
+  auto desktop = std::make_unique<Window>();
+  desktop->window_class = std::make_shared<WindowClass>();
+  desktop->window_class->name = L"#32769";
+  desktop->handle = state.new_handle();
+  desktop->procedure = [](HWND, UINT, WPARAM, LPARAM) -> LRESULT { return 0; };
+  desktop->style = WS_VISIBLE;
+  desktop->frame = state.frame.rect();
+  desktop->client = desktop->frame;
+  state.desktop = desktop.get();
+  state.windows[desktop->handle] = std::move(desktop);
+}
+
+}  // namespace
+
+WindowSystem::Impl::Impl(std::unique_ptr<Display> new_display)
+    : display(std::move(new_display)), frame(display->size().cx, display->size().cy) {
+  tag = register_system(this);
+  add_desktop(*this);
+  frame_damage.unite(frame.rect());
+}
+
+WindowSystem::WindowSystem(std::unique_ptr<Display> display)
+    : impl_(std::make_unique<Impl>(std::move(display))) {
+  systems_of_thread.push_back(this);
+  make_current();
+}
+
+WindowSystem::~WindowSystem() {
+  make_current();
+  while (!impl_->desktop->children.empty()) {
+    HWND top = impl_->desktop->children.back()->handle;
+    if (!DestroyWindow(top)) forget_window(top);
+  }
+  unregister_system(impl_->tag);
+  std::erase(systems_of_thread, this);
+  current_system = nullptr;
+  Gdi::set_current(nullptr);
+  if (!systems_of_thread.empty()) systems_of_thread.back()->make_current();
+}
+
+WindowSystem* WindowSystem::current() { return current_system; }
+
+WindowSystem* WindowSystem::make_current() {
+  WindowSystem* previous = current_system;
+  current_system = this;
+  Gdi::set_current(&impl_->gdi);
+  return previous;
+}
+
+Display& WindowSystem::display() { return *impl_->display; }
+
+Gdi& WindowSystem::gdi() { return impl_->gdi; }
+
+std::optional<std::uint64_t> WindowSystem::process_pending(bool* quit) {
+  if (quit != nullptr) *quit = false;
+  for (int i = 0; i < kMostPerTurn; ++i) {
+    auto message = retrieve(*impl_, {}, true);
+    if (!message) break;
+    if (message->message == WM_QUIT) {
+      if (quit != nullptr) *quit = true;
+      break;
+    }
+    TranslateMessage(&*message);
+    DispatchMessageW(&*message);
+  }
+  present_now(*impl_);
+  auto due = impl_->timers.next_due();
+  if (!due) return std::nullopt;
+  std::uint64_t now = impl_->now();
+  return *due > now ? *due - now : 0;
+}
+
+int WindowSystem::event_fd() const { return impl_->display->event_fd(); }
+
+void WindowSystem::present() { present_now(*impl_); }
+
+const Surface& WindowSystem::frame() {
+  present_now(*impl_);
+  return impl_->frame;
+}
+
+std::string WindowSystem::window_tree() const { return window_tree_text(*impl_); }
+
+int WindowSystem::live_windows() const { return static_cast<int>(impl_->windows.size()) - 1; }
+
+int WindowSystem::live_timers() const { return impl_->timers.count(); }
+
+}  // namespace corvane::system
