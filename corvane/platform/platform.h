@@ -16,9 +16,8 @@ namespace Gdiplus {
 using std::max;
 using std::min;
 }  // namespace Gdiplus
-#include <objidl.h>
-
 #include <gdiplus.h>
+#include <objidl.h>
 #else
 #include "corvane/platform/system/gdi/gdi_api.h"
 #include "corvane/platform/system/gdi/gdiplus.h"
