@@ -1,0 +1,23 @@
+#pragma once
+// Where the skin of the running program lies.
+#include "corvane/platform/framework/c_string.h"
+
+namespace corvane {
+
+struct Installation {
+  CString skin_folder;  // wide path without a trailing separator; empty when none was found
+
+  CString config_folder() const { return skin_folder; }
+  CString image_folder() const { return skin_folder + L"\\image"; }
+
+  // The skin folder that SetSkinFolder named; else that of the environment variable CORVANE_SKIN;
+  // else the default skin installed beside the library or the program (../share/corvane/skins/
+  // default, skins/default); else that of the source tree which the program was built in.
+  static Installation find();
+};
+
+// Names the skin folder of this process; an empty text undoes it. Windows that exist keep their
+// look. The only setting that outlives a call here; any thread may call it.
+void SetSkinFolder(const CString& folder);
+
+}  // namespace corvane

@@ -1,0 +1,202 @@
+#include "corvane/platform/controls/gdi_btn_ex.h"
+
+#include "corvane/platform/framework/paint_dc.h"
+
+namespace corvane {
+
+const MessageMap* CGdiBtnEx::GetMessageMap() const {
+  static constexpr auto kMessages = MessageTable(
+      On<WM_DESTROY>(&CGdiBtnEx::OnDestroy), On<WM_PAINT>(&CGdiBtnEx::OnPaint),
+      On<WM_ERASEBKGND>(&CGdiBtnEx::OnEraseBkgnd), On<WM_SIZE>(&CGdiBtnEx::OnSize),
+      On<WM_SHOWWINDOW>(&CGdiBtnEx::OnShowWindow), On<WM_ENABLE>(&CGdiBtnEx::OnEnable),
+      On<WM_MOUSEMOVE>(&CGdiBtnEx::OnMouseMove), On<WM_MOUSELEAVE>(&CGdiBtnEx::OnMouseLeave),
+      On<WM_LBUTTONDOWN>(&CGdiBtnEx::OnLButtonDown),
+      On<WM_LBUTTONDBLCLK>(&CGdiBtnEx::OnLButtonDown), On<WM_LBUTTONUP>(&CGdiBtnEx::OnLButtonUp),
+      On<WM_CAPTURECHANGED>(&CGdiBtnEx::OnCaptureChanged), On<WM_SETFOCUS>(&CGdiBtnEx::OnSetFocus),
+      On<WM_KILLFOCUS>(&CGdiBtnEx::OnKillFocus), On<WM_KEYDOWN>(&CGdiBtnEx::OnKeyDown),
+      On<WM_KEYUP>(&CGdiBtnEx::OnKeyUp), On<WM_GETDLGCODE>(&CGdiBtnEx::OnGetDlgCode));
+  static const MessageMap map = kMessages.Extending(CWnd::GetMessageMap());
+  return &map;
+}
+
+void CGdiBtnEx::SetSkin(const ButtonSkin& skin) {
+  skin_ = skin;
+  Invalidate(FALSE);
+}
+
+void CGdiBtnEx::SetText(const CString& text) {
+  text_ = text;
+  if (m_hWnd) SetWindowTextW(text_);
+  Invalidate(FALSE);
+}
+
+void CGdiBtnEx::SetBkGnd(HDC source, const CRect& rect) {
+  background_.Release();
+  if (source && background_.CreateBufferDC(source, rect)) {
+    BitBlt(background_, 0, 0, rect.Width(), rect.Height(), source, rect.left, rect.top, SRCCOPY);
+  }
+  Invalidate(FALSE);
+}
+
+void CGdiBtnEx::DoDraw(HDC dc, const CRect& rect) const {
+  draw_button(dc, rect, skin_, text_, behavior_.appearance());
+}
+
+void CGdiBtnEx::EnableButton(int enable) {
+  if (m_hWnd) {
+    EnableWindow(enable ? TRUE : FALSE);
+  } else {
+    behavior_.set_enabled(enable != 0);
+  }
+}
+
+void CGdiBtnEx::SetSelected(int selected) {
+  Feed([this, selected] { behavior_.set_selected(selected != 0); });
+}
+
+// Lets an event happen and follows what it asks for. Nothing of the object is touched after the
+// capture was taken from another window, whose handlers may do anything.
+template <typename Event>
+void CGdiBtnEx::Feed(Event event) {
+  const auto before = behavior_.appearance();
+  event();
+  if (!m_hWnd) return;
+  if (behavior_.appearance() != before) Invalidate(FALSE);
+  const bool captured = ::GetCapture() == m_hWnd;
+  if (behavior_.wants_capture() && !captured) {
+    ::SetCapture(m_hWnd);
+  } else if (!behavior_.wants_capture() && captured) {
+    ::ReleaseCapture();
+  }
+}
+
+bool CGdiBtnEx::Holds(CPoint point) const {
+  CRect client;
+  GetClientRect(client);
+  return client.PtInRect(point);
+}
+
+void CGdiBtnEx::OnDestroy() {
+  CWnd::OnDestroy();
+  const bool selected = behavior_.selected();
+  behavior_ = ButtonBehavior();
+  behavior_.set_selected(selected);
+  awaits_leave_ = false;
+}
+
+BOOL CGdiBtnEx::OnEraseBkgnd(CDC*) { return TRUE; }
+
+void CGdiBtnEx::OnPaint() {
+  const CPaintDC dc(this);
+  CRect client;
+  GetClientRect(client);
+  if (client.IsRectEmpty()) return;
+  BuildPicture(client);
+  picture_.Paste(dc.GetSafeHdc(), client);
+}
+
+void CGdiBtnEx::BuildPicture(const CRect& client) {
+  if (!picture_.HasSizeOf(client)) picture_.CreateBufferDC(nullptr, client);
+  if (background_.HasSizeOf(client)) {
+    background_.Paste(picture_, client);
+  } else {
+    picture_.SetBackColor(client, GetSysColor(COLOR_BTNFACE));
+  }
+  DoDraw(picture_, client);
+}
+
+void CGdiBtnEx::OnSize(UINT kind, int width, int height) {
+  CWnd::OnSize(kind, width, height);
+  Invalidate(FALSE);
+}
+
+void CGdiBtnEx::OnShowWindow(BOOL shown, UINT reason) {
+  CWnd::OnShowWindow(shown, reason);
+  if (shown) return;
+  awaits_leave_ = false;
+  Feed([this] {
+    behavior_.cancel();
+    behavior_.leave();
+  });
+}
+
+void CGdiBtnEx::OnEnable(BOOL enabled) {
+  CWnd::OnEnable(enabled);
+  Feed([this, enabled] { behavior_.set_enabled(enabled != FALSE); });
+}
+
+void CGdiBtnEx::OnMouseMove(UINT, CPoint point) {
+  if (!awaits_leave_) {
+    TRACKMOUSEEVENT request{};
+    request.cbSize = sizeof(request);
+    request.dwFlags = TME_LEAVE;
+    request.hwndTrack = m_hWnd;
+    awaits_leave_ = TrackMouseEvent(&request) != FALSE;
+  }
+  Feed([this, inside = Holds(point)] { behavior_.move(inside); });
+}
+
+void CGdiBtnEx::OnMouseLeave() {
+  awaits_leave_ = false;
+  Feed([this] { behavior_.leave(); });
+}
+
+void CGdiBtnEx::OnLButtonDown(UINT, CPoint point) {
+  const HWND window = m_hWnd;
+  const bool inside = Holds(point);
+  if (press_message_) ReportPress(point);
+  Feed([this, inside] { behavior_.press(inside); });
+  if (inside && ::IsWindow(window)) ::SetFocus(window);
+}
+
+void CGdiBtnEx::ReportPress(CPoint point) const {
+  const HWND parent = ::GetParent(m_hWnd);
+  ::MapWindowPoints(m_hWnd, parent, &point, 1);
+  ::PostMessageW(parent, WM_LBUTTONDOWN, MK_LBUTTON,
+                 MAKELPARAM(static_cast<DWORD_PTR>(point.x), static_cast<DWORD_PTR>(point.y)));
+}
+
+void CGdiBtnEx::OnLButtonUp(UINT, CPoint point) {
+  bool clicked = false;
+  Feed([this, &clicked, inside = Holds(point)] { clicked = behavior_.release(inside); });
+  if (clicked) Click();
+}
+
+// The last thing that an event does: the parent may destroy the button for an answer.
+void CGdiBtnEx::Click() const {
+  if (!::IsWindowVisible(m_hWnd) || !::IsWindowEnabled(m_hWnd)) return;
+  const auto id = static_cast<DWORD_PTR>(::GetDlgCtrlID(m_hWnd));
+  ::SendMessageW(::GetParent(m_hWnd), WM_COMMAND, MAKEWPARAM(id, BN_CLICKED),
+                 reinterpret_cast<LPARAM>(m_hWnd));
+}
+
+void CGdiBtnEx::OnCaptureChanged(CWnd* new_owner) {
+  if (new_owner && new_owner->GetSafeHwnd() == m_hWnd) return;
+  Feed([this] { behavior_.cancel(); });
+}
+
+void CGdiBtnEx::OnSetFocus(CWnd* old_window) {
+  CWnd::OnSetFocus(old_window);
+  Feed([this] { behavior_.gain_focus(); });
+}
+
+void CGdiBtnEx::OnKillFocus(CWnd* new_window) {
+  CWnd::OnKillFocus(new_window);
+  Feed([this] { behavior_.lose_focus(); });
+}
+
+void CGdiBtnEx::OnKeyDown(UINT key, UINT repeats, UINT flags) {
+  if (key != VK_SPACE) return CWnd::OnKeyDown(key, repeats, flags);
+  Feed([this] { behavior_.space_down(); });
+}
+
+void CGdiBtnEx::OnKeyUp(UINT key, UINT repeats, UINT flags) {
+  if (key != VK_SPACE) return CWnd::OnKeyUp(key, repeats, flags);
+  bool clicked = false;
+  Feed([this, &clicked] { clicked = behavior_.space_up(); });
+  if (clicked) Click();
+}
+
+UINT CGdiBtnEx::OnGetDlgCode() { return DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON; }
+
+}  // namespace corvane

@@ -1,0 +1,28 @@
+#pragma once
+// A picture of the skin, decoded from a file.
+#include <memory>
+
+#include "corvane/platform/platform.h"
+
+namespace corvane {
+
+// Copies share the decoded picture; it is freed with the last of them.
+class CGdiImage {
+ public:
+  // Replaces the picture by that of a file (wide path). 1, or 0 when there is no such file or it is
+  // no picture; then the object is empty.
+  int Load(const wchar_t* path);
+
+  // The picture, or null; valid until this object changes, never freed by the caller.
+  Gdiplus::Image* GetImage() const { return image_.get(); }
+  int GetWidth() const;   // pixels; 0 when empty
+  int GetHeight() const;  // pixels; 0 when empty
+
+  void Release() { image_.reset(); }
+  void DelImage() { Release(); }
+
+ private:
+  std::shared_ptr<Gdiplus::Image> image_;
+};
+
+}  // namespace corvane

@@ -1,0 +1,104 @@
+#include "corvane/platform/skin_reader/control_mgr.h"
+
+#include <string_view>
+
+#include "corvane/platform/skin_reader/append_record.h"
+#include "corvane/platform/skin_reader/attribute_values.h"
+#include "corvane/platform/skin_reader/skin_document.h"
+
+namespace corvane {
+namespace {
+
+constexpr std::int32_t kLargestCoordinate = 32767;
+constexpr COLORREF kBlack = RGB(0, 0, 0);
+constexpr COLORREF kGrey = RGB(128, 128, 128);
+constexpr COLORREF kWhite = RGB(255, 255, 255);
+
+std::int32_t position_of(pugi::xml_node node, const char* attribute) {
+  return number_of(node, attribute, -kLargestCoordinate - 1, kLargestCoordinate).value_or(0);
+}
+
+std::int32_t extent_of(pugi::xml_node node, const char* attribute) {
+  return number_of(node, attribute, 0, kLargestCoordinate).value_or(0);
+}
+
+RECT rect_of(pugi::xml_node node) {
+  const auto x = position_of(node, "x");
+  const auto y = position_of(node, "y");
+  return {x, y, x + extent_of(node, "width"), y + extent_of(node, "height")};
+}
+
+// The image that "images" names for one state, for example "save_{state}.png".
+std::wstring image_from_pattern(pugi::xml_node node, std::string_view state) {
+  constexpr std::string_view kPlace = "{state}";
+  std::string name = node.attribute("images").value();
+  const auto place = name.find(kPlace);
+  if (place == std::string::npos) return {};
+  return parse_image_name(name.replace(place, kPlace.size(), state)).value_or(L"");
+}
+
+std::wstring image_of(pugi::xml_node node, const char* attribute, std::string_view state = {}) {
+  const auto own = node.attribute(attribute);
+  if (own) return parse_image_name(own.value()).value_or(L"");
+  return state.empty() ? std::wstring{} : image_from_pattern(node, state);
+}
+
+void read_images(pugi::xml_node node, _MYCONTROL& control) {
+  control.image = image_of(node, "image", "normal");
+  control.hover_image = image_of(node, "image-hover", "hover");
+  control.pressed_image = image_of(node, "image-pressed", "pressed");
+  control.disabled_image = image_of(node, "image-disabled", "disabled");
+  control.selected_image = image_of(node, "image-selected", "selected");
+  control.forward_image = image_of(node, "image-forward");
+  control.backward_image = image_of(node, "image-backward");
+}
+
+void read_caption_look(pugi::xml_node node, _MYCONTROL& control) {
+  const auto color = color_of(node, "text-color").value_or(kBlack);
+  control.text_color = color;
+  control.hover_text_color = color_of(node, "text-color-hover").value_or(color);
+  control.pressed_text_color = color_of(node, "text-color-pressed").value_or(color);
+  control.disabled_text_color = color_of(node, "text-color-disabled").value_or(kGrey);
+  control.selected_text_color = color_of(node, "text-color-selected").value_or(color);
+  control.padding_left = extent_of(node, "padding-left");
+  control.padding_top = extent_of(node, "padding-top");
+  control.padding_right = extent_of(node, "padding-right");
+  control.padding_bottom = extent_of(node, "padding-bottom");
+}
+
+void append_control(pugi::xml_node node, std::list<_MYCONTROL*>& controls) {
+  auto control = std::make_unique<_MYCONTROL>();
+  control->id = *id_of(node);
+  control->rect = rect_of(node);
+  read_images(node, *control);
+  read_caption_look(node, *control);
+  control->tool_tip = text_of(node, "tool-tip");
+  if (const auto caption = id_of(node, "caption")) {
+    control->caption_ids = std::make_unique<std::int32_t[]>(1);
+    control->caption_ids[0] = *caption;
+  }
+  append_record(controls, std::move(control));
+}
+
+}  // namespace
+
+int CControlMgr::Load(const char* path) {
+  document_ = SkinDocument::load(path, "controls");
+  return document_ ? 1 : 0;
+}
+
+DWORD CControlMgr::ReadControl(std::list<_MYCONTROL*>& controls, int list_id,
+                               DWORD* background) const {
+  const auto list = document_ ? document_->list(list_id) : pugi::xml_node{};
+  if (!list) return 0;
+  if (background) *background = color_of(list, "background").value_or(kWhite);
+  DWORD count = 0;
+  for (const auto& node : list.children("control")) {
+    if (!id_of(node)) continue;
+    append_control(node, controls);
+    ++count;
+  }
+  return count;
+}
+
+}  // namespace corvane

@@ -1,0 +1,133 @@
+#include "corvane/skin/xml_list_mgr.h"
+
+#include "corvane/platform/base_services/paths.h"
+#include "corvane/platform/base_services/system_paths.h"
+#include "corvane/platform/controls/gdi_btn_ex.h"
+#include "corvane/platform/controls/gdi_combo_box.h"
+#include "corvane/platform/controls/gdi_edit_ex.h"
+#include "corvane/platform/controls/gdi_slider.h"
+#include "corvane/platform/controls/hdc_btn.h"
+#include "corvane/platform/controls/list_bar.h"
+#include "corvane/platform/controls/list_tab.h"
+#include "corvane/platform/controls/picture_ex.h"
+#include "corvane/platform/controls/ui_ctrl_mgr.h"
+#include "corvane/platform/images/gdi_image.h"
+
+namespace corvane {
+namespace {
+
+std::string narrow_config_path(const CString& file_name) {
+  return narrow_path(GetConfigPath(file_name).AsStdString());
+}
+
+CString image_folder() { return GetImagePath() + L"\\"; }
+
+}  // namespace
+
+CXmlListMgr::~CXmlListMgr() { Release(); }
+
+void CXmlListMgr::LoadCtrlList(const CString& file_name, int list_id) {
+  CtrlRelease();
+  control_reader_.Load(narrow_config_path(file_name).c_str());
+  control_reader_.ReadControl(lists_.controls, list_id, &lists_.background);
+}
+
+void CXmlListMgr::LoadLanguageList(const CString& file_name, int list_id) {
+  LanguageRelease();
+  language_reader_.Load(narrow_config_path(file_name).c_str());
+  language_reader_.ReadLanguage(lists_.captions, list_id);
+}
+
+void CXmlListMgr::LoadLogfontList(const CString& file_name) {
+  LogfontRelease();
+  font_reader_.Load(narrow_config_path(file_name).c_str());
+  font_reader_.ReadLogfont(lists_.fonts);
+}
+
+CRect CXmlListMgr::GetBgRect(int id) const {
+  const _MYCONTROL* const control = GetCtrl(id);
+  return control ? CRect(control->rect) : CRect();
+}
+
+CString CXmlListMgr::GetBgImgPath(int id) const {
+  const _MYCONTROL* const control = GetCtrl(id);
+  return control ? image_folder() + control->image : image_folder();
+}
+
+void CXmlListMgr::LoadGdiImage(CGdiImage& image, CRect& rect, int id) const {
+  rect = GetBgRect(id);
+  CUICtrlMgr().LoadGdiImage(image, GetCtrl(id));
+}
+
+void CXmlListMgr::LoadDownGdiImage(CGdiImage& image, int id) const {
+  CUICtrlMgr().LoadDownGdiImage(image, GetCtrl(id));
+}
+
+template <typename Control, typename Loader>
+void CXmlListMgr::load_joined(Control& control, CRect& rect, CWnd* parent, int id,
+                              Loader loader) const {
+  const auto skin = lists_.joined(id);
+  CUICtrlMgr ui_loader;
+  (ui_loader.*loader)(control, rect, parent, static_cast<UINT>(id), skin.control, skin.caption,
+                      skin.font);
+}
+
+void CXmlListMgr::LoadGdiBtn(CGdiBtnEx& button, CRect& rect, CWnd* parent, int id) const {
+  load_joined(button, rect, parent, id, &CUICtrlMgr::LoadGdiBtn);
+}
+
+void CXmlListMgr::LoadHdcBtn(CHdcBtn& button, CRect& rect, CWnd* parent, int id) const {
+  load_joined(button, rect, parent, id, &CUICtrlMgr::LoadHdcBtn);
+}
+
+void CXmlListMgr::LoadGdiSlider(CGdiSlider& slider, CRect& rect, CWnd* parent, int id) const {
+  load_joined(slider, rect, parent, id, &CUICtrlMgr::LoadGdiSlider);
+}
+
+void CXmlListMgr::LoadGdiComboBox(CGdiComboBox& box, CRect& rect, CWnd* parent, int id) const {
+  load_joined(box, rect, parent, id, &CUICtrlMgr::LoadGdiComboBox);
+}
+
+void CXmlListMgr::LoadGdiEditEx(CGdiEditEx& edit, CRect& rect, CWnd* parent, int id) const {
+  load_joined(edit, rect, parent, id, &CUICtrlMgr::LoadGdiEditEx);
+}
+
+void CXmlListMgr::LoadListTab(CListTab& strip, CRect& rect, CWnd* parent, int id) const {
+  if (_MYCONTROL* const control = GetCtrl(id)) {
+    CUICtrlMgr().LoadListTab(strip, rect, parent, control);
+  }
+}
+
+void CXmlListMgr::AddListTabBtn(CListTab& strip, int id) const {
+  const auto skin = lists_.joined(id);
+  CUICtrlMgr().LoadTabBtn(strip, id, skin.control, skin.caption, skin.font);
+}
+
+void CXmlListMgr::LoadListBar(CListBar& bar, CRect& rect, CWnd* parent, int id) const {
+  rect.SetRectEmpty();
+  bar.Create(nullptr, L"listBar", WS_CHILD | WS_TABSTOP, rect, parent, static_cast<UINT>(id));
+  const _MYCONTROL* const control = GetCtrl(id);
+  if (!control) return;
+  bar.CreateForwardBtn(image_folder() + control->forward_image);
+  bar.CreateBackwardBtn(image_folder() + control->backward_image);
+  rect = control->rect;
+  bar.ShowWindow(SW_SHOW);
+}
+
+void CXmlListMgr::LoadGifStatic(CPictureEx& picture, CRect& rect, CWnd* parent, int id) const {
+  rect.SetRectEmpty();
+  picture.CreateStatic(L"gif", WS_CHILD | SS_BLACKRECT, rect, parent, static_cast<UINT>(id));
+  const _MYCONTROL* const control = GetCtrl(id);
+  if (!control || !picture.GetSafeHwnd()) return;
+  picture.Load(image_folder() + control->image);
+  rect = control->rect;
+  picture.ShowWindow(SW_SHOW);
+}
+
+void CXmlListMgr::Release() {
+  CtrlRelease();
+  LanguageRelease();
+  LogfontRelease();
+}
+
+}  // namespace corvane
