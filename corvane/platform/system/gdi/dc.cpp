@@ -6,7 +6,7 @@
 namespace corvane::system {
 
 LONG offset_by(LONG value, LONG delta) {
-  constexpr std::int64_t kFarthest = 1 << 30;
+  constexpr std::int64_t kFarthest = (1 << 30) - 1;  // differences stay representable
   const std::int64_t sum = std::int64_t{value} + delta;
   return static_cast<LONG>(std::clamp(sum, -kFarthest, kFarthest));
 }

@@ -92,11 +92,14 @@ constexpr BYTE AC_SRC_OVER = 0, AC_SRC_ALPHA = 1;
 constexpr COLORREF CLR_INVALID = 0xFFFFFFFF;
 constexpr UINT DIB_RGB_COLORS = 0;
 constexpr DWORD BI_RGB = 0;
+constexpr int NULLREGION = 1, SIMPLEREGION = 2, COMPLEXREGION = 3;
 constexpr UINT OBJ_PEN = 1, OBJ_BRUSH = 2, OBJ_FONT = 6, OBJ_BITMAP = 7;
 constexpr int COLOR_WINDOW = 5, COLOR_BTNFACE = 15;
 
-// --- Objects. The caller owns what a Create function returns and frees it with DeleteObject;
-// an object selected into a device context is freed when it is no longer selected.
+// --- Objects. The caller owns what a Create function returns and frees it with DeleteObject.
+// DeleteObject of an object that is selected into a device context returns 0: the object lives on
+// and is freed with the context if it is still selected then. Only 32-bit DIB sections are made;
+// bitmaps above 2^28 pixels are refused.
 HPEN CreatePen(int style, int width, COLORREF color);
 HBRUSH CreateSolidBrush(COLORREF color);
 HFONT CreateFontIndirectW(const LOGFONTW* description);

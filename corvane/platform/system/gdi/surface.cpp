@@ -29,7 +29,7 @@ Surface::Surface(const Surface& other)
       marks_(other.marks_) {
   for (int y = 0; y < height_; ++y)
     if (rows_[index_of(y)].stored)
-      std::memcpy(writable(y), other.address(y), sizeof(Pixel) * index_of(width_));
+      std::memcpy(allocated_row(y), other.address(y), sizeof(Pixel) * index_of(width_));
 }
 
 Surface& Surface::operator=(const Surface& other) {
@@ -50,19 +50,22 @@ Pixel* Surface::address(int y) const {
   return pixels_.get() + index_of(line) * index_of(width_);
 }
 
-Pixel* Surface::writable(int y) {
+Pixel* Surface::allocated_row(int y) {
   if (!pixels_)
     pixels_ = std::make_unique_for_overwrite<Pixel[]>(
         std::max<std::size_t>(1, index_of(width_) * index_of(height_)));
   return address(y);
 }
 
-Pixel* Surface::row(int y) {
+Pixel* Surface::row(int y) { return row_to_overwrite(y, 0, 0); }
+
+Pixel* Surface::row_to_overwrite(int y, int left, int right) {
   if (y < 0 || y >= height_) return nullptr;
   Row& row = rows_[index_of(y)];
-  Pixel* target = writable(y);
+  Pixel* target = allocated_row(y);
   if (!row.stored) {
-    std::fill_n(target, width_, row.color);
+    std::fill(target, target + std::clamp(left, 0, width_), row.color);
+    std::fill(target + std::clamp(right, 0, width_), target + width_, row.color);
     row.stored = true;
   }
   return target;
@@ -103,23 +106,14 @@ void Surface::fill(const RECT& rect, Pixel color) {
   if (left >= right) return;
   const bool whole_rows = left == 0 && right == width_ && !pinned_;
   for (int y = top; y < bottom; ++y) {
-    if (whole_rows)
-      rows_[index_of(y)] = Row{color, false};
-    else
-      fill_part(y, left, right, color);
+    Row& row = rows_[index_of(y)];
+    if (whole_rows) {
+      row = Row{color, false};
+    } else if (row.stored || row.color != color) {
+      Pixel* target = row_to_overwrite(y, left, right);
+      std::fill(target + left, target + right, color);
+    }
   }
-}
-
-void Surface::fill_part(int y, int left, int right, Pixel color) {
-  Row& row = rows_[index_of(y)];
-  if (!row.stored && row.color == color) return;
-  Pixel* target = writable(y);
-  if (!row.stored) {
-    std::fill(target, target + left, row.color);
-    std::fill(target + right, target + width_, row.color);
-    row.stored = true;
-  }
-  std::fill(target + left, target + right, color);
 }
 
 void Surface::resize(int width, int height) {

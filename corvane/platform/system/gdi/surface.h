@@ -41,8 +41,11 @@ class Surface {
 
   // The one colour of the whole surface; nothing when rows differ or hold pixels.
   std::optional<Pixel> uniform() const;
-  // Makes one row real and returns it; null outside. Valid until resize(). Throws bad_alloc.
+  // Makes one row real and returns it; null outside. Valid until resize() or
+  // fill(). Throws bad_alloc.
   Pixel* row(int y);
+  // The same for somebody who writes all of [left, right) at once: these pixels hold anything.
+  Pixel* row_to_overwrite(int y, int left, int right);
   // Makes all rows real; row y starts at pixels() + y * stride() (not so when bottom-up).
   Pixel* pixels();
   // Reads a row: null while the row is of one colour (use uniform_row()) and outside.
@@ -71,8 +74,7 @@ class Surface {
     bool stored = false;
   };
   Pixel* address(int y) const;
-  Pixel* writable(int y);
-  void fill_part(int y, int left, int right, Pixel color);
+  Pixel* allocated_row(int y);
 
   int width_;
   int height_;
