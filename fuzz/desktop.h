@@ -1,0 +1,79 @@
+#pragma once
+// A host with every layer, and the things that a user, the host and strangers can do to it.
+#include <memory>
+#include <vector>
+
+#include "corvane/layers/crop/cut_bg_layer.h"
+#include "corvane/layers/frame/window_layer.h"
+#include "corvane/platform/framework/framework.h"
+#include "corvane/skin/xml_list_mgr.h"
+#include "fuzz/byte_stream.h"
+
+class PatientDisplay;
+
+namespace corvane::system {
+class WindowSystem;
+}
+
+// Its window and layers may be destroyed by any operation; open() brings back what is missing.
+class FuzzHost : public corvane::CWnd {
+ public:
+  FuzzHost();
+  ~FuzzHost() override { DestroyWindow(); }
+  void open();
+
+  corvane::CWindowLayer& buttons() { return buttons_; }
+  corvane::CCutBgLayer& crop() { return crop_; }
+
+ private:
+  const wchar_t* class_name_;
+  corvane::CXmlListMgr skin_;
+  corvane::CWindowLayer buttons_;
+  corvane::CCutBgLayer crop_;
+};
+
+class Desktop {
+ public:
+  Desktop(corvane::system::WindowSystem& system, PatientDisplay& display);
+  void play(ByteStream& stream);
+  void close();  // destroys all windows
+
+ private:
+  using Operation = void (Desktop::*)(ByteStream&);
+  static const Operation kOperations[];
+
+  void move_pointer(ByteStream& stream);
+  void press_or_release_button(ByteStream& stream);
+  void click(ByteStream& stream);
+  void drag(ByteStream& stream);
+  void turn_wheel(ByteStream& stream);
+  void press_key(ByteStream& stream);
+  void post_message(ByteStream& stream);
+  void send_message(ByteStream& stream);
+  void show_window(ByteStream& stream);
+  void place_window(ByteStream& stream);
+  void order_window(ByteStream& stream);
+  void change_style(ByteStream& stream);
+  void destroy_window(ByteStream& stream);
+  void create_window(ByteStream& stream);
+  void adopt_window(ByteStream& stream);
+  void redraw_window(ByteStream& stream);
+  void make_layered(ByteStream& stream);
+  void take_input(ByteStream& stream);
+  void run_timer(ByteStream& stream);
+  void show_crop(ByteStream& stream);
+  void change_buttons(ByteStream& stream);
+  void reopen(ByteStream& stream);
+  void advance_clock(ByteStream& stream);
+  void resize_screen(ByteStream& stream);
+  void turn_loop(ByteStream& stream);
+  void take_frame(ByteStream& stream);
+
+  // A live window, the null handle, or (seldom) a handle that was never given out.
+  HWND window(ByteStream& stream) const;
+
+  corvane::system::WindowSystem& system_;
+  PatientDisplay& display_;
+  corvane::CWinApp app_;
+  FuzzHost host_;
+};
