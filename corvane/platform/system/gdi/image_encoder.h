@@ -1,0 +1,17 @@
+#pragma once
+// A surface's pixels as the bytes of a PNG file.
+#include <cstdint>
+#include <vector>
+
+#include "corvane/platform/system/gdi/surface.h"
+
+namespace corvane::system {
+
+enum class Opacity { opaque, pixel_alpha };
+
+// `part` in surface pixels, cut to the surface. With Opacity::opaque alpha bytes are ignored.
+// Empty when the part is empty or memory is short.
+std::vector<std::uint8_t> encode_png(const Surface& surface, const RECT& part,
+                                     Opacity opacity = Opacity::opaque);
+
+}  // namespace corvane::system
