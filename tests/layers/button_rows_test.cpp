@@ -4,7 +4,7 @@
 
 #include <limits>
 
-#include "tests/layers/rect_matchers.h"
+#include "tests/layers/support/rect_matchers.h"
 
 namespace {
 

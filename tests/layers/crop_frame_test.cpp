@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "corvane/layers/crop/saturating.h"
-#include "tests/layers/rect_matchers.h"
+#include "tests/layers/support/rect_matchers.h"
 
 namespace {
 

@@ -19,7 +19,7 @@ const wchar_t* overlay_class() {
   overlay.style = CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW;
   overlay.lpfnWndProc = ::DefWindowProcW;
   overlay.hInstance = AfxGetInstanceHandle();
-  overlay.hCursor = ::LoadCursorW(nullptr, MAKEINTRESOURCEW(32512));
+  overlay.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
   overlay.hbrBackground = ::CreateSolidBrush(nearly_white);
   overlay.lpszClassName = name;
   if (::RegisterClassW(&overlay)) return name;

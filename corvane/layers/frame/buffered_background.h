@@ -16,6 +16,8 @@ class BufferedBackground {
   // The whole of a WM_PAINT handler.
   void show(CWnd& layer, const Liveness& liveness);
 
+  void release() { buffer_.Release(); }
+
   HDC dc() const { return buffer_.GetDC(); }  // null before the first rebuild
   CRect rect() const { return buffer_.GetRect(); }
 

@@ -134,7 +134,9 @@ BOOL CWindowLayer::OnCommand(WPARAM wparam, LPARAM lparam) {
 void CWindowLayer::OnDestroy() {
   const auto watch = liveness_.watch();
   CWnd::OnDestroy();
-  if (!watch.gone()) DelAllBtn();
+  if (watch.gone()) return;
+  background_.release();
+  DelAllBtn();
 }
 
 }  // namespace corvane

@@ -1,0 +1,34 @@
+#pragma once
+// A skin in a temporary folder, in force for as long as the object lives. Its buttons have no
+// images: only their places count.
+#include <filesystem>
+#include <string>
+
+#include "corvane/platform/platform.h"
+
+namespace corvane_tests {
+
+class TestSkin {
+ public:
+  TestSkin();
+  ~TestSkin();
+  TestSkin(const TestSkin&) = delete;
+  TestSkin& operator=(const TestSkin&) = delete;
+
+  void remove_files();  // the folder stays in force, empty
+
+  // The crop bar's buttons: list 4, controls 1 to 6, each of its own size and standing anywhere.
+  static constexpr SIZE crop_button_sizes[] = {{40, 30}, {50, 30}, {60, 32},
+                                               {30, 28}, {80, 34}, {70, 20}};
+  // List 100: buttons 11 and 12.
+  static constexpr int button_list = 100;
+  static constexpr RECT button_11 = {10, 10, 70, 40};
+  static constexpr RECT button_12 = {100, 10, 160, 40};
+
+ private:
+  void write(const char* name, const std::string& text) const;
+
+  std::filesystem::path folder_;
+};
+
+}  // namespace corvane_tests
