@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "corvane/platform/system/gdi/gdi_impl.h"
+#include "corvane/platform/system/gdi/text_engine.h"
 
 namespace corvane::system {
 
@@ -55,6 +56,11 @@ void Gdi::Impl::release_all(DeviceContext& dc) {
     release(object);
     bury(object);
   }
+}
+
+TextEngine& Gdi::Impl::text_engine() {
+  if (!text) text = std::make_unique<TextEngine>();
+  return *text;
 }
 
 Gdi::Impl* current_tables() {

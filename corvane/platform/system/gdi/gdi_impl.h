@@ -14,6 +14,8 @@
 
 namespace corvane::system {
 
+class TextEngine;
+
 constexpr int kStockObjects = DEFAULT_GUI_FONT + 1;
 constexpr int kSystemColors = 31;
 constexpr DWORD kErrorNotEnoughMemory = 8;
@@ -27,6 +29,8 @@ struct Gdi::Impl {
   std::array<HGDIOBJ, kStockObjects> stock{};
   std::array<HBRUSH, kSystemColors> system_brushes{};
   HBITMAP default_bitmap = nullptr;  // what a fresh memory context has selected
+
+  std::unique_ptr<TextEngine> text;  // made with the first text
 
   // The object of one kind behind a handle, or null.
   template <class Kind>
@@ -45,6 +49,7 @@ struct Gdi::Impl {
   // Frees a doomed object that no context has selected any more.
   void bury(const void* object);
   void release_all(DeviceContext& dc);
+  TextEngine& text_engine();
 };
 
 // The calling thread's tables, or null with ERROR_INVALID_HANDLE.
