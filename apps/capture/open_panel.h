@@ -1,0 +1,44 @@
+#pragma once
+// Lists the folders and pictures of a folder; a click (or Enter) opens one.
+#include <string>
+#include <vector>
+
+#include "apps/capture/panel.h"
+
+namespace capture {
+
+// Posted to the owner when a picture was chosen; ChosenPath() names it.
+constexpr UINT WM_PICTURE_CHOSEN = WM_APP + 1;
+
+class COpenPanel : public CPanel {
+ public:
+  // Byte path. Lists the folder and marks `current`, when it is there.
+  void ListFolder(const std::string& folder, const std::string& current);
+  const std::string& ChosenPath() const { return chosen_; }
+
+ protected:
+  const corvane::MessageMap* GetMessageMap() const override;
+  void DrawContent(HDC dc, const RECT& content) override;
+  int ContentHeight(int width) override;
+  void OnMouseMove(UINT flags, corvane::CPoint point);
+  void OnLButtonUp(UINT flags, corvane::CPoint point);
+  void OnKeyDown(UINT key, UINT repeats, UINT flags);
+
+ private:
+  struct Entry {
+    std::string path;
+    corvane::CString label;
+    bool folder = false;
+  };
+  int EntryAt(corvane::CPoint point) const;  // -1: none
+  void Mark(int index);
+  void OpenEntry(int index);
+  void DrawEntry(HDC dc, const Entry& entry, const RECT& row, bool marked);
+
+  std::string folder_;
+  std::vector<Entry> entries_;
+  int marked_ = -1;
+  std::string chosen_;
+};
+
+}  // namespace capture

@@ -1,0 +1,99 @@
+#include "apps/capture/picture_view.h"
+
+#include "apps/capture/fill.h"
+#include "apps/capture/palette.h"
+#include "apps/capture/texts.h"
+#include "corvane/layers/crop/picture_mapping.h"
+#include "corvane/platform/drawing/gdi_dc.h"
+
+namespace capture {
+namespace {
+
+using namespace corvane;
+
+constexpr UINT_PTR kNoticeTimer = 1;
+constexpr UINT kNoticeTime = 4000;  // milliseconds
+constexpr int kMargin = 16;
+constexpr int kNoticeHeight = 38;
+constexpr int kNoticePadding = 18;
+constexpr int kNoticeFontHeight = 17;
+
+int TextWidth(HDC dc, const CString& text, const LOGFONTW& font) {
+  HFONT handle = CreateFontIndirectW(&font);
+  HGDIOBJ former = SelectObject(dc, handle);
+  SIZE extent{};
+  GetTextExtentPoint32W(dc, text, text.GetLength(), &extent);
+  SelectObject(dc, former);
+  DeleteObject(handle);
+  return extent.cx;
+}
+
+}  // namespace
+
+const MessageMap* CPictureView::GetMessageMap() const {
+  static constexpr auto kMessages =
+      MessageTable(On<WM_ERASEBKGND>(&CPictureView::OnEraseBkgnd),
+                   On<WM_PAINT>(&CPictureView::OnPaint), On<WM_TIMER>(&CPictureView::OnTimer));
+  static const MessageMap map = kMessages.Extending(CWnd::GetMessageMap());
+  return &map;
+}
+
+void CPictureView::SetPicture(const CPicture* picture) {
+  picture_ = picture;
+  Invalidate(FALSE);
+}
+
+RECT CPictureView::ShownRect() const {
+  CRect client;
+  GetClientRect(client);
+  client.DeflateRect(kMargin, kMargin);
+  return picture_ == nullptr ? RECT{} : fit_picture(picture_->size(), client);
+}
+
+void CPictureView::ShowNotice(const CString& text) {
+  notice_ = text;
+  SetTimer(kNoticeTimer, kNoticeTime);
+  Invalidate(FALSE);
+}
+
+BOOL CPictureView::OnEraseBkgnd(CDC*) { return TRUE; }
+
+void CPictureView::OnPaint() {
+  CPaintDC dc(this);
+  CRect client;
+  GetClientRect(client);
+  RECT shown = ShownRect();
+  FillWith(dc, client, kStageColor);
+  if (picture_ != nullptr) {
+    CGdiDC().DrawImage(dc, picture_->image(), CRect(shown));
+  } else {
+    LOGFONTW font = UiFont(20);
+    CGdiDC().DrawTextW(dc, L"没有打开图片", &font, client, 0xFF93A1B0,
+                       DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+  }
+  if (!notice_.IsEmpty()) DrawNotice(dc, client);
+}
+
+void CPictureView::DrawNotice(HDC dc, const RECT& client) const {
+  LOGFONTW font = UiFont(kNoticeFontHeight);
+  int width = TextWidth(dc, notice_, font) + 2 * kNoticePadding;
+  int left = (client.right - width) / 2;
+  int top = client.bottom - kNoticeHeight - 2 * kMargin;
+  CRect box(left, top, left + width, top + kNoticeHeight);
+  FillWith(dc, box, kPanelColor);
+  FrameWith(dc, box, kPanelEdgeColor);
+  FillWith(dc, CRect(box.left, box.top, box.left + 4, box.bottom), kAccentColor);
+  CGdiDC().DrawTextW(dc, notice_, &font, box, 0xFFE8EEF4, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+}
+
+void CPictureView::OnTimer(UINT_PTR id) {
+  if (id != kNoticeTimer) {
+    Default();
+    return;
+  }
+  KillTimer(kNoticeTimer);
+  notice_.Empty();
+  Invalidate(FALSE);
+}
+
+}  // namespace capture

@@ -1,0 +1,16 @@
+#pragma once
+// Small helpers for the texts that the program shows.
+#include <string>
+
+#include "corvane/platform/framework/c_string.h"
+#include "corvane/platform/platform.h"
+
+namespace capture {
+
+// UTF-8 bytes (or a byte path's name) as a wide text.
+corvane::CString Wide(const std::string& utf8);
+
+// The program's fonts; heights in pixels.
+LOGFONTW UiFont(int height, int weight = FW_NORMAL);
+
+}  // namespace capture
