@@ -1,0 +1,171 @@
+// Timers.
+#include "tests/platform/conformance/support/window_test.h"
+
+namespace corvane::conformance {
+namespace {
+
+class TimerTest : public WindowTest {
+ protected:
+  void SetUp() override {
+    WindowTest::SetUp();
+    popup_ = settled_popup("pop", 0, 0, 50, 50);
+    recorder().only({WM_TIMER});
+  }
+  int ticks_after(unsigned milliseconds) {
+    recorder().clear();
+    advance(milliseconds);
+    pump();
+    return recorder().count("pop", WM_TIMER);
+  }
+  HWND popup_ = nullptr;
+};
+
+TEST_F(TimerTest, TicksWhenThePeriodIsOver) {
+  EXPECT_EQ(SetTimer(popup_, 5, 100, nullptr), 5U);
+  EXPECT_EQ(ticks_after(99), 0);
+  EXPECT_EQ(ticks_after(1), 1);
+  EXPECT_TRUE(log_is("pop (q) WM_TIMER 5"));
+  EXPECT_EQ(ticks_after(99), 0);
+  EXPECT_EQ(ticks_after(1), 1);
+}
+
+TEST_F(TimerTest, TenOverduePeriodsGiveOneMessage) {
+  SetTimer(popup_, 5, 100, nullptr);
+  EXPECT_EQ(ticks_after(1000), 1);
+}
+
+TEST_F(TimerTest, TheOneThatFellDueFirstComesFirst) {
+  SetTimer(popup_, 1, 300, nullptr);
+  SetTimer(popup_, 2, 200, nullptr);
+  advance(250);
+  advance(100);
+  pump();
+  EXPECT_TRUE(log_is("pop (q) WM_TIMER 2 > (q) WM_TIMER 1"));
+}
+
+TEST_F(TimerTest, NumberZeroIsATimerLikeAnother) {
+  EXPECT_NE(SetTimer(popup_, 0, 50, nullptr), 0U);
+  EXPECT_EQ(ticks_after(50), 1);
+  EXPECT_NE(KillTimer(popup_, 0), 0);
+  EXPECT_EQ(ticks_after(50), 0);
+}
+
+TEST_F(TimerTest, TheSameNumberReplacesTheTimerAndStartsAnew) {
+  SetTimer(popup_, 5, 100, nullptr);
+  EXPECT_EQ(ticks_after(90), 0);
+  SetTimer(popup_, 5, 100, nullptr);
+  EXPECT_EQ(ticks_after(90), 0);
+  EXPECT_EQ(ticks_after(10), 1);
+  EXPECT_NE(KillTimer(popup_, 5), 0);
+  EXPECT_EQ(KillTimer(popup_, 5), 0);
+}
+
+TEST_F(TimerTest, NumbersBelongToTheirWindow) {
+  settled_popup("other", 100, 0, 50, 50);
+  SetTimer(popup_, 5, 50, nullptr);
+  SetTimer(window("other"), 5, 50, nullptr);
+  EXPECT_NE(KillTimer(window("other"), 5), 0);
+  EXPECT_EQ(ticks_after(50), 1);
+}
+
+TEST_F(TimerTest, ShortPeriodsActAsTen) {
+  for (const UINT period : {0U, 1U, 9U, 10U}) {
+    SetTimer(popup_, 5, period, nullptr);
+    EXPECT_EQ(ticks_after(9), 0) << period;
+    EXPECT_EQ(ticks_after(1), 1) << period;
+  }
+}
+
+TEST_F(TimerTest, NothingComesAfterKillAlsoWhenOverdue) {
+  SetTimer(popup_, 5, 50, nullptr);
+  advance(60);
+  EXPECT_NE(KillTimer(popup_, 5), 0);
+  pump();
+  EXPECT_TRUE(log_is(""));
+}
+
+TEST_F(TimerTest, ObservedThatNothingComesAfterKillWhenPeeked) {
+  SetTimer(popup_, 5, 50, nullptr);
+  advance(60);
+  MSG message{};
+  EXPECT_NE(PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE), 0);
+  EXPECT_EQ(message.message, WM_TIMER);
+  EXPECT_NE(KillTimer(popup_, 5), 0);
+  pump();
+  EXPECT_TRUE(log_is(""));
+}
+
+TEST_F(TimerTest, UnknownTimersCannotBeKilled) {
+  EXPECT_EQ(KillTimer(popup_, 77), 0);
+  EXPECT_EQ(KillTimer(nullptr, 77), 0);
+}
+
+TEST_F(TimerTest, DestroyedWindowsHaveNoTimers) {
+  SetTimer(popup_, 5, 50, nullptr);
+  DestroyWindow(popup_);
+  MSG message{};
+  advance(100);
+  EXPECT_EQ(PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE), 0);
+  EXPECT_EQ(KillTimer(popup_, 5), 0);
+}
+
+struct ProcedureCall {
+  HWND window;
+  UINT message;
+  UINT_PTR id;
+  DWORD tick;
+};
+std::vector<ProcedureCall> procedure_calls;
+
+void CALLBACK note_call(HWND window, UINT message, UINT_PTR id, DWORD tick) {
+  procedure_calls.push_back({window, message, id, tick});
+}
+
+TEST_F(TimerTest, ProcedureIsCalledInPlaceOfTheWindows) {
+  procedure_calls.clear();
+  SetTimer(popup_, 9, 50, &note_call);
+  advance(50);
+  MSG message{};
+  ASSERT_NE(PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE), 0);
+  EXPECT_EQ(message.message, WM_TIMER);
+  EXPECT_TRUE(procedure_calls.empty()) << "called by dispatching only";
+  DispatchMessageW(&message);
+  ASSERT_EQ(procedure_calls.size(), 1U);
+  EXPECT_EQ(procedure_calls[0].window, popup_);
+  EXPECT_EQ(procedure_calls[0].message, WM_TIMER);
+  EXPECT_EQ(procedure_calls[0].id, 9U);
+  EXPECT_EQ(procedure_calls[0].tick, GetTickCount());
+  EXPECT_TRUE(log_is(""));
+}
+
+TEST_F(TimerTest, WithoutAWindowTheNumberIsTheSystems) {
+  procedure_calls.clear();
+  const UINT_PTR id = SetTimer(nullptr, 0, 50, &note_call);
+  ASSERT_NE(id, 0U);
+  advance(50);
+  pump();
+  ASSERT_EQ(procedure_calls.size(), 1U);
+  EXPECT_EQ(procedure_calls[0].window, nullptr);
+  EXPECT_EQ(procedure_calls[0].id, id);
+  EXPECT_NE(KillTimer(nullptr, id), 0);
+  advance(100);
+  pump();
+  EXPECT_EQ(procedure_calls.size(), 1U);
+}
+
+TEST_F(TimerTest, HandlerMayReplaceAndKillTimers) {
+  SetTimer(popup_, 1, 50, nullptr);
+  SetTimer(popup_, 2, 50, nullptr);
+  recorder().before_default("pop", WM_TIMER, [&] {
+    KillTimer(popup_, 1);
+    KillTimer(popup_, 2);
+    SetTimer(popup_, 3, 70, nullptr);
+  });
+  EXPECT_EQ(ticks_after(50), 1);
+  EXPECT_EQ(ticks_after(69), 0);
+  EXPECT_EQ(ticks_after(1), 1);
+  EXPECT_TRUE(log_is("pop (q) WM_TIMER 3"));
+}
+
+}  // namespace
+}  // namespace corvane::conformance

@@ -1,0 +1,217 @@
+// Two window systems in one thread, and messages posted from another thread.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <memory>
+#include <thread>
+#include <vector>
+
+#include "corvane/platform/platform.h"
+#include "corvane/platform/system/display/headless_display.h"
+#include "corvane/platform/system/user/window_system.h"
+
+namespace corvane::conformance {
+namespace {
+
+std::vector<UINT>* messages_of(HWND window) {
+  return reinterpret_cast<std::vector<UINT>*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+}
+
+LRESULT CALLBACK collect(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+  if (std::vector<UINT>* messages = messages_of(window)) messages->push_back(message);
+  return DefWindowProcW(window, message, wparam, lparam);
+}
+
+// One system with one visible window that collects its messages.
+class Desk {
+ public:
+  Desk() : Desk(std::make_unique<system::HeadlessDisplay>(SIZE{200, 100})) {}
+  Desk(const Desk&) = delete;
+  Desk& operator=(const Desk&) = delete;
+
+  void pump() {
+    MSG message{};
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != 0) {
+      TranslateMessage(&message);
+      DispatchMessageW(&message);
+    }
+  }
+  int count(UINT message) const {
+    return static_cast<int>(std::count(messages_.begin(), messages_.end(), message));
+  }
+  void make_current() { windows_.make_current(); }
+  system::WindowSystem& windows() { return windows_; }
+  HWND window() const { return window_; }
+  void advance(unsigned milliseconds) { display_.advance(milliseconds); }
+
+ private:
+  explicit Desk(std::unique_ptr<system::HeadlessDisplay> display)
+      : display_(*display), windows_(std::move(display)) {
+    WNDCLASSW window_class{};
+    window_class.lpfnWndProc = &collect;
+    window_class.hbrBackground = static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH));
+    window_class.lpszClassName = L"Desk";
+    EXPECT_NE(RegisterClassW(&window_class), 0);
+    window_ = CreateWindowExW(0, L"Desk", L"", WS_POPUP | WS_VISIBLE, 0, 0, 100, 50, nullptr,
+                              nullptr, nullptr, nullptr);
+    EXPECT_NE(window_, nullptr);
+    pump();
+    SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&messages_));
+  }
+
+  std::vector<UINT> messages_;  // outlives the windows
+  system::HeadlessDisplay& display_;
+  system::WindowSystem windows_;
+  HWND window_ = nullptr;
+};
+
+TEST(TwoSystemsTest, TheLatestIsCurrentAndItsEndRestoresTheFormer) {
+  EXPECT_EQ(system::WindowSystem::current(), nullptr);
+  Desk first;
+  EXPECT_EQ(system::WindowSystem::current(), &first.windows());
+  {
+    Desk second;
+    EXPECT_EQ(system::WindowSystem::current(), &second.windows());
+  }
+  EXPECT_EQ(system::WindowSystem::current(), &first.windows());
+  EXPECT_NE(IsWindow(first.window()), 0);
+}
+
+TEST(TwoSystemsTest, EachHasItsOwnFocusCaptureAndPointer) {
+  Desk first;
+  SetCapture(first.window());
+  SetCursorPos(11, 12);
+  Desk second;
+  EXPECT_EQ(GetCapture(), nullptr);
+  EXPECT_EQ(GetFocus(), second.window());
+  SetCursorPos(21, 22);
+  first.make_current();
+  EXPECT_EQ(GetCapture(), first.window());
+  EXPECT_EQ(GetFocus(), first.window());
+  POINT point{};
+  GetCursorPos(&point);
+  EXPECT_EQ(point.x, 11);
+  second.make_current();
+}
+
+TEST(TwoSystemsTest, EachHasItsOwnQueueTimersAndClock) {
+  Desk first;
+  PostMessageW(first.window(), WM_USER, 0, 0);
+  SetTimer(first.window(), 1, 50, nullptr);
+  Desk second;
+  SetTimer(second.window(), 1, 50, nullptr);
+  second.advance(60);
+  second.pump();
+  EXPECT_EQ(first.count(WM_USER), 0);
+  EXPECT_EQ(second.count(WM_USER), 0);
+  EXPECT_EQ(second.count(WM_TIMER), 1);
+  first.make_current();
+  first.pump();
+  EXPECT_EQ(first.count(WM_USER), 1);
+  EXPECT_EQ(first.count(WM_TIMER), 0);
+  second.make_current();
+}
+
+TEST(TwoSystemsTest, ClassesOfOneAreUnknownToTheOther) {
+  Desk first;
+  WNDCLASSW window_class{};
+  window_class.lpfnWndProc = &DefWindowProcW;
+  window_class.lpszClassName = L"OnlyHere";
+  EXPECT_NE(RegisterClassW(&window_class), 0);
+  system::WindowSystem second(std::make_unique<system::HeadlessDisplay>());
+  EXPECT_EQ(CreateWindowExW(0, L"OnlyHere", L"", WS_POPUP, 0, 0, 5, 5, nullptr, nullptr, nullptr,
+                            nullptr),
+            nullptr);
+}
+
+TEST(TwoSystemsTest, WithoutASystemEveryCallFailsSoftly) {
+  ASSERT_EQ(system::WindowSystem::current(), nullptr);
+  const HWND made_up = reinterpret_cast<HWND>(UINT_PTR{0x10001});
+  MSG message{};
+  EXPECT_EQ(
+      CreateWindowExW(0, L"Desk", L"", WS_POPUP, 0, 0, 5, 5, nullptr, nullptr, nullptr, nullptr),
+      nullptr);
+  EXPECT_EQ(IsWindow(made_up), 0);
+  EXPECT_EQ(ShowWindow(made_up, SW_SHOW), 0);
+  EXPECT_EQ(DestroyWindow(made_up), 0);
+  EXPECT_EQ(GetFocus(), nullptr);
+  EXPECT_EQ(GetCapture(), nullptr);
+  EXPECT_EQ(GetActiveWindow(), nullptr);
+  EXPECT_EQ(PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE), 0);
+  EXPECT_EQ(SendMessageW(made_up, WM_USER, 0, 0), 0);
+  EXPECT_EQ(PostMessageW(made_up, WM_USER, 0, 0), 0);
+  EXPECT_EQ(SetTimer(made_up, 1, 10, nullptr), 0U);
+  EXPECT_EQ(InvalidateRect(made_up, nullptr, TRUE), 0);
+}
+
+TEST(PostFromThreadTest, ArrivesInPostingOrder) {
+  Desk desk;
+  std::thread other([&] {
+    for (UINT number = 0; number < 100; ++number) {
+      EXPECT_NE(PostMessageW(desk.window(), WM_USER + number, 0, 0), 0);
+    }
+  });
+  other.join();
+  desk.pump();
+  for (UINT number = 0; number < 100; ++number) EXPECT_EQ(desk.count(WM_USER + number), 1);
+}
+
+TEST(PostFromThreadTest, ManyThreadsWhileTheQueueIsRead) {
+  Desk desk;
+  std::vector<std::thread> posters;
+  for (UINT poster = 0; poster < 4; ++poster) {
+    posters.emplace_back([&desk, poster] {
+      for (int times = 0; times < 500; ++times) PostMessageW(desk.window(), WM_APP + poster, 0, 0);
+    });
+  }
+  for (int turns = 0; turns < 50; ++turns) desk.pump();
+  for (std::thread& poster : posters) poster.join();
+  desk.pump();
+  for (UINT poster = 0; poster < 4; ++poster) EXPECT_EQ(desk.count(WM_APP + poster), 500);
+}
+
+TEST(PostFromThreadTest, DestroyedWindowIsRefused) {
+  Desk desk;
+  DestroyWindow(desk.window());
+  BOOL posted = TRUE;
+  DWORD error = 0;
+  std::thread([&] {
+    SetLastError(0);
+    posted = PostMessageW(desk.window(), WM_USER, 0, 0);
+    error = GetLastError();
+  }).join();
+  EXPECT_EQ(posted, 0);
+  EXPECT_EQ(error, 1400U);
+}
+
+TEST(PostFromThreadTest, FindsTheWindowsOwnSystem) {
+  Desk first;
+  Desk second;
+  ASSERT_NE(first.window(), second.window());
+  std::thread([&] {
+    PostMessageW(first.window(), WM_USER + 1, 0, 0);
+    PostMessageW(second.window(), WM_USER + 2, 0, 0);
+  }).join();
+  second.pump();
+  first.make_current();
+  first.pump();
+  second.make_current();
+  EXPECT_EQ(first.count(WM_USER + 1), 1);
+  EXPECT_EQ(first.count(WM_USER + 2), 0);
+  EXPECT_EQ(second.count(WM_USER + 1), 0);
+  EXPECT_EQ(second.count(WM_USER + 2), 1);
+}
+
+TEST(PostFromThreadTest, PostingAfterTheSystemsEndIsRefused) {
+  HWND window = nullptr;
+  {
+    Desk desk;
+    window = desk.window();
+  }
+  BOOL posted = TRUE;
+  std::thread([&] { posted = PostMessageW(window, WM_USER, 0, 0); }).join();
+  EXPECT_EQ(posted, 0);
+}
+
+}  // namespace
+}  // namespace corvane::conformance
