@@ -52,11 +52,12 @@ Canvas::~Canvas() {
   surface_.mark(area_);
 }
 
-cairo_surface_t* image_of(const Surface& surface) {
-  const Pixel* first = surface.row_if_stored(0);
-  if (!first || surface.width() == 0) return nullptr;
-  return cairo_image_surface_create_for_data(bytes_of(first), CAIRO_FORMAT_ARGB32, surface.width(),
-                                             surface.height(), byte_stride(surface, 0));
+cairo_surface_t* image_of(const Surface& surface, const RECT& part) {
+  const Pixel* first = surface.row_if_stored(part.top);
+  if (!first || part.left >= part.right || part.top >= part.bottom) return nullptr;
+  return cairo_image_surface_create_for_data(bytes_of(first + part.left), CAIRO_FORMAT_ARGB32,
+                                             part.right - part.left, part.bottom - part.top,
+                                             byte_stride(surface, part.top));
 }
 
 }  // namespace corvane::system

@@ -29,8 +29,8 @@ class Canvas {
   cairo_t* cairo_ = nullptr;
 };
 
-// A Cairo surface that reads the pixels of a whole surface, which must outlive it unchanged and
-// hold all its rows (see Surface::pixels). Null for an empty one. The caller destroys it.
-cairo_surface_t* image_of(const Surface& surface);
+// A Cairo surface that reads a part of a surface, which must outlive it unchanged and hold all its
+// rows (see Surface::pixels). Null when there is nothing to read. The caller destroys it.
+cairo_surface_t* image_of(const Surface& surface, const RECT& part);
 
 }  // namespace corvane::system

@@ -8,7 +8,8 @@
 
 namespace corvane::system {
 class Surface;
-}
+class ImageCache;
+}  // namespace corvane::system
 
 namespace corvane_system::Gdiplus {
 
@@ -85,10 +86,15 @@ class Image {
 
   // The premultiplied pixels, null when nothing was decoded. Shared with clones; never modified.
   const std::shared_ptr<const corvane::system::Surface>& pixels() const { return pixels_; }
+  // What drawing keeps for the next time; null when pixels() is.
+  corvane::system::ImageCache* cache() const { return cache_.get(); }
 
  protected:
   Image() = default;
+  void take_pixels(std::shared_ptr<const corvane::system::Surface> pixels, bool opaque);
+
   std::shared_ptr<const corvane::system::Surface> pixels_;
+  std::shared_ptr<corvane::system::ImageCache> cache_;  // shared with clones
   mutable Status status_ = Ok;
 };
 // A picture made from memory: 32-bit ARGB rows, not premultiplied, stride in bytes; copied.

@@ -1,0 +1,72 @@
+#include <cstddef>
+#include <cstdint>
+#include <utility>
+
+#include "corvane/platform/system/gdi/gdi_impl.h"
+#include "corvane/platform/system/gdi/gdiplus.h"
+#include "corvane/platform/system/gdi/image_decoder.h"
+#include "corvane/platform/system/gdi/image_scaling.h"
+#include "corvane/platform/system/shell/wide_path.h"
+
+namespace corvane_system::Gdiplus {
+
+using namespace corvane::system;
+
+Image::Image(const WCHAR* path, BOOL) {
+  status_ = InvalidParameter;
+  if (!path) return;
+  softly(false, [&] {
+    const std::string file = file_system_path(path);
+    std::optional<DecodedImage> decoded;
+    if (!file.empty()) decoded = decode_image_file(file);
+    if (decoded) take_pixels(std::move(decoded->pixels), decoded->opaque);
+    return true;
+  });
+}
+
+Image::~Image() = default;
+
+void Image::take_pixels(std::shared_ptr<const Surface> pixels, bool opaque) {
+  cache_ = std::make_shared<ImageCache>(opaque);
+  pixels_ = std::move(pixels);
+  status_ = Ok;
+}
+
+Image* Image::FromFile(const WCHAR* path, BOOL embedded_color_management) {
+  return new Image(path, embedded_color_management);
+}
+
+Image* Image::Clone() const {
+  Image* clone = new Image;
+  clone->pixels_ = pixels_;
+  clone->cache_ = cache_;
+  clone->status_ = pixels_ ? Ok : InvalidParameter;
+  return clone;
+}
+
+UINT Image::GetWidth() const { return pixels_ ? static_cast<UINT>(pixels_->width()) : 0; }
+UINT Image::GetHeight() const { return pixels_ ? static_cast<UINT>(pixels_->height()) : 0; }
+Status Image::GetLastStatus() const { return std::exchange(status_, Ok); }
+
+Bitmap::Bitmap(INT width, INT height, INT stride, DWORD format, BYTE* scan0) {
+  status_ = InvalidParameter;
+  const bool good_size = width > 0 && height > 0 && width <= kLargestImageSide &&
+                         height <= kLargestImageSide &&
+                         static_cast<long>(width) * height <= kLargestImagePixels;
+  const std::int64_t bytes_per_row = stride < 0 ? -std::int64_t{stride} : stride;
+  if (!good_size || format != PixelFormat32bppARGB) return;
+  if (scan0 && bytes_per_row < std::int64_t{width} * 4) return;
+  softly(false, [&] {
+    if (scan0) {
+      DecodedImage copy = premultiplied_copy(scan0, width, height, stride);
+      take_pixels(std::move(copy.pixels), copy.opaque);
+    } else {
+      auto blank = std::make_shared<Surface>(width, height);
+      blank->pixels();
+      take_pixels(std::move(blank), false);
+    }
+    return true;
+  });
+}
+
+}  // namespace corvane_system::Gdiplus

@@ -1,0 +1,38 @@
+#pragma once
+// Smaller copies of pictures.
+#include <list>
+#include <memory>
+#include <mutex>
+
+#include "corvane/platform/system/gdi/surface.h"
+
+namespace corvane::system {
+
+// Shrinks a part of a picture by averaging areas, so that every source pixel counts by what it
+// covers. 0 < width <= the part's width, the same for heights; the part lies inside the picture.
+std::shared_ptr<Surface> shrunk_by_area(const Surface& picture, const RECT& part, int width,
+                                        int height);
+
+// What drawing a picture keeps for the next time. Thread-safe; belongs to one picture.
+class ImageCache {
+ public:
+  explicit ImageCache(bool opaque) : opaque_(opaque) {}
+
+  bool opaque() const { return opaque_; }  // every alpha byte of the picture is 255
+  // As shrunk_by_area; the copies made last are kept.
+  std::shared_ptr<const Surface> shrunk(const Surface& picture, const RECT& part, int width,
+                                        int height);
+
+ private:
+  struct Copy {
+    RECT part;
+    std::shared_ptr<const Surface> pixels;
+  };
+  void drop_oldest();
+
+  bool opaque_;
+  std::mutex lock_;
+  std::list<Copy> copies_;  // used last first
+};
+
+}  // namespace corvane::system
