@@ -2,14 +2,8 @@
 
 #include "corvane/platform/platform.h"
 #ifndef _WIN32
-#include "corvane/platform/system/display/display.h"
+#include "corvane/platform/system/display/open_display.h"
 #include "corvane/platform/system/user/window_system.h"
-#endif
-
-#ifndef _WIN32
-namespace corvane::system {
-std::unique_ptr<Display> open_display();
-}
 #endif
 
 namespace corvane {

@@ -13,6 +13,10 @@ void release_temporaries() {
   if (state.depth == 0) state.handles.release_temporaries();
 }
 
+// Most messages of one PumpMessages, so that a program that keeps posting to itself still comes
+// back to its host.
+constexpr int kMostPerTurn = 10000;
+
 // Asks the windows from the message's own up to its top-level one, or to the main window.
 bool swallowed_on_the_way_up(MSG* message, HWND main_window) {
   for (HWND window = message->hwnd; window;) {
@@ -23,6 +27,12 @@ bool swallowed_on_the_way_up(MSG* message, HWND main_window) {
     window = ::GetParent(window);
   }
   return false;
+}
+
+void handle(MSG* message) {
+  if (PreTranslateInput(message)) return;
+  ::TranslateMessage(message);
+  ::DispatchMessageW(message);
 }
 
 }  // namespace
@@ -48,9 +58,7 @@ int CWinApp::Run() {
     while (!::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE) && OnIdle(idle_count))
       ++idle_count;
     if (::GetMessageW(&message, nullptr, 0, 0) <= 0) break;
-    if (PreTranslateInput(&message)) continue;
-    ::TranslateMessage(&message);
-    ::DispatchMessageW(&message);
+    handle(&message);
   }
   exit_code_ = message.message == WM_QUIT ? static_cast<int>(message.wParam) : 0;
   return ExitInstance();
@@ -76,6 +84,15 @@ bool PreTranslateInput(MSG* message) {
   if (!message) return false;
   if (live_app) return live_app->PreTranslateMessage(message);
   return swallowed_on_the_way_up(message, nullptr);
+}
+
+bool PumpMessages() {
+  MSG message{};
+  for (int i = 0; i < kMostPerTurn && ::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE); ++i) {
+    if (message.message == WM_QUIT) return false;
+    handle(&message);
+  }
+  return true;
 }
 
 int RunApp(CWinApp& app) { return app.InitInstance() ? app.Run() : app.ExitInstance(); }

@@ -47,6 +47,10 @@ HINSTANCE AfxGetInstanceHandle();
 // message is swallowed, do not dispatch it. Frees the temporary objects of earlier turns.
 bool PreTranslateInput(MSG* message);
 
+// For a host with a loop of its own, in place of the above: handles all messages that wait as Run
+// does. False: WM_QUIT was among them.
+bool PumpMessages();
+
 // The body of main: InitInstance, Run, and the exit code.
 int RunApp(CWinApp& app);
 
