@@ -108,9 +108,10 @@ void CXmlListMgr::LoadListBar(CListBar& bar, CRect& rect, CWnd* parent, int id) 
   bar.Create(nullptr, L"listBar", WS_CHILD | WS_TABSTOP, rect, parent, static_cast<UINT>(id));
   const _MYCONTROL* const control = GetCtrl(id);
   if (!control) return;
-  bar.CreateForwardBtn(image_folder() + control->forward_image);
-  bar.CreateBackwardBtn(image_folder() + control->backward_image);
   rect = control->rect;
+  const CString backward_path = image_folder() + control->backward_image;
+  bar.CreateForwardBtn(image_folder() + control->forward_image);
+  bar.CreateBackwardBtn(backward_path);
   bar.ShowWindow(SW_SHOW);
 }
 

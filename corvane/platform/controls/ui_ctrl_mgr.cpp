@@ -12,20 +12,25 @@
 namespace corvane {
 namespace {
 
-int place_child(CWnd& window, CRect& rect, CWnd* parent, UINT id, const _MYCONTROL* control) {
-  rect = control ? CRect(control->rect) : CRect();
+// The last step of a loader: creating a window tells the parent, whose handlers may release the
+// records.
+int place_child(CWnd& window, const CString& text, const CRect& rect, CWnd* parent, UINT id) {
   if (window.GetSafeHwnd()) {
     window.MoveWindow(rect);
     return 1;
   }
-  return window.Create(nullptr, L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP, rect, parent, id) ? 1 : 0;
+  return window.Create(nullptr, text, WS_CHILD | WS_VISIBLE | WS_TABSTOP, rect, parent, id) ? 1 : 0;
 }
+
+CRect rect_of(const _MYCONTROL* control) { return control ? CRect(control->rect) : CRect(); }
+
+CString text_of(const _MYLANGUAGE* caption) { return caption ? caption->text : CString(); }
 
 int load_skinned(CSkinnedWnd& window, CRect& rect, CWnd* parent, UINT id, const _MYCONTROL* control,
                  const _MYLANGUAGE* caption) {
-  const int created = place_child(window, rect, parent, id, control);
   window.SetSkin(control, caption);
-  return created;
+  rect = rect_of(control);
+  return place_child(window, text_of(caption), rect, parent, id);
 }
 
 }  // namespace
@@ -45,10 +50,10 @@ int CUICtrlMgr::LoadSelectImage(CGdiImage& image, const _MYCONTROL* control) {
 int CUICtrlMgr::LoadGdiBtn(CGdiBtnEx& button, CRect& rect, CWnd* parent, UINT id,
                            const _MYCONTROL* control, const _MYLANGUAGE* caption,
                            const _MYFONT* font) {
-  const int created = place_child(button, rect, parent, id, control);
   button.SetSkin(ButtonSkin(control, font));
-  button.SetText(caption ? caption->text : CString());
-  return created;
+  button.SetText(text_of(caption));
+  rect = rect_of(control);
+  return place_child(button, text_of(caption), rect, parent, id);
 }
 
 int CUICtrlMgr::LoadHdcBtn(CHdcBtn& button, CRect& rect, CWnd* parent, UINT id,

@@ -1,0 +1,56 @@
+// The default skin holds what the library and its program ask for.
+#include <gtest/gtest.h>
+
+#include "corvane/platform/base_services/installation.h"
+#include "corvane/platform/base_services/system_paths.h"
+#include "corvane/skin/xml_list_mgr.h"
+
+namespace corvane {
+namespace {
+
+class DefaultSkin : public testing::Test {
+ protected:
+  DefaultSkin() { SetSkinFolder(wide_path_of(CORVANE_SOURCE_DIR "/skins/default")); }
+  ~DefaultSkin() override { SetSkinFolder(L""); }
+};
+
+TEST_F(DefaultSkin, EveryButtonHasItsSizeImagesCaptionAndFont) {
+  struct Case {
+    int list;
+    int control;
+    const wchar_t* caption;  // null: none
+    CRect rect;
+  };
+  const Case cases[] = {
+      {4, 3, L"保存", {0, 0, 96, 40}},        {4, 4, L"识别", {0, 0, 96, 40}},
+      {4, 1, L"重画", {0, 0, 96, 40}},        {4, 2, L"取消", {0, 0, 96, 40}},
+      {4, 5, L"识别", {0, 0, 96, 40}},        {4, 6, L"取消", {0, 0, 96, 40}},
+      {100, 1, L"裁剪", {12, 8, 100, 68}},    {100, 2, L"文字识别", {104, 8, 192, 68}},
+      {100, 3, L"打开", {196, 8, 284, 68}},   {100, 4, L"上一张", {288, 8, 376, 68}},
+      {100, 5, L"下一张", {380, 8, 468, 68}}, {100, 6, L"退出", {472, 8, 560, 68}},
+      {101, 1, nullptr, {0, 0, 32, 32}}};
+  for (const auto& each : cases) {
+    SCOPED_TRACE(testing::Message() << "list " << each.list << " control " << each.control);
+    CXmlListMgr skin;
+    skin.LoadCtrlList(L"ui_control.xml", each.list);
+    skin.LoadLanguageList(L"ui_language.xml", each.list);
+    skin.LoadLogfontList(L"ui_logfont.xml");
+    const _MYCONTROL* const control = skin.GetCtrl(each.control);
+    ASSERT_TRUE(control);
+    EXPECT_EQ(CRect(control->rect), each.rect);
+    const CString folder = skin.GetBgImgPath(-1);
+    for (const auto* const image : {&control->image, &control->hover_image, &control->pressed_image,
+                                    &control->disabled_image, &control->selected_image}) {
+      EXPECT_TRUE(std::filesystem::is_regular_file(native_path((folder + *image).AsStdString())));
+    }
+    ASSERT_EQ(control->caption_ids != nullptr, each.caption != nullptr);
+    if (!each.caption) continue;
+    const _MYLANGUAGE* const caption = skin.GetLanguage(control->caption_ids[0]);
+    ASSERT_TRUE(caption);
+    EXPECT_EQ(caption->text, each.caption);
+    EXPECT_TRUE(skin.GetMyFont(caption->font_id));
+  }
+}
+
+}  // namespace
+}  // namespace corvane

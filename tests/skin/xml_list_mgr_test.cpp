@@ -1,0 +1,123 @@
+// The list manager over skin files, as far as it needs no window.
+#include "corvane/skin/xml_list_mgr.h"
+
+#include <gtest/gtest.h>
+
+#include <type_traits>
+
+#include "corvane/platform/base_services/installation.h"
+#include "corvane/platform/base_services/system_paths.h"
+#include "tests/skin/support/temporary_folder.h"
+
+namespace corvane {
+namespace {
+
+static_assert(!std::is_copy_constructible_v<CXmlListMgr>);
+static_assert(!std::is_copy_assignable_v<CXmlListMgr>);
+
+class XmlListMgr : public testing::Test {
+ protected:
+  XmlListMgr() {
+    SetSkinFolder(folder_.wide());
+    folder_.write("ui_control.xml", R"(<controls>
+        <list id="4" background="#102030">
+          <control id="1" x="1" y="2" width="10" height="20" image="one.png" caption="5"/>
+          <control id="2" image="two.png"/><control id="1" x="9" image="later.png"/></list>
+        <list id="5"><control id="8"/></list></controls>)");
+    folder_.write("ui_language.xml", R"(<captions>
+        <list id="4"><caption id="5" text="保存" font="1"/></list>
+        <list id="5"><caption id="5" text="other"/><caption id="6" text="more"/></list>
+        </captions>)");
+    folder_.write("ui_logfont.xml", R"(<fonts><font id="1" size="20"/><font id="2"/></fonts>)");
+  }
+  ~XmlListMgr() override { SetSkinFolder(L""); }
+
+  void load(int list) {
+    skin_.LoadCtrlList(L"ui_control.xml", list);
+    skin_.LoadLanguageList(L"ui_language.xml", list);
+    skin_.LoadLogfontList(L"ui_logfont.xml");
+  }
+
+  test::TemporaryFolder folder_;
+  CXmlListMgr skin_;
+};
+
+TEST_F(XmlListMgr, IsEmptyAtFirst) {
+  EXPECT_EQ(skin_.GetBgColor(), 0u);
+  EXPECT_EQ(skin_.GetCtrl(1), nullptr);
+  EXPECT_EQ(skin_.GetLanguage(5), nullptr);
+  EXPECT_EQ(skin_.GetMyFont(1), nullptr);
+  EXPECT_TRUE(skin_.GetBgRect(1).IsRectNull());
+  EXPECT_EQ(skin_.GetBgImgPath(1), folder_.wide() + L"\\image\\");
+}
+
+TEST_F(XmlListMgr, AnswersFromTheLoadedList) {
+  load(4);
+  EXPECT_EQ(skin_.GetBgColor(), RGB(0x10, 0x20, 0x30));
+  EXPECT_EQ(skin_.GetBgRect(1), CRect(1, 2, 11, 22));
+  EXPECT_EQ(skin_.GetBgImgPath(1), folder_.wide() + L"\\image\\one.png");
+  EXPECT_EQ(skin_.GetLanguage(5)->text, L"保存");
+  EXPECT_EQ(skin_.GetMyFont(1)->description->lfHeight, -20);
+  EXPECT_EQ(skin_.GetCtrl(8), nullptr);
+  EXPECT_TRUE(skin_.GetBgRect(8).IsRectNull());
+  EXPECT_EQ(skin_.GetBgImgPath(8), folder_.wide() + L"\\image\\");
+}
+
+TEST_F(XmlListMgr, AReloadReplaces) {
+  load(4);
+  load(5);
+  EXPECT_EQ(skin_.GetCtrl(1), nullptr);
+  EXPECT_NE(skin_.GetCtrl(8), nullptr);
+  EXPECT_EQ(skin_.GetLanguage(5)->text, L"other");
+  EXPECT_EQ(skin_.GetBgColor(), RGB(255, 255, 255));
+  EXPECT_NE(skin_.GetMyFont(2), nullptr);  // fonts belong to no list
+}
+
+TEST_F(XmlListMgr, LoadingTheSameListTwiceKeepsOneCopy) {
+  load(4);
+  load(4);
+  skin_.GetCtrl(1)->id = 100;  // the next of that id is now the file's second one
+  EXPECT_EQ(skin_.GetBgRect(1).left, 9);
+  skin_.GetCtrl(1)->id = 100;
+  EXPECT_EQ(skin_.GetCtrl(1), nullptr);
+}
+
+TEST_F(XmlListMgr, MissingFilesAndListsEmptyTheLists) {
+  load(4);
+  load(77);
+  EXPECT_EQ(skin_.GetCtrl(1), nullptr);
+  EXPECT_EQ(skin_.GetLanguage(5), nullptr);
+  EXPECT_EQ(skin_.GetBgColor(), RGB(0x10, 0x20, 0x30));
+  load(4);
+  SetSkinFolder(L"Z:\\no such folder");
+  load(4);
+  EXPECT_EQ(skin_.GetCtrl(1), nullptr);
+  EXPECT_EQ(skin_.GetLanguage(5), nullptr);
+  EXPECT_EQ(skin_.GetMyFont(1), nullptr);
+  SetSkinFolder(L"Q:\\not mounted");
+  load(4);
+  EXPECT_EQ(skin_.GetBgColor(), RGB(0x10, 0x20, 0x30));
+}
+
+TEST_F(XmlListMgr, ReleasingKeepsOnlyTheBackground) {
+  load(4);
+  skin_.CtrlRelease();
+  EXPECT_EQ(skin_.GetCtrl(1), nullptr);
+  EXPECT_NE(skin_.GetLanguage(5), nullptr);
+  skin_.Release();
+  EXPECT_EQ(skin_.GetLanguage(5), nullptr);
+  EXPECT_EQ(skin_.GetMyFont(1), nullptr);
+  EXPECT_EQ(skin_.GetBgColor(), RGB(0x10, 0x20, 0x30));
+}
+
+TEST_F(XmlListMgr, APathWithoutNarrowFormIsAnErrorAndTheListIsEmpty) {
+  load(4);
+  SetSkinFolder(CString(std::wstring(L"Z:\\") + wchar_t(0xD800)));
+  EXPECT_THROW(skin_.LoadCtrlList(L"ui_control.xml", 4), PathConversionError);
+  EXPECT_THROW(skin_.LoadLanguageList(L"ui_language.xml", 4), PathConversionError);
+  EXPECT_THROW(skin_.LoadLogfontList(L"ui_logfont.xml"), PathConversionError);
+  EXPECT_EQ(skin_.GetCtrl(1), nullptr);
+}
+
+}  // namespace
+}  // namespace corvane
