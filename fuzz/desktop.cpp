@@ -32,7 +32,7 @@ constexpr UINT kPointerMessages[] = {WM_CREATE,           WM_NCCREATE,      WM_S
                                      WM_GETTEXT,          WM_GETMINMAXINFO, WM_WINDOWPOSCHANGING,
                                      WM_WINDOWPOSCHANGED, WM_STYLECHANGING, WM_STYLECHANGED,
                                      WM_NCCALCSIZE,       WM_NOTIFY,        WM_MOVING,
-                                     WM_GETDLGCODE,       WM_TIMER};
+                                     WM_GETDLGCODE};
 
 template <class Value, std::size_t count>
 Value one_of(const Value (&values)[count], ByteStream& stream) {
