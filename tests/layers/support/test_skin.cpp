@@ -27,9 +27,8 @@ std::wstring platform_path(const std::filesystem::path& path) {
 
 std::string control(int id, const RECT& rect) {
   std::ostringstream text;
-  text << "<control id=\"" << id << "\" x=\"" << rect.left << "\" y=\"" << rect.top
-       << "\" width=\"" << rect.right - rect.left << "\" height=\"" << rect.bottom - rect.top
-       << "\"/>";
+  text << "<control id=\"" << id << "\" x=\"" << rect.left << "\" y=\"" << rect.top << "\" width=\""
+       << rect.right - rect.left << "\" height=\"" << rect.bottom - rect.top << "\"/>";
   return text.str();
 }
 

@@ -1,0 +1,31 @@
+#pragma once
+// A crop over the whole client area of the host, as a host sets it up.
+#include "corvane/layers/crop/cut_bg_layer.h"
+#include "tests/layers/support/layer_test.h"
+
+namespace corvane_tests {
+
+// Creates the background's window over the client area of `host`. The brush that changes what shows
+// through least is mid-grey.
+bool create_over(corvane::CCutBgLayer& background, HWND host);
+// The windows that the background brings along; null when they do not exist.
+HWND rect_layer_of(HWND background);
+HWND bar_of(HWND background);
+
+class CropTest : public LayerTest {
+ protected:
+  void SetUp() override;
+  void start(bool with_bar = true, bool text_recognition = false);
+
+  // The screen point of a point in the crop's client coordinates, which are the host's.
+  static POINT on_screen(int x, int y) { return {host_place.left + x, host_place.top + y}; }
+  void drag(POINT from, POINT to);  // client coordinates
+  COLORREF pixel(int x, int y);     // client coordinates
+  HWND rect_layer() const { return rect_layer_of(background_); }
+  HWND bar() const { return bar_of(background_); }
+  bool bar_is_shown() const { return ::IsWindowVisible(bar()); }
+
+  corvane::CCutBgLayer background_;
+};
+
+}  // namespace corvane_tests

@@ -1,0 +1,269 @@
+#include "corvane/layers/frame/window_layer.h"
+
+#include <vector>
+
+#include "corvane/layers/frame/layer_messages.h"
+#include "tests/layers/support/layer_test.h"
+
+namespace corvane_tests {
+namespace {
+
+using corvane::CRect;
+using corvane::CWindowLayer;
+using corvane::CXmlListMgr;
+using corvane::WM_LAYER_BTN_CLICK;
+
+constexpr RECT layer_place = {20, 20, 320, 120};  // client coordinates of the host
+constexpr POINT layer_corner = {60, 50};          // of the layer, on the screen
+constexpr COLORREF white = RGB(255, 255, 255);
+constexpr COLORREF blue = RGB(0, 0, 255);
+
+POINT on_screen(int x, int y) { return {layer_corner.x + x, layer_corner.y + y}; }
+
+// A picture of one colour.
+class PlainImage {
+ public:
+  explicit PlainImage(DWORD argb) : pixel_(argb) {}
+  Gdiplus::Image* get() { return &image_; }
+
+ private:
+  DWORD pixel_;
+  Gdiplus::Bitmap image_{1, 1, 4, Gdiplus::PixelFormat32bppARGB, reinterpret_cast<BYTE*>(&pixel_)};
+};
+
+class WindowLayerTest : public LayerTest {
+ protected:
+  void SetUp() override {
+    LayerTest::SetUp();
+    lists_.LoadCtrlList(L"ui_control.xml", TestSkin::button_list);
+    lists_.LoadLanguageList(L"ui_language.xml", TestSkin::button_list);
+    lists_.LoadLogfontList(L"ui_logfont.xml");
+  }
+
+  void create(const std::vector<int>& ids) {
+    layer_.SetXmlListMgr(&lists_);
+    for (const int id : ids) layer_.AddBtn(id);
+    create_window();
+  }
+
+  void create_window() {
+    ASSERT_TRUE(layer_.CreateEx(0, nullptr, L"layer", WS_CHILD, layer_place, &host_, 0));
+    layer_.ShowWindow(SW_SHOW);
+    desktop_.pump();
+    host_.forget();
+  }
+
+  void resize_layer(int width, int height) {
+    layer_.MoveWindow(layer_place.left, layer_place.top, width, height, TRUE);
+    desktop_.pump();
+  }
+
+  COLORREF background_pixel() {
+    const POINT point = on_screen(200, 80);
+    return desktop_.pixel(point.x, point.y);
+  }
+
+  CXmlListMgr lists_;
+  CWindowLayer layer_;
+};
+
+TEST_F(WindowLayerTest, KeepsItsButtonsInAList) {
+  EXPECT_EQ(layer_.AddBtn(11), 1);
+  EXPECT_EQ(layer_.AddBtn(12), 2);
+  EXPECT_EQ(layer_.AddBtn(11), 3);
+  layer_.SetBtnRect(11, CRect(1, 2, 3, 4));
+  layer_.SetBtnRect(99, CRect(5, 6, 7, 8));
+  EXPECT_THAT(layer_.GetBtnRect(11), is_rect(1, 2, 3, 4));
+  EXPECT_THAT(layer_.GetBtnRect(12), is_rect(0, 0, 0, 0));
+  EXPECT_THAT(layer_.GetBtnRect(99), is_rect(0, 0, 0, 0));
+  layer_.DelAllBtn();
+  EXPECT_EQ(layer_.AddBtn(12), 1);
+}
+
+TEST_F(WindowLayerTest, ButtonsComeFromTheSkin) {
+  create({11, 12, 77});
+  EXPECT_THAT(layer_.GetBtnRect(11), same_rect(TestSkin::button_11));
+  EXPECT_THAT(layer_.GetBtnRect(12), same_rect(TestSkin::button_12));
+  EXPECT_THAT(layer_.GetBtnRect(77), is_rect(0, 0, 0, 0)) << "not in the skin";
+  const HWND button = ::GetDlgItem(layer_, 12);
+  ASSERT_NE(button, nullptr);
+  const POINT corner = on_screen(TestSkin::button_12.left, TestSkin::button_12.top);
+  EXPECT_THAT(window_rect(button), is_rect(corner.x, corner.y, corner.x + 60, corner.y + 30));
+  EXPECT_NE(desktop_.pixel(corner.x + 5, corner.y + 5), background_pixel()) << "drawn at once";
+}
+
+TEST_F(WindowLayerTest, ButtonAddedAfterCreationHasNoWindow) {
+  create({11});
+  EXPECT_EQ(layer_.AddBtn(12), 2);
+  layer_.SetBtnRect(12, CRect(5, 6, 7, 8));
+  EXPECT_THAT(layer_.GetBtnRect(12), is_rect(5, 6, 7, 8));
+  EXPECT_EQ(::GetDlgItem(layer_, 12), nullptr);
+}
+
+TEST_F(WindowLayerTest, SetBtnRectMovesTheFirstButtonOfThatId) {
+  create({11, 11});
+  const HWND first = ::GetDlgItem(layer_, 11);
+  layer_.SetBtnRect(11, CRect(200, 50, 240, 70));
+  const POINT corner = on_screen(200, 50);
+  EXPECT_THAT(window_rect(first), is_rect(corner.x, corner.y, corner.x + 40, corner.y + 20));
+  desktop_.pump();
+  desktop_.click(corner.x + 5, corner.y + 5);
+  desktop_.click(on_screen(20, 20).x, on_screen(20, 20).y);  // the second stands where it stood
+  const auto clicks = host_.of(WM_LAYER_BTN_CLICK);
+  ASSERT_EQ(clicks.size(), 2U);
+  EXPECT_EQ(clicks[0].wparam, 11U);
+  EXPECT_EQ(clicks[1].wparam, 11U);
+  EXPECT_EQ(clicks[0].lparam, reinterpret_cast<LPARAM>(first));
+  EXPECT_NE(clicks[1].lparam, reinterpret_cast<LPARAM>(first));
+}
+
+TEST_F(WindowLayerTest, ClickPostsOnceAndDragsNothing) {
+  create({11, 12});
+  const POINT point = on_screen(120, 20);
+  desktop_.click(point.x, point.y);
+  const auto clicks = host_.of(WM_LAYER_BTN_CLICK);
+  ASSERT_EQ(clicks.size(), 1U);
+  EXPECT_EQ(clicks[0].wparam, 12U);
+  EXPECT_EQ(clicks[0].lparam, reinterpret_cast<LPARAM>(::GetDlgItem(layer_, 12)));
+  EXPECT_EQ(host_.count(WM_SYSCOMMAND), 0U);
+  EXPECT_THAT(window_rect(host_), same_rect(host_place));
+}
+
+TEST_F(WindowLayerTest, PressBesideTheButtonsDragsTheParent) {
+  create({11});
+  desktop_.drag_in_one_go(on_screen(200, 80), on_screen(225, 70));
+  EXPECT_THAT(window_rect(host_), is_rect(host_place.left + 25, host_place.top - 10,
+                                          host_place.right + 25, host_place.bottom - 10));
+  EXPECT_EQ(host_.count(WM_LAYER_BTN_CLICK), 0U);
+  const auto commands = host_.of(WM_SYSCOMMAND);
+  ASSERT_EQ(commands.size(), 1U);
+  EXPECT_EQ(commands[0].wparam, 0xF012U);
+  EXPECT_EQ(commands[0].lparam, 0);
+}
+
+TEST_F(WindowLayerTest, WithoutASkinTheSurfaceStillDrags) {
+  layer_.AddBtn(11);
+  create_window();
+  EXPECT_EQ(::GetDlgItem(layer_, 11), nullptr);
+  desktop_.drag_in_one_go(on_screen(20, 20), on_screen(23, 20));
+  EXPECT_EQ(window_rect(host_).left, host_place.left + 3);
+}
+
+TEST_F(WindowLayerTest, OnlyShowCountsAsShown) {
+  EXPECT_EQ(layer_.IsShowWindow(), 0);
+  create({});
+  const std::vector<std::pair<int, int>> cases = {
+      {SW_SHOWNORMAL, 0}, {SW_SHOW, 1}, {SW_SHOWNA, 0}, {SW_HIDE, 0}};
+  for (const auto& [command, shown] : cases) {
+    layer_.ShowWindow(command);
+    EXPECT_EQ(layer_.IsShowWindow(), shown) << command;
+  }
+  EXPECT_EQ(layer_.ShowWindow(SW_SHOW), 0) << "was hidden";
+  EXPECT_NE(layer_.ShowWindow(SW_SHOW), 0);
+}
+
+TEST_F(WindowLayerTest, ImageSetBeforeCreationIsShownAtOnce) {
+  PlainImage image(0xFF0000FF);
+  layer_.SetBgImage(image.get(), CRect(0, 0, 1, 1));
+  create({11});
+  EXPECT_EQ(background_pixel(), blue);
+  EXPECT_EQ(desktop_.pixel(on_screen(2, 95).x, on_screen(2, 95).y), blue)
+      << "the rectangle has no effect";
+}
+
+TEST_F(WindowLayerTest, BackgroundIsBuiltAnewOnlyWhenTheSizeChanges) {
+  PlainImage image(0xFF0000FF);
+  create({11});
+  EXPECT_EQ(background_pixel(), white);
+  layer_.SetBgImage(image.get(), CRect());
+  layer_.Invalidate(TRUE);
+  desktop_.pump();
+  EXPECT_EQ(background_pixel(), white);
+  resize_layer(300, 100);
+  EXPECT_EQ(background_pixel(), white) << "the same size";
+  resize_layer(301, 100);
+  EXPECT_EQ(background_pixel(), blue);
+}
+
+TEST_F(WindowLayerTest, ChangeOfSizePutsButtonsBackToTheirRectangles) {
+  create({11});
+  const HWND button = ::GetDlgItem(layer_, 11);
+  ::MoveWindow(button, 150, 60, 20, 20, TRUE);
+  layer_.Invalidate(TRUE);
+  desktop_.pump();
+  EXPECT_EQ(client_rect(button).right, 20) << "the second erase at the same size does nothing";
+  resize_layer(310, 110);
+  const POINT corner = on_screen(TestSkin::button_11.left, TestSkin::button_11.top);
+  EXPECT_EQ(window_rect(button).left, corner.x);
+  EXPECT_EQ(client_rect(button).right, 60);
+}
+
+TEST_F(WindowLayerTest, EnterIsSwallowedAndEscapeReachesTheMainWindowOnce) {
+  create({11});
+  for (const HWND focus : {layer_.GetSafeHwnd(), ::GetDlgItem(layer_, 11)}) {
+    ::SetFocus(focus);
+    host_.forget();
+    desktop_.key(VK_RETURN);
+    EXPECT_EQ(host_.count(WM_KEYDOWN) + host_.count(WM_KEYUP), 0U);
+    desktop_.key(VK_ESCAPE);
+    const auto downs = host_.of(WM_KEYDOWN);
+    ASSERT_EQ(downs.size(), 1U);
+    EXPECT_EQ(downs[0].wparam, static_cast<WPARAM>(VK_ESCAPE));
+    EXPECT_EQ(host_.count(WM_KEYUP), 0U);
+    EXPECT_EQ(host_.count(WM_LAYER_BTN_CLICK), 0U);
+  }
+}
+
+TEST_F(WindowLayerTest, CommandsOfOthersAreLeftToTheDefault) {
+  create({11});
+  EXPECT_EQ(layer_.SendMessageW(WM_COMMAND, 11, 0), 0);
+  EXPECT_EQ(layer_.SendMessageW(WM_COMMAND, 11, reinterpret_cast<LPARAM>(host_.GetSafeHwnd())), 0);
+  desktop_.pump();
+  EXPECT_EQ(host_.count(WM_LAYER_BTN_CLICK), 0U);
+}
+
+TEST_F(WindowLayerTest, DestroyedAndCreatedAgain) {
+  create({11});
+  layer_.DestroyWindow();
+  EXPECT_EQ(layer_.AddBtn(12), 1) << "the buttons went with the window";
+  PlainImage image(0xFF0000FF);
+  layer_.SetBgImage(image.get(), CRect());
+  create_window();
+  EXPECT_NE(::GetDlgItem(layer_, 12), nullptr);
+  EXPECT_EQ(background_pixel(), blue);
+}
+
+// A host that takes the skin back, and empties the list, while buttons are being created.
+class InterferingHost : public HostWindow {
+ public:
+  CWindowLayer* layer = nullptr;
+  bool empties = false;
+
+ protected:
+  LRESULT WindowProc(UINT message, WPARAM wparam, LPARAM lparam) override {
+    if (message == WM_PARENTNOTIFY && LOWORD(wparam) == WM_CREATE && HIWORD(wparam) == 11) {
+      empties ? layer->DelAllBtn() : layer->SetXmlListMgr(nullptr);
+    }
+    return HostWindow::WindowProc(message, wparam, lparam);
+  }
+};
+
+TEST_F(WindowLayerTest, HostInterferesWhileButtonsAreCreated) {
+  InterferingHost host;
+  ASSERT_TRUE(host.open({0, 0, 400, 300}));
+  host.layer = &layer_;
+  for (const bool empties : {false, true}) {
+    host.empties = empties;
+    layer_.SetXmlListMgr(&lists_);
+    layer_.AddBtn(11);
+    layer_.AddBtn(12);
+    ASSERT_TRUE(
+        layer_.CreateEx(0, nullptr, L"layer", WS_CHILD | WS_VISIBLE, layer_place, &host, 0));
+    EXPECT_EQ(::GetDlgItem(layer_, 12), nullptr);
+    desktop_.pump();
+    layer_.DestroyWindow();
+  }
+}
+
+}  // namespace
+}  // namespace corvane_tests
