@@ -9,11 +9,22 @@ install(TARGETS corvane EXPORT CorvaneTargets
   RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
-if(WIN32)
-  install(DIRECTORY corvane DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
-    FILES_MATCHING PATTERN "*.h" PATTERN "platform/system" EXCLUDE)
-else()
-  install(DIRECTORY corvane DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
+# Headers that see another library's headers are private to their room.
+install(DIRECTORY corvane DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h"
+  PATTERN "platform/system" EXCLUDE
+  PATTERN "skin_reader/skin_document.h" EXCLUDE)
+if(NOT WIN32)
+  # Of the window system, what platform.h needs and what a host or a test of a host can use.
+  foreach(header
+      compositor/compositor.h
+      display/display.h display/headless_display.h display/input_event.h display/open_display.h
+      gdi/gdi.h gdi/gdi_api.h gdi/gdiplus.h gdi/image_encoder.h gdi/region.h gdi/surface.h
+      types.h
+      user/constants.h user/user_api.h user/window_system.h)
+    cmake_path(GET header PARENT_PATH folder)
+    install(FILES corvane/platform/system/${header}
+      DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/corvane/platform/system/${folder})
+  endforeach()
 endif()
 install(DIRECTORY skins/default DESTINATION ${CORVANE_INSTALL_SHARE}/skins PATTERN "art" EXCLUDE)
 install(FILES README.md CHANGELOG.md LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})

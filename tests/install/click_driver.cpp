@@ -2,6 +2,7 @@
 // the buttons, and closes it. The example's own main is compiled under the name host_main.
 #include <memory>
 
+#include "corvane/platform/platform.h"
 #include "corvane/platform/system/display/headless_display.h"
 #include "corvane/platform/system/user/window_system.h"
 
