@@ -18,6 +18,7 @@ if(NOT WIN32)
   foreach(header
       compositor/compositor.h
       display/display.h display/headless_display.h display/input_event.h display/open_display.h
+      display/wake_event.h
       gdi/gdi.h gdi/gdi_api.h gdi/gdiplus.h gdi/image_encoder.h gdi/region.h gdi/surface.h
       types.h
       user/constants.h user/user_api.h user/window_system.h)
