@@ -12,7 +12,18 @@
 namespace corvane::system {
 
 enum class CursorShape {
-  none, arrow, ibeam, wait, cross, size_nwse, size_nesw, size_we, size_ns, size_all, no, hand
+  none,
+  arrow,
+  ibeam,
+  wait,
+  cross,
+  size_nwse,
+  size_nesw,
+  size_we,
+  size_ns,
+  size_all,
+  no,
+  hand
 };
 
 class Display {

@@ -1,6 +1,7 @@
 #pragma once
 // A display in memory with a clock that moves only when told (or when a wait would sleep).
 #include "corvane/platform/system/display/display.h"
+#include "corvane/platform/system/display/wake_event.h"
 
 namespace corvane::system {
 
@@ -12,10 +13,12 @@ class HeadlessDisplay : public Display {
   std::uint64_t now() const override { return now_; }
   void poll(std::vector<InputEvent>& events) override;
   bool wait(std::optional<std::uint64_t> deadline) override;
+  void wake() override { wake_.set(); }
+  int event_fd() const override { return wake_.fd(); }
   void set_cursor(CursorShape shape) override { cursor_ = shape; }
 
   void advance(std::uint64_t milliseconds) { now_ += milliseconds; }
-  void push(const InputEvent& event) { pending_.push_back(event); }
+  void push(const InputEvent& event);
   void resize(SIZE size);  // arrives as a resize event
   CursorShape cursor() const { return cursor_; }
   const Surface& frame() const { return frame_; }  // what was last presented
@@ -28,6 +31,7 @@ class HeadlessDisplay : public Display {
   Surface frame_;
   int presents_ = 0;
   std::vector<InputEvent> pending_;
+  WakeEvent wake_;
 };
 
 }  // namespace corvane::system

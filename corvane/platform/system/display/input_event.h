@@ -6,18 +6,28 @@
 
 namespace corvane::system {
 
-enum class InputKind { mouse_move, mouse_button, mouse_wheel, mouse_leave, key, text, close, resize, focus };
+enum class InputKind {
+  mouse_move,
+  mouse_button,
+  mouse_wheel,
+  mouse_leave,
+  key,
+  text,
+  close,
+  resize,
+  focus
+};
 
 struct InputEvent {
   InputKind kind = InputKind::mouse_move;
-  POINT position{};      // mouse: screen coordinates; resize: the new size
-  int button = 0;        // mouse_button: VK_LBUTTON, VK_RBUTTON, VK_MBUTTON
-  bool down = false;     // mouse_button, key; focus: gained
-  int wheel = 0;         // mouse_wheel: 120 per notch, positive away from the user
-  int virtual_key = 0;   // key
-  bool repeat = false;   // key: auto-repeat
+  POINT position{};        // mouse: screen coordinates; resize: the new size
+  int button = 0;          // mouse_button: VK_LBUTTON, VK_RBUTTON, VK_MBUTTON
+  bool down = false;       // mouse_button, key; focus: gained
+  int wheel = 0;           // mouse_wheel: 120 per notch, positive away from the user
+  int virtual_key = 0;     // key
+  bool repeat = false;     // key: auto-repeat
   bool makes_char = true;  // key: TranslateMessage makes the WM_CHAR (false when text follows)
-  std::wstring text;     // text: what an input method or the keyboard layout composed
+  std::wstring text;       // text: what an input method or the keyboard layout composed
 };
 
 }  // namespace corvane::system

@@ -1,0 +1,54 @@
+#include "corvane/platform/system/display/open_display.h"
+
+#include <charconv>
+#include <cstdlib>
+#include <string_view>
+
+#include "corvane/platform/system/display/headless_display.h"
+#include "corvane/platform/system/display/sdl/sdl_display.h"
+
+namespace corvane::system {
+
+namespace {
+
+constexpr SIZE default_size{1280, 800};
+constexpr LONG largest_side = 16384;
+
+std::string_view environment(const char* name) {
+  const char* const value = std::getenv(name);
+  return value ? value : "";
+}
+
+// The whole text as a side's length; 0 when it is none.
+LONG side_of(std::string_view text) {
+  LONG side = 0;
+  const char* const end = text.data() + text.size();
+  const auto [stop, error] = std::from_chars(text.data(), end, side);
+  return error == std::errc() && stop == end && side <= largest_side ? side : 0;
+}
+
+SIZE wanted_size() {
+  const std::string_view text = environment("CORVANE_SCREEN");
+  const std::size_t cross = text.find('x');
+  if (cross == std::string_view::npos) return default_size;
+  const SIZE size{side_of(text.substr(0, cross)), side_of(text.substr(cross + 1))};
+  return size.cx > 0 && size.cy > 0 ? size : default_size;
+}
+
+bool has_native_desktop() {
+  return !environment("DISPLAY").empty() || !environment("WAYLAND_DISPLAY").empty();
+}
+
+}  // namespace
+
+std::unique_ptr<Display> open_display() {
+  const SIZE size = wanted_size();
+  const std::string_view kind = environment("CORVANE_DISPLAY");
+  if (kind == "sdl") return SdlDisplay::open(size);
+  if (kind != "headless" && has_native_desktop()) {
+    if (auto display = SdlDisplay::open(size)) return display;
+  }
+  return std::make_unique<HeadlessDisplay>(size);
+}
+
+}  // namespace corvane::system

@@ -1,0 +1,223 @@
+#include "corvane/platform/system/display/sdl/sdl_display.h"
+
+#include <SDL.h>
+
+#include <algorithm>
+#include <climits>
+#include <cstring>
+#include <string_view>
+
+#include "corvane/platform/system/display/sdl/sdl_cursors.h"
+#include "corvane/platform/system/display/sdl/sdl_events.h"
+#include "corvane/platform/system/display/sdl/sdl_waiter.h"
+
+namespace corvane::system {
+
+namespace {
+
+bool is_driver(const char* name) {
+  const char* const driver = SDL_GetCurrentVideoDriver();
+  return driver && std::strcmp(driver, name) == 0;
+}
+
+class VideoSession {
+ public:
+  VideoSession() : started_(SDL_InitSubSystem(SDL_INIT_VIDEO) == 0) {}
+  ~VideoSession() {
+    if (started_) SDL_QuitSubSystem(SDL_INIT_VIDEO);
+  }
+  VideoSession(const VideoSession&) = delete;
+  VideoSession& operator=(const VideoSession&) = delete;
+  // SDL's last resort is a desktop that nobody sees.
+  bool reaches_a_desktop() const {
+    return started_ && !is_driver("offscreen") && !is_driver("dummy") && !is_driver("evdev");
+  }
+
+ private:
+  bool started_;
+};
+
+struct WindowDeleter {
+  void operator()(SDL_Window* window) const { SDL_DestroyWindow(window); }
+};
+
+struct Hint {
+  const char* name;
+  const char* value;
+};
+
+constexpr Hint hints[] = {
+    // Without a graphics processor the accelerated way is many times slower.
+    {SDL_HINT_FRAMEBUFFER_ACCELERATION, "0"},
+    // The process, its signals, and the desktop's habits belong to the host.
+    {SDL_HINT_NO_SIGNAL_HANDLERS, "1"},
+    {SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1"},
+    {SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0"},
+    {SDL_HINT_QUIT_ON_LAST_WINDOW_CLOSE, "0"},
+    // The press that activates the window counts.
+    {SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1"},
+    {SDL_HINT_IME_SHOW_UI, "1"},
+};
+
+// Wayland tells no program where its windows or the pointer are.
+bool knows_desktop_positions() { return !is_driver("wayland"); }
+
+void copy_rect(SDL_Surface& target, const Surface& frame, const RECT& rect,
+               std::vector<Pixel>& scratch) {
+  const int width = rect.right - rect.left;
+  for (int y = rect.top; y < rect.bottom; ++y) {
+    const Pixel* const source = frame.read_row(y, scratch) + rect.left;
+    auto* const row = static_cast<std::uint8_t*>(target.pixels) + y * target.pitch +
+                      rect.left * target.format->BytesPerPixel;
+    if (target.format->format == SDL_PIXELFORMAT_RGB888)
+      std::memcpy(row, source, static_cast<std::size_t>(width) * sizeof(Pixel));
+    else
+      SDL_ConvertPixels(width, 1, SDL_PIXELFORMAT_RGB888, source, width * 4, target.format->format,
+                        row, target.pitch);
+  }
+}
+
+}  // namespace
+
+struct SdlDisplay::Native {
+  VideoSession session;
+  std::unique_ptr<SDL_Window, WindowDeleter> window;
+  std::unique_ptr<SdlWaiter> waiter;
+  SdlCursors cursors;
+  SdlEvents events;
+  bool has_content = false;  // something was presented since the last change of size
+
+  void present(const Surface& frame, const Region& damage);
+  void repaint();
+};
+
+void SdlDisplay::Native::present(const Surface& frame, const Region& damage) {
+  SDL_Surface* const surface = SDL_GetWindowSurface(window.get());
+  if (!surface) return;
+  Region shown = damage;
+  shown.intersect(frame.rect());
+  shown.intersect(RECT{0, 0, surface->w, surface->h});
+  if (shown.empty()) return;
+  std::vector<Pixel> scratch;
+  std::vector<SDL_Rect> updated;
+  for (const RECT& rect : shown.rects()) {
+    copy_rect(*surface, frame, rect, scratch);
+    updated.push_back({rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top});
+  }
+  SDL_UpdateWindowSurfaceRects(window.get(), updated.data(), static_cast<int>(updated.size()));
+  has_content = true;
+  waiter->notice_queued_events();
+}
+
+// The window surface still holds what was presented.
+void SdlDisplay::Native::repaint() {
+  if (has_content && SDL_GetWindowSurface(window.get())) SDL_UpdateWindowSurface(window.get());
+}
+
+std::unique_ptr<SdlDisplay> SdlDisplay::open(SIZE size) {
+  for (const Hint& hint : hints) SDL_SetHint(hint.name, hint.value);
+  auto native = std::make_unique<Native>();
+  if (!native->session.reaches_a_desktop()) return nullptr;
+  const SIZE real{std::max(size.cx, smallest_window.cx), std::max(size.cy, smallest_window.cy)};
+  native->window.reset(SDL_CreateWindow("", SDL_WINDOWPOS_UNDEFINED, SDL_WINDOWPOS_UNDEFINED,
+                                        real.cx, real.cy,
+                                        SDL_WINDOW_HIDDEN | SDL_WINDOW_RESIZABLE));
+  if (!native->window) return nullptr;
+  SDL_SetWindowMinimumSize(native->window.get(), smallest_window.cx, smallest_window.cy);
+  native->waiter = std::make_unique<SdlWaiter>(native->window.get());
+  return std::unique_ptr<SdlDisplay>(new SdlDisplay(std::move(native), real));
+}
+
+SdlDisplay::SdlDisplay(std::unique_ptr<Native> native, SIZE size)
+    : native_(std::move(native)), size_(size), start_(std::chrono::steady_clock::now()) {}
+
+SdlDisplay::~SdlDisplay() = default;
+
+SIZE SdlDisplay::size() const { return size_; }
+
+void SdlDisplay::present(const Surface& frame, const Region& damage) {
+  native_->present(frame, damage);
+}
+
+std::uint64_t SdlDisplay::now() const {
+  const auto passed = std::chrono::steady_clock::now() - start_;
+  return static_cast<std::uint64_t>(
+      std::chrono::duration_cast<std::chrono::milliseconds>(passed).count());
+}
+
+void SdlDisplay::poll(std::vector<InputEvent>& events) {
+  native_->waiter->clear_wake();
+  SDL_Event event;
+  while (SDL_PollEvent(&event)) {
+    const std::size_t before = events.size();
+    native_->events.translate(event, events);
+    if (event.type == SDL_WINDOWEVENT && event.window.event == SDL_WINDOWEVENT_EXPOSED)
+      native_->repaint();
+    if (events.size() > before && events.back().kind == InputKind::resize) {
+      size_ = {events.back().position.x, events.back().position.y};
+      native_->has_content = false;
+    }
+  }
+}
+
+bool SdlDisplay::wait(std::optional<std::uint64_t> deadline) {
+  std::optional<int> timeout;
+  if (deadline) {
+    const std::uint64_t start = now();
+    const std::uint64_t rest = *deadline > start ? *deadline - start : 0;
+    timeout = static_cast<int>(std::min<std::uint64_t>(rest, INT_MAX));
+  }
+  native_->waiter->wait(timeout);
+  return true;
+}
+
+void SdlDisplay::wake() { native_->waiter->wake(); }
+
+int SdlDisplay::event_fd() const { return native_->waiter->fd(); }
+
+void SdlDisplay::set_cursor(CursorShape shape) { native_->cursors.show(shape); }
+
+void SdlDisplay::set_title(const wchar_t* title) {
+  const std::wstring_view text = title ? title : L"";
+  char* const utf8 =
+      SDL_iconv_string("UTF-8", "WCHAR_T", reinterpret_cast<const char*>(text.data()),
+                       (text.size() + 1) * sizeof(wchar_t));
+  if (utf8) SDL_SetWindowTitle(native_->window.get(), utf8);
+  SDL_free(utf8);
+}
+
+void SdlDisplay::set_capture(bool capture) { SDL_CaptureMouse(capture ? SDL_TRUE : SDL_FALSE); }
+
+bool SdlDisplay::move_native_window(int dx, int dy) {
+  if (!knows_desktop_positions()) return false;
+  int x = 0;
+  int y = 0;
+  SDL_GetWindowPosition(native_->window.get(), &x, &y);
+  SDL_SetWindowPosition(native_->window.get(), x + dx, y + dy);
+  native_->waiter->notice_queued_events();
+  return true;
+}
+
+std::optional<POINT> SdlDisplay::native_pointer() const {
+  if (!knows_desktop_positions()) return std::nullopt;
+  int x = 0;
+  int y = 0;
+  SDL_GetGlobalMouseState(&x, &y);
+  native_->waiter->notice_queued_events();
+  return POINT{x, y};
+}
+
+bool SdlDisplay::warp_pointer(POINT point) {
+  if (!(SDL_GetWindowFlags(native_->window.get()) & SDL_WINDOW_SHOWN)) return false;
+  SDL_WarpMouseInWindow(native_->window.get(), point.x, point.y);
+  native_->waiter->notice_queued_events();
+  return true;
+}
+
+void SdlDisplay::show() {
+  SDL_ShowWindow(native_->window.get());
+  SDL_StartTextInput();
+  native_->waiter->notice_queued_events();
+}
+
+}  // namespace corvane::system

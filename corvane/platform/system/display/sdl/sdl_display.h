@@ -1,0 +1,42 @@
+#pragma once
+// One window of the native desktop that shows the whole screen of a window system.
+#include <chrono>
+#include <memory>
+#include <string>
+
+#include "corvane/platform/system/display/display.h"
+
+namespace corvane::system {
+
+class SdlDisplay : public Display {
+ public:
+  // The window stays hidden until show(). Null when the native desktop cannot be reached.
+  static std::unique_ptr<SdlDisplay> open(SIZE size);
+  ~SdlDisplay() override;
+
+  SIZE size() const override;
+  void present(const Surface& frame, const Region& damage) override;
+  std::uint64_t now() const override;
+  void poll(std::vector<InputEvent>& events) override;
+  bool wait(std::optional<std::uint64_t> deadline) override;
+  void wake() override;
+  int event_fd() const override;
+
+  void set_cursor(CursorShape shape) override;
+  void set_title(const wchar_t* title) override;
+  void set_capture(bool capture) override;
+  bool move_native_window(int dx, int dy) override;
+  std::optional<POINT> native_pointer() const override;
+  bool warp_pointer(POINT point) override;
+  void show() override;
+
+ private:
+  struct Native;
+  SdlDisplay(std::unique_ptr<Native> native, SIZE size);
+
+  std::unique_ptr<Native> native_;
+  SIZE size_;
+  std::chrono::steady_clock::time_point start_;
+};
+
+}  // namespace corvane::system

@@ -1,0 +1,103 @@
+#include "corvane/platform/system/display/sdl/sdl_waiter.h"
+
+#include <SDL_syswm.h>
+#include <poll.h>
+#include <sys/epoll.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+
+namespace corvane::system {
+
+namespace {
+
+constexpr int input_method_period = 30;  // milliseconds
+
+int connection_of(SDL_Window* window) {
+#ifdef SDL_VIDEO_DRIVER_X11
+  SDL_SysWMinfo info;
+  SDL_VERSION(&info.version);
+  if (SDL_GetWindowWMInfo(window, &info) && info.subsystem == SDL_SYSWM_X11)
+    return ConnectionNumber(info.info.x11.display);
+#endif
+  (void)window;
+  return -1;
+}
+
+bool watch(int watcher, int fd) {
+  epoll_event interest{};
+  interest.events = EPOLLIN;
+  return epoll_ctl(watcher, EPOLL_CTL_ADD, fd, &interest) == 0;
+}
+
+// One descriptor for both, or -1.
+int watcher_of(int connection, int wake) {
+  if (connection < 0 || wake < 0) return -1;
+  const int watcher = epoll_create1(EPOLL_CLOEXEC);
+  if (watcher < 0) return -1;
+  if (watch(watcher, connection) && watch(watcher, wake)) return watcher;
+  close(watcher);
+  return -1;
+}
+
+// An input method sends its text over a connection of its own, which SDL does not hand out: then
+// sleep is taken in short pieces.
+bool has_input_method() {
+  const char* const module = std::getenv("SDL_IM_MODULE");
+  const char* const modifiers = std::getenv("XMODIFIERS");
+  return (module && *module) ||
+         (modifiers && (std::strstr(modifiers, "@im=ibus") || std::strstr(modifiers, "@im=fcitx")));
+}
+
+bool has_events() {
+  SDL_PumpEvents();
+  return SDL_HasEvents(SDL_FIRSTEVENT, SDL_LASTEVENT) == SDL_TRUE;
+}
+
+}  // namespace
+
+SdlWaiter::SdlWaiter(SDL_Window* window)
+    : watched_(watcher_of(connection_of(window), wake_.fd())) {}
+
+SdlWaiter::~SdlWaiter() {
+  if (watched_ >= 0) close(watched_);
+}
+
+void SdlWaiter::wait(std::optional<int> milliseconds) {
+  if (has_events()) return;
+  if (watched_ >= 0)
+    sleep_watching(milliseconds);
+  else if (milliseconds)
+    SDL_WaitEventTimeout(nullptr, *milliseconds);
+  else
+    SDL_WaitEvent(nullptr);
+}
+
+void SdlWaiter::sleep_watching(std::optional<int> milliseconds) const {
+  pollfd watched{watched_, POLLIN, 0};
+  if (!has_input_method()) {
+    poll(&watched, 1, milliseconds.value_or(-1));
+    return;
+  }
+  for (int rest = milliseconds.value_or(input_method_period); rest > 0;) {
+    const int piece = std::min(rest, input_method_period);
+    if (poll(&watched, 1, piece) != 0 || has_events()) return;
+    if (milliseconds) rest -= piece;
+  }
+}
+
+void SdlWaiter::wake() {
+  wake_.set();
+  if (watched_ >= 0) return;
+  SDL_Event event{};
+  event.type = SDL_USEREVENT;
+  SDL_PushEvent(&event);
+}
+
+void SdlWaiter::notice_queued_events() {
+  if (watched_ >= 0 && has_events()) wake_.set();
+}
+
+}  // namespace corvane::system

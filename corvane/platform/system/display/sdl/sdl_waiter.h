@@ -1,0 +1,34 @@
+#pragma once
+#include <SDL.h>
+
+#include <optional>
+
+#include "corvane/platform/system/display/wake_event.h"
+
+namespace corvane::system {
+
+// Sleeps until SDL has an event, or a call from another thread. SDL's own waiting looks around
+// every millisecond with some drivers; under X11 the connection to the server is watched instead.
+class SdlWaiter {
+ public:
+  explicit SdlWaiter(SDL_Window* window);
+  ~SdlWaiter();
+  SdlWaiter(const SdlWaiter&) = delete;
+  SdlWaiter& operator=(const SdlWaiter&) = delete;
+
+  void wait(std::optional<int> milliseconds);  // nothing: for ever
+  void wake();                                 // from any thread
+  void clear_wake() { wake_.clear(); }
+  // To be called after a round trip to the server, which may have read events that the descriptor
+  // no longer tells of.
+  void notice_queued_events();
+  int fd() const { return watched_; }  // -1: there is nothing to watch
+
+ private:
+  void sleep_watching(std::optional<int> milliseconds) const;
+
+  WakeEvent wake_;
+  int watched_;  // readable: input or a wake
+};
+
+}  // namespace corvane::system

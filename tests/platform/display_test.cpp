@@ -1,0 +1,150 @@
+#include <gtest/gtest.h>
+#include <poll.h>
+
+#include <cstdlib>
+#include <thread>
+
+#include "corvane/platform/system/display/headless_display.h"
+#include "corvane/platform/system/display/open_display.h"
+
+namespace corvane::system {
+namespace {
+
+bool readable(int fd) {
+  pollfd watched{fd, POLLIN, 0};
+  return poll(&watched, 1, 0) == 1;
+}
+
+TEST(HeadlessDisplay, PresentsOnlyTheDamage) {
+  HeadlessDisplay display({20, 10});
+  Surface frame(20, 10, 0xFF112233);
+  display.present(frame, Region(frame.rect()));
+  frame.fill(frame.rect(), 0xFF445566);
+  frame.row(4)[5] = 0xFF00FF00;
+  Region damage({5, 4, 7, 5});
+  damage.unite(RECT{-5, 8, 40, 40});
+  display.present(frame, damage);
+
+  EXPECT_EQ(display.presents(), 2);
+  EXPECT_EQ(display.frame().at(4, 4), 0xFF112233);
+  EXPECT_EQ(display.frame().at(5, 4), 0xFF00FF00);
+  EXPECT_EQ(display.frame().at(6, 4), 0xFF445566);
+  EXPECT_EQ(display.frame().at(7, 4), 0xFF112233);
+  EXPECT_EQ(display.frame().at(19, 7), 0xFF112233);
+  EXPECT_EQ(display.frame().at(0, 9), 0xFF445566);
+}
+
+TEST(HeadlessDisplay, PresentsAFrameOfAnotherSizeWhereBothAre) {
+  HeadlessDisplay display({10, 10});
+  display.present(Surface(30, 4, 0xFFABCDEF), Region({0, 0, 30, 30}));
+  EXPECT_EQ(display.frame().at(9, 3), 0xFFABCDEF);
+  EXPECT_EQ(display.frame().at(9, 4), 0u);
+}
+
+TEST(HeadlessDisplay, ClockMovesOnlyWhenToldOrWhenAWaitWouldSleep) {
+  HeadlessDisplay display;
+  const std::uint64_t start = display.now();
+  EXPECT_FALSE(display.wait(std::nullopt));
+  EXPECT_EQ(display.now(), start);
+
+  EXPECT_TRUE(display.wait(start + 40));
+  EXPECT_EQ(display.now(), start + 40);
+  EXPECT_TRUE(display.wait(start));
+  EXPECT_EQ(display.now(), start + 40) << "time goes back";
+
+  display.push({});
+  EXPECT_TRUE(display.wait(start + 900));
+  EXPECT_EQ(display.now(), start + 40) << "slept although input was there";
+}
+
+TEST(HeadlessDisplay, WakesFromAnotherThread) {
+  HeadlessDisplay display;
+  std::thread([&] { display.wake(); }).join();
+  EXPECT_TRUE(readable(display.event_fd()));
+  EXPECT_TRUE(display.wait(std::nullopt));
+  EXPECT_FALSE(display.wait(std::nullopt)) << "one wake ends one wait";
+}
+
+TEST(HeadlessDisplay, DescriptorTellsOfInput) {
+  HeadlessDisplay display({100, 100});
+  EXPECT_FALSE(readable(display.event_fd()));
+  display.resize({300, -1});
+  EXPECT_TRUE(readable(display.event_fd()));
+  std::vector<InputEvent> events;
+  display.poll(events);
+  ASSERT_EQ(events.size(), 1u);
+  EXPECT_EQ(events[0].kind, InputKind::resize);
+  EXPECT_EQ(events[0].position.x, 300);
+  EXPECT_EQ(display.size().cy, 0);
+  EXPECT_FALSE(readable(display.event_fd()));
+}
+
+class Environment {
+ public:
+  void set(const char* name, const char* value) {
+    const char* const old = std::getenv(name);
+    saved_.push_back({name, old ? old : "", old != nullptr});
+    if (value)
+      setenv(name, value, 1);
+    else
+      unsetenv(name);
+  }
+  ~Environment() {
+    for (auto one = saved_.rbegin(); one != saved_.rend(); ++one)
+      one->was_set ? setenv(one->name, one->value.c_str(), 1) : unsetenv(one->name);
+  }
+
+ private:
+  struct Saved {
+    const char* name;
+    std::string value;
+    bool was_set;
+  };
+  std::vector<Saved> saved_;
+};
+
+struct Choice {
+  const char* kind;
+  const char* screen;
+  const char* native;
+  SIZE size;
+};
+
+TEST(OpenDisplay, ChoosesMemoryAndSize) {
+  const Choice choices[] = {
+      {"headless", nullptr, nullptr, {1280, 800}},
+      {nullptr, nullptr, nullptr, {1280, 800}},
+      {nullptr, "640x480", ":no-such-server", {640, 480}},
+      {"unknown", "16384x1", nullptr, {16384, 1}},
+      {"headless", "16385x100", nullptr, {1280, 800}},
+      {"headless", "0x100", nullptr, {1280, 800}},
+      {"headless", "-5x100", nullptr, {1280, 800}},
+      {"headless", "640x480x2", nullptr, {1280, 800}},
+      {"headless", "640", nullptr, {1280, 800}},
+      {"headless", "x", nullptr, {1280, 800}},
+  };
+  for (const Choice& choice : choices) {
+    Environment environment;
+    environment.set("WAYLAND_DISPLAY", nullptr);
+    environment.set("SDL_VIDEODRIVER", nullptr);
+    environment.set("CORVANE_DISPLAY", choice.kind);
+    environment.set("CORVANE_SCREEN", choice.screen);
+    environment.set("DISPLAY", choice.native);
+    const std::unique_ptr<Display> display = open_display();
+    ASSERT_NE(dynamic_cast<HeadlessDisplay*>(display.get()), nullptr);
+    EXPECT_EQ(display->size().cx, choice.size.cx) << (choice.screen ? choice.screen : "");
+    EXPECT_EQ(display->size().cy, choice.size.cy) << (choice.screen ? choice.screen : "");
+  }
+}
+
+TEST(OpenDisplay, AWindowThatCannotBeOpenedIsNone) {
+  Environment environment;
+  environment.set("WAYLAND_DISPLAY", nullptr);
+  environment.set("SDL_VIDEODRIVER", nullptr);
+  environment.set("CORVANE_DISPLAY", "sdl");
+  environment.set("DISPLAY", ":no-such-server");
+  EXPECT_EQ(open_display(), nullptr);
+}
+
+}  // namespace
+}  // namespace corvane::system

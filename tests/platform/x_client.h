@@ -1,0 +1,40 @@
+#pragma once
+// Another client of the X server: what it sees of the windows, and what it can do to them.
+#include <cstdint>
+#include <string>
+
+namespace corvane::system {
+
+class XClient {
+ public:
+  XClient();
+  ~XClient();
+  XClient(const XClient&) = delete;
+  XClient& operator=(const XClient&) = delete;
+
+  bool connected() const { return connection_ != nullptr; }
+
+  // A top-level window by its UTF-8 title, 0 when there is none.
+  unsigned long window_named(const std::string& title) const;
+  struct Place {
+    int x, y, width, height;
+    bool shown;
+  };
+  Place place(unsigned long window) const;
+  // 0x00RRGGBB of a pixel in a shown window.
+  std::uint32_t pixel(unsigned long window, int x, int y) const;
+
+  // Wipes the middle of a window and tells it to paint there.
+  void damage(unsigned long window, std::uint32_t color) const;
+  void ask_to_close(unsigned long window) const;
+  void take_focus_away() const;
+  // Makes a key of the keyboard write another symbol.
+  void map_key(int key, unsigned long symbol) const;
+
+ private:
+  std::string title_of(unsigned long window) const;
+  struct Connection;
+  Connection* connection_;
+};
+
+}  // namespace corvane::system
