@@ -9,19 +9,24 @@ namespace {
 
 enum class Deed { delete_self, destroy_self, delete_parent };
 
+struct Count {
+  int alive = 0;
+  int deeds = 0;
+};
+
 // Does the deed at the first message `trigger`, in the handler that the message map names.
 class FragileWnd : public WatchedWnd {
  public:
-  FragileWnd(UINT trigger, Deed deed, WatchedWnd* parent, int* alive)
-      : trigger_(trigger), deed_(deed), parent_(parent), alive_(alive) {
-    ++*alive_;
+  FragileWnd(UINT trigger, Deed deed, WatchedWnd* parent, Count* count)
+      : trigger_(trigger), deed_(deed), parent_(parent), count_(count) {
+    ++count_->alive;
   }
-  ~FragileWnd() override { --*alive_; }
+  ~FragileWnd() override { --count_->alive; }
   const MessageMap* GetMessageMap() const override;
 
  protected:
-  void Plain() { Default(), act(); }
-  void Mouse(UINT, CPoint) { Default(), act(); }
+  void Plain() { act_or_default(); }
+  void Mouse(UINT, CPoint) { act_or_default(); }
   BOOL Wheel(UINT, short, CPoint) { return act(), FALSE; }
   int Create(LPCREATESTRUCT) { return act(), 0; }
   void Size(UINT, int, int) { act(); }
@@ -36,7 +41,7 @@ class FragileWnd : public WatchedWnd {
   void Enable(BOOL) { act(); }
   void Activate(UINT, CWnd*, BOOL) { act(); }
   void SysCommand(UINT, LPARAM) { act(); }
-  void Position(WINDOWPOS*) { Default(), act(); }
+  void Position(WINDOWPOS*) { act_or_default(); }
   LRESULT Generic(WPARAM, LPARAM) { return act(), TRUE; }
   void Paint() {
     CPaintDC dc(this);
@@ -50,10 +55,17 @@ class FragileWnd : public WatchedWnd {
   }
 
  private:
+  // The default handling may bring a nested message that deletes the object.
+  void act_or_default() {
+    if (GetCurrentMessage()->message == trigger_)
+      act();
+    else
+      Default();
+  }
   void act() { act(GetCurrentMessage()->message); }
   void act(UINT message) {
-    if (message != trigger_ || done_) return;
-    done_ = true;
+    if (message != trigger_ || count_->deeds > 0) return;
+    ++count_->deeds;
     if (deed_ == Deed::delete_self)
       delete this;
     else if (deed_ == Deed::destroy_self)
@@ -65,8 +77,7 @@ class FragileWnd : public WatchedWnd {
   UINT trigger_;
   Deed deed_;
   WatchedWnd* parent_;
-  int* alive_;
-  bool done_ = false;
+  Count* count_;
 };
 
 const MessageMap* FragileWnd::GetMessageMap() const {
@@ -167,7 +178,7 @@ class FrameworkDeletion : public testing::TestWithParam<std::tuple<UINT, Deed>> 
 
 TEST_P(FrameworkDeletion, LeavesNoTraceBehind) {
   const auto [trigger, deed] = GetParam();
-  int alive = 0;
+  Count count;
   FrameworkDesktop desktop;
   {
     WatchedWnd main;
@@ -175,15 +186,16 @@ TEST_P(FrameworkDeletion, LeavesNoTraceBehind) {
     auto* parent = new WatchedWnd;
     ASSERT_TRUE(parent->create(main, WS_CHILD | WS_VISIBLE));
     const HWND parent_handle = *parent;
-    auto* fragile = new FragileWnd(trigger, deed, parent, &alive);
+    auto* fragile = new FragileWnd(trigger, deed, parent, &count);
     HWND handle = nullptr;
     fragile->create(parent_handle, WS_CHILD, CRect(40, 40, 120, 120));
     handle = ::GetWindow(parent_handle, GW_CHILD);
     go_through_everything(desktop, handle);
     EXPECT_FALSE(::IsWindow(handle));
-    EXPECT_EQ(::IsWindow(parent_handle), deed != Deed::delete_parent) << "the deed was done";
-    EXPECT_EQ(alive, deed == Deed::delete_self ? 0 : 1) << "the deed was done";
-    if (alive) {
+    EXPECT_EQ(count.deeds, 1);
+    EXPECT_EQ(::IsWindow(parent_handle), deed != Deed::delete_parent);
+    EXPECT_EQ(count.alive, deed == Deed::delete_self ? 0 : 1);
+    if (count.alive) {
       EXPECT_EQ(fragile->GetSafeHwnd(), nullptr);
       delete fragile;
     }
@@ -208,15 +220,15 @@ INSTANTIATE_TEST_SUITE_P(EveryMessage, FrameworkDeletion,
                          name_of);
 
 TEST(FrameworkDeletionAtTheEnd, PostNcDestroyMayDeleteTheObject) {
-  int alive = 0;
+  Count count;
   FrameworkDesktop desktop;
-  auto* window = new FragileWnd(WM_NULL, Deed::delete_self, nullptr, &alive);
+  auto* window = new FragileWnd(WM_NULL, Deed::delete_self, nullptr, &count);
   ASSERT_TRUE(window->create());
   window->DestroyWindow();
-  EXPECT_EQ(alive, 0);
-  auto* failing = new FragileWnd(WM_NULL, Deed::delete_self, nullptr, &alive);
+  EXPECT_EQ(count.alive, 0);
+  auto* failing = new FragileWnd(WM_NULL, Deed::delete_self, nullptr, &count);
   EXPECT_FALSE(failing->CreateEx(0, L"no such class", L"", 0, CRect(), nullptr, 0));
-  EXPECT_EQ(alive, 0);
+  EXPECT_EQ(count.alive, 0);
 }
 
 }  // namespace

@@ -17,26 +17,33 @@ WindowHook::WindowHook(CWnd* object)
 }
 
 WindowHook::~WindowHook() {
-  if (hook_) ::UnhookWindowsHookEx(hook_);
+  unhook();
   state_.creation = outer_;
   if (waiting_) {
     waiting_->PostNcDestroy();
     return;
   }
-  // The creation was refused before the window's first message.
+  // The window ended without its last message.
   CWnd* object = state_.handles.permanent(window_);
   if (object && !::IsWindow(window_)) finish(*object);
+}
+
+void WindowHook::unhook() {
+  if (const HHOOK hook = std::exchange(hook_, nullptr)) ::UnhookWindowsHookEx(hook);
 }
 
 LRESULT CALLBACK WindowHook::on_creation(int code, WPARAM wparam, LPARAM lparam) {
   WindowHook* innermost = ThreadState::current().creation;
   if (!innermost) return 0;
-  if (code == HCBT_CREATEWND && innermost->waiting_)
+  const LRESULT refused = ::CallNextHookEx(innermost->hook_, code, wparam, lparam);
+  if (code == HCBT_CREATEWND && innermost->waiting_ && !refused)
     innermost->adopt(reinterpret_cast<HWND>(wparam));
-  return ::CallNextHookEx(innermost->hook_, code, wparam, lparam);
+  return refused;
 }
 
 void WindowHook::adopt(HWND window) {
+  // Before any handler can create another window: the thread has one such hook at a time.
+  unhook();
   CWnd& object = *std::exchange(waiting_, nullptr);
   window_ = window;
   object.m_hWnd = window;

@@ -26,6 +26,7 @@ class WindowHook {
   static LRESULT CALLBACK on_creation(int code, WPARAM wparam, LPARAM lparam);
   static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
   void adopt(HWND window);
+  void unhook();
 
   ThreadState& state_;
   WindowHook* outer_;
