@@ -21,14 +21,6 @@ LRESULT to_parent(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
   return send(found->parent->handle, message, wparam, lparam);
 }
 
-LRESULT on_nc_create(HWND window, LPARAM lparam) {
-  auto* create = reinterpret_cast<const CREATESTRUCTW*>(lparam);
-  if (create != nullptr && create->lpszName != nullptr && !IS_INTRESOURCE(create->lpszName)) {
-    SendMessageW(window, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(create->lpszName));
-  }
-  return TRUE;
-}
-
 LRESULT on_set_text(HWND window, LPARAM lparam) {
   Window* found = find(window);
   if (found == nullptr) return FALSE;
@@ -36,6 +28,14 @@ LRESULT on_set_text(HWND window, LPARAM lparam) {
   found->text = text == nullptr ? L"" : text;
   bool names_the_program = is_top_level(*found) && found->owner == nullptr;
   if (names_the_program) corvane::system::system()->display->set_title(found->text.c_str());
+  return TRUE;
+}
+
+LRESULT on_nc_create(HWND window, LPARAM lparam) {
+  auto* create = reinterpret_cast<const CREATESTRUCTW*>(lparam);
+  if (create != nullptr && create->lpszName != nullptr && !IS_INTRESOURCE(create->lpszName)) {
+    on_set_text(window, reinterpret_cast<LPARAM>(create->lpszName));
+  }
   return TRUE;
 }
 

@@ -16,18 +16,16 @@ bool usable(HWND window) {
   return false;
 }
 
-// Copies the program's pixels into a new surface of the window.
-void take_content(Window& window, HDC source, POINT from, SIZE size) {
-  POINT origin{};
-  std::shared_ptr<Surface> pixels = corvane::system::system()->gdi.dc_surface(source, &origin);
+// Copies the program's pixels into a new surface of the window. What lies beyond them is clear.
+void take_content(Window& window, const Surface& pixels, POINT from, SIZE size) {
   auto content = std::make_shared<Surface>(size.cx, size.cy);
-  int left = origin.x + from.x;
-  int top = origin.y + from.y;
-  for (int y = 0; pixels != nullptr && y < size.cy; ++y) {
-    for (int x = 0; x < size.cx; ++x) {
-      Pixel pixel = pixels->at(left + x, top + y);
-      if (pixel != 0) content->row(y)[x] = pixel;
-    }
+  int first = std::max<int>(0, -from.x);
+  int last = std::min<int>(size.cx, pixels.width() - from.x);
+  std::vector<Pixel> scratch;
+  for (int y = 0; y < size.cy && first < last; ++y) {
+    const Pixel* row = pixels.read_row(from.y + y, scratch);
+    if (row != nullptr)
+      std::copy(row + from.x + first, row + from.x + last, content->row(y) + first);
   }
   window.surface = std::move(content);
 }
@@ -77,10 +75,19 @@ BOOL UpdateLayeredWindow(HWND window, HDC, POINT* position, SIZE* size, HDC sour
     return FALSE;
   }
   System& state = *corvane::system::system();
+  POINT origin{};
+  std::shared_ptr<Surface> pixels = state.gdi.dc_surface(source, &origin);
+  if (source != nullptr && pixels == nullptr) {
+    SetLastError(ERROR_INVALID_HANDLE);
+    return FALSE;
+  }
   damage_frame(state, *found);
   SIZE extent = size == nullptr ? SIZE{found->width(), found->height()} : *size;
   place(*found, position, extent);
-  if (source != nullptr) take_content(*found, source, *source_point, extent);
+  if (pixels != nullptr) {
+    POINT from{origin.x + source_point->x, origin.y + source_point->y};
+    take_content(*found, *pixels, from, extent);
+  }
   LayeredState& layered = found->layered;
   layered.content = true;
   layered.keyed = (flags & ULW_COLORKEY) != 0;

@@ -118,13 +118,14 @@ class MoveLoop {
 void run_move_loop(HWND window) {
   System* state = system();
   if (state == nullptr || state->find(window) == nullptr) return;
+  MoveLoop loop(*state, window);
   MINMAXINFO info{};
   send(window, WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&info));
   send(window, WM_ENTERSIZEMOVE);
   if (state->find(window) == nullptr) return;
   SetCapture(window);
   if (state->find(window) == nullptr) return;
-  MoveLoop(*state, window).run();
+  loop.run();
   if (state->input.capture == window) ReleaseCapture();
   send(window, WM_EXITSIZEMOVE);
 }

@@ -10,7 +10,9 @@ namespace {
 // A region of many small pieces costs more than painting its bounds.
 constexpr int kMostPieces = 64;
 
+// A window whose pixels the program supplies is never asked to paint.
 bool records_updates(const Window& window) {
+  if (window.layered.content) return false;
   for (const Window* it = &window; it->parent != nullptr; it = it->parent) {
     if (!it->redraw) return false;
   }

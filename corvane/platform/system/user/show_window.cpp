@@ -149,8 +149,8 @@ BOOL ShowWindow(HWND window, int command) {
 }
 
 BOOL IsWindowVisible(HWND window) {
-  Window* found = find(window);
-  return found != nullptr && found->parent != nullptr && shown_on_screen(*found);
+  Window* found = checked(window);
+  return found != nullptr && found->parent != nullptr && found->redraw && shown_on_screen(*found);
 }
 
 }  // namespace corvane_system

@@ -21,6 +21,11 @@ constexpr int kLargest = 32767;
 int near_enough(int coordinate) { return std::clamp(coordinate, -kFarthest, kFarthest); }
 int possible_size(int size) { return std::clamp(size, 0, kLargest); }
 
+bool names_a_place(HWND insert_after) {
+  return insert_after == HWND_TOP || insert_after == HWND_BOTTOM || insert_after == HWND_TOPMOST ||
+         insert_after == HWND_NOTOPMOST || checked(insert_after) != nullptr;
+}
+
 void normalise(const Window& window, WINDOWPOS& position) {
   if ((position.flags & SWP_NOMOVE) != 0) {
     position.x = window.frame.left;
@@ -92,6 +97,7 @@ bool anything_to_do(const WINDOWPOS& position, bool reordered) {
 BOOL SetWindowPos(HWND window, HWND insert_after, int x, int y, int width, int height, UINT flags) {
   Window* found = checked(window);
   if (found == nullptr || found->parent == nullptr) return FALSE;
+  if ((flags & SWP_NOZORDER) == 0 && !names_a_place(insert_after)) return FALSE;
   WINDOWPOS position{window, insert_after, x, y, width, height, flags};
   if (!shown_on_screen(*found)) position.flags |= SWP_NOREDRAW;
   normalise(*found, position);

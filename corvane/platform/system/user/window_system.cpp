@@ -96,7 +96,12 @@ int WindowSystem::event_fd() const { return impl_->display->event_fd(); }
 void WindowSystem::present() { present_now(*impl_); }
 
 const Surface& WindowSystem::frame() {
-  present_now(*impl_);
+  if (impl_->display_shown) {
+    present_now(*impl_);
+  } else {
+    // The display gets this damage when it is first shown.
+    impl_->frame_damage = compose_damage(*impl_);
+  }
   return impl_->frame;
 }
 
