@@ -1,0 +1,47 @@
+#pragma once
+// A window system in memory, buffers of one colour and a small picture.
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "corvane/platform/drawing/buffer_dc.h"
+#include "corvane/platform/drawing/gdi_dc.h"
+#include "corvane/platform/system/display/headless_display.h"
+#include "corvane/platform/system/user/window_system.h"
+
+namespace corvane::test {
+
+constexpr COLORREF kBlack = RGB(0, 0, 0), kWhite = RGB(255, 255, 255), kRed = RGB(255, 0, 0),
+                   kGreen = RGB(0, 255, 0), kBlue = RGB(0, 0, 255);
+
+class DrawingTest : public testing::Test {
+ protected:
+  // A picture of 2 x 2 blocks: red, green above blue, clear.
+  static Gdiplus::Bitmap quarters(int size) {
+    std::vector<std::uint32_t> pixels;
+    for (int y = 0; y < size; ++y) {
+      for (int x = 0; x < size; ++x) {
+        const bool right = x >= size / 2, below = y >= size / 2;
+        pixels.push_back(below ? (right ? 0x00000000 : 0xFF0000FF)
+                               : (right ? 0xFF00FF00 : 0xFFFF0000));
+      }
+    }
+    return Gdiplus::Bitmap(size, size, size * 4, Gdiplus::PixelFormat32bppARGB,
+                           reinterpret_cast<BYTE*>(pixels.data()));
+  }
+  static CBufferDC buffer(int width, int height, COLORREF color) {
+    CBufferDC result;
+    const CRect rect(0, 0, width, height);
+    EXPECT_TRUE(result.CreateBufferDC(nullptr, rect));
+    result.SetBackColor(rect, color);
+    return result;
+  }
+  int live_objects() { return windows_.gdi().live_objects(); }
+
+  system::WindowSystem windows_{std::make_unique<system::HeadlessDisplay>(SIZE{200, 100})};
+  CGdiDC drawing_;
+};
+
+}  // namespace corvane::test
