@@ -107,8 +107,10 @@ void draw_layout(DeviceContext& dc, const TextLayout& layout, const RECT& rect, 
                  int top) {
   Region clip = dc.clip();
   if (!(format & DT_NOCLIP)) clip.intersect(dc.to_surface(rect));
+  const LONG behind = clip.bounds().bottom + layout.metrics().height;
   for (int line = 0; line < layout.line_count(); ++line) {
     const int y = offset_by(top, line * layout.metrics().height);
+    if (dc.to_surface(0, y).y > behind) break;
     const int x = line_left(rect, layout.line_width(line), format);
     draw_line(dc, layout, {line, dc.to_surface(x, y)}, clip);
   }

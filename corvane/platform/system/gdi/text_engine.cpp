@@ -93,36 +93,31 @@ PangoAttrList* attributes_of(const LOGFONTW& font, const TextRequest& request) {
   return list;
 }
 
-int pixels_of(int pango_units) { return PANGO_PIXELS_CEIL(pango_units); }
-
 }  // namespace
 
 TextLayout::TextLayout(PangoLayout* owned, const FontMetrics& metrics)
-    : layout_(owned), metrics_(metrics) {}
+    : layout_(owned), metrics_(metrics) {
+  for (GSList* item = pango_layout_get_lines_readonly(owned); item; item = item->next) {
+    auto* line = static_cast<PangoLayoutLine*>(item->data);
+    PangoRectangle logical;
+    pango_layout_line_get_extents(line, nullptr, &logical);
+    lines_.push_back({line, PANGO_PIXELS_CEIL(logical.width)});
+  }
+}
 
 TextLayout::~TextLayout() { g_object_unref(layout_); }
 
-int TextLayout::line_count() const { return pango_layout_get_line_count(layout_); }
-
-int TextLayout::line_width(int line) const {
-  PangoLayoutLine* found = pango_layout_get_line_readonly(layout_, line);
-  if (!found) return 0;
-  PangoRectangle logical;
-  pango_layout_line_get_extents(found, nullptr, &logical);
-  return pixels_of(logical.width);
-}
+int TextLayout::line_width(int line) const { return lines_[static_cast<std::size_t>(line)].width; }
 
 int TextLayout::width() const {
   int widest = 0;
-  for (int line = 0; line < line_count(); ++line) widest = std::max(widest, line_width(line));
+  for (const Line& line : lines_) widest = std::max(widest, line.width);
   return widest;
 }
 
 void TextLayout::draw_line(cairo_t* cairo, int line, double x, double y) const {
-  PangoLayoutLine* found = pango_layout_get_line_readonly(layout_, line);
-  if (!found) return;
   cairo_move_to(cairo, x, y + metrics_.ascent);
-  pango_cairo_show_layout_line(cairo, found);
+  pango_cairo_show_layout_line(cairo, lines_[static_cast<std::size_t>(line)].line);
 }
 
 TextEngine::TextEngine()

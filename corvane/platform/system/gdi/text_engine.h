@@ -8,10 +8,13 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
+#include <vector>
 
 #include "corvane/platform/system/gdi/gdi_api.h"
 
 typedef struct _PangoLayout PangoLayout;
+typedef struct _PangoLayoutLine PangoLayoutLine;
 typedef struct _PangoContext PangoContext;
 typedef struct _PangoFontDescription PangoFontDescription;
 
@@ -43,7 +46,7 @@ class TextLayout {
   TextLayout& operator=(const TextLayout&) = delete;
 
   const FontMetrics& metrics() const { return metrics_; }
-  int line_count() const;
+  int line_count() const { return static_cast<int>(lines_.size()); }
   int line_width(int line) const;  // pixels
   int width() const;               // of the widest line
   int height() const { return line_count() * metrics_.height; }
@@ -51,8 +54,13 @@ class TextLayout {
   void draw_line(cairo_t* cairo, int line, double x, double y) const;
 
  private:
+  struct Line {
+    PangoLayoutLine* line;  // of layout_
+    int width;
+  };
   PangoLayout* layout_;
   FontMetrics metrics_;
+  std::vector<Line> lines_;
 };
 
 class TextEngine {
