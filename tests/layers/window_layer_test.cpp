@@ -53,6 +53,15 @@ class WindowLayerTest : public LayerTest {
     host_.forget();
   }
 
+  // Presses the layer and drags what the press takes hold of.
+  void drag_by_layer(POINT from, POINT to) {
+    host_.on_drag_begin = [this, to] {
+      ::SetCursorPos(to.x, to.y);
+      desktop_.queue_release();
+    };
+    desktop_.press(from.x, from.y);
+  }
+
   void resize_layer(int width, int height) {
     layer_.MoveWindow(layer_place.left, layer_place.top, width, height, TRUE);
     desktop_.pump();
@@ -131,7 +140,7 @@ TEST_F(WindowLayerTest, ClickPostsOnceAndDragsNothing) {
 
 TEST_F(WindowLayerTest, PressBesideTheButtonsDragsTheParent) {
   create({11});
-  desktop_.drag_in_one_go(on_screen(200, 80), on_screen(225, 70));
+  drag_by_layer(on_screen(200, 80), on_screen(225, 70));
   EXPECT_THAT(window_rect(host_), is_rect(host_place.left + 25, host_place.top - 10,
                                           host_place.right + 25, host_place.bottom - 10));
   EXPECT_EQ(host_.count(WM_LAYER_BTN_CLICK), 0U);
@@ -145,7 +154,7 @@ TEST_F(WindowLayerTest, WithoutASkinTheSurfaceStillDrags) {
   layer_.AddBtn(11);
   create_window();
   EXPECT_EQ(::GetDlgItem(layer_, 11), nullptr);
-  desktop_.drag_in_one_go(on_screen(20, 20), on_screen(23, 20));
+  drag_by_layer(on_screen(20, 20), on_screen(23, 20));
   EXPECT_EQ(window_rect(host_).left, host_place.left + 3);
 }
 

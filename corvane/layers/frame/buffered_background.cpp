@@ -4,13 +4,14 @@
 
 namespace corvane {
 
-bool BufferedBackground::rebuild(const CWnd& layer, CDC* like, COLORREF color) {
+bool BufferedBackground::rebuild(CWnd& layer, CDC* like, COLORREF color) {
   CRect client;
   layer.GetClientRect(client);
   if (client.Size() == rect().Size()) return false;
   buffer_.Release();
   buffer_.CreateBufferDC(like ? like->GetSafeHdc() : nullptr, client);
   buffer_.SetBackColor(client, color);
+  layer.Invalidate(FALSE);
   return true;
 }
 

@@ -11,8 +11,9 @@ namespace corvane {
 class BufferedBackground {
  public:
   // Called when the layer is to erase its background. True: the layer's client size has changed,
-  // and the background is new and of one colour, ready for images. `like` may be null.
-  bool rebuild(const CWnd& layer, CDC* like, COLORREF color);
+  // and the background is new and of one colour, ready for images; all of it will be painted, also
+  // where the window's class keeps what was there. `like` may be null.
+  bool rebuild(CWnd& layer, CDC* like, COLORREF color);
   // The whole of a WM_PAINT handler.
   void show(CWnd& layer, const Liveness& liveness);
 

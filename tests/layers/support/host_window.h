@@ -1,6 +1,7 @@
 #pragma once
 // The host of the layers under test: shows a picture that is known everywhere and keeps the
 // library's messages and the keys that reach it.
+#include <functional>
 #include <vector>
 
 #include "corvane/platform/framework/framework.h"
@@ -25,6 +26,8 @@ class HostWindow : public corvane::CWnd {
   std::vector<Received> of(UINT message) const;
   std::size_t count(UINT message) const { return of(message).size(); }
   void forget() { received_.clear(); }
+  // Called when the window begins to be dragged, which keeps the loop until the release.
+  std::function<void()> on_drag_begin;
 
  protected:
   LRESULT WindowProc(UINT message, WPARAM wparam, LPARAM lparam) override;

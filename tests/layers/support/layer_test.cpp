@@ -42,8 +42,10 @@ void Desktop::press(int x, int y) {
   pump();
 }
 
+void Desktop::queue_release() { send_button(MOUSEEVENTF_LEFTUP); }
+
 void Desktop::release() {
-  send_button(MOUSEEVENTF_LEFTUP);
+  queue_release();
   pump();
   display_.advance(1000);  // the next press begins no double click
 }
@@ -57,13 +59,6 @@ void Desktop::drag(POINT from, POINT to) {
   press(from.x, from.y);
   move_to((from.x + to.x) / 2, (from.y + to.y) / 2);
   move_to(to.x, to.y);
-  release();
-}
-
-void Desktop::drag_in_one_go(POINT from, POINT to) {
-  move_to(from.x, from.y);
-  send_button(MOUSEEVENTF_LEFTDOWN);
-  ::SetCursorPos(to.x, to.y);
   release();
 }
 

@@ -25,11 +25,10 @@ class Desktop {
   void move_to(int x, int y);
   void press(int x, int y);
   void release();
+  void queue_release();  // does not pump
   void click(int x, int y);
   // Presses, moves in steps and releases.
   void drag(POINT from, POINT to);
-  // The same as one burst of input: for a press whose handler keeps the loop until the release.
-  void drag_in_one_go(POINT from, POINT to);
   void key(int virtual_key);  // down and up
 
   COLORREF pixel(int x, int y);
