@@ -143,8 +143,9 @@ TEST_F(WheelTest, RoutingParameterSaysUnderThePointerByDefault) {
 }
 
 TEST_F(WheelTest, RoutedToTheFocusWindowWhenTheParameterSaysSo) {
-  DWORD routing = MOUSEWHEEL_ROUTING_FOCUS;
-  ASSERT_NE(SystemParametersInfoW(SPI_SETMOUSEWHEELROUTING, 0, &routing, 0), 0);
+  // The value itself stands in place of the pointer; here it is 0.
+  static_assert(MOUSEWHEEL_ROUTING_FOCUS == 0);
+  ASSERT_NE(SystemParametersInfoW(SPI_SETMOUSEWHEELROUTING, 0, nullptr, 0), 0);
   SetFocus(other_);
   move_to(160, 170);
   wheel(WHEEL_DELTA);

@@ -79,11 +79,10 @@ TEST_F(DragTest, ReleaseWithoutAMove) {
 
 TEST_F(DragTest, WindowHasTheCaptureMeanwhile) {
   HWND captured = nullptr;
-  drag({[&] {
+  drag({move_pointer(120, 120), [&] {
           captured = GetCapture();
-          SetCursorPos(120, 120);
-        },
-        button_up()});
+          send_mouse(MOUSEEVENTF_LEFTUP);
+        }});
   EXPECT_EQ(captured, popup_);
   EXPECT_EQ(GetCapture(), nullptr);
 }
