@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <cstdlib>
 #include <cstring>
 
 namespace corvane::system {
@@ -60,6 +61,32 @@ bool is_complete_png(std::FILE* file) {
   return false;
 }
 
+std::int64_t little_endian(const std::uint8_t* bytes, int count) {
+  std::uint32_t value = 0;
+  for (int at = count - 1; at >= 0; --at) value = (value << 8) | bytes[at];
+  return count == 2 ? static_cast<std::int64_t>(value)
+                    : static_cast<std::int64_t>(static_cast<std::int32_t>(value));
+}
+
+// The rows must be there unless they are run-length coded, where the decoder looks for the end.
+bool is_complete_bmp(std::FILE* file) {
+  std::array<std::uint8_t, 34> head{};
+  std::rewind(file);
+  if (std::fread(head.data(), 1, head.size(), file) != head.size()) return false;
+  const bool old_header = little_endian(&head[14], 4) == 12;
+  const int size = old_header ? 2 : 4;
+  const std::int64_t width = little_endian(&head[18], size);
+  const std::int64_t height =
+      std::abs(little_endian(&head[18 + static_cast<std::size_t>(size)], size));
+  const std::int64_t depth = little_endian(&head[old_header ? 24 : 28], 2);
+  const std::int64_t coding = old_header ? 0 : little_endian(&head[30], 4);
+  if (coding == 1 || coding == 2) return true;
+  const std::int64_t row = (width * depth + 31) / 32 * 4;
+  const std::int64_t needed =
+      little_endian(&head[10], 4) + row * (height - 1) + (width * depth + 7) / 8;
+  return std::fseek(file, 0, SEEK_END) == 0 && std::ftell(file) >= needed;
+}
+
 }  // namespace
 
 bool is_complete_image(std::FILE* file) {
@@ -71,6 +98,7 @@ bool is_complete_image(std::FILE* file) {
     std::fseek(file, 2, SEEK_SET);
     return is_complete_jpeg(file);
   }
+  if (read >= 2 && start[0] == 'B' && start[1] == 'M') return is_complete_bmp(file);
   return true;
 }
 

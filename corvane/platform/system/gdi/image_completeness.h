@@ -4,8 +4,8 @@
 
 namespace corvane::system {
 
-// Reads the file from its start. True when a JPEG or PNG file runs to its end marker; true for
-// other formats, whose decoders notice the loss themselves.
+// Reads the file from its start. True when a JPEG or PNG file runs to its end marker and a BMP file
+// to its last pixel; true for other formats, whose decoders notice the loss themselves.
 bool is_complete_image(std::FILE* file);
 
 }  // namespace corvane::system
