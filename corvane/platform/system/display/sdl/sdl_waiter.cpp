@@ -5,15 +5,9 @@
 #include <sys/epoll.h>
 #include <unistd.h>
 
-#include <algorithm>
-#include <cstdlib>
-#include <cstring>
-
 namespace corvane::system {
 
 namespace {
-
-constexpr int input_method_period = 30;  // milliseconds
 
 int connection_of(SDL_Window* window) {
 #ifdef SDL_VIDEO_DRIVER_X11
@@ -42,15 +36,6 @@ int watcher_of(int connection, int wake) {
   return -1;
 }
 
-// An input method sends its text over a connection of its own, which SDL does not hand out: then
-// sleep is taken in short pieces.
-bool has_input_method() {
-  const char* const module = std::getenv("SDL_IM_MODULE");
-  const char* const modifiers = std::getenv("XMODIFIERS");
-  return (module && *module) ||
-         (modifiers && (std::strstr(modifiers, "@im=ibus") || std::strstr(modifiers, "@im=fcitx")));
-}
-
 bool has_events() {
   SDL_PumpEvents();
   return SDL_HasEvents(SDL_FIRSTEVENT, SDL_LASTEVENT) == SDL_TRUE;
@@ -67,24 +52,13 @@ SdlWaiter::~SdlWaiter() {
 
 void SdlWaiter::wait(std::optional<int> milliseconds) {
   if (has_events()) return;
-  if (watched_ >= 0)
-    sleep_watching(milliseconds);
-  else if (milliseconds)
-    SDL_WaitEventTimeout(nullptr, *milliseconds);
-  else
-    SDL_WaitEvent(nullptr);
-}
-
-void SdlWaiter::sleep_watching(std::optional<int> milliseconds) const {
-  pollfd watched{watched_, POLLIN, 0};
-  if (!has_input_method()) {
+  if (watched_ >= 0) {
+    pollfd watched{watched_, POLLIN, 0};
     poll(&watched, 1, milliseconds.value_or(-1));
-    return;
-  }
-  for (int rest = milliseconds.value_or(input_method_period); rest > 0;) {
-    const int piece = std::min(rest, input_method_period);
-    if (poll(&watched, 1, piece) != 0 || has_events()) return;
-    if (milliseconds) rest -= piece;
+  } else if (milliseconds) {
+    SDL_WaitEventTimeout(nullptr, *milliseconds);
+  } else {
+    SDL_WaitEvent(nullptr);
   }
 }
 

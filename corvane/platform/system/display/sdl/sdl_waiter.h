@@ -7,8 +7,9 @@
 
 namespace corvane::system {
 
-// Sleeps until SDL has an event, or a call from another thread. SDL's own waiting looks around
-// every millisecond with some drivers; under X11 the connection to the server is watched instead.
+// Sleeps until SDL has an event, or a call from another thread. Under X11 it watches the connection
+// to the server, which also gives hosts a descriptor to watch; elsewhere SDL does the waiting,
+// which looks around every millisecond with drivers that cannot sleep.
 class SdlWaiter {
  public:
   explicit SdlWaiter(SDL_Window* window);
@@ -25,8 +26,6 @@ class SdlWaiter {
   int fd() const { return watched_; }  // -1: there is nothing to watch
 
  private:
-  void sleep_watching(std::optional<int> milliseconds) const;
-
   WakeEvent wake_;
   int watched_;  // readable: input or a wake
 };
