@@ -6,8 +6,10 @@
 #include <poll.h>
 #include <sys/resource.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <functional>
+#include <set>
 #include <thread>
 
 #include "tests/platform/x_client.h"
@@ -330,6 +332,25 @@ TEST_F(SdlDisplayTest, DescriptorTellsOfInput) {
   pollfd watched{display_->event_fd(), POLLIN, 0};
   ASSERT_EQ(poll(&watched, 1, 5000), 1);
   EXPECT_TRUE(arrives(is_at(InputKind::mouse_move, 20, 20)));
+}
+
+TEST_F(SdlDisplayTest, ShowsTheNativeCursors) {
+  show();
+  tool("mousemove " + at(200, 200));
+  ASSERT_TRUE(arrives(is_at(InputKind::mouse_move, 200, 200)));
+  std::set<std::vector<unsigned long>> seen;
+  for (const CursorShape shape : {CursorShape::arrow, CursorShape::ibeam, CursorShape::cross,
+                                  CursorShape::size_we, CursorShape::size_ns, CursorShape::hand}) {
+    display_->set_cursor(shape);
+    EXPECT_TRUE(happens([&] { return seen.insert(server_.cursor()).second; }))
+        << "looks like one of the others: " << static_cast<int>(shape);
+  }
+  display_->set_cursor(CursorShape::none);
+  EXPECT_TRUE(happens([&] {
+    const std::vector<unsigned long> pixels = server_.cursor();
+    return std::all_of(pixels.begin(), pixels.end(),
+                       [](unsigned long pixel) { return pixel == 0; });
+  }));
 }
 
 double processor_milliseconds() {

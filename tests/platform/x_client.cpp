@@ -2,6 +2,7 @@
 
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
+#include <X11/extensions/Xfixes.h>
 
 namespace corvane::system {
 
@@ -59,6 +60,15 @@ std::uint32_t XClient::pixel(unsigned long window, int x, int y) const {
   const auto pixel = static_cast<std::uint32_t>(XGetPixel(image, 0, 0)) & 0x00FFFFFF;
   XDestroyImage(image);
   return pixel;
+}
+
+std::vector<unsigned long> XClient::cursor() const {
+  XFixesCursorImage* const image = XFixesGetCursorImage(connection_->display);
+  if (!image) return {};
+  const std::vector<unsigned long> pixels(image->pixels,
+                                          image->pixels + image->width * image->height);
+  XFree(image);
+  return pixels;
 }
 
 void XClient::damage(unsigned long window, std::uint32_t color) const {

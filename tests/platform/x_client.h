@@ -2,6 +2,7 @@
 // Another client of the X server: what it sees of the windows, and what it can do to them.
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace corvane::system {
 
@@ -23,6 +24,9 @@ class XClient {
   Place place(unsigned long window) const;
   // 0x00RRGGBB of a pixel in a shown window.
   std::uint32_t pixel(unsigned long window, int x, int y) const;
+
+  // The pixels of the cursor that is on the screen now.
+  std::vector<unsigned long> cursor() const;
 
   // Wipes the middle of a window and tells it to paint there.
   void damage(unsigned long window, std::uint32_t color) const;
