@@ -105,6 +105,27 @@ TEST_F(FrameworkWnd, ParentTakesItsChildrensWindowsAlong) {
   EXPECT_EQ(parent.ends, 1);
 }
 
+// A handler of WM_NCDESTROY that leaves out the base's.
+class ForgetfulWnd : public WatchedWnd {
+ public:
+  const MessageMap* GetMessageMap() const override {
+    static constexpr auto kMessages = MessageTable(On<WM_NCDESTROY>(&ForgetfulWnd::OnNcDestroy));
+    static const MessageMap map = kMessages.Extending(WatchedWnd::GetMessageMap());
+    return &map;
+  }
+
+ protected:
+  void OnNcDestroy() {}
+};
+
+TEST_F(FrameworkWnd, TheLastMessageUnbindsInAnyCase) {
+  ForgetfulWnd window;
+  ASSERT_TRUE(window.create());
+  EXPECT_TRUE(window.DestroyWindow());
+  EXPECT_EQ(window.GetSafeHwnd(), nullptr);
+  EXPECT_EQ(window.ends, 1);
+}
+
 TEST_F(FrameworkWnd, DestructorDestroysTheWindow) {
   HWND handle = nullptr;
   {
@@ -216,6 +237,34 @@ TEST_F(FrameworkWnd, CommandsGoToTheControlThenToTheMap) {
   EXPECT_EQ(window.SendMessageW(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&header)), 31);
   EXPECT_EQ(control.told, (Messages{WM_COMMAND, WM_COMMAND, WM_NOTIFY}));
   EXPECT_EQ(window.SendMessageW(WM_NOTIFY, 0, 0), 0) << "no header";
+}
+
+class ParricideControl : public WatchedWnd {
+ public:
+  explicit ParricideControl(CWnd* parent) : parent_(parent) {}
+
+ protected:
+  BOOL OnChildNotify(UINT, WPARAM, LPARAM, LRESULT*) override {
+    delete parent_;
+    return FALSE;
+  }
+
+ private:
+  CWnd* parent_;
+};
+
+TEST_F(FrameworkWnd, AControlMayDeleteItsParent) {
+  for (const UINT message : {WM_COMMAND, WM_NOTIFY}) {
+    auto* parent = new CommandWnd;
+    ASSERT_TRUE(parent->create());
+    ParricideControl control(parent);
+    ASSERT_TRUE(control.create(*parent, WS_CHILD));
+    NMHDR header{control, 0, 0};
+    ::SendMessageW(*parent, message, 0,
+                   message == WM_COMMAND ? reinterpret_cast<LPARAM>(control.GetSafeHwnd())
+                                         : reinterpret_cast<LPARAM>(&header));
+    EXPECT_EQ(control.GetSafeHwnd(), nullptr);
+  }
 }
 
 // --- Temporary objects

@@ -14,16 +14,6 @@ constexpr std::size_t kFirstSweep = 64;
 HandleMaps::HandleMaps() : sweep_at_(kFirstSweep) {}
 HandleMaps::~HandleMaps() = default;
 
-void HandleMaps::LetGo::operator()(CWnd* window) const {
-  window->m_hWnd = nullptr;
-  delete window;
-}
-
-void HandleMaps::LetGo::operator()(CDC* dc) const {
-  dc->Detach();
-  delete dc;
-}
-
 CWnd* HandleMaps::permanent(HWND window) const {
   const auto found = permanent_.find(window);
   return found == permanent_.end() ? nullptr : found->second;
@@ -38,16 +28,16 @@ CWnd* HandleMaps::object_of(HWND window) {
   if (CWnd* object = permanent(window)) return object;
   if (const auto found = windows_.find(window); found != windows_.end()) return found->second.get();
   if (windows_.size() >= sweep_at_) sweep_stale_windows();
-  std::unique_ptr<CWnd, LetGo> object(new CWnd);
+  auto object = std::make_unique<CWnd>();
   object->m_hWnd = window;
   return (windows_[window] = std::move(object)).get();
 }
 
 CDC* HandleMaps::temporary_dc(HDC dc) {
   if (!dc) return nullptr;
-  std::unique_ptr<CDC, LetGo>& object = dcs_[dc];
+  std::unique_ptr<CDC>& object = dcs_[dc];
   if (!object) {
-    object.reset(new CDC);
+    object = std::make_unique<CDC>();
     object->Attach(dc);
   }
   return object.get();

@@ -30,16 +30,11 @@ class HandleMaps {
   std::size_t temporaries() const { return windows_.size() + dcs_.size(); }
 
  private:
-  // A temporary object must not destroy what its handle stands for.
-  struct LetGo {
-    void operator()(CWnd* window) const;
-    void operator()(CDC* dc) const;
-  };
   void sweep_stale_windows();
 
   std::unordered_map<HWND, CWnd*> permanent_;
-  std::unordered_map<HWND, std::unique_ptr<CWnd, LetGo>> windows_;
-  std::unordered_map<HDC, std::unique_ptr<CDC, LetGo>> dcs_;
+  std::unordered_map<HWND, std::unique_ptr<CWnd>> windows_;
+  std::unordered_map<HDC, std::unique_ptr<CDC>> dcs_;
   std::size_t sweep_at_;
 };
 

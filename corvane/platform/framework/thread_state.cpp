@@ -10,6 +10,8 @@ struct StateOwner {
   ThreadState state;
   StateOwner() { live_state = &state; }
   ~StateOwner() {
+    // They look for their thread's state when they end.
+    state.handles.release_temporaries();
     live_state = nullptr;
     thread_ended = true;
   }
