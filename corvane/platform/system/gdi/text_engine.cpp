@@ -121,7 +121,8 @@ void TextLayout::draw_line(cairo_t* cairo, int line, double x, double y) const {
 }
 
 TextEngine::TextEngine()
-    : context_(pango_font_map_create_context(pango_cairo_font_map_get_default())) {
+    : fonts_of_system_(pango_cairo_font_map_new()),
+      context_(pango_font_map_create_context(fonts_of_system_)) {
   cairo_font_options_t* options = cairo_font_options_create();
   cairo_font_options_set_antialias(options, CAIRO_ANTIALIAS_GRAY);
   cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_SLIGHT);
@@ -136,6 +137,7 @@ TextEngine::~TextEngine() {
   layouts_.clear();
   forget_fonts();
   g_object_unref(context_);
+  g_object_unref(fonts_of_system_);
 }
 
 void TextEngine::forget_fonts() {

@@ -15,6 +15,7 @@
 
 typedef struct _PangoLayout PangoLayout;
 typedef struct _PangoLayoutLine PangoLayoutLine;
+typedef struct _PangoFontMap PangoFontMap;
 typedef struct _PangoContext PangoContext;
 typedef struct _PangoFontDescription PangoFontDescription;
 
@@ -86,6 +87,7 @@ class TextEngine {
   std::shared_ptr<const TextLayout> make(const LOGFONTW& font, const TextRequest& request);
   void forget_fonts();
 
+  PangoFontMap* fonts_of_system_;
   PangoContext* context_;
   std::map<std::wstring, Font> fonts_;
   Layouts layouts_;  // last used first
