@@ -1,0 +1,161 @@
+// The largest and smallest numbers in every place that takes one: refused or cut, never harmful.
+#include <climits>
+
+#include "tests/platform/conformance/support/window_test.h"
+
+namespace corvane::conformance {
+namespace {
+
+const int extremes[] = {INT_MIN, INT_MIN + 1, -1000000,    -32769,
+                        32768,   1000000,     INT_MAX - 1, INT_MAX};
+
+class ExtremeValuesTest : public WindowTest {
+ protected:
+  void SetUp() override {
+    WindowTest::SetUp();
+    popup_ = settled_popup("pop", 100, 100, 100, 100);
+    child_ = settled_child("child", popup_, 10, 10, 50, 50);
+  }
+  void TearDown() override {
+    MoveWindow(popup_, 100, 100, 100, 100, TRUE);
+    MoveWindow(child_, 10, 10, 50, 50, TRUE);
+    pump();
+    EXPECT_EQ(text_of(window_rect(child_)), "110,110,160,160");
+    EXPECT_EQ(WindowFromPoint({120, 120}), child_);
+    WindowTest::TearDown();
+  }
+  HWND popup_ = nullptr;
+  HWND child_ = nullptr;
+};
+
+TEST_F(ExtremeValuesTest, PositionsOfWindows) {
+  for (const HWND window : {popup_, child_}) {
+    for (const int x : extremes) {
+      for (const int y : extremes) {
+        MoveWindow(window, x, y, 60, 60, TRUE);
+        POINT point{0, 0};
+        ClientToScreen(child_, &point);
+        pump();
+        SetCursorPos(150, 150);
+        pump();
+      }
+    }
+    MoveWindow(window, 20, 20, 60, 60, TRUE);
+  }
+  EXPECT_EQ(screen_pixel(50, 50), RGB(255, 255, 255));
+}
+
+TEST_F(ExtremeValuesTest, SizesOfWindows) {
+  for (const int size : extremes) {
+    MoveWindow(child_, 0, 0, size, 40, TRUE);
+    MoveWindow(child_, 0, 0, 40, size, TRUE);
+    SetWindowPos(child_, nullptr, size, size, size, size, SWP_NOZORDER);
+    pump();
+    const RECT client = client_rect(child_);
+    EXPECT_GE(client.right, 0);
+    EXPECT_GE(client.bottom, 0);
+  }
+}
+
+TEST_F(ExtremeValuesTest, CreatedThere) {
+  for (const int value : extremes) {
+    const HWND window = create("far", {.parent = popup_,
+                                       .style = WS_CHILD | WS_VISIBLE,
+                                       .x = value,
+                                       .y = value,
+                                       .width = value,
+                                       .height = value});
+    pump();
+    if (window != nullptr) DestroyWindow(window);
+  }
+  pump();
+}
+
+TEST_F(ExtremeValuesTest, InvalidRectangles) {
+  for (const int first : extremes) {
+    for (const int second : extremes) {
+      const RECT rect{first, first, second, second};
+      InvalidateRect(popup_, &rect, TRUE);
+      ValidateRect(popup_, &rect);
+      RedrawWindow(popup_, &rect, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+      pump();
+      EXPECT_EQ(text_of(update_rect(popup_)), "0,0,0,0");
+    }
+  }
+}
+
+TEST_F(ExtremeValuesTest, InvalidatingEverythingIsClippedToTheClient) {
+  const RECT rect{INT_MIN, INT_MIN, INT_MAX, INT_MAX};
+  InvalidateRect(popup_, &rect, FALSE);
+  EXPECT_EQ(text_of(update_rect(popup_)), "0,0,100,100");
+}
+
+TEST_F(ExtremeValuesTest, PointsAndTheirMapping) {
+  for (const int x : extremes) {
+    for (const int y : extremes) {
+      POINT point{x, y};
+      ScreenToClient(child_, &point);
+      ClientToScreen(child_, &point);
+      MapWindowPoints(popup_, child_, &point, 1);
+      EXPECT_EQ(WindowFromPoint({x, y}), nullptr);
+      EXPECT_EQ(ChildWindowFromPoint(popup_, {x, y}), nullptr);
+    }
+  }
+}
+
+TEST_F(ExtremeValuesTest, PointerStaysOnTheScreen) {
+  for (const int value : extremes) {
+    SetCursorPos(value, value);
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = MOUSEEVENTF_MOVE;
+    input.mi.dx = value;
+    input.mi.dy = value;
+    SendInput(1, &input, sizeof(input));
+    input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
+    SendInput(1, &input, sizeof(input));
+    pump();
+    POINT point{};
+    EXPECT_NE(GetCursorPos(&point), 0);
+    EXPECT_GE(point.x, 0);
+    EXPECT_LT(point.x, 1280);
+    EXPECT_GE(point.y, 0);
+    EXPECT_LT(point.y, 800);
+  }
+}
+
+TEST_F(ExtremeValuesTest, NumbersWithoutMeaning) {
+  for (const int value : extremes) {
+    ShowWindow(child_, value);
+    ShowWindow(child_, SW_SHOWNA);
+    GetWindow(child_, static_cast<UINT>(value));
+    GetAncestor(child_, static_cast<UINT>(value));
+    GetWindowLongW(child_, value);
+    SetWindowLongW(child_, value, 1);
+    GetWindowLongPtrW(child_, value);
+    SetWindowLongPtrW(child_, value, 1);
+    GetClassLongPtrW(child_, value);
+    GetDlgItem(popup_, value);
+    GetKeyState(value);
+    GetAsyncKeyState(value);
+    GetSystemMetrics(value);
+    SystemParametersInfoW(static_cast<UINT>(value), 0, nullptr, 0);
+    SendInput(static_cast<UINT>(value) & 1U, nullptr, value);
+    SetTimer(child_, static_cast<UINT_PTR>(value), static_cast<UINT>(value), nullptr);
+    KillTimer(child_, static_cast<UINT_PTR>(value));
+    wchar_t text[4] = {};
+    EXPECT_LE(GetWindowTextW(child_, text, value < 0 ? value : 4), 3);
+    EXPECT_LE(GetClassNameW(child_, text, value < 0 ? value : 4), 3);
+  }
+}
+
+TEST_F(ExtremeValuesTest, LongTexts) {
+  const std::wstring text(100000, L'x');
+  EXPECT_NE(SetWindowTextW(popup_, text.c_str()), 0);
+  EXPECT_EQ(GetWindowTextLengthW(popup_), 100000);
+  EXPECT_NE(SetWindowTextW(popup_, nullptr), 0);
+  EXPECT_EQ(GetWindowTextLengthW(popup_), 0);
+}
+
+}  // namespace
+}  // namespace corvane::conformance
