@@ -2,7 +2,9 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <vector>
 
+#include "corvane/platform/base_services/default_skin.h"
 #include "corvane/platform/base_services/installation.h"
 #include "corvane/platform/base_services/language_text.h"
 #include "corvane/platform/base_services/paths.h"
@@ -39,6 +41,42 @@ TEST_F(InstallationPaths, SeparatorsAtTheEndAreDropped) {
   setenv("CORVANE_SKIN", (folder_.path() / "").c_str(), 1);
   SetSkinFolder(L"");
   EXPECT_EQ(GetImagePath(), folder_.wide() + L"\\image");
+}
+
+TEST_F(InstallationPaths, TheDefaultSkinIsFoundNearTheLibraryOrTheProgram) {
+  const struct {
+    const char* library;  // folders below the temporary one; empty: unknown
+    const char* program;
+    std::vector<const char*> skins;
+    const char* expected;  // null: none
+  } cases[] = {
+      {"usr/lib",
+       "opt/bin",
+       {"usr/share/corvane/skins/default"},
+       "usr/share/corvane/skins/default"},
+      {"", "opt/bin", {"opt/share/corvane/skins/default"}, "opt/share/corvane/skins/default"},
+      {"usr/lib",
+       "opt/bin",
+       {"usr/share/corvane/skins/default", "opt/share/corvane/skins/default"},
+       "usr/share/corvane/skins/default"},
+      {"", "program", {"program/skins/default"}, "program/skins/default"},
+      {"", "tree/build/debug/apps/capture", {"tree/skins/default"}, "tree/skins/default"},
+      {"", "a/b/c/d/e/f/g/h", {"a/skins/default"}, nullptr},
+      {"usr/lib", "opt/bin", {"usr/lib/share/corvane/skins/default"}, nullptr},
+      {"", "", {"skins/default"}, nullptr},
+  };
+  for (const auto& each : cases) {
+    const test::TemporaryFolder tree;
+    const auto below = [&tree](std::string_view folder) {
+      return folder.empty() ? std::filesystem::path() : tree.path() / folder;
+    };
+    for (const char* const skin : each.skins) {
+      tree.write(std::string(skin) + "/ui_control.xml", "<controls/>");
+    }
+    const auto found = find_default_skin(below(each.library), below(each.program));
+    const auto expected = each.expected ? std::optional(below(each.expected)) : std::nullopt;
+    EXPECT_EQ(found, expected) << each.library << ", " << each.program;
+  }
 }
 
 TEST_F(InstallationPaths, NarrowPathsComeBackAsTheSameFile) {

@@ -303,8 +303,9 @@ TEST_F(GdiBtnEx, ShowsWhatLiesBehindWhereItsImageIsClear) {
   behind.SetBackColor(CRect(0, 0, 400, 300), RGB(1, 2, 3));
   behind.SetBackColor(CRect(50, 40, 146, 80), RGB(90, 60, 30));
   std::filesystem::create_directories(folder_.path() / "image");
-  std::filesystem::copy_file(CORVANE_SOURCE_DIR "/skins/default/image/toolbar_crop_normal.png",
-                             folder_.path() / "image/clear.png");
+  std::filesystem::copy_file(
+      std::filesystem::path(CORVANE_SOURCE_DIR) / "skins/default/image/toolbar_crop_normal.png",
+      folder_.path() / "image/clear.png");
   control_.image = L"clear.png";
   create();
   button_->SetBkGnd(behind, CRect(control_.rect));

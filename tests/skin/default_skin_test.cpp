@@ -10,7 +10,9 @@ namespace {
 
 class DefaultSkin : public testing::Test {
  protected:
-  DefaultSkin() { SetSkinFolder(wide_path_of(CORVANE_SOURCE_DIR "/skins/default")); }
+  DefaultSkin() {
+    SetSkinFolder(wide_path_of(std::filesystem::path(CORVANE_SOURCE_DIR) / "skins/default"));
+  }
   ~DefaultSkin() override { SetSkinFolder(L""); }
 };
 

@@ -5,6 +5,7 @@
 #include <optional>
 #include <system_error>
 
+#include "corvane/platform/base_services/default_skin.h"
 #include "corvane/platform/base_services/system_paths.h"
 
 namespace corvane {
@@ -28,42 +29,17 @@ CString folder_set_by_program() {
   return chosen.folder;
 }
 
-bool holds_skin(const path& folder) {
-  std::error_code error;
-  return std::filesystem::is_regular_file(folder / "ui_control.xml", error);
-}
-
-std::optional<path> skin_beside(const path& folder) {
-  if (folder.empty()) return std::nullopt;
-  for (const auto& candidate :
-       {folder.parent_path() / "share/corvane/skins/default", folder / "skins/default"}) {
-    if (holds_skin(candidate)) return candidate;
-  }
-  return std::nullopt;
-}
-
-// A program that was just built runs from a folder somewhere below its sources.
-std::optional<path> skin_above(path folder) {
-  constexpr int kFarthest = 6;
-  for (int i = 0; i < kFarthest && folder.has_relative_path(); ++i) {
-    folder = folder.parent_path();
-    if (holds_skin(folder / "skins/default")) return folder / "skins/default";
-  }
-#ifdef CORVANE_SOURCE_SKIN
-  return path(CORVANE_SOURCE_SKIN);
-#else
-  return std::nullopt;
-#endif
-}
-
 std::optional<path> found_folder() {
   std::error_code error;
   if (const auto named = path_from_environment("CORVANE_SKIN")) {
     return std::filesystem::absolute(*named, error);
   }
-  if (const auto skin = skin_beside(library_folder())) return skin;
-  if (const auto skin = skin_beside(program_folder())) return skin;
-  return skin_above(program_folder());
+  if (auto skin = find_default_skin(library_folder(), program_folder())) return skin;
+#ifdef CORVANE_SOURCE_SKIN
+  return path(CORVANE_SOURCE_SKIN);
+#else
+  return std::nullopt;
+#endif
 }
 
 }  // namespace

@@ -11,8 +11,8 @@ struct Installation {
   CString image_folder() const { return skin_folder + L"\\image"; }
 
   // The skin folder that SetSkinFolder named; else that of the environment variable CORVANE_SKIN;
-  // else the default skin installed beside the library or the program (../share/corvane/skins/
-  // default, skins/default); else that of the source tree which the program was built in.
+  // else the default skin near the library or the program (see default_skin.h); else, in builds
+  // for debugging, that of the source tree.
   static Installation find();
 };
 
