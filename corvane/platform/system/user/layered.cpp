@@ -85,7 +85,8 @@ BOOL UpdateLayeredWindow(HWND window, HDC, POINT* position, SIZE* size, HDC sour
   SIZE extent = size == nullptr ? SIZE{found->width(), found->height()} : *size;
   place(*found, position, extent);
   if (pixels != nullptr) {
-    POINT from{origin.x + source_point->x, origin.y + source_point->y};
+    auto bounded = [](LONG value) { return std::clamp<LONG>(value, -100000, 100000); };
+    POINT from{origin.x + bounded(source_point->x), origin.y + bounded(source_point->y)};
     take_content(*found, *pixels, from, extent);
   }
   LayeredState& layered = found->layered;

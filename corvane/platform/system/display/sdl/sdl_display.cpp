@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <clocale>
 #include <cstring>
 #include <string_view>
 
@@ -77,6 +78,15 @@ void copy_rect(SDL_Surface& target, const Surface& frame, const RECT& rect,
   }
 }
 
+// X writes titles and reads input methods in the process's character set, and refuses Chinese ones
+// while that is still the plain "C" that every process starts with.
+void use_unicode_locale() {
+  const char* const now = std::setlocale(LC_CTYPE, nullptr);
+  if (now == nullptr || std::strcmp(now, "C") != 0) return;
+  const char* const users = std::setlocale(LC_CTYPE, "");
+  if (users == nullptr || std::strcmp(users, "C") == 0) std::setlocale(LC_CTYPE, "C.UTF-8");
+}
+
 }  // namespace
 
 struct SdlDisplay::Native {
@@ -115,6 +125,7 @@ void SdlDisplay::Native::repaint() {
 }
 
 std::unique_ptr<SdlDisplay> SdlDisplay::open(SIZE size) {
+  use_unicode_locale();
   for (const Hint& hint : hints) SDL_SetHint(hint.name, hint.value);
   auto native = std::make_unique<Native>();
   if (!native->session.reaches_a_desktop()) return nullptr;

@@ -1,0 +1,79 @@
+// The program as a command: bad pictures, and the scripted session.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <array>
+#include <cstdio>
+
+#include "apps/capture/picture.h"
+#include "tests/apps/temporary_folder.h"
+#include "tests/apps/test_pictures.h"
+
+namespace capture {
+namespace {
+
+struct Outcome {
+  int status = -1;
+  std::string text;
+};
+
+Outcome RunCommand(const std::string& command) {
+  Outcome outcome;
+  FILE* pipe = popen(command.c_str(), "r");
+  std::array<char, 4096> buffer;
+  for (std::size_t n; (n = fread(buffer.data(), 1, buffer.size(), pipe)) > 0;) {
+    outcome.text.append(buffer.data(), n);
+  }
+  outcome.status = WEXITSTATUS(pclose(pipe));
+  return outcome;
+}
+
+std::string Quoted(const std::filesystem::path& path) { return "'" + path.string() + "'"; }
+
+const std::string kProgram = std::string("'") + CORVANE_CAPTURE + "' ";
+
+TEST(CommandLine, APictureThatCannotBeOpenedGivesOneLineAndStatus2) {
+  TemporaryFolder folder;
+  std::ofstream(folder / "text.png") << "no picture at all";
+  std::ofstream(folder / "empty.jpg");
+  WriteTestPicture(folder / "whole.png", 60, 60);
+  std::filesystem::copy(folder / "whole.png", folder / "cut.png");
+  std::filesystem::resize_file(folder / "cut.png",
+                               std::filesystem::file_size(folder / "whole.png") / 2);
+  for (const char* name : {"missing.png", "text.png", "empty.jpg", "cut.png", "."}) {
+    Outcome outcome = RunCommand(kProgram + Quoted(folder / name) + " 2>&1 >/dev/null");
+    EXPECT_EQ(outcome.status, 2) << name;
+    EXPECT_THAT(outcome.text, testing::MatchesRegex("corvane-capture: cannot open [^\n]*\n"))
+        << name;
+  }
+}
+
+TEST(CommandLine, WrongArgumentsGiveTheUsageAndStatus2) {
+  for (const char* arguments : {"", "a b", "--script", "--script x"}) {
+    Outcome outcome = RunCommand(kProgram + arguments + " 2>&1 >/dev/null");
+    EXPECT_EQ(outcome.status, 2) << arguments;
+    EXPECT_THAT(outcome.text, testing::StartsWith("usage: ")) << arguments;
+  }
+}
+
+TEST(ScriptedSession, LeavesItsFramesAndTheCrop) {
+  TemporaryFolder folder;
+  WriteTestPicture(folder / "page.png", 1000, 600);
+  Outcome outcome =
+      RunCommand(kProgram + "--script " + Quoted(folder / "out") + " " + Quoted(folder / "page.png"));
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_THAT(outcome.text, testing::HasSubstr("frame_04.png: the rectangle was moved"));
+  auto frame = CPicture::Open(folder / "out" / "frame_04.png");
+  ASSERT_NE(frame, nullptr);
+  EXPECT_EQ(frame->size().cx, 1280);
+  auto crop = CPicture::Open(folder / "out" / "crop.png");
+  ASSERT_NE(crop, nullptr);
+  auto saved = CPicture::Open(folder / "page_1.png");
+  ASSERT_NE(saved, nullptr);
+  EXPECT_EQ(crop->size().cx, saved->size().cx);
+  EXPECT_GT(crop->size().cx, 300);
+}
+
+}  // namespace
+}  // namespace capture

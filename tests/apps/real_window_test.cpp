@@ -1,0 +1,107 @@
+// A crop in a real window: synthetic mouse and keys in, pixels of the screen and the saved file
+// out.
+#include <gtest/gtest.h>
+
+#include "apps/capture/picture.h"
+#include "tests/apps/desktop_user.h"
+#include "tests/apps/temporary_folder.h"
+#include "tests/apps/test_pictures.h"
+
+namespace capture {
+namespace {
+
+// The screen is 1280 x 800, the toolbar 76 high; a picture of 1000 x 600 stands in the middle of
+// what is left, at its own size.
+constexpr POINT kPictureCorner{140, 138};
+constexpr POINT kCropButton{56, 38};
+constexpr POINT kQuitButton{1224, 38};
+constexpr POINT kEmptyToolbar{800, 38};
+constexpr RECT kFramed{300, 250, 720, 500};
+constexpr int kBarWidth = 4 * 96;
+
+std::uint32_t Original(POINT point) {
+  return TestPixel(point.x - kPictureCorner.x, point.y - kPictureCorner.y) & 0xFFFFFF;
+}
+
+// What `color` looks like below a layer of `cover` at 120 of 255.
+std::uint32_t Under(std::uint32_t color, std::uint32_t cover) {
+  std::uint32_t result = 0;
+  for (int shift : {0, 8, 16}) {
+    std::uint32_t below = (color >> shift) & 0xFF;
+    std::uint32_t above = (cover >> shift) & 0xFF;
+    result |= ((above * 120 + below * 135 + 127) / 255) << shift;
+  }
+  return result;
+}
+
+class RealWindow : public testing::Test {
+ protected:
+  void SetUp() override {
+    WriteTestPicture(folder_ / "page.png", 1000, 600);
+    user_.emplace(CORVANE_CAPTURE, folder_ / "page.png");
+    ASSERT_TRUE(user_->SeesWindow("page.png — 1000 × 600 — Corvane"));
+    ASSERT_TRUE(user_->SeesPixel({640, 400}, Original({640, 400})));
+  }
+
+  void StartCrop() {
+    user_->Click(kCropButton);
+    ASSERT_TRUE(user_->SeesPixel({640, 400}, Under(Original({640, 400}), 0), 1)) << "dimmed";
+  }
+
+  TemporaryFolder folder_;
+  std::optional<DesktopUser> user_;
+};
+
+TEST_F(RealWindow, CropsWithTheMouse) {
+  StartCrop();
+  user_->Drag({kFramed.left, kFramed.top}, {kFramed.right, kFramed.bottom});
+  POINT inside{500, 400};
+  POINT outside{900, 600};
+  POINT on_frame{400, kFramed.top};
+  EXPECT_TRUE(user_->SeesPixel(inside, Original(inside), 1)) << "untouched inside";
+  EXPECT_TRUE(user_->SeesPixel(outside, Under(Original(outside), 0), 1)) << "dimmed outside";
+  EXPECT_TRUE(user_->SeesPixel(on_frame, Under(Original(on_frame), 0x00FF00), 1)) << "green frame";
+  user_->Click({kFramed.right - kBarWidth + 48, kFramed.bottom + 20});
+  EXPECT_TRUE(user_->SeesPixel(outside, Original(outside))) << "the crop has ended";
+  std::string saved = folder_ / "page_1.png";
+  ASSERT_TRUE(DesktopUser::Waits([&] { return std::filesystem::exists(saved); }));
+  auto part = CPicture::Open(saved);
+  ASSERT_NE(part, nullptr);
+  EXPECT_EQ(part->size().cx, kFramed.right - kFramed.left);
+  EXPECT_EQ(part->size().cy, kFramed.bottom - kFramed.top);
+  EXPECT_EQ(part->image()->pixels()->at(0, 0) & 0xFFFFFF, Original({kFramed.left, kFramed.top}));
+}
+
+TEST_F(RealWindow, EscapeEndsACrop) {
+  StartCrop();
+  user_->Drag({kFramed.left, kFramed.top}, {kFramed.right, kFramed.bottom});
+  user_->Key("Escape");
+  EXPECT_TRUE(user_->SeesPixel({900, 600}, Original({900, 600})));
+}
+
+TEST_F(RealWindow, TheToolbarDragsTheWindow) {
+  auto before = user_->Place();
+  user_->MoveTo(kEmptyToolbar);
+  user_->Press();
+  POINT target{before.x + kEmptyToolbar.x + 60, before.y + kEmptyToolbar.y + 30};
+  // The window follows the pointer, so the way is given in screen coordinates.
+  for (int i = 1; i <= 6; ++i) {
+    auto place = user_->Place();
+    POINT step{before.x + kEmptyToolbar.x + 10 * i, before.y + kEmptyToolbar.y + 5 * i};
+    user_->MoveTo({step.x - place.x, step.y - place.y});
+    DesktopUser::Waits([&] { return user_->Place().x >= before.x + 10 * i; });
+  }
+  auto place = user_->Place();
+  user_->MoveTo({target.x - place.x, target.y - place.y});
+  user_->Release();
+  EXPECT_TRUE(DesktopUser::Waits(
+      [&] { return user_->Place().x == before.x + 60 && user_->Place().y == before.y + 30; }));
+}
+
+TEST_F(RealWindow, TheQuitButtonEndsTheProgram) {
+  user_->Click(kQuitButton);
+  EXPECT_EQ(user_->ExitStatus(), 0);
+}
+
+}  // namespace
+}  // namespace capture
