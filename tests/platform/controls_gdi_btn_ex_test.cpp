@@ -73,6 +73,35 @@ TEST_F(GdiBtnEx, AClickSendsItsCommandWithTheFocusAndWithoutTheCapture) {
   EXPECT_EQ(command.capture, nullptr);
 }
 
+TEST_F(GdiBtnEx, TheCommandIsSentWhileTheReleaseIsHandled) {
+  create();
+  press(kX, kY);
+  INPUT input{};
+  input.type = INPUT_MOUSE;
+  input.mi.dwFlags = MOUSEEVENTF_LEFTUP;
+  ::SendInput(1, &input, sizeof(input));
+  MSG message{};
+  while (message.message != WM_LBUTTONUP && ::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+    ::DispatchMessageW(&message);
+  }
+  EXPECT_EQ(clicks(), 1u);
+}
+
+TEST_F(GdiBtnEx, InAPanelThatWasHiddenThereIsNoClick) {
+  test::ControlHost panel;
+  ASSERT_TRUE(panel.Create(nullptr, L"", WS_VISIBLE, CRect(0, 0, 200, 200), host_.get(), 1));
+  CRect rect;
+  CUICtrlMgr().LoadGdiBtn(*button_, rect, &panel, kId, &control_, nullptr, nullptr);
+  press(kX, kY);
+  panel.ShowWindow(SW_HIDE);
+  release(kX, kY);
+  EXPECT_TRUE(panel.commands.empty());
+  panel.ShowWindow(SW_SHOW);
+  advance(1000);
+  click(kX, kY);
+  EXPECT_EQ(panel.commands.size(), 1u);
+}
+
 TEST_F(GdiBtnEx, OnlyAReleaseInsideAfterAPressInsideClicks) {
   create();
   press(kX, kY);
