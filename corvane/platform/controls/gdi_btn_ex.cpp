@@ -87,7 +87,9 @@ void CGdiBtnEx::OnDestroy() {
 BOOL CGdiBtnEx::OnEraseBkgnd(CDC*) { return TRUE; }
 
 void CGdiBtnEx::OnPaint() {
+  const HWND window = m_hWnd;
   const CPaintDC dc(this);
+  if (FromHandlePermanent(window) != this) return;  // erasing may have ended the button
   CRect client;
   GetClientRect(client);
   if (client.IsRectEmpty()) return;
@@ -157,9 +159,10 @@ void CGdiBtnEx::ReportPress(CPoint point) const {
 }
 
 void CGdiBtnEx::OnLButtonUp(UINT, CPoint point) {
+  const HWND window = m_hWnd;
   bool clicked = false;
   Feed([this, &clicked, inside = Holds(point)] { clicked = behavior_.release(inside); });
-  if (clicked) Click();
+  if (clicked && FromHandlePermanent(window) == this) Click();
 }
 
 // The last thing that an event does: the parent may destroy the button for an answer.
@@ -192,9 +195,10 @@ void CGdiBtnEx::OnKeyDown(UINT key, UINT repeats, UINT flags) {
 
 void CGdiBtnEx::OnKeyUp(UINT key, UINT repeats, UINT flags) {
   if (key != VK_SPACE) return CWnd::OnKeyUp(key, repeats, flags);
+  const HWND window = m_hWnd;
   bool clicked = false;
   Feed([this, &clicked] { clicked = behavior_.space_up(); });
-  if (clicked) Click();
+  if (clicked && FromHandlePermanent(window) == this) Click();
 }
 
 UINT CGdiBtnEx::OnGetDlgCode() { return DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON; }

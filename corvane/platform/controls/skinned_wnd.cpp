@@ -29,7 +29,9 @@ void CSkinnedWnd::SetSkin(const _MYCONTROL* control, const _MYLANGUAGE* caption)
 BOOL CSkinnedWnd::OnEraseBkgnd(CDC*) { return TRUE; }
 
 void CSkinnedWnd::OnPaint() {
+  const HWND window = m_hWnd;
   const CPaintDC dc(this);
+  if (FromHandlePermanent(window) != this) return;  // erasing may have ended the control
   CRect client;
   GetClientRect(client);
   CBufferDC picture;

@@ -6,7 +6,7 @@ namespace corvane_tests {
 
 using corvane::system::HeadlessDisplay;
 
-Desktop::Desktop() : Desktop(std::make_unique<HeadlessDisplay>(SIZE{800, 600})) {}
+Desktop::Desktop(SIZE size) : Desktop(std::make_unique<HeadlessDisplay>(size)) {}
 
 Desktop::Desktop(std::unique_ptr<HeadlessDisplay> display)
     : display_(*display), windows_(std::move(display)) {}

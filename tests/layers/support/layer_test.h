@@ -17,7 +17,7 @@ namespace corvane_tests {
 // A window system and its application object, with what a user can do to them.
 class Desktop {
  public:
-  Desktop();
+  explicit Desktop(SIZE size = {800, 600});
 
   // Takes out, filters and dispatches messages as the application's loop does until none is left.
   void pump();
