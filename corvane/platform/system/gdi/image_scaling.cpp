@@ -48,25 +48,27 @@ std::vector<Cover> covers_of(int source, int target) {
   return covers;
 }
 
-// Adds a row's channels to the sums, four per pixel, blue first. The loop is what costs.
+// Adds a row's channels to the sums, four per pixel, blue first. The loop is what costs. A sum of
+// all rows of the highest picture stays below 2^31.
 void add_row(const Pixel* row, std::size_t width, std::uint32_t weight, std::uint32_t* sums) {
   const auto* channels = reinterpret_cast<const std::uint8_t*>(row);
-  for (std::size_t at = 0; at < 4 * width; ++at) sums[at] += weight * channels[at];
+  const auto factor = static_cast<std::uint16_t>(weight);  // times 255 it fits 16 bits
+  for (std::size_t at = 0; at < 4 * width; ++at)
+    sums[at] += static_cast<std::uint16_t>(factor * channels[at]);
 }
 
-Pixel average(const std::vector<std::uint32_t>& sums, const Cover& columns,
-              std::uint32_t row_total) {
-  std::uint64_t total[4] = {};
+// The weighted mean of the columns' channels.
+Pixel average(const float* channels, const Cover& columns) {
+  float total[4] = {};
   for (int index = 0; index < columns.count; ++index) {
-    const std::uint64_t weight = weight_of(columns, index);
-    const std::size_t at = 4 * static_cast<std::size_t>(columns.first + index);
-    for (std::size_t channel = 0; channel < 4; ++channel)
-      total[channel] += weight * sums[at + channel];
+    const auto weight = static_cast<float>(weight_of(columns, index));
+    const float* column = channels + 4 * (columns.first + index);
+    for (int channel = 0; channel < 4; ++channel) total[channel] += weight * column[channel];
   }
-  const std::uint64_t divisor = std::uint64_t{columns.total} * row_total;
+  const float share = 1.0f / static_cast<float>(columns.total);
   Pixel pixel = 0;
   for (int channel = 0; channel < 4; ++channel)
-    pixel |= static_cast<Pixel>((total[channel] + divisor / 2) / divisor) << (8 * channel);
+    pixel |= static_cast<Pixel>(total[channel] * share + 0.5f) << (8 * channel);
   return pixel;
 }
 
@@ -83,6 +85,7 @@ std::shared_ptr<Surface> shrunk_by_area(const Surface& picture, const RECT& part
   const std::vector<Cover> columns = covers_of(part.right - part.left, width);
   const std::vector<Cover> rows = covers_of(part.bottom - part.top, height);
   std::vector<std::uint32_t> sums(4 * part_width);
+  std::vector<float> means(4 * part_width);
   std::vector<Pixel> scratch;
   auto shrunk = std::make_shared<Surface>(width, height);
   for (int y = 0; y < height; ++y) {
@@ -91,9 +94,12 @@ std::shared_ptr<Surface> shrunk_by_area(const Surface& picture, const RECT& part
     for (int index = 0; index < cover.count; ++index)
       add_row(picture.read_row(part.top + cover.first + index, scratch) + part.left, part_width,
               weight_of(cover, index), sums.data());
+    const float share = 1.0f / static_cast<float>(cover.total);
+    for (std::size_t at = 0; at < sums.size(); ++at)
+      means[at] = static_cast<float>(static_cast<std::int32_t>(sums[at])) * share;
     Pixel* out = shrunk->row_to_overwrite(y, 0, width);
     for (int x = 0; x < width; ++x)
-      out[x] = average(sums, columns[static_cast<std::size_t>(x)], cover.total);
+      out[x] = average(means.data(), columns[static_cast<std::size_t>(x)]);
   }
   return shrunk;
 }
