@@ -265,7 +265,8 @@ TEST_F(GdiImages, DrawsIntoExactlyTheTarget) {
   }
   Graphics graphics(dc);
   EXPECT_EQ(graphics.DrawImage(nullptr, Rect(0, 0, 5, 5)), InvalidParameter);
-  EXPECT_EQ(graphics.DrawImage(image.get(), RectF(std::numeric_limits<REAL>::quiet_NaN(), 0, 5, 5)), Ok);
+  EXPECT_EQ(graphics.DrawImage(image.get(), RectF(std::numeric_limits<REAL>::quiet_NaN(), 0, 5, 5)),
+            Ok);
 }
 
 TEST_F(GdiImages, NearestGivesExactBlocksAndShrinkingAverages) {

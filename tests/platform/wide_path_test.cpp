@@ -66,22 +66,22 @@ TEST(WidePath, EveryByteSequenceSurvives) {
 }
 
 TEST(WidePath, MountedDrives) {
-  EXPECT_TRUE(mount_drive(L'c', "/data/disk/"));
-  EXPECT_TRUE(mount_drive(L'D', "/data/disk/inner"));
-  EXPECT_EQ(file_system_path(L"C:\\x\\y"), "/data/disk/x/y");
-  EXPECT_EQ(file_system_path(L"c:"), "/data/disk");
-  EXPECT_EQ(file_system_path(L"d:/z"), "/data/disk/inner/z");
-  EXPECT_EQ(wide_path("/data/disk/x"), L"C:\\x");
-  EXPECT_EQ(wide_path("/data/disk"), L"C:\\");
-  EXPECT_EQ(wide_path("/data/disk/inner/x"), L"D:\\x");
-  EXPECT_EQ(wide_path("/data/diskette"), L"Z:\\data\\diskette");
+  EXPECT_TRUE(mount_drive(L'c', "/run/disk/"));
+  EXPECT_TRUE(mount_drive(L'D', "/run/disk/inner"));
+  EXPECT_EQ(file_system_path(L"C:\\x\\y"), "/run/disk/x/y");
+  EXPECT_EQ(file_system_path(L"c:"), "/run/disk");
+  EXPECT_EQ(file_system_path(L"d:/z"), "/run/disk/inner/z");
+  EXPECT_EQ(wide_path("/run/disk/x"), L"C:\\x");
+  EXPECT_EQ(wide_path("/run/disk"), L"C:\\");
+  EXPECT_EQ(wide_path("/run/disk/inner/x"), L"D:\\x");
+  EXPECT_EQ(wide_path("/run/diskette"), L"Z:\\run\\diskette");
   EXPECT_FALSE(mount_drive(L'Z', "/data"));
   EXPECT_FALSE(mount_drive(L'1', "/data"));
   EXPECT_FALSE(mount_drive(L'E', "data"));
   EXPECT_TRUE(mount_drive(L'C', ""));
   EXPECT_TRUE(mount_drive(L'D', ""));
   EXPECT_EQ(file_system_path(L"C:\\x"), "");
-  EXPECT_EQ(wide_path("/data/disk/x"), L"Z:\\data\\disk\\x");
+  EXPECT_EQ(wide_path("/run/disk/x"), L"Z:\\run\\disk\\x");
 }
 
 }  // namespace
