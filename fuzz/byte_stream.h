@@ -16,7 +16,7 @@ class ByteStream {
   bool flag() { return byte() % 2 != 0; }
   int below(std::size_t limit) { return static_cast<int>(byte() % static_cast<unsigned>(limit)); }
   // Mostly on a small screen, sometimes beside it.
-  int coordinate() { return static_cast<int>(word() % 1000) - 200; }
+  int coordinate() { return static_cast<int>(word() % 600) - 100; }
 
  private:
   const std::uint8_t* next_;

@@ -10,9 +10,9 @@ namespace {
 
 using corvane::AfxRegisterWndClass;
 
-constexpr RECT kHostPlace{0, 0, 400, 300};
-constexpr RECT kButtonsPlace{0, 0, 400, 76};
-constexpr RECT kCropPlace{0, 76, 400, 300};
+constexpr RECT kHostPlace{0, 0, 320, 240};
+constexpr RECT kButtonsPlace{0, 0, 320, 76};
+constexpr RECT kCropPlace{0, 76, 320, 240};
 constexpr int kToolbarList = 100;
 constexpr int kButtonIds[] = {1, 4, 6};
 

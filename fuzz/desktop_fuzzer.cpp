@@ -1,4 +1,5 @@
 // Any bytes as a stream of input, messages and operations over a host with all its layers.
+#include <cstdlib>
 #include <memory>
 
 #include "corvane/platform/system/gdi/gdi.h"
@@ -9,7 +10,7 @@
 
 namespace {
 
-constexpr SIZE kScreen{400, 300};
+constexpr SIZE kScreen{320, 240};
 
 // Plays the stream and destroys all windows. The drawing objects that are left then: window
 // classes own some for as long as the window system lives.
@@ -28,6 +29,11 @@ int objects_left_by(ByteStream stream) {
 }
 
 }  // namespace
+
+extern "C" int LLVMFuzzerInitialize(int*, char***) {
+  setenv("CORVANE_SKIN", CORVANE_FUZZ_SKIN, 1);
+  return 0;
+}
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static const int baseline = objects_left_by({nullptr, 0});
