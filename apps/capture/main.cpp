@@ -23,7 +23,7 @@ Arguments Parse(int count, char** values) {
     arguments.script_folder = values[next + 1];
     next += 2;
   }
-  arguments.valid = next + 1 == count;
+  arguments.valid = next + 1 == count && std::strncmp(values[next], "--", 2) != 0;
   if (arguments.valid) arguments.picture = values[next];
   return arguments;
 }

@@ -60,8 +60,8 @@ TEST(CommandLine, WrongArgumentsGiveTheUsageAndStatus2) {
 TEST(ScriptedSession, LeavesItsFramesAndTheCrop) {
   TemporaryFolder folder;
   WriteTestPicture(folder / "page.png", 1000, 600);
-  Outcome outcome =
-      RunCommand(kProgram + "--script " + Quoted(folder / "out") + " " + Quoted(folder / "page.png"));
+  Outcome outcome = RunCommand(kProgram + "--script " + Quoted(folder / "out") + " " +
+                               Quoted(folder / "page.png"));
   EXPECT_EQ(outcome.status, 0);
   EXPECT_THAT(outcome.text, testing::HasSubstr("frame_04.png: the rectangle was moved"));
   auto frame = CPicture::Open(folder / "out" / "frame_04.png");

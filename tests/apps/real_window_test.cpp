@@ -89,7 +89,8 @@ TEST_F(RealWindow, TheToolbarDragsTheWindow) {
     auto place = user_->Place();
     POINT step{before.x + kEmptyToolbar.x + 10 * i, before.y + kEmptyToolbar.y + 5 * i};
     user_->MoveTo({step.x - place.x, step.y - place.y});
-    DesktopUser::Waits([&] { return user_->Place().x >= before.x + 10 * i; });
+    EXPECT_TRUE(DesktopUser::Waits([&] { return user_->Place().x == before.x + 10 * i; }))
+        << "the window follows at once";
   }
   auto place = user_->Place();
   user_->MoveTo({target.x - place.x, target.y - place.y});

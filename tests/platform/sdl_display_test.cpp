@@ -300,18 +300,16 @@ TEST_F(SdlDisplayTest, TellsOfClosingAndLostFocus) {
 TEST_F(SdlDisplayTest, MovesWindowAndPointer) {
   show();
   const XClient::Place before = server_.place(window_);
-  EXPECT_TRUE(display_->move_native_window(30, -7));
+  EXPECT_TRUE(display_->warp_pointer({77, 66}));
+  EXPECT_TRUE(arrives(is_at(InputKind::mouse_move, 77, 66)));
+  tool("mousedown 1");
+  tool("mousemove_relative -- 30 -7");
+  EXPECT_TRUE(display_->drag_native_window({77, 66}));
   EXPECT_TRUE(happens([&] {
     const XClient::Place now = server_.place(window_);
     return now.x == before.x + 30 && now.y == before.y - 7;
-  }));
-  EXPECT_TRUE(display_->warp_pointer({77, 66}));
-  EXPECT_TRUE(arrives(is_at(InputKind::mouse_move, 77, 66)));
-  tool("mousemove 900 500");
-  const std::optional<POINT> pointer = display_->native_pointer();
-  ASSERT_TRUE(pointer);
-  EXPECT_EQ(pointer->x, 900);
-  EXPECT_EQ(pointer->y, 500);
+  })) << "also while a button is held";
+  tool("mouseup 1");
 }
 
 TEST_F(SdlDisplayTest, WakesFromAnotherThread) {

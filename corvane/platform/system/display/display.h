@@ -47,10 +47,9 @@ class Display {
   virtual void set_cursor(CursorShape) {}
   virtual void set_title(const wchar_t*) {}
   virtual void set_capture(bool) {}  // keep receiving the mouse outside the native window
-  // The native window, where there is one: moved by dx, dy. False: the display has none.
-  virtual bool move_native_window(int /*dx*/, int /*dy*/) { return false; }
-  // Where the pointer is on the native desktop (moves with the native window), if known.
-  virtual std::optional<POINT> native_pointer() const { return std::nullopt; }
+  // Moves the native window so that this point of the screen lies under the pointer, wherever the
+  // pointer is on the native desktop by now. False: there is no native window to move.
+  virtual bool drag_native_window(POINT /*grip*/) { return false; }
   virtual bool warp_pointer(POINT) { return false; }
   // The first top-level window was shown: an on-screen display opens its native window now.
   virtual void show() {}

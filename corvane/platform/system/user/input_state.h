@@ -21,7 +21,8 @@ struct InputState {
   std::deque<InputEvent> events;  // as they came, moves coalesced
   std::deque<MSG> routed;         // already given a target window, not yet retrieved
 
-  POINT pointer{};
+  POINT pointer{};                         // now
+  POINT routed_pointer{};                  // at the last mouse event that was given to a window
   std::array<bool, 256> keys_now{};        // for GetAsyncKeyState
   std::array<bool, 256> keys_retrieved{};  // for GetKeyState
   LastPress last_press;

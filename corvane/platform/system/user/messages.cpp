@@ -1,6 +1,7 @@
 #include "corvane/platform/system/user/messages.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "corvane/platform/system/user/system_registry.h"
 
@@ -14,12 +15,25 @@ constexpr std::size_t kMostRegistered = 0x3FFF;
 constexpr int kDeepestSend = 400;
 thread_local int send_depth = 0;
 
+// How many hooks before the running one were called; the newest hook comes first.
+thread_local std::size_t running_hook = 0;
+
 struct DepthGuard {
   DepthGuard() { ++send_depth; }
   ~DepthGuard() { --send_depth; }
 };
 
 }  // namespace
+
+LRESULT call_hook(std::size_t position, int code, WPARAM wparam, LPARAM lparam) {
+  System* state = system();
+  if (state == nullptr || position >= state->hooks.size()) return 0;
+  HOOKPROC procedure = state->hooks[state->hooks.size() - 1 - position].procedure;
+  std::size_t outer = std::exchange(running_hook, position);
+  LRESULT result = procedure(code, wparam, lparam);
+  running_hook = outer;
+  return result;
+}
 
 LRESULT send(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
   Window* found = find(window);
@@ -36,12 +50,9 @@ bool post(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
 }
 
 bool ask_creation_hooks(HWND window, CREATESTRUCTW& create) {
-  System* state = system();
-  if (state == nullptr || state->hooks.empty()) return true;
   CBT_CREATEWNDW info{&create, HWND_TOP};
-  HOOKPROC last = state->hooks.back().procedure;
-  return last(HCBT_CREATEWND, reinterpret_cast<WPARAM>(window), reinterpret_cast<LPARAM>(&info)) ==
-         0;
+  return call_hook(0, HCBT_CREATEWND, reinterpret_cast<WPARAM>(window),
+                   reinterpret_cast<LPARAM>(&info)) == 0;
 }
 
 }  // namespace corvane::system
@@ -120,13 +131,8 @@ BOOL UnhookWindowsHookEx(HHOOK hook) {
          std::erase_if(state->hooks, [hook](const Hook& it) { return it.handle == hook; }) > 0;
 }
 
-LRESULT CallNextHookEx(HHOOK hook, int code, WPARAM wparam, LPARAM lparam) {
-  System* state = corvane::system::system();
-  if (state == nullptr) return 0;
-  auto it = std::find_if(state->hooks.begin(), state->hooks.end(),
-                         [hook](const Hook& entry) { return entry.handle == hook; });
-  if (it == state->hooks.end() || it == state->hooks.begin()) return 0;
-  return (it - 1)->procedure(code, wparam, lparam);
+LRESULT CallNextHookEx(HHOOK, int code, WPARAM wparam, LPARAM lparam) {
+  return call_hook(running_hook + 1, code, wparam, lparam);
 }
 
 DWORD GetTickCount() {

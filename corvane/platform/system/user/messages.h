@@ -11,6 +11,8 @@ template <typename LparamOf>
 void notify_parents(HWND window, WPARAM wparam, const LparamOf& lparam_of);
 // Posts a message as the system does (time and pointer position of now).
 bool post(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
+// Calls the hook at that position, the newest being at 0; 0 when there is none.
+LRESULT call_hook(std::size_t position, int code, WPARAM wparam, LPARAM lparam);
 // Asks the WH_CBT hooks; false when one refuses the creation.
 bool ask_creation_hooks(HWND window, CREATESTRUCTW& create);
 

@@ -111,6 +111,7 @@ void route_mouse(System& state, const InputEvent& event) {
   UINT message = message_of(event);
   if (message == WM_NULL) return;
   bool press = event.kind == InputKind::mouse_button && event.down;
+  state.input.routed_pointer = event.position;
   if (event.kind == InputKind::mouse_button) {
     state.input.keys_retrieved[static_cast<std::size_t>(event.button & 0xFF)] = event.down;
   }

@@ -1,7 +1,5 @@
 #include "corvane/platform/system/user/move_loop.h"
 
-#include <optional>
-
 #include "corvane/platform/system/user/input_routing.h"
 #include "corvane/platform/system/user/messages.h"
 #include "corvane/platform/system/user/retrieval.h"
@@ -16,10 +14,9 @@ class MoveLoop {
   MoveLoop(System& state, HWND window) : state_(state), window_(window) {
     const Window& found = *state.find(window);
     start_frame_ = found.frame;
-    start_pointer_ = state.input.pointer;
-    if (is_top_level(found) && EqualRect(&found.frame, &state.desktop->frame)) {
-      native_pointer_ = state.display->native_pointer();
-    }
+    // Where the press was: the pointer may be further by now.
+    start_pointer_ = state.input.routed_pointer;
+    fills_screen_ = is_top_level(found) && EqualRect(&found.frame, &state.desktop->frame);
   }
 
   void run() {
@@ -75,10 +72,7 @@ class MoveLoop {
   }
 
   void follow(POINT pointer) {
-    if (native_pointer_) {
-      follow_natively();
-      return;
-    }
+    if (fills_screen_ && state_.display->drag_native_window(start_pointer_)) return;
     RECT frame = start_frame_;
     OffsetRect(&frame, pointer.x - start_pointer_.x, pointer.y - start_pointer_.y);
     Window* found = state_.find(window_);
@@ -88,16 +82,6 @@ class MoveLoop {
     send(window_, WM_MOVING, 0, reinterpret_cast<LPARAM>(&frame));
     OffsetRect(&frame, -base.x, -base.y);
     place(frame);
-  }
-
-  // The native window moves under the pointer, so only the pointer's place on the native desktop
-  // tells how far it travelled.
-  void follow_natively() {
-    std::optional<POINT> now = state_.display->native_pointer();
-    if (!now) return;
-    int dx = now->x - native_pointer_->x;
-    int dy = now->y - native_pointer_->y;
-    if ((dx != 0 || dy != 0) && state_.display->move_native_window(dx, dy)) native_pointer_ = now;
   }
 
   void place(const RECT& frame) {
@@ -110,7 +94,7 @@ class MoveLoop {
   HWND window_;
   RECT start_frame_{};
   POINT start_pointer_{};
-  std::optional<POINT> native_pointer_;
+  bool fills_screen_ = false;
 };
 
 }  // namespace

@@ -72,7 +72,8 @@ Display& WindowSystem::display() { return *impl_->display; }
 
 Gdi& WindowSystem::gdi() { return impl_->gdi; }
 
-std::optional<std::uint64_t> WindowSystem::process_pending(bool* quit) {
+std::optional<std::uint64_t> WindowSystem::process_pending(
+    bool* quit, const std::function<bool(MSG*)>& filter) {
   if (quit != nullptr) *quit = false;
   for (int i = 0; i < kMostPerTurn; ++i) {
     auto message = retrieve(*impl_, {}, true);
@@ -81,6 +82,7 @@ std::optional<std::uint64_t> WindowSystem::process_pending(bool* quit) {
       if (quit != nullptr) *quit = true;
       break;
     }
+    if (filter && filter(&*message)) continue;
     TranslateMessage(&*message);
     DispatchMessageW(&*message);
   }

@@ -2,6 +2,7 @@
 // One window system: all windows, the queue, timers, focus, capture, cursor and display of one
 // user-interface thread. The platform-named functions act on the calling thread's current one.
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -30,8 +31,11 @@ class WindowSystem {
 
   // For a host with a loop of its own: dispatches all that is pending (input, posted messages,
   // paints, due timers), shows the result, and says in how many milliseconds the next timer is due
-  // (nothing: only input or a posted message can bring work). *quit is set when WM_QUIT came.
-  std::optional<std::uint64_t> process_pending(bool* quit = nullptr);
+  // (nothing: only input or a posted message can bring work). *quit is set when WM_QUIT came. The
+  // filter sees each message first and swallows it by returning true: a host of layers passes
+  // corvane::PreTranslateInput.
+  std::optional<std::uint64_t> process_pending(bool* quit = nullptr,
+                                               const std::function<bool(MSG*)>& filter = {});
   // Becomes readable when there is work: input, or a message posted from another thread.
   int event_fd() const;
 

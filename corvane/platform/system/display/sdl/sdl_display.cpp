@@ -10,6 +10,7 @@
 
 #include "corvane/platform/system/display/sdl/sdl_cursors.h"
 #include "corvane/platform/system/display/sdl/sdl_events.h"
+#include "corvane/platform/system/display/sdl/sdl_native_pointer.h"
 #include "corvane/platform/system/display/sdl/sdl_waiter.h"
 
 namespace corvane::system {
@@ -199,23 +200,18 @@ void SdlDisplay::set_title(const wchar_t* title) {
 
 void SdlDisplay::set_capture(bool capture) { SDL_CaptureMouse(capture ? SDL_TRUE : SDL_FALSE); }
 
-bool SdlDisplay::move_native_window(int dx, int dy) {
+bool SdlDisplay::drag_native_window(POINT grip) {
   if (!knows_desktop_positions()) return false;
+  POINT pointer = native_pointer_position(native_->window.get());
   int x = 0;
   int y = 0;
   SDL_GetWindowPosition(native_->window.get(), &x, &y);
-  SDL_SetWindowPosition(native_->window.get(), x + dx, y + dy);
+  POINT target{pointer.x - grip.x, pointer.y - grip.y};
+  if (target.x != x || target.y != y) {
+    SDL_SetWindowPosition(native_->window.get(), target.x, target.y);
+  }
   native_->waiter->notice_queued_events();
   return true;
-}
-
-std::optional<POINT> SdlDisplay::native_pointer() const {
-  if (!knows_desktop_positions()) return std::nullopt;
-  int x = 0;
-  int y = 0;
-  SDL_GetGlobalMouseState(&x, &y);
-  native_->waiter->notice_queued_events();
-  return POINT{x, y};
 }
 
 bool SdlDisplay::warp_pointer(POINT point) {

@@ -26,8 +26,7 @@ class SdlDisplay : public Display {
   void set_cursor(CursorShape shape) override;
   void set_title(const wchar_t* title) override;
   void set_capture(bool capture) override;
-  bool move_native_window(int dx, int dy) override;
-  std::optional<POINT> native_pointer() const override;
+  bool drag_native_window(POINT grip) override;
   bool warp_pointer(POINT point) override;
   void show() override;
 
