@@ -82,6 +82,17 @@ TEST_F(GdiLines, ObliqueWidePenIsAsWideAsItSays) {
   }
 }
 
+TEST_F(GdiLines, ObliqueLinesAreOneDamagedRectangle) {
+  for (const int width : {1, 3}) {
+    wipe();
+    draw(width, {{10, 10}, {70, 40}});
+    const Region marks = surface->take_marks();
+    EXPECT_EQ(marks.count(), 1);
+    EXPECT_TRUE(marks.covers({10, 10, 70, 40}));
+    EXPECT_FALSE(marks.contains({75, 45}));
+  }
+}
+
 TEST_F(GdiLines, CurrentPositionMovesAlsoWithoutAPen) {
   SelectObject(dc, GetStockObject(NULL_PEN));
   MoveToEx(dc, 3, 4, nullptr);

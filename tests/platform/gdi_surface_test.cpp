@@ -128,5 +128,13 @@ TEST(GdiSurface, MarksAreClippedAndTakenOnce) {
   EXPECT_TRUE(surface.take_marks().empty());
 }
 
+TEST(GdiSurface, ManyMarksStayCheapAndCoverAll) {
+  Surface surface(1000, 1000);
+  for (int at = 0; at < 1000; at += 2) surface.mark(RECT{at, at, at + 1, at + 1});
+  const Region marks = surface.take_marks();
+  EXPECT_LE(marks.count(), 64);
+  for (int at = 0; at < 1000; at += 2) EXPECT_TRUE(marks.contains({at, at}));
+}
+
 }  // namespace
 }  // namespace corvane::system

@@ -49,12 +49,23 @@ Pixel DeviceContext::pixel(COLORREF color) const {
   return brightness >= 10 * 128 ? 0xFFFFFF : 0;
 }
 
-void DeviceContext::fill(const RECT& area, Pixel color) {
-  Region touched = clip();
-  touched.intersect(area);
-  const int pieces = touched.count();
-  for (int index = 0; index < pieces; ++index) surface->fill(touched.rect(index), color);
-  surface->mark(touched);
+void DeviceContext::fill(const RECT& area, Pixel color) { Painter(*this).fill(area, color); }
+
+Painter::Painter(DeviceContext& dc)
+    : surface_(*dc.surface), clip_(dc.clip()), pieces_(clip_.rects()) {}
+
+Painter::~Painter() {
+  clip_.intersect(touched_);
+  surface_.mark(clip_);
+}
+
+void Painter::fill(const RECT& area, Pixel color) {
+  for (const RECT& piece : pieces_) {
+    RECT part;
+    if (!IntersectRect(&part, &piece, &area)) continue;
+    surface_.fill(part, color);
+    UnionRect(&touched_, &touched_, &part);
+  }
 }
 
 }  // namespace corvane::system

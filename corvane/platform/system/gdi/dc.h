@@ -49,6 +49,25 @@ class DeviceContext {
   void fill(const RECT& area, Pixel color);
 };
 
+// Fills many rectangles of one drawing operation, inside the context's clip, and marks the smallest
+// rectangle around them at its end. Surface coordinates.
+class Painter {
+ public:
+  explicit Painter(DeviceContext& dc);
+  ~Painter();
+  Painter(const Painter&) = delete;
+  Painter& operator=(const Painter&) = delete;
+
+  RECT reach() const { return clip_.bounds(); }  // nothing is drawn outside
+  void fill(const RECT& area, Pixel color);
+
+ private:
+  Surface& surface_;
+  Region clip_;
+  std::vector<RECT> pieces_;
+  RECT touched_{0, 0, 0, 0};
+};
+
 // Overflow-safe sum, far outside any surface at worst.
 LONG offset_by(LONG value, LONG delta);
 

@@ -25,7 +25,12 @@ Dashes dashes_of(int style) {
 class ThinLine {
  public:
   ThinLine(DeviceContext& dc, const PenObject& pen, POINT from, POINT to)
-      : dc_(dc), dashes_(dashes_of(pen.style)), color_(dc.pixel(pen.color)), from_(from), to_(to) {
+      : dc_(dc),
+        painter_(dc),
+        dashes_(dashes_of(pen.style)),
+        color_(dc.pixel(pen.color)),
+        from_(from),
+        to_(to) {
     along_x_ = std::abs(to.x - from.x) >= std::abs(to.y - from.y);
     const LONG length = along_x_ ? to.x - from.x : to.y - from.y;
     steps_ = std::abs(length);
@@ -33,7 +38,7 @@ class ThinLine {
   }
 
   void draw() {
-    const RECT reach = dc_.clip().bounds();
+    const RECT reach = painter_.reach();
     const LONG start = along_x_ ? from_.x : from_.y;
     const LONG low = along_x_ ? reach.left : reach.top;
     const LONG high = along_x_ ? reach.right : reach.bottom;
@@ -70,9 +75,9 @@ class ThinLine {
     const LONG low = std::min(start + direction_ * first, start + direction_ * last);
     const LONG high = std::max(start + direction_ * first, start + direction_ * last) + 1;
     if (along_x_)
-      dc_.fill({low, from_.y + offset, high, from_.y + offset + 1}, color);
+      painter_.fill({low, from_.y + offset, high, from_.y + offset + 1}, color);
     else
-      dc_.fill({from_.x + offset, low, from_.x + offset + 1, high}, color);
+      painter_.fill({from_.x + offset, low, from_.x + offset + 1, high}, color);
   }
 
   // How far the line has gone to the side after some steps, rounded to the nearest pixel.
@@ -84,7 +89,8 @@ class ThinLine {
     return static_cast<LONG>(sign * ((sign * doubled + length) / (2 * length)));
   }
 
-  DeviceContext& dc_;
+  const DeviceContext& dc_;
+  Painter painter_;
   Dashes dashes_;
   Pixel color_;
   POINT from_;
@@ -151,7 +157,8 @@ class Stroke {
 
 void draw_wide_line(DeviceContext& dc, const PenObject& pen, POINT from, POINT to) {
   Stroke stroke(pen.width, from, to);
-  const RECT reach = dc.clip().bounds();
+  Painter painter(dc);
+  const RECT reach = painter.reach();
   const int top = std::max(reach.top, static_cast<LONG>(std::floor(stroke.top())));
   const int bottom = std::min(reach.bottom, static_cast<LONG>(std::ceil(stroke.bottom())));
   RECT block{0, 0, 0, 0};  // rows that are covered alike are filled together
@@ -167,16 +174,16 @@ void draw_wide_line(DeviceContext& dc, const PenObject& pen, POINT from, POINT t
       block.bottom = row + 1;
       continue;
     }
-    dc.fill(block, dc.pixel(pen.color));
+    painter.fill(block, dc.pixel(pen.color));
     block = piece;
   }
-  dc.fill(block, dc.pixel(pen.color));
+  painter.fill(block, dc.pixel(pen.color));
 }
 
 }  // namespace
 
 void draw_line(DeviceContext& dc, const PenObject& pen, POINT from, POINT to) {
-  if (pen.style == PS_NULL || dc.clip().empty()) return;
+  if (pen.style == PS_NULL) return;
   if (pen.width <= 1)
     ThinLine(dc, pen, from, to).draw();
   else

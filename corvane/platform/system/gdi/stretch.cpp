@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "corvane/platform/system/gdi/blits.h"
+#include "corvane/platform/system/gdi/image_scaling.h"
 
 namespace corvane::system {
 
@@ -150,6 +151,29 @@ class Stretcher {
   std::vector<Pixel> scratch_;
 };
 
+bool is_plain_shrinking(const DeviceContext& target, const DeviceContext& source,
+                        const Stretch& stretch) {
+  const auto shrinks = [](const Extent& to, const Extent& from, int size) {
+    return to.length > 0 && from.length >= to.length && from.start >= 0 &&
+           from.length <= size - from.start;
+  };
+  return target.state.stretch_mode == HALFTONE && target.monochrome == source.monochrome &&
+         shrinks(stretch.target_x, stretch.source_x, source.surface->width()) &&
+         shrinks(stretch.target_y, stretch.source_y, source.surface->height());
+}
+
+void shrink_pixels(DeviceContext& target, const DeviceContext& source, const Stretch& stretch) {
+  const Extent& x = stretch.source_x;
+  const Extent& y = stretch.source_y;
+  const auto shrunk =
+      shrunk_by_area(*source.surface, {x.start, y.start, x.start + x.length, y.start + y.length},
+                     stretch.target_x.length, stretch.target_y.length);
+  const POINT at{stretch.target_x.start, stretch.target_y.start};
+  copy_pixels(target,
+              {at.x, at.y, offset_by(at.x, shrunk->width()), offset_by(at.y, shrunk->height())},
+              *shrunk, {-at.x, -at.y});
+}
+
 }  // namespace
 
 void stretch_pixels(DeviceContext& target, const DeviceContext& source, const Stretch& stretch) {
@@ -162,6 +186,10 @@ void stretch_pixels(DeviceContext& target, const DeviceContext& source, const St
   Region touched = target.clip();
   touched.intersect(RECT{left, top, right, bottom});
   if (touched.empty()) return;
+  if (is_plain_shrinking(target, source, stretch)) {
+    shrink_pixels(target, source, stretch);
+    return;
+  }
   if (source.surface == target.surface) {
     const Surface unchanged(*source.surface);
     Stretcher stretcher(target, source, unchanged, stretch);

@@ -146,16 +146,14 @@ Pixel* Surface::pin(RowOrder order) {
   return pixels();
 }
 
-void Surface::mark(const RECT& rect) {
-  Region part(rect);
-  part.intersect(this->rect());
-  marks_.unite(part);
-}
+void Surface::mark(const RECT& rect) { mark(Region(rect)); }
 
 void Surface::mark(const Region& region) {
+  constexpr int kMostPieces = 64;
   Region part(region);
   part.intersect(rect());
   marks_.unite(part);
+  if (marks_.count() > kMostPieces) marks_ = Region(marks_.bounds());
 }
 
 Region Surface::take_marks() { return std::exchange(marks_, Region()); }

@@ -63,7 +63,7 @@ class Surface {
   enum class RowOrder { TopDown, BottomUp };
   Pixel* pin(RowOrder order);
 
-  // Damage since the last take, in surface coordinates.
+  // Damage since the last take, in surface coordinates; many pieces become their bounding box.
   void mark(const RECT& rect);
   void mark(const Region& region);
   Region take_marks();
