@@ -1,11 +1,16 @@
 #include "corvane/platform/system/user/move_loop.h"
 
+#include <algorithm>
+
 #include "corvane/platform/system/user/input_routing.h"
 #include "corvane/platform/system/user/messages.h"
+#include "corvane/platform/system/user/presenting.h"
 #include "corvane/platform/system/user/retrieval.h"
 
 namespace corvane::system {
 namespace {
+
+constexpr std::uint64_t kNativeDragInterval = 8;  // milliseconds
 
 enum class Step { go_on, done, cancelled };
 
@@ -46,7 +51,18 @@ class MoveLoop {
       DispatchMessageW(&*message);
       return Step::go_on;
     }
-    return sleep_until_work(state_) ? Step::go_on : Step::done;
+    return sleep() ? Step::go_on : Step::done;
+  }
+
+  // A native window that follows the pointer sees it stand still, so no input comes: look again and
+  // again while it is dragged.
+  bool sleep() {
+    if (!dragging_natively_) return sleep_until_work(state_);
+    present_now(state_);
+    std::uint64_t soon = state_.now() + kNativeDragInterval;
+    state_.display->wait(std::min(state_.timers.next_due().value_or(soon), soon));
+    dragging_natively_ = state_.display->drag_native_window(start_pointer_);
+    return true;
   }
 
   Step handle_event() {
@@ -72,7 +88,8 @@ class MoveLoop {
   }
 
   void follow(POINT pointer) {
-    if (fills_screen_ && state_.display->drag_native_window(start_pointer_)) return;
+    dragging_natively_ = fills_screen_ && state_.display->drag_native_window(start_pointer_);
+    if (dragging_natively_) return;
     RECT frame = start_frame_;
     OffsetRect(&frame, pointer.x - start_pointer_.x, pointer.y - start_pointer_.y);
     Window* found = state_.find(window_);
@@ -95,6 +112,7 @@ class MoveLoop {
   RECT start_frame_{};
   POINT start_pointer_{};
   bool fills_screen_ = false;
+  bool dragging_natively_ = false;
 };
 
 }  // namespace
