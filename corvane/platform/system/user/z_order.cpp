@@ -7,12 +7,21 @@ namespace {
 
 using Siblings = std::vector<Window*>;
 
-bool topmost(const Window& window) { return (window.ex_style & WS_EX_TOPMOST) != 0; }
+// What a topmost window owns is topmost with it.
+bool topmost(System& state, const Window& window) {
+  const Window* it = &window;
+  for (std::size_t step = 0; it != nullptr && step <= state.windows.size(); ++step) {
+    if ((it->ex_style & WS_EX_TOPMOST) != 0) return true;
+    it = state.find(it->owner);
+  }
+  return false;
+}
 
-Siblings::iterator top_of_kind(Siblings& siblings, const Window& window) {
-  if (topmost(window)) return siblings.begin();
+Siblings::iterator top_of_kind(System& state, const Window& window) {
+  Siblings& siblings = state.desktop->children;
+  if (topmost(state, window)) return siblings.begin();
   return std::find_if(siblings.begin(), siblings.end(),
-                      [](const Window* other) { return !topmost(*other); });
+                      [&](const Window* other) { return !topmost(state, *other); });
 }
 
 // Moves every owned window that lies below its owner to just above it.
@@ -56,13 +65,14 @@ void lift_group(System& state, Window& head) {
   std::copy_if(order.begin(), order.end(), std::back_inserter(group),
                [&](Window* window) { return owned_by(state, head, window); });
   std::erase_if(order, [&](Window* window) { return owned_by(state, head, window); });
-  order.insert(top_of_kind(order, head), group.begin(), group.end());
+  order.insert(top_of_kind(state, head), group.begin(), group.end());
 }
 
-Siblings::iterator target_position(Siblings& order, Window& window, HWND after) {
+Siblings::iterator target_position(System& state, Window& window, HWND after) {
+  Siblings& order = window.parent->children;
   if (after == HWND_BOTTOM) return order.end();
   if (after == HWND_TOP || after == HWND_TOPMOST || after == HWND_NOTOPMOST) {
-    return window.is_child() ? order.begin() : top_of_kind(order, window);
+    return window.is_child() ? order.begin() : top_of_kind(state, window);
   }
   auto it = std::find_if(order.begin(), order.end(),
                          [after](Window* other) { return other->handle == after; });
@@ -74,7 +84,7 @@ Siblings::iterator target_position(Siblings& order, Window& window, HWND after) 
 void insert_top_level(System& state, Window& window) {
   window.parent = state.desktop;
   Siblings& order = state.desktop->children;
-  order.insert(top_of_kind(order, window), &window);
+  order.insert(top_of_kind(state, window), &window);
   lift_owned_windows(state);
 }
 
@@ -105,7 +115,7 @@ bool move_in_z_order(System& state, Window& window, HWND after) {
     raise(state, window);
   } else {
     std::erase(order, &window);
-    order.insert(target_position(order, window, after), &window);
+    order.insert(target_position(state, window, after), &window);
     if (is_top_level(window)) lift_owned_windows(state);
   }
   return order != before;
