@@ -108,6 +108,20 @@ TEST_F(FocusTest, ObservedThatHidingAParentOfTheFocusedChildLeavesIt) {
   EXPECT_TRUE(log_is(""));
 }
 
+TEST_F(FocusTest, LoserMayMoveItElsewhere) {
+  SetFocus(first_);
+  recorder().before_default("first", WM_KILLFOCUS, [&] {
+    if (GetFocus() == second_) SetFocus(inner_);
+  });
+  recorder().clear();
+  SetFocus(second_);
+  EXPECT_EQ(GetFocus(), inner_);
+  ASSERT_FALSE(recorder().log().empty());
+  EXPECT_EQ(recorder().log().back().text.rfind("inner WM_SETFOCUS", 0), 0U)
+      << "the last one told is the one that has it\n"
+      << recorder().text();
+}
+
 class ActivationTest : public FocusTest {};
 
 TEST_F(ActivationTest, OldThenNewWithTheFocusChangeInside) {
@@ -134,6 +148,23 @@ TEST_F(ActivationTest, FocusChangeIsTheDefaultHandlings) {
 TEST_F(ActivationTest, SameWindowNoMessage) {
   EXPECT_EQ(SetActiveWindow(top_), top_);
   EXPECT_TRUE(log_is(""));
+}
+
+TEST_F(ActivationTest, LoserMayActivateYetAnother) {
+  const HWND third = settled_popup("third", 0, 300, 20, 20);
+  SetActiveWindow(top_);
+  recorder().before_default("top", WM_ACTIVATE, [&] {
+    if (GetActiveWindow() == other_) SetActiveWindow(third);
+  });
+  recorder().only({WM_ACTIVATE});
+  recorder().clear();
+  SetActiveWindow(other_);
+  EXPECT_EQ(GetActiveWindow(), third);
+  EXPECT_EQ(GetFocus(), third);
+  ASSERT_FALSE(recorder().log().empty());
+  EXPECT_EQ(recorder().log().back().text.rfind("third WM_ACTIVATE 1", 0), 0U)
+      << "the last one told is the one that is active\n"
+      << recorder().text();
 }
 
 TEST_F(ActivationTest, RaisesTheWindow) {

@@ -121,6 +121,8 @@ INSTANTIATE_TEST_SUITE_P(
         UpdateCase{
             "ConstantOverClearPixel", {.pixel = 0, .constant_alpha = 200}, "below", {255, 0, 0}},
         UpdateCase{
+            "KeyWithoutItsFlag", {.pixel = 0xFF00FF00, .key = green_key}, "layer", {0, 255, 0}},
+        UpdateCase{
             "WithoutPixelAlpha", {.pixel = 0x0000FF00, .alpha_format = 0}, "layer", {0, 255, 0}},
         UpdateCase{"OpaqueFlag",
                    {.pixel = 0x0000FF00, .alpha_format = 0, .flags = ULW_OPAQUE},

@@ -76,6 +76,14 @@ TEST_F(MouseTargetTest, DisabledChildPassesToItsParent) {
   EXPECT_EQ(WindowFromPoint({140, 140}), outer_);
 }
 
+TEST_F(MouseTargetTest, DisabledChildKeepsThePressFromTheSiblingBelow) {
+  settled_child("sibling", outer_, 10, 10, 50, 50);
+  EnableWindow(inner_, FALSE);
+  settle();
+  click(140, 140);
+  EXPECT_TRUE(log_is("outer (q) WM_LBUTTONDOWN 20,20 > (q) WM_LBUTTONUP 20,20"));
+}
+
 TEST_F(MouseTargetTest, EverythingInsideADisabledChildPassesToo) {
   EnableWindow(outer_, FALSE);
   settle();

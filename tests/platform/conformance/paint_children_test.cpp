@@ -30,6 +30,15 @@ TEST_F(PaintChildrenTest, ParentPaintsOverItsChildrenThenTheyPaint) {
              "child (q) WM_PAINT 0,0,20,10 fErase=0 { WM_ERASEBKGND }"));
 }
 
+TEST_F(PaintChildrenTest, ChildrenEraseAlsoWhenTheParentDoesNot) {
+  make(0);
+  InvalidateRect(parent_, nullptr, FALSE);
+  pump();
+  EXPECT_TRUE(
+      log_is("parent (q) WM_PAINT 0,0,200,150 fErase=0 >"
+             "child (q) WM_PAINT 0,0,60,40 fErase=0 { WM_ERASEBKGND }"));
+}
+
 TEST_F(PaintChildrenTest, ParentsDrawingReachesTheChildrensPixels) {
   make(0);
   paint_patches("parent", {{{0, 0, 200, 150}, RGB(255, 0, 0)}});

@@ -122,6 +122,28 @@ TEST_F(QueueTest, PendingMessagesGoWithTheirWindow) {
   EXPECT_TRUE(retrieve_all().empty());
 }
 
+TEST_F(QueueTest, InputSkippedByAFilterGoesWithItsWindowToo) {
+  const HWND popup = settled_popup("pop", 0, 0, 50, 50);
+  SetCursorPos(10, 10);
+  send_mouse(MOUSEEVENTF_LEFTDOWN);
+  MSG message{};
+  EXPECT_EQ(PeekMessageW(&message, nullptr, WM_KEYFIRST, WM_KEYLAST, PM_REMOVE), 0);
+  DestroyWindow(popup);
+  EXPECT_TRUE(retrieve_all().empty());
+}
+
+TEST_F(QueueTest, QuitWaitsForWhatAHandlerPostsWhileInputIsRetrieved) {
+  settled_popup("pop", 0, 0, 50, 50);
+  settled_popup("other", 100, 0, 50, 50);
+  recorder().before_default("pop", WM_NCHITTEST,
+                            [&] { PostMessageW(window("other"), WM_USER, 0, 0); });
+  PostQuitMessage(0);
+  SetCursorPos(10, 10);
+  MSG message{};
+  EXPECT_NE(PeekMessageW(&message, window("other"), 0, 0, PM_REMOVE), 0);
+  EXPECT_EQ(message.message, WM_USER);
+}
+
 TEST_F(QueueTest, ParametersKeepTheirFullWidthAndSign) {
   const HWND popup = settled_popup("pop", 0, 0, 50, 50);
   const WPARAM wide = ~WPARAM{0} - 5;

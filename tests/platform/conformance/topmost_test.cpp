@@ -55,5 +55,20 @@ TEST_F(TopmostTest, WindowsOwnedByATopmostOneAreAboveIt) {
   EXPECT_EQ(seen(), owned);
 }
 
+class OwnedOrderTest : public TopmostTest {};
+
+TEST_F(OwnedOrderTest, NeitherSinkingNorPlacingBringsAnOwnedWindowBelowItsOwner) {
+  DestroyWindow(topmost_);
+  const HWND owner = make("owner", 0);
+  const HWND owned = create("owned", {.parent = owner, .style = WS_POPUP | WS_VISIBLE});
+  const HWND other = make("other", 0);
+  SetWindowPos(owned, HWND_BOTTOM, 0, 0, 0, 0, only_order);
+  EXPECT_EQ(GetWindow(owned, GW_HWNDNEXT), owner);
+  SetWindowPos(owned, owner, 0, 0, 0, 0, only_order);
+  EXPECT_EQ(GetWindow(owned, GW_HWNDNEXT), owner);
+  SetWindowPos(other, HWND_BOTTOM, 0, 0, 0, 0, only_order);
+  EXPECT_EQ(seen(), owned);
+}
+
 }  // namespace
 }  // namespace corvane::conformance
