@@ -157,40 +157,33 @@ struct Single {
   Pixel expected;
 };
 
-class OnePixel : public ::testing::TestWithParam<Single> {};
+TEST(Compositor, BlendsOnePixelOverTheBackground) {
+  const Single cases[] = {
 
-TEST_P(OnePixel, OverBackground) {
-  const Single& single = GetParam();
-  const auto surface = std::make_shared<Surface>(1, 1, single.source);
-  const Layer layer{surface,           {},         {0, 0, 1, 1},
-                    single.keyed,      single.key, static_cast<std::uint8_t>(single.alpha),
-                    single.pixel_alpha};
-  for (const auto& composing : {compose, compose_reference}) {
-    Surface frame(1, 1);
-    composing(frame, Region({0, 0, 1, 1}), {layer}, 0x00406080);
-    EXPECT_EQ(frame.at(0, 0), single.expected) << single.what;
+      {"an opaque layer's alpha byte does not count", 0x00112233, false, 0, 255, false, 0xFF112233},
+      {"the key shows the background", 0xFFFFFFFF, true, 0x00FFFFFF, 120, false, 0xFF406080},
+      {"the key's own alpha byte does not count", 0xFFFFFFFF, true, 0x77FFFFFF, 120, false,
+       0xFF406080},
+      {"a key that is off is a colour", 0xFFFFFFFF, false, 0x00FFFFFF, 255, false, 0xFFFFFFFF},
+      {"nearly the key is not the key", 0xFFFFFFFE, true, 0x00FFFFFF, 255, false, 0xFFFFFFFE},
+      {"black at 120", 0xFF000000, true, 0x00FFFFFF, 120, false, 0xFF223344},
+      {"alpha 1 changes by at most one", 0xFFFFFFFF, false, 0, 1, false, 0xFF416180},
+      {"pixel alpha", 0x80800000, false, 0, 255, true, 0xFFA03040},
+      {"pixel alpha and constant alpha", 0x80800000, false, 0, 128, true, 0xFF704860},
+      {"colour without alpha adds and saturates", 0x00FF0080, false, 0, 255, true, 0xFFFF60FF}};
+  for (const Single& single : cases) {
+    Layer layer{std::make_shared<Surface>(1, 1, single.source), {}, {0, 0, 1, 1}};
+    layer.keyed = single.keyed;
+    layer.key = single.key;
+    layer.alpha = static_cast<std::uint8_t>(single.alpha);
+    layer.pixel_alpha = single.pixel_alpha;
+    for (const auto& composing : {compose, compose_reference}) {
+      Surface frame(1, 1);
+      composing(frame, Region({0, 0, 1, 1}), {layer}, 0x00406080);
+      EXPECT_EQ(frame.at(0, 0), single.expected) << single.what;
+    }
   }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Compositor, OnePixel,
-    ::testing::Values(
-        Single{"an opaque layer's alpha byte does not count", 0x00112233, false, 0, 255, false,
-               0xFF112233},
-        Single{"the key shows the background", 0xFFFFFFFF, true, 0x00FFFFFF, 120, false,
-               0xFF406080},
-        Single{"the key's own alpha byte does not count", 0xFFFFFFFF, true, 0x77FFFFFF, 120, false,
-               0xFF406080},
-        Single{"a key that is off is a colour", 0xFFFFFFFF, false, 0x00FFFFFF, 255, false,
-               0xFFFFFFFF},
-        Single{"nearly the key is not the key", 0xFFFFFFFE, true, 0x00FFFFFF, 255, false,
-               0xFFFFFFFE},
-        Single{"black at 120", 0xFF000000, true, 0x00FFFFFF, 120, false, 0xFF223344},
-        Single{"alpha 1 changes by at most one", 0xFFFFFFFF, false, 0, 1, false, 0xFF416180},
-        Single{"pixel alpha", 0x80800000, false, 0, 255, true, 0xFFA03040},
-        Single{"pixel alpha and constant alpha", 0x80800000, false, 0, 128, true, 0xFF704860},
-        Single{"colour without alpha adds and saturates", 0x00FF0080, false, 0, 255, true,
-               0xFFFF60FF}));
 
 TEST(Compositor, KeepsToDamageAndSurvivesFarAwayLayers) {
   Surface frame(40, 30, 0xFF123456);
