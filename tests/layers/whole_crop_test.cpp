@@ -1,6 +1,7 @@
 // A whole crop as a user does it: the picture is known, the mouse is real, and the screen is read.
-#include <cmath>
+#include <algorithm>
 #include <cstdlib>
+#include <limits>
 #include <vector>
 
 #include "corvane/layers/frame/layer_messages.h"
@@ -357,6 +358,28 @@ TEST_F(WholeCropTest, WithoutItsWindowTheBackgroundStillAnswers) {
   background_.OnMouseMove(MK_LBUTTON, {50, 50});
   background_.OnLButtonUp(0, {50, 50});
   EXPECT_THAT(background_.GetCutRect(), is_rect(0, 0, 0, 0));
+}
+
+TEST_F(WholeCropTest, BearsPointsFarOutsideTheScreen) {
+  start();
+  constexpr int lowest = std::numeric_limits<int>::min();
+  constexpr int highest = std::numeric_limits<int>::max();
+  const std::vector<corvane::CPoint> points = {{lowest, lowest}, {highest, highest}, {lowest, 50},
+                                               {50, highest},    {-40000, 40000},    {50, 50}};
+  for (const auto& from : points) {
+    for (const auto& to : points) {
+      background_.OnLButtonDown(MK_LBUTTON, from);
+      background_.OnMouseMove(MK_LBUTTON, to);
+      desktop_.pump();
+      desktop_.windows().present();
+      background_.OnLButtonUp(0, to);
+      background_.OnMouseMove(0, {60, 60});
+      desktop_.pump();
+    }
+  }
+  background_.ShowWindow(SW_SHOW);
+  drag({100, 80}, {400, 280});
+  EXPECT_TRUE(is_clear(300, 150));
 }
 
 TEST_F(WholeCropTest, ManyCropsOneAfterTheOther) {

@@ -75,7 +75,7 @@ void CCutRectLayer::DrawGreenFrame(HDC dc) const {
     const HGDIOBJ former = ::SelectObject(dc, pen.GetSafeHandle());
     const auto outline = frame_.outline();
     ::MoveToEx(dc, outline.front().x, outline.front().y, nullptr);
-    for (const POINT& point : outline) ::LineTo(dc, point.x, point.y);
+    for (std::size_t i = 1; i < outline.size(); ++i) ::LineTo(dc, outline[i].x, outline[i].y);
     ::SelectObject(dc, former);
   }
   const CBrush brush(green);
