@@ -61,11 +61,12 @@ class CXmlListMgr {
   void LoadGdiSlider(CGdiSlider& slider, CRect& rect, CWnd* parent, int id) const;
   void LoadGdiComboBox(CGdiComboBox& box, CRect& rect, CWnd* parent, int id) const;
   void LoadGdiEditEx(CGdiEditEx& edit, CRect& rect, CWnd* parent, int id) const;
-  // Nothing happens without a record.
+  // Nothing happens without a record; `rect` keeps its value.
   void LoadListTab(CListTab& strip, CRect& rect, CWnd* parent, int id) const;
+  // Adds a button to a strip that has a window; without a record an empty one.
   void AddListTabBtn(CListTab& strip, int id) const;
   // Both create their window at (0, 0, 0, 0) and show it when there is a record; the caller moves
-  // it to the rectangle.
+  // it to the rectangle. Without a record it stays hidden and the rectangle is (0, 0, 0, 0).
   void LoadListBar(CListBar& bar, CRect& rect, CWnd* parent, int id) const;
   void LoadGifStatic(CPictureEx& picture, CRect& rect, CWnd* parent, int id) const;
 

@@ -27,7 +27,8 @@ class CBufferDC {
   // Fills the rectangle of the buffer; the opacity becomes 0, so that on a layered window black is
   // clear.
   void SetBackColor(const RECT& rect, COLORREF color);
-  // Copies the whole buffer over the rectangle of the target, stretched when the sizes differ.
+  // Copies the whole buffer over the rectangle (the target's logical coordinates), stretched when
+  // the sizes differ. False when there is no picture or no target, or the rectangle is empty.
   bool Paste(HDC target, const RECT& rect, DWORD operation = SRCCOPY) const;
 
  private:
