@@ -114,6 +114,22 @@ TEST_F(WholeCropTest, TextRecognitionFromStartToEnd) {
   EXPECT_FALSE(bar_is_shown());
 }
 
+TEST_F(WholeCropTest, HintStandsInTheMiddle) {
+  start(true, true);
+  CRect ink(client_width, client_height, 0, 0);
+  for (int y = 0; y < client_height; ++y) {
+    for (int x = 0; x < client_width; ++x) {
+      if (!is_green(x, y)) continue;
+      ink = CRect(std::min<int>(ink.left, x), std::min<int>(ink.top, y),
+                  std::max<int>(ink.right, x + 1), std::max<int>(ink.bottom, y + 1));
+    }
+  }
+  EXPECT_NEAR(ink.left, client_width - ink.right, 8);
+  EXPECT_NEAR(ink.top, client_height - ink.bottom, 8);
+  EXPECT_GT(ink.Width(), 12 * ink.Height()) << "one line of thirteen characters";
+  EXPECT_NEAR(ink.Height(), 30, 5) << "in a cell of 32 pixels";
+}
+
 TEST_F(WholeCropTest, NormalModeHasNoHint) {
   start();
   EXPECT_EQ(count_green(CRect(150, 200, 550, 300)), 0);

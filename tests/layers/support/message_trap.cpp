@@ -60,12 +60,18 @@ LRESULT CALLBACK MessageTrap::innermost(HWND window, UINT message, WPARAM wparam
 LRESULT CALLBACK MessageTrap::outermost(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
   const WNDPROC handler = live->object_procedures_[window];
   const TrapPoint point = {live->names_[window], message};
-  const bool now = point == live->point_ && ++live->seen_[point] == live->occurrence_;
-  if (point != live->point_) ++live->seen_[point];
+  const int occurrence = live->count(point);
+  const bool now = point == live->point_ && occurrence == live->occurrence_;
   if (now && live->side_ == TrapSide::before_handling) live->spring();
   const LRESULT result = ::CallWindowProcW(handler, window, message, wparam, lparam);
   if (now && live->side_ == TrapSide::after_handling) live->spring();
   return result;
+}
+
+int MessageTrap::count(const TrapPoint& point) {
+  const int occurrence = ++seen_[point];
+  if (seen_in_phase_.insert(point).second) firsts_[point].push_back(occurrence);
+  return occurrence;
 }
 
 void MessageTrap::spring() {

@@ -4,7 +4,9 @@
 #include <compare>
 #include <functional>
 #include <map>
+#include <set>
 #include <string>
+#include <vector>
 
 #include "corvane/platform/platform.h"
 
@@ -30,14 +32,18 @@ class MessageTrap {
   // `action` runs once, at the given occurrence (1: the first) of the message.
   void set(const TrapPoint& point, int occurrence, TrapSide side, std::function<void()> action);
   bool sprung() const { return sprung_; }
-  // How often each message has come.
-  const std::map<TrapPoint, int>& seen() const { return seen_; }
+  // From here on each message counts as one that comes for the first time.
+  void begin_phase() { seen_in_phase_.clear(); }
+  // For each message its occurrences that were the first ones of a phase.
+  const std::map<TrapPoint, std::vector<int>>& firsts() const { return firsts_; }
 
  private:
   static LRESULT CALLBACK on_creation(int code, WPARAM wparam, LPARAM lparam);
   static LRESULT CALLBACK innermost(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
   static LRESULT CALLBACK outermost(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
   void spring();
+
+  int count(const TrapPoint& point);  // which occurrence this one is
 
   static MessageTrap* live;
 
@@ -46,6 +52,8 @@ class MessageTrap {
   std::map<HWND, WNDPROC> object_procedures_;
   std::map<HWND, std::string> names_;
   std::map<TrapPoint, int> seen_;
+  std::set<TrapPoint> seen_in_phase_;
+  std::map<TrapPoint, std::vector<int>> firsts_;
   TrapPoint point_;
   int occurrence_ = 0;  // 0: none is set
   TrapSide side_ = TrapSide::before_handling;
