@@ -268,6 +268,7 @@ void Desktop::take_input(ByteStream& stream) {
 void Desktop::run_timer(ByteStream& stream) {
   const HWND target = window(stream);
   const UINT_PTR id = stream.byte() % 4u;
+  if (target == nullptr) return;  // a timer without a window outlives all windows
   if (stream.flag())
     SetTimer(target, id, stream.word(), nullptr);
   else

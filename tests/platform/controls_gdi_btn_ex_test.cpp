@@ -342,6 +342,9 @@ TEST_F(GdiBtnEx, ShowsWhatLiesBehindWhereItsImageIsClear) {
   pump();
   EXPECT_EQ(face(), RGB(90, 60, 30));
   EXPECT_GT(count_other_than(CRect(control_.rect), RGB(90, 60, 30)), 50);
+  button_->MoveWindow(control_.rect.left, control_.rect.top, 90, 36);
+  pump();
+  EXPECT_EQ(face(), RGB(90, 60, 30)) << "until the parent lends another";
 }
 
 TEST_F(GdiBtnEx, DrawsItselfElsewhereAsItLooksNow) {

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <stdexcept>
 
 #include "corvane/platform/framework/thread_state.h"
 #include "tests/platform/framework_desktop.h"
@@ -73,6 +74,20 @@ TEST_F(FrameworkWnd, FailedCreationLeavesNothingAndEndsOnce) {
   EXPECT_EQ(desktop_.windows.live_windows(), 0);
   WatchedWnd next;
   EXPECT_TRUE(next.create()) << "the failures leave no hook behind";
+}
+
+TEST_F(FrameworkWnd, AnExceptionMakesTheCreationFailCleanly) {
+  for (UINT thrown_in : {WM_NCCREATE, WM_CREATE}) {
+    bool throws = true;
+    WatchedWnd window([&](UINT message, WPARAM, LPARAM) {
+      if (throws && message == thrown_in) throw std::runtime_error("no such path");
+    });
+    EXPECT_FALSE(window.create());
+    EXPECT_EQ(window.GetSafeHwnd(), nullptr);
+    EXPECT_EQ(desktop_.windows.live_windows(), 0);
+    throws = false;
+    EXPECT_TRUE(window.create());
+  }
 }
 
 TEST_F(FrameworkWnd, CreationsNest) {
@@ -157,13 +172,24 @@ class AskingWnd : public WatchedWnd {
   }
   HWND other = nullptr;
 
- protected:
   LRESULT OnAsk(WPARAM, LPARAM) {
     // Messages handled in between do not change what is being handled here.
     if (other) ::SendMessageW(other, WM_USER + 2, 9, 9);
     return Default();
   }
 };
+
+TEST_F(FrameworkWnd, DefaultHandlingIsNotForAnotherWindowsMessage) {
+  AskingWnd called;
+  ASSERT_TRUE(called.create());
+  WatchedWnd closing([&](UINT message, WPARAM, LPARAM) {
+    if (message == WM_CLOSE) called.OnAsk(0, 0);
+  });
+  ASSERT_TRUE(closing.create());
+  closing.SendMessageW(WM_CLOSE);
+  EXPECT_EQ(closing.GetSafeHwnd(), nullptr);
+  EXPECT_NE(called.GetSafeHwnd(), nullptr) << "it was not asked to close";
+}
 
 TEST_F(FrameworkWnd, DefaultHandlingIsTheClassesOwnProcedure) {
   WNDCLASSW window_class{};

@@ -4,7 +4,7 @@
 
 namespace corvane {
 
-// The full path of a file in the configuration folder.
+// The full path of a file in the configuration folder; empty when no skin folder was found.
 CString GetConfigPath(const CString& file_name);
 // The image folder, without a trailing separator.
 CString GetImagePath();

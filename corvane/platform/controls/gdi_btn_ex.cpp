@@ -99,11 +99,12 @@ void CGdiBtnEx::OnPaint() {
 
 void CGdiBtnEx::BuildPicture(const CRect& client) {
   if (!picture_.HasSizeOf(client)) picture_.CreateBufferDC(nullptr, client);
-  if (background_.HasSizeOf(client)) {
-    background_.Paste(picture_, client);
-  } else {
+  if (!background_.HasSizeOf(client)) {
     picture_.SetBackColor(client, GetSysColor(COLOR_BTNFACE));
   }
+  // What was lent before the button got another size still stands behind most of it.
+  const CRect lent(CPoint(0, 0), background_.GetRect().Size());
+  background_.Paste(picture_, lent);
   DoDraw(picture_, client);
 }
 

@@ -1,5 +1,6 @@
 #include "corvane/platform/framework/window_hook.h"
 
+#include <exception>
 #include <utility>
 
 #include "corvane/platform/framework/thread_state.h"
@@ -53,13 +54,25 @@ void WindowHook::adopt(HWND window) {
   object.super_procedure_ = replaced == &procedure ? nullptr : replaced;
 }
 
+// An exception may not cross the platform's creation: it makes the creation fail.
+LRESULT WindowHook::handle(CWnd& object, UINT message, WPARAM wparam, LPARAM lparam) {
+  if (message != WM_CREATE && message != WM_NCCREATE) {
+    return object.WindowProc(message, wparam, lparam);
+  }
+  try {
+    return object.WindowProc(message, wparam, lparam);
+  } catch (const std::exception&) {
+    return message == WM_CREATE ? -1 : 0;
+  }
+}
+
 LRESULT CALLBACK WindowHook::procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
   ThreadState& state = ThreadState::current();
   CWnd* object = state.handles.permanent(window);
   if (!object) return ::DefWindowProcW(window, message, wparam, lparam);
   const MSG current{window, message, wparam, lparam, 0, {}};
   const MessageScope scope(state, current);
-  const LRESULT result = object->WindowProc(message, wparam, lparam);
+  const LRESULT result = handle(*object, message, wparam, lparam);
   // A handler of WM_NCDESTROY may have left out the base's.
   if (message == WM_NCDESTROY && state.handles.permanent(window) == object) finish(*object);
   return result;

@@ -25,6 +25,7 @@ class WindowHook {
  private:
   static LRESULT CALLBACK on_creation(int code, WPARAM wparam, LPARAM lparam);
   static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
+  static LRESULT handle(CWnd& object, UINT message, WPARAM wparam, LPARAM lparam);
   void adopt(HWND window);
   void unhook();
 

@@ -118,7 +118,9 @@ LRESULT CWnd::DefWindowProcW(UINT message, WPARAM wparam, LPARAM lparam) {
 
 LRESULT CWnd::Default() {
   const MSG* current = GetCurrentMessage();
-  return current ? DefWindowProcW(current->message, current->wParam, current->lParam) : 0;
+  // A handler that was called from outside its window's messages has none to pass on.
+  if (!current || current->hwnd != m_hWnd) return 0;
+  return DefWindowProcW(current->message, current->wParam, current->lParam);
 }
 
 const MSG* CWnd::GetCurrentMessage() const { return ThreadState::current().message; }

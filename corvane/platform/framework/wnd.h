@@ -38,7 +38,8 @@ class CWnd : public CObject {
 
   // --- Creation and end. A null class name stands for a class with double clicks, the arrow and no
   // background. Positions are screen coordinates, of a child the parent's client coordinates.
-  // WM_NCCREATE and all later messages reach the object's handlers. False: no window was made
+  // WM_NCCREATE and all later messages reach the object's handlers. An exception thrown by the
+  // handler of WM_NCCREATE or WM_CREATE makes the creation fail. False: no window was made
   // (then PostNcDestroy has been called, and may have deleted the object), or the object has one
   // already.
   bool Create(LPCWSTR class_name, LPCWSTR window_name, DWORD style, const RECT& rect, CWnd* parent,
@@ -121,7 +122,8 @@ class CWnd : public CObject {
   virtual LRESULT WindowProc(UINT message, WPARAM wparam, LPARAM lparam);
   // The procedure that the window's class had before the object took it over.
   virtual LRESULT DefWindowProcW(UINT message, WPARAM wparam, LPARAM lparam);
-  // Default handling of the message that is being handled, with its parameters as they came.
+  // Default handling of the message that is being handled, with its parameters as they came. 0 and
+  // nothing happens when that is another window's message.
   LRESULT Default();
   const MSG* GetCurrentMessage() const;  // the message being handled on this thread
 
