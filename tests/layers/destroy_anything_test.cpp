@@ -51,6 +51,8 @@ class CropSession : public Scene {
     trap_.begin_phase();
     desktop_.drag({180, 125}, {150, 110});
     trap_.begin_phase();
+    repaint();
+    trap_.begin_phase();
     click_button(3);
     trap_.begin_phase();
     if (background_) background_->SetOCRMode(1);
@@ -82,6 +84,13 @@ class CropSession : public Scene {
   }
   void start() {
     if (background_) background_->ShowWindow(SW_SHOW);
+    desktop_.pump();
+  }
+  void repaint() {
+    const HWND background = handle();
+    for (const HWND each : {background, rect_layer_of(background), bar_of(background)}) {
+      if (each) ::InvalidateRect(each, nullptr, TRUE);
+    }
     desktop_.pump();
   }
   void click_button(int number) {

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <limits>
+#include <memory>
 #include <vector>
 
 #include "corvane/layers/frame/layer_messages.h"
@@ -396,6 +397,15 @@ TEST_F(WholeCropTest, BearsPointsFarOutsideTheScreen) {
   background_.ShowWindow(SW_SHOW);
   drag({100, 80}, {400, 280});
   EXPECT_TRUE(is_clear(300, 150));
+}
+
+TEST_F(WholeCropTest, BackgroundDeletedWhileItTakesTheCapture) {
+  auto background = std::make_unique<corvane::CCutBgLayer>();
+  ASSERT_TRUE(create_over(*background, host_));
+  host_.on_capture_lost = [&] { background.reset(); };
+  host_.SetCapture();
+  background->OnLButtonDown(MK_LBUTTON, {10, 10});
+  EXPECT_EQ(background, nullptr);
 }
 
 TEST_F(WholeCropTest, ManyCropsOneAfterTheOther) {

@@ -180,6 +180,14 @@ TEST_F(WindowLayerTest, ImageSetBeforeCreationIsShownAtOnce) {
       << "the rectangle has no effect";
 }
 
+TEST_F(WindowLayerTest, BackgroundShowsThroughItsButtons) {
+  PlainImage image(0xFF0000FF);
+  layer_.SetBgImage(image.get(), CRect());
+  create({13});
+  ASSERT_NE(::GetDlgItem(layer_, 13), nullptr);
+  EXPECT_EQ(desktop_.pixel(on_screen(30, 75).x, on_screen(30, 75).y), blue);
+}
+
 TEST_F(WindowLayerTest, BackgroundIsBuiltAnewOnlyWhenTheSizeChanges) {
   PlainImage image(0xFF0000FF);
   create({11});
@@ -221,6 +229,22 @@ TEST_F(WindowLayerTest, EnterIsSwallowedAndEscapeReachesTheMainWindowOnce) {
     EXPECT_EQ(host_.count(WM_KEYUP), 0U);
     EXPECT_EQ(host_.count(WM_LAYER_BTN_CLICK), 0U);
   }
+}
+
+TEST_F(WindowLayerTest, EscapeGoesToTheMainWindowNotToTheParent) {
+  HostWindow parent;
+  ASSERT_TRUE(parent.open({0, 0, 400, 300}));
+  ASSERT_TRUE(
+      layer_.CreateEx(0, nullptr, L"layer", WS_CHILD | WS_VISIBLE, layer_place, &parent, 0));
+  layer_.SetFocus();
+  desktop_.pump();
+  host_.forget();
+  desktop_.key(VK_ESCAPE);
+  EXPECT_EQ(host_.count(WM_KEYDOWN), 1U);
+  EXPECT_EQ(parent.count(WM_KEYDOWN), 0U);
+  desktop_.app().m_pMainWnd = nullptr;
+  desktop_.key(VK_ESCAPE);
+  EXPECT_EQ(host_.count(WM_KEYDOWN) + parent.count(WM_KEYDOWN), 1U) << "there is nobody to get it";
 }
 
 TEST_F(WindowLayerTest, CommandsOfOthersAreLeftToTheDefault) {

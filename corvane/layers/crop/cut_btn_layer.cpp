@@ -38,33 +38,30 @@ BOOL CCutBtnLayer::PreTranslateMessage(MSG* message) {
 void CCutBtnLayer::SetParentHwnd(HWND window) { parent_ = window; }
 
 void CCutBtnLayer::InitConfig() {
-  skin_->LoadCtrlList(L"ui_control.xml", skin_list);
-  skin_->LoadLanguageList(L"ui_language.xml", skin_list);
-  skin_->LoadLogfontList(L"ui_logfont.xml");
+  skin_.LoadCtrlList(L"ui_control.xml", skin_list);
+  skin_.LoadLanguageList(L"ui_language.xml", skin_list);
+  skin_.LoadLogfontList(L"ui_logfont.xml");
 }
 
 void CCutBtnLayer::LoadResources() {
   const auto watch = liveness_.watch();
-  const auto skin = skin_;
-  const auto buttons = buttons_;
-  for (std::size_t i = 0; i < buttons->size() && !watch.gone(); ++i) {
-    Button& button = (*buttons)[i];
-    skin->LoadGdiBtn(button.control, button.rect, this, number_of(i));
+  for (std::size_t i = 0; !watch.gone() && i < buttons_.size(); ++i) {
+    skin_.LoadGdiBtn(buttons_[i].control, buttons_[i].rect, this, number_of(i));
   }
 }
 
 CropButtonRects CCutBtnLayer::ButtonRects() const {
   CropButtonRects rects;
-  for (std::size_t i = 0; i < rects.size(); ++i) rects[i] = (*buttons_)[i].rect;
+  for (std::size_t i = 0; i < rects.size(); ++i) rects[i] = buttons_[i].rect;
   return rects;
 }
 
 void CCutBtnLayer::SetRect() {
   const CropButtonRects laid = lay_out_crop_buttons(ButtonRects());
-  for (std::size_t i = 0; i < laid.size(); ++i) (*buttons_)[i].rect = laid[i];
+  for (std::size_t i = 0; i < laid.size(); ++i) buttons_[i].rect = laid[i];
   const auto watch = liveness_.watch();
   for (std::size_t i = 0; i < laid.size() && !watch.gone(); ++i) {
-    CGdiBtnEx& control = (*buttons_)[i].control;
+    CGdiBtnEx& control = buttons_[i].control;
     if (control.GetSafeHwnd()) control.MoveWindow(&laid[i], TRUE);
   }
 }
@@ -75,8 +72,8 @@ void CCutBtnLayer::SetOCRMode(int text_recognition) {
 
 void CCutBtnLayer::ShowRow(CropRow row) {
   const auto watch = liveness_.watch();
-  for (std::size_t i = 0; i < buttons_->size(); ++i) {
-    CGdiBtnEx& control = (*buttons_)[i].control;
+  for (std::size_t i = 0; i < buttons_.size(); ++i) {
+    CGdiBtnEx& control = buttons_[i].control;
     if (!control.GetSafeHwnd()) continue;
     control.ShowWindow(row_of_crop_button(number_of(i)) == row ? SW_SHOW : SW_HIDE);
     if (watch.gone()) return;
@@ -89,8 +86,8 @@ void CCutBtnLayer::ShowRow(CropRow row) {
 BOOL CCutBtnLayer::OnCommand(WPARAM wparam, LPARAM lparam) {
   if (!lparam) return CWnd::OnCommand(wparam, lparam);
   const HWND sender = reinterpret_cast<HWND>(lparam);
-  for (std::size_t i = 0; i < buttons_->size(); ++i) {
-    if ((*buttons_)[i].control.GetSafeHwnd() != sender) continue;
+  for (std::size_t i = 0; i < buttons_.size(); ++i) {
+    if (buttons_[i].control.GetSafeHwnd() != sender) continue;
     if (parent_) ::PostMessageW(parent_, WM_CUT_CMD, static_cast<WPARAM>(number_of(i)), 0);
     break;
   }
@@ -115,7 +112,9 @@ void CCutBtnLayer::OnDestroy() {
   const auto watch = liveness_.watch();
   CWnd::OnDestroy();
   if (watch.gone()) return;
-  skin_ = std::make_shared<CXmlListMgr>();
+  skin_.CtrlRelease();
+  skin_.LanguageRelease();
+  skin_.LogfontRelease();
   background_.release();
 }
 
@@ -125,8 +124,8 @@ BOOL CCutBtnLayer::OnEraseBkgnd(CDC* dc) {
   if (!background_.rebuild(*this, dc, white)) return TRUE;
   const auto watch = liveness_.watch();
   SetRect();
-  for (std::size_t i = 0; !watch.gone() && i < buttons_->size(); ++i) {
-    (*buttons_)[i].control.SetBkGnd(background_.dc(), (*buttons_)[i].rect);
+  for (std::size_t i = 0; !watch.gone() && i < buttons_.size(); ++i) {
+    buttons_[i].control.SetBkGnd(background_.dc(), buttons_[i].rect);
   }
   return TRUE;
 }

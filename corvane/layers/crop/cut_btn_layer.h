@@ -4,7 +4,6 @@
 // button's number; what the numbers mean is the host's business. Looks and sizes come from the
 // skin's list 4, controls 1 to 6.
 #include <array>
-#include <memory>
 
 #include "corvane/layers/crop/button_rows.h"
 #include "corvane/layers/frame/buffered_background.h"
@@ -47,17 +46,14 @@ class CCutBtnLayer : public CWnd {
     CGdiBtnEx control;
     CRect rect;  // client coordinates of the bar
   };
-  using Buttons = std::array<Button, 6>;  // button 1 first
 
   CropButtonRects ButtonRects() const;
   void ShowRow(CropRow row);
 
   BufferedBackground background_;
   HWND parent_ = nullptr;
-  // Creating a button calls out; its loader keeps both, even when that ends the window or the
-  // layer.
-  std::shared_ptr<CXmlListMgr> skin_ = std::make_shared<CXmlListMgr>();
-  std::shared_ptr<Buttons> buttons_ = std::make_shared<Buttons>();
+  CXmlListMgr skin_;
+  std::array<Button, 6> buttons_;  // button 1 first
   Liveness liveness_;
 };
 

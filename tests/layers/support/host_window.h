@@ -28,6 +28,7 @@ class HostWindow : public corvane::CWnd {
   void forget() { received_.clear(); }
   // Called when the window begins to be dragged, which keeps the loop until the release.
   std::function<void()> on_drag_begin;
+  std::function<void()> on_capture_lost;
 
  protected:
   LRESULT WindowProc(UINT message, WPARAM wparam, LPARAM lparam) override;

@@ -13,6 +13,14 @@
 namespace corvane_tests {
 namespace {
 
+// A PNG picture of one pixel that is clear.
+constexpr unsigned char clear_picture[] = {
+    0x89, 0x50, 0x4E, 0x47, 0x0D, 0x0A, 0x1A, 0x0A, 0x00, 0x00, 0x00, 0x0D, 0x49, 0x48,
+    0x44, 0x52, 0x00, 0x00, 0x00, 0x01, 0x00, 0x00, 0x00, 0x01, 0x08, 0x06, 0x00, 0x00,
+    0x00, 0x1F, 0x15, 0xC4, 0x89, 0x00, 0x00, 0x00, 0x0B, 0x49, 0x44, 0x41, 0x54, 0x78,
+    0xDA, 0x63, 0x60, 0x00, 0x02, 0x00, 0x00, 0x05, 0x00, 0x01, 0xE9, 0xFA, 0xDC, 0xD8,
+    0x00, 0x00, 0x00, 0x00, 0x49, 0x45, 0x4E, 0x44, 0xAE, 0x42, 0x60, 0x82};
+
 std::filesystem::path make_folder() {
   std::string pattern = (std::filesystem::temp_directory_path() / "layer_skin_XXXXXX").string();
   if (!mkdtemp(pattern.data())) throw std::runtime_error("no temporary folder");
@@ -25,10 +33,11 @@ std::wstring platform_path(const std::filesystem::path& path) {
   return text;
 }
 
-std::string control(int id, const RECT& rect) {
+std::string control(int id, const RECT& rect, const char* image = "") {
   std::ostringstream text;
   text << "<control id=\"" << id << "\" x=\"" << rect.left << "\" y=\"" << rect.top << "\" width=\""
-       << rect.right - rect.left << "\" height=\"" << rect.bottom - rect.top << "\"/>";
+       << rect.right - rect.left << "\" height=\"" << rect.bottom - rect.top << "\" image=\""
+       << image << "\"/>";
   return text.str();
 }
 
@@ -48,9 +57,12 @@ std::string crop_controls() {
 TestSkin::TestSkin() : folder_(make_folder()) {
   write("ui_control.xml", "<controls><list id=\"4\">" + crop_controls() +
                               "</list><list id=\"100\">" + control(11, button_11) +
-                              control(12, button_12) + "</list></controls>");
+                              control(12, button_12) + control(13, button_13, "clear.png") +
+                              "</list></controls>");
   write("ui_language.xml", "<captions/>");
   write("ui_logfont.xml", "<fonts/>");
+  std::filesystem::create_directory(folder_ / "image");
+  write("image/clear.png", {std::begin(clear_picture), std::end(clear_picture)});
   corvane::SetSkinFolder(platform_path(folder_).c_str());
 }
 
@@ -62,12 +74,12 @@ TestSkin::~TestSkin() {
 
 void TestSkin::remove_files() {
   for (const auto& entry : std::filesystem::directory_iterator(folder_)) {
-    std::filesystem::remove(entry.path());
+    std::filesystem::remove_all(entry.path());
   }
 }
 
 void TestSkin::write(const char* name, const std::string& text) const {
-  std::ofstream(folder_ / name) << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>" << text;
+  std::ofstream(folder_ / name, std::ios::binary) << text;
 }
 
 }  // namespace corvane_tests

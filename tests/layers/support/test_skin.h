@@ -1,6 +1,6 @@
 #pragma once
-// A skin in a temporary folder, in force for as long as the object lives. Its buttons have no
-// images: only their places count.
+// A skin in a temporary folder, in force for as long as the object lives. Most of its
+// buttons have no images: only their places count.
 #include <filesystem>
 #include <string>
 
@@ -20,10 +20,11 @@ class TestSkin {
   // The crop bar's buttons: list 4, controls 1 to 6, each of its own size and standing anywhere.
   static constexpr SIZE crop_button_sizes[] = {{40, 30}, {50, 30}, {60, 32},
                                                {30, 28}, {80, 34}, {70, 20}};
-  // List 100: buttons 11 and 12.
+  // List 100: buttons 11 and 12, and 13 whose image is clear everywhere.
   static constexpr int button_list = 100;
   static constexpr RECT button_11 = {10, 10, 70, 40};
   static constexpr RECT button_12 = {100, 10, 160, 40};
+  static constexpr RECT button_13 = {10, 60, 70, 90};
 
  private:
   void write(const char* name, const std::string& text) const;
