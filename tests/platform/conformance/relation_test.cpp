@@ -30,6 +30,17 @@ TEST_F(RelationTest, NewParentShowsTheChildAtTheSameClientPosition) {
   EXPECT_NE(IsWindow(child_), 0);
 }
 
+TEST_F(RelationTest, APopUpThatWasGivenAParentIsOrderedAmongItsNewSiblings) {
+  const HWND pop_up = settled_popup("pop-up", 0, 0, 20, 20);
+  SetParent(pop_up, left_);
+  for (const HWND after : {HWND_TOP, HWND_BOTTOM, HWND_NOTOPMOST, HWND_TOP}) {
+    EXPECT_NE(SetWindowPos(pop_up, after, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE), 0);
+    const bool lowest = after == HWND_BOTTOM;
+    EXPECT_EQ(GetTopWindow(left_), lowest ? child_ : pop_up);
+    EXPECT_EQ(GetWindow(child_, lowest ? GW_HWNDNEXT : GW_HWNDPREV), pop_up);
+  }
+}
+
 TEST_F(RelationTest, AWindowCannotGetItsOwnDescendantAsParent) {
   EXPECT_EQ(SetParent(child_, inner_), nullptr);
   EXPECT_EQ(SetParent(child_, child_), nullptr);

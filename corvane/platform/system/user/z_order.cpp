@@ -72,7 +72,7 @@ Siblings::iterator target_position(System& state, Window& window, HWND after) {
   Siblings& order = window.parent->children;
   if (after == HWND_BOTTOM) return order.end();
   if (after == HWND_TOP || after == HWND_TOPMOST || after == HWND_NOTOPMOST) {
-    return window.is_child() ? order.begin() : top_of_kind(state, window);
+    return is_top_level(window) ? top_of_kind(state, window) : order.begin();
   }
   auto it = std::find_if(order.begin(), order.end(),
                          [after](Window* other) { return other->handle == after; });
