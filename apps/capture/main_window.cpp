@@ -10,6 +10,7 @@ namespace {
 using namespace corvane;
 
 constexpr int kToolbarList = 100;
+constexpr int kToolbarBackground = 7;
 constexpr int kToolbarHeight = 76;
 constexpr int kQuitMargin = 12;
 constexpr UINT_PTR kRecognitionTimer = 1;
@@ -63,7 +64,8 @@ void CMainWindow::CreateToolbar() {
   skin_.LoadCtrlList(L"ui_control.xml", kToolbarList);
   skin_.LoadLanguageList(L"ui_language.xml", kToolbarList);
   skin_.LoadLogfontList(L"ui_logfont.xml");
-  toolbar_background_.Load(GetImagePath() + L"\\toolbar_bg.png");
+  CRect unused;
+  skin_.LoadGdiImage(toolbar_background_, unused, kToolbarBackground);
   toolbar_.SetXmlListMgr(&skin_);
   toolbar_.SetBgImage(toolbar_background_.GetImage(), CRect());
   for (ToolbarButton button : {ToolbarButton::crop, ToolbarButton::text, ToolbarButton::open,

@@ -5,6 +5,8 @@
 
 #include <array>
 #include <cstdio>
+#include <fstream>
+#include <iterator>
 
 #include "apps/capture/picture.h"
 #include "tests/apps/temporary_folder.h"
@@ -73,6 +75,31 @@ TEST(ScriptedSession, LeavesItsFramesAndTheCrop) {
   ASSERT_NE(saved, nullptr);
   EXPECT_EQ(crop->size().cx, saved->size().cx);
   EXPECT_GT(crop->size().cx, 300);
+}
+
+std::string WholeFile(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+TEST(Skin, TheToolbarsBackgroundIsThePictureThatControl7Names) {
+  TemporaryFolder folder;
+  std::filesystem::copy(CORVANE_DEFAULT_SKIN, folder / "skin",
+                        std::filesystem::copy_options::recursive);
+  std::string controls = WholeFile(folder / "skin" / "ui_control.xml");
+  const std::string named = "toolbar_bg.png";
+  ASSERT_NE(controls.find(named), std::string::npos);
+  controls.replace(controls.find(named), named.size(), "mine.png");
+  std::ofstream(folder / "skin" / "ui_control.xml", std::ios::binary) << controls;
+  WriteTestPicture(folder / "skin" / "image" / "mine.png", 1, 1);
+  WriteTestPicture(folder / "page.png", 100, 100);
+  Outcome outcome =
+      RunCommand("CORVANE_SKIN=" + Quoted(folder / "skin") + " " + kProgram + "--script " +
+                 Quoted(folder / "out") + " " + Quoted(folder / "page.png"));
+  ASSERT_EQ(outcome.status, 0);
+  auto frame = CPicture::Open(folder / "out" / "frame_01.png");
+  ASSERT_NE(frame, nullptr);
+  EXPECT_EQ(frame->image()->pixels()->at(2, 2), TestPixel(0, 0));
 }
 
 }  // namespace
