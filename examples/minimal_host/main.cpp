@@ -5,6 +5,7 @@
 #include "corvane/layers/frame/layer_messages.h"
 #include "corvane/layers/frame/window_layer.h"
 #include "corvane/platform/framework/framework.h"
+#include "corvane/platform/images/gdi_image.h"
 #include "corvane/skin/xml_list_mgr.h"
 
 namespace {
@@ -12,6 +13,7 @@ namespace {
 using namespace corvane;
 
 constexpr int kToolbarList = 100;  // the list of the default skin that holds the buttons
+constexpr int kBackground = 7;     // its picture behind them
 constexpr int kButtons[] = {1, 2, 3};
 constexpr RECT kPlace{0, 0, 296, 76};
 
@@ -25,6 +27,9 @@ class CHostWindow : public CWnd {
     m_skin.LoadLogfontList(L"ui_logfont.xml");
     m_layer.SetXmlListMgr(&m_skin);
     for (const int id : kButtons) m_layer.AddBtn(id);
+    CRect unused;
+    m_skin.LoadGdiImage(m_background, unused, kBackground);
+    m_layer.SetBgImage(m_background.GetImage(), unused);
     m_layer.CreateEx(0, window_class, L"", WS_CHILD, kPlace, this, 0);
     m_layer.ShowWindow(SW_SHOW);
     ShowWindow(SW_SHOW);
@@ -46,7 +51,9 @@ class CHostWindow : public CWnd {
     return 0;
   }
 
-  CXmlListMgr m_skin;  // outlives the layer, which borrows it
+  // Both outlive the layer, which borrows them.
+  CXmlListMgr m_skin;
+  CGdiImage m_background;
   CWindowLayer m_layer;
 };
 
