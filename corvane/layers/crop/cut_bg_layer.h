@@ -1,8 +1,9 @@
 #pragma once
 // The window that a host lays over its picture to run a crop. It is practically invisible but takes
 // the mouse everywhere, keeps a CCutRectLayer exactly over itself and hands the mouse to it, so the
-// whole area behaves as one. The host chooses its class, style and place; a mid-grey background
-// brush changes what shows through least.
+// whole area behaves as one. The host creates it as a pop-up (WS_POPUP) that its own window owns,
+// hidden, over the picture in screen coordinates, and moves it when the picture moves; a mid-grey
+// brush of the window's class changes what shows through least.
 #include "corvane/layers/crop/cut_rect_layer.h"
 #include "corvane/layers/frame/liveness.h"
 #include "corvane/platform/framework/rect.h"
