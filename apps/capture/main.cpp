@@ -34,14 +34,17 @@ class CCaptureApp : public corvane::CWinApp {
 
   bool InitInstance() override {
     m_pMainWnd = &window_;
-    return window_.Open(std::move(picture_));
+    opened_ = window_.Open(std::move(picture_));
+    return opened_;
   }
+  int ExitInstance() override { return opened_ ? CWinApp::ExitInstance() : 1; }
 
   capture::CMainWindow& window() { return window_; }
 
  private:
   std::unique_ptr<capture::CPicture> picture_;
   capture::CMainWindow window_;
+  bool opened_ = false;
 };
 
 }  // namespace

@@ -59,6 +59,13 @@ TEST(CommandLine, WrongArgumentsGiveTheUsageAndStatus2) {
   }
 }
 
+TEST(CommandLine, ADesktopThatCannotBeReachedIsSaid) {
+  Outcome outcome = RunCommand("CORVANE_DISPLAY=sdl WAYLAND_DISPLAY= DISPLAY=:no-such-server " +
+                               kProgram + "'" CORVANE_SAMPLE "' 2>&1 >/dev/null");
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_EQ(outcome.text, "corvane: the native desktop cannot be reached\n");
+}
+
 TEST(ScriptedSession, LeavesItsFramesAndTheCrop) {
   TemporaryFolder folder;
   WriteTestPicture(folder / "page.png", 1000, 600);

@@ -143,7 +143,10 @@ TEST(OpenDisplay, AWindowThatCannotBeOpenedIsNone) {
   environment.set("SDL_VIDEODRIVER", nullptr);
   environment.set("CORVANE_DISPLAY", "sdl");
   environment.set("DISPLAY", ":no-such-server");
+  testing::internal::CaptureStderr();
   EXPECT_EQ(open_display(), nullptr);
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
+            "corvane: the native desktop cannot be reached\n");
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "corvane/platform/system/display/open_display.h"
 
 #include <charconv>
+#include <cstdio>
 #include <cstdlib>
 #include <string_view>
 
@@ -44,10 +45,17 @@ bool has_native_desktop() {
 std::unique_ptr<Display> open_display() {
   const SIZE size = wanted_size();
   const std::string_view kind = environment("CORVANE_DISPLAY");
-  if (kind == "sdl") return SdlDisplay::open(size);
-  if (kind != "headless" && has_native_desktop()) {
-    if (auto display = SdlDisplay::open(size)) return display;
+  const bool only_native = kind == "sdl";
+  if (!kind.empty() && !only_native && kind != "headless") {
+    std::fprintf(stderr, "corvane: CORVANE_DISPLAY=%s is unknown (headless, sdl)\n", kind.data());
   }
+  if (kind == "headless" || (!only_native && !has_native_desktop())) {
+    return std::make_unique<HeadlessDisplay>(size);
+  }
+  if (auto display = SdlDisplay::open(size)) return display;
+  std::fprintf(stderr, "corvane: the native desktop cannot be reached%s\n",
+               only_native ? "" : "; showing nothing, running in memory");
+  if (only_native) return nullptr;
   return std::make_unique<HeadlessDisplay>(size);
 }
 
