@@ -63,7 +63,7 @@ TEST(CommandLine, ADesktopThatCannotBeReachedIsSaid) {
   Outcome outcome = RunCommand("CORVANE_DISPLAY=sdl WAYLAND_DISPLAY= DISPLAY=:no-such-server " +
                                kProgram + "'" CORVANE_SAMPLE "' 2>&1 >/dev/null");
   EXPECT_EQ(outcome.status, 1);
-  EXPECT_EQ(outcome.text, "corvane: the native desktop cannot be reached\n");
+  EXPECT_THAT(outcome.text, testing::EndsWith("corvane: the native desktop cannot be reached\n"));
 }
 
 TEST(ScriptedSession, LeavesItsFramesAndTheCrop) {
