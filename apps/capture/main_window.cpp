@@ -1,5 +1,7 @@
 #include "apps/capture/main_window.h"
 
+#include <cerrno>
+#include <cstring>
 #include <filesystem>
 
 #include "apps/capture/texts.h"
@@ -23,6 +25,24 @@ constexpr wchar_t kHowToInstall[] =
     L"文字识别需要 tesseract 程序，现在没有安装。\n\n"
     L"请安装软件包 tesseract-ocr 和 tesseract-ocr-chi-sim：\n"
     L"sudo apt install tesseract-ocr tesseract-ocr-chi-sim";
+
+// The usual reasons in the user's language, others in the system's.
+CString SaveError(int error) {
+  switch (error) {
+    case ENOSPC:
+    case EDQUOT:
+      return L"磁盘空间不足";
+    case EACCES:
+    case EPERM:
+    case EROFS:
+      return L"没有写入权限";
+    case ENOENT:
+    case ENOTDIR:
+      return L"图片所在的文件夹不存在";
+    default:
+      return Wide(std::strerror(error));
+  }
+}
 
 }  // namespace
 
@@ -222,7 +242,7 @@ void CMainWindow::SaveFramed() {
   }
   SavedPart saved = SaveBeside(picture_->path(), png);
   if (saved.path.empty()) {
-    view_.ShowNotice(CString(L"无法保存：") + Wide(saved.error));
+    view_.ShowNotice(CString(L"无法保存：") + SaveError(saved.error));
     return;
   }
   last_saved_ = saved.path;

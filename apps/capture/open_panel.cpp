@@ -51,7 +51,8 @@ void COpenPanel::ListFolder(const std::string& folder, const std::string& curren
     std::error_code ignored;
     std::string name = it->path().filename();
     bool is_folder = it->is_directory(ignored);
-    if (name.starts_with('.') || (!is_folder && !HasPictureEnding(name))) continue;
+    bool is_picture = HasPictureEnding(name) && it->is_regular_file(ignored);
+    if (name.starts_with('.') || (!is_folder && !is_picture)) continue;
     entries_.push_back({it->path(), Wide(name), is_folder});
   }
   std::sort(entries_.begin(), entries_.end(), [](const Entry& a, const Entry& b) {
@@ -66,6 +67,17 @@ void COpenPanel::ListFolder(const std::string& folder, const std::string& curren
   if (here != entries_.end()) marked_ = static_cast<int>(here - entries_.begin());
   SetTitle(Wide(fs::path(folder).filename().string()));
   ScrollTo(0);
+  ShowMarked();
+}
+
+void COpenPanel::ShowMarked() {
+  if (marked_ < 0) return;
+  CRect content(ContentRect());
+  int top = marked_ * kRowHeight;
+  if (top < scroll()) ScrollTo(top);
+  if (top + kRowHeight > scroll() + content.Height()) {
+    ScrollTo(top + kRowHeight - content.Height());
+  }
 }
 
 void COpenPanel::DrawContent(HDC dc, const RECT& content) {
@@ -123,12 +135,7 @@ void COpenPanel::OnKeyDown(UINT key, UINT, UINT) {
     OpenEntry(marked_);
   } else if (last >= 0 && (key == VK_DOWN || key == VK_UP)) {
     Mark(std::clamp(marked_ + (key == VK_DOWN ? 1 : -1), 0, last));
-    CRect content(ContentRect());
-    int top = marked_ * kRowHeight;
-    if (top < scroll()) ScrollTo(top);
-    if (top + kRowHeight > scroll() + content.Height()) {
-      ScrollTo(top + kRowHeight - content.Height());
-    }
+    ShowMarked();
   } else {
     Default();
   }

@@ -32,6 +32,7 @@ class COpenPanel : public CPanel {
   };
   int EntryAt(corvane::CPoint point) const;  // -1: none
   void Mark(int index);
+  void ShowMarked();  // scrolls it into view
   void OpenEntry(int index);
   void DrawEntry(HDC dc, const Entry& entry, const RECT& row, bool marked);
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <filesystem>
 #include <system_error>
 
@@ -81,14 +80,14 @@ SavedPart SaveBeside(const std::string& picture_path, const std::vector<std::uin
     std::string path = base.string() + "_" + std::to_string(number) + ".png";
     switch (corvane::system::write_new_file(path, png.data(), png.size())) {
       case NewFileResult::written:
-        return {path, {}};
+        return {path, 0};
       case NewFileResult::exists:
         continue;
       case NewFileResult::failed:
-        return {{}, std::strerror(errno)};
+        return {{}, errno};
     }
   }
-  return {{}, std::strerror(EEXIST)};
+  return {{}, EEXIST};
 }
 
 }  // namespace capture

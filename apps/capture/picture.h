@@ -37,8 +37,8 @@ class CPicture {
 bool HasPictureEnding(const std::string& name);
 
 struct SavedPart {
-  std::string path;   // empty when it could not be saved
-  std::string error;  // then why, in the system's words
+  std::string path;  // empty when it could not be saved
+  int error = 0;     // then why, as errno tells it
 };
 // Saves bytes beside the picture as NAME_1.png, NAME_2.png ..., never over an existing file.
 SavedPart SaveBeside(const std::string& picture_path, const std::vector<std::uint8_t>& png);

@@ -6,6 +6,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cerrno>
+
 #include "tests/apps/temporary_folder.h"
 #include "tests/apps/test_pictures.h"
 
@@ -83,7 +85,7 @@ TEST(SaveBeside, TellsWhyItCouldNot) {
   TemporaryFolder folder;
   SavedPart saved = SaveBeside(folder / "gone" / "a.png", {1});
   EXPECT_THAT(saved.path, IsEmpty());
-  EXPECT_EQ(saved.error, "No such file or directory");
+  EXPECT_EQ(saved.error, ENOENT);
 }
 
 TEST(EncodePart, GivesBackExactlyThatPart) {
