@@ -1,8 +1,13 @@
 // The default skin holds what the library and its program ask for.
 #include <gtest/gtest.h>
 
+#include <set>
+#include <vector>
+
 #include "corvane/platform/base_services/installation.h"
 #include "corvane/platform/base_services/system_paths.h"
+#include "corvane/platform/images/gdi_image.h"
+#include "corvane/platform/system/gdi/surface.h"
 #include "corvane/skin/xml_list_mgr.h"
 
 namespace corvane {
@@ -51,6 +56,29 @@ TEST_F(DefaultSkin, EveryButtonHasItsSizeImagesCaptionAndFont) {
     ASSERT_TRUE(caption);
     EXPECT_EQ(caption->text, each.caption);
     EXPECT_TRUE(skin.GetMyFont(caption->font_id));
+  }
+}
+
+TEST_F(DefaultSkin, TheTreesPicturesFillTheirCellsAndDiffer) {
+  CXmlListMgr skin;
+  skin.LoadCtrlList(L"ui_control.xml", 1);
+  const CString folder = skin.GetBgImgPath(-1);
+  std::set<std::vector<std::uint32_t>> seen;
+  for (const int id : {1, 2}) {
+    const _MYCONTROL* const control = skin.GetCtrl(id);
+    ASSERT_TRUE(control) << id;
+    for (const auto* const name : {&control->image, &control->selected_image}) {
+      CGdiImage image;
+      ASSERT_TRUE(image.Load(folder + *name)) << id;
+      EXPECT_EQ(image.GetWidth(), 30) << id;
+      EXPECT_EQ(image.GetHeight(), 30) << id;
+      std::vector<std::uint32_t> pixels;
+      for (int at = 0; at < 900; ++at) {
+        pixels.push_back(image.GetImage()->pixels()->at(at % 30, at / 30));
+      }
+      EXPECT_EQ(pixels.front(), 0u) << "a transparent corner of control " << id;
+      EXPECT_TRUE(seen.insert(pixels).second) << "a picture of control " << id << " comes twice";
+    }
   }
 }
 

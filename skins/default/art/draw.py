@@ -9,6 +9,7 @@ import icons
 import palette as p
 import plates
 import png
+import tree
 
 OUT = Path(__file__).resolve().parent.parent / "image"
 STATES = ("normal", "hover", "pressed", "disabled", "selected")
@@ -91,6 +92,13 @@ def buttons():
         picture(f"panel_close_{state}", 32, 32, paint)
 
 
+def tree_pictures():
+    picture("tree_glyph_normal", 30, 30, tree.glyph(False))
+    picture("tree_glyph_selected", 30, 30, tree.glyph(True))
+    picture("tree_folder_normal", 30, 30, tree.folder)
+    picture("tree_folder_selected", 30, 30, tree.open_folder)
+
+
 def app_icon(c):
     plates.app_icon(c, 64, 64)
     for dy, colour in ((1, p.rgba("#0B3B20", .55)), (0, p.rgba("#23D674"))):
@@ -105,6 +113,7 @@ def app_icon(c):
 def main():
     OUT.mkdir(exist_ok=True)
     buttons()
+    tree_pictures()
     picture("toolbar_bg", 64, 76,
             lambda c: plates.toolbar_background(c, 64, 76))
     picture("panel_bg", 64, 64, lambda c: plates.panel_background(c, 64, 64))

@@ -13,6 +13,9 @@ ACCENT_LIGHT = "#4FE394"  # icons in the selected state
 ACCENT_TOP = "#1DA95E"    # primary plate, top (dark enough for white captions)
 ACCENT_BOTTOM = "#12884A"  # primary plate, bottom
 WARN = "#FF8A7A"          # icons that leave or discard, while hovered
+GLYPH = "#6B7885"         # chevrons of the folder tree, which is white
+FOLDER_BACK, FOLDER_FRONT = "#DDB25C", "#F3D48C"  # folders of the tree
+OPEN_BACK, OPEN_FRONT = "#C77D12", "#FFB938"      # its current folder
 
 
 def rgba(colour, alpha=1.0):
