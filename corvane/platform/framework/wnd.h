@@ -106,6 +106,17 @@ class CWnd : public CObject {
   CDC* BeginPaint(LPPAINTSTRUCT paint);  // temporary; ended by EndPaint
   void EndPaint(const PAINTSTRUCT* paint);
 
+  // --- Standard scroll bars (SB_VERT, SB_HORZ)
+  // The structure's size is filled in here. False: no window, or no such bar.
+  BOOL SetScrollInfo(int bar, LPSCROLLINFO info, BOOL redraw = TRUE);
+  BOOL GetScrollInfo(int bar, LPSCROLLINFO info, UINT mask = SIF_ALL) const;
+  int SetScrollPos(int bar, int position, BOOL redraw = TRUE);  // the previous position
+  int GetScrollPos(int bar) const;
+  void SetScrollRange(int bar, int minimum, int maximum, BOOL redraw = TRUE);
+  void GetScrollRange(int bar, int* minimum, int* maximum) const;  // 0 and 0 without a bar
+  int GetScrollLimit(int bar) const;               // the last position that shows a full page
+  void ShowScrollBar(UINT bar, BOOL show = TRUE);  // also SB_BOTH
+
   // --- Input and timers
   CWnd* SetCapture();
   static CWnd* GetCapture();

@@ -151,6 +151,7 @@ constexpr DWORD ERROR_CANNOT_FIND_WND_CLASS = 1407;
 constexpr DWORD ERROR_CLASS_ALREADY_EXISTS = 1410;
 constexpr DWORD ERROR_CLASS_DOES_NOT_EXIST = 1411;
 constexpr DWORD ERROR_CONTROL_ID_NOT_FOUND = 1421;
+constexpr DWORD ERROR_NO_SCROLLBARS = 1447;
 
 }  // namespace corvane_system
 using namespace corvane_system;  // NOLINT: the platform's names are global, as on Windows

@@ -5,6 +5,7 @@
 #include "corvane/platform/system/user/messages.h"
 #include "corvane/platform/system/user/move_loop.h"
 #include "corvane/platform/system/user/painting.h"
+#include "corvane/platform/system/user/scroll_bars.h"
 #include "corvane/platform/system/user/window_geometry.h"
 
 namespace corvane_system {
@@ -47,6 +48,14 @@ LRESULT on_get_text(HWND window, WPARAM wparam, LPARAM lparam) {
   found->text.copy(buffer, length);
   buffer[length] = 0;
   return static_cast<LRESULT>(length);
+}
+
+// Both forms of the message begin with the rectangle that becomes the client area.
+LRESULT on_calculate_size(HWND window, LPARAM lparam) {
+  Window* found = find(window);
+  auto* rect = reinterpret_cast<RECT*>(lparam);
+  if (found != nullptr && rect != nullptr) leave_room_for_bars(*found, *rect);
+  return 0;
 }
 
 LRESULT on_hit_test(HWND window, LPARAM lparam) {
@@ -165,6 +174,8 @@ LRESULT DefWindowProcW(HWND window, UINT message, WPARAM wparam, LPARAM lparam) 
       return on_get_text(window, wparam, lparam);
     case WM_GETTEXTLENGTH:
       return text_length(window);
+    case WM_NCCALCSIZE:
+      return on_calculate_size(window, lparam);
     case WM_NCHITTEST:
       return on_hit_test(window, lparam);
     case WM_NCACTIVATE:

@@ -1,7 +1,7 @@
 // SystemParametersInfoW and the other facts about the system.
 #include <thread>
 
-#include "corvane/platform/system/user/system_state.h"
+#include "corvane/platform/system/user/scroll_bars.h"
 
 namespace corvane_system {
 using namespace corvane::system;
@@ -49,7 +49,12 @@ int GetSystemMetrics(int index) {
     case SM_CYSCREEN:
       return state->frame.height();
     case SM_CXVSCROLL:
-      return 17;
+    case SM_CYHSCROLL:
+    case SM_CYVTHUMB:
+    case SM_CXHTHUMB:
+    case SM_CYVSCROLL:
+    case SM_CXHSCROLL:
+      return kBarThickness;
     case SM_CXDOUBLECLK:
     case SM_CYDOUBLECLK:
       return 4;

@@ -89,6 +89,17 @@ struct NMHDR {
   UINT_PTR idFrom;
   UINT code;
 };
+struct SCROLLINFO {
+  UINT cbSize;
+  UINT fMask;  // SIF_*: the members meant
+  int nMin;
+  int nMax;
+  UINT nPage;     // how much of the range is seen at once; 0: not said
+  int nPos;       // from nMin to nMax - (nPage - 1)
+  int nTrackPos;  // of a thumb that the user holds, otherwise nPos
+};
+using LPSCROLLINFO = SCROLLINFO*;
+using LPCSCROLLINFO = const SCROLLINFO*;
 struct TRACKMOUSEEVENT {
   DWORD cbSize;
   DWORD dwFlags;
@@ -195,6 +206,17 @@ BOOL ValidateRect(HWND window, const RECT* rect);
 BOOL RedrawWindow(HWND window, const RECT* rect, HRGN region, UINT flags);
 BOOL UpdateWindow(HWND window);
 BOOL GetUpdateRect(HWND window, LPRECT rect, BOOL erase);
+
+// --- Standard scroll bars (SB_VERT, SB_HORZ; SB_CTL fails). Range and page decide whether the bar
+// is there: it goes, and the client area grows, when there is nowhere to scroll to, and comes back
+// when there is, unless SIF_DISABLENOSCROLL keeps it greyed.
+int SetScrollInfo(HWND window, int bar, LPCSCROLLINFO info, BOOL redraw);  // resulting position
+BOOL GetScrollInfo(HWND window, int bar, LPSCROLLINFO info);               // fills what fMask names
+int SetScrollPos(HWND window, int bar, int position, BOOL redraw);         // previous position
+int GetScrollPos(HWND window, int bar);
+BOOL SetScrollRange(HWND window, int bar, int minimum, int maximum, BOOL redraw);
+BOOL GetScrollRange(HWND window, int bar, int* minimum, int* maximum);
+BOOL ShowScrollBar(HWND window, int bar, BOOL show);  // also SB_BOTH
 
 // --- Layered windows
 BOOL SetLayeredWindowAttributes(HWND window, COLORREF key, BYTE alpha, DWORD flags);

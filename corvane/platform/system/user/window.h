@@ -1,14 +1,17 @@
 #pragma once
 // The record of one window. Nobody keeps a pointer to it across a call of a window procedure: any
 // handler may destroy any window, so code looks windows up again by handle.
+#include <array>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "corvane/platform/system/gdi/region.h"
 #include "corvane/platform/system/gdi/surface.h"
 #include "corvane/platform/system/user/constants.h"
+#include "corvane/platform/system/user/scroll_model.h"
 #include "corvane/platform/system/user/user_api.h"
 
 namespace corvane::system {
@@ -35,6 +38,21 @@ struct LayeredState {
   DWORD flags = 0;  // as given
 };
 
+enum class ScrollAxis { horizontal = SB_HORZ, vertical = SB_VERT };
+
+// A thumb in the user's hand; the model's position waits for the program to set it.
+struct ThumbDrag {
+  int begin = 0;     // of the thumb, along the bar
+  int position = 0;  // that it means
+};
+
+struct ScrollBarState {
+  std::optional<ScrollModel> model;  // nothing: the window never had this bar
+  bool disabled = false;             // shown greyed though there is nowhere to scroll to
+  ScrollPart pressed = ScrollPart::none;
+  std::optional<ThumbDrag> drag;
+};
+
 struct Window {
   HWND handle = nullptr;
   std::shared_ptr<WindowClass> window_class;
@@ -59,6 +77,9 @@ struct Window {
   bool needs_erase = false;
   bool redraw = true;  // WM_SETREDRAW
 
+  std::array<ScrollBarState, 2> bars;  // by ScrollAxis
+  bool bars_due = false;               // the scroll bars are to be drawn
+
   LayeredState layered;
   std::shared_ptr<Surface> surface;  // top-level and layered windows: pixels of the whole frame
 
@@ -68,6 +89,8 @@ struct Window {
   bool is_child() const { return (style & WS_CHILD) != 0; }
   bool is_layered() const { return (ex_style & WS_EX_LAYERED) != 0; }
   bool has_caption() const { return (style & WS_CAPTION) == WS_CAPTION; }
+  ScrollBarState& bar(ScrollAxis axis) { return bars[static_cast<std::size_t>(axis)]; }
+  const ScrollBarState& bar(ScrollAxis axis) const { return bars[static_cast<std::size_t>(axis)]; }
   int width() const { return frame.right - frame.left; }
   int height() const { return frame.bottom - frame.top; }
   RECT client_area() const {
