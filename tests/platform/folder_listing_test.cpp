@@ -1,0 +1,277 @@
+#include "corvane/platform/base_services/folder_listing.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "corvane/platform/system/shell/wide_path.h"
+#include "tests/platform/temporary_folder.h"
+
+namespace corvane {
+namespace {
+
+using test::TemporaryFolder;
+
+std::unique_ptr<OpenFolder> opened(const std::wstring& path) {
+  return system_folder_listing()->Open(path.c_str());
+}
+
+std::unique_ptr<OpenFolder> opened(const std::string& path) {
+  return opened(system::wide_path(path));
+}
+
+std::vector<std::wstring> names_in(OpenFolder& folder) {
+  std::vector<std::wstring> names;
+  EXPECT_TRUE(folder.ListFolders([&names](std::wstring_view name) { names.emplace_back(name); }));
+  return names;
+}
+
+std::vector<std::wstring> sorted_names_in(OpenFolder& folder) {
+  std::vector<std::wstring> names = names_in(folder);
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+// Allows this process only few descriptors while it lives.
+class FewDescriptors {
+ public:
+  explicit FewDescriptors(rlim_t most) {
+    getrlimit(RLIMIT_NOFILE, &before_);
+    const rlimit few{most, before_.rlim_max};
+    setrlimit(RLIMIT_NOFILE, &few);
+  }
+  ~FewDescriptors() { setrlimit(RLIMIT_NOFILE, &before_); }
+  FewDescriptors(const FewDescriptors&) = delete;
+  FewDescriptors& operator=(const FewDescriptors&) = delete;
+
+ private:
+  rlimit before_{};
+};
+
+// Folders "deep" inside each other.
+void make_chain(const TemporaryFolder& folder, int levels) {
+  int at = open(folder.path().c_str(), O_PATH | O_DIRECTORY);
+  for (int level = 0; level < levels; ++level) {
+    ASSERT_EQ(mkdirat(at, "deep", 0700), 0);
+    const int below = openat(at, "deep", O_PATH | O_DIRECTORY);
+    close(at);
+    at = below;
+  }
+  close(at);
+}
+
+constexpr int kMany = 300;
+
+// So many folders with so long names that one call of the system does not list them all.
+void make_many(const TemporaryFolder& folder, const std::string& prefix) {
+  for (int number = 0; number < kMany; ++number)
+    folder.folder(prefix + std::string(200, 'm') + std::to_string(number));
+}
+
+TEST(FolderListing, EveryNameGoesOutAndBackIn) {
+  const TemporaryFolder folder;
+  const std::string names[] = {
+      "plain",
+      "two words ",
+      "图片",
+      "trailing dot.",
+      "back\\slash",
+      "new\nline",
+      "\xFF\xFE no text",
+      "\xEF\x9D\x9C",  // spells the character that stands for a backslash
+      "c:",
+      ".hidden",
+      "*?<>|\"",
+      std::string(255, 'n'),
+      std::string(255, '\xE9'),
+  };
+  for (const std::string& name : names) {
+    folder.folder(name);
+    folder.folder(name + "/inner");
+  }
+  folder.file("file");
+  const auto outer = opened(folder.path());
+  const std::vector<std::wstring> found = names_in(*outer);
+  EXPECT_EQ(found.size(), std::size(names));
+  for (const std::string& name : names) {
+    const std::wstring wide = system::wide_name(name);
+    EXPECT_EQ(std::count(found.begin(), found.end(), wide), 1) << name;
+    const auto child = outer->OpenChild(wide);
+    ASSERT_TRUE(child) << name;
+    EXPECT_EQ(names_in(*child), std::vector<std::wstring>{L"inner"}) << name;
+  }
+}
+
+TEST(FolderListing, WhatIsNoNameOfASubFolderDoesNotOpen) {
+  const TemporaryFolder folder;
+  folder.folder("a");
+  folder.folder("a/b");
+  folder.file("file");
+  const auto outer = opened(folder.path());
+  const std::wstring too_long(256, L'n');
+  for (const std::wstring& name :
+       {std::wstring(), std::wstring(L"."), std::wstring(L".."), std::wstring(L"a\\b"),
+        std::wstring(L"a/b"), std::wstring(L"file"), std::wstring(L"gone"), std::wstring(L"a\0", 2),
+        std::wstring(L"\x110000"), too_long}) {
+    EXPECT_FALSE(outer->OpenChild(name));
+  }
+}
+
+TEST(FolderListing, WhatIsNoFolderDoesNotOpen) {
+  const TemporaryFolder folder;
+  folder.file("file");
+  folder.link("dangling", "nowhere");
+  ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
+  for (const char* name : {"file", "dangling", "pipe", "gone", "file/x"})
+    EXPECT_FALSE(opened(folder / name)) << name;
+  for (const wchar_t* path : {L"Q:", L"Q:\\a", L"Z:\\\x110000"}) EXPECT_FALSE(opened(path));
+  EXPECT_FALSE(system_folder_listing()->Open(nullptr));
+}
+
+TEST(FolderListing, OnePathManySpellings) {
+  const TemporaryFolder folder;
+  folder.folder("album");
+  folder.folder("album/year");
+  ASSERT_TRUE(system::mount_drive(L'D', folder.path()));
+  ASSERT_TRUE(system::mount_drive(L'E', folder / "album"));
+  const FolderIdentity album = opened(folder / "album")->Identity();
+  for (const wchar_t* path : {L"D:\\album", L"D:\\album\\", L"d:/album", L"D:\\album\\\\",
+                              L"\\\\?\\D:\\album", L"D:album", L"E:", L"E:\\", L"e:/"}) {
+    const auto same = opened(path);
+    ASSERT_TRUE(same);
+    EXPECT_EQ(same->Identity(), album);
+    EXPECT_EQ(names_in(*same), std::vector<std::wstring>{L"year"});
+  }
+  EXPECT_NE(opened(L"D:")->Identity(), album);
+  system::mount_drive(L'D', "");
+  system::mount_drive(L'E', "");
+  EXPECT_FALSE(opened(L"D:\\album"));
+  EXPECT_EQ(opened(L"Z:")->Identity(), opened(L"Z:\\")->Identity());
+  EXPECT_EQ(opened(L"")->Identity(), opened(L"Z:")->Identity());
+}
+
+TEST(FolderListing, LinksToFoldersAreFolders) {
+  const TemporaryFolder folder;
+  folder.folder("real");
+  folder.folder("real/inner");
+  folder.file("file");
+  folder.link("to folder", "real");
+  folder.link("to link", "to folder");
+  folder.link("to file", "file");
+  folder.link("dangling", "nowhere");
+  folder.link("real/inner/up", "..");
+  folder.link("itself", "itself");
+  const auto outer = opened(folder.path());
+  EXPECT_EQ(sorted_names_in(*outer),
+            (std::vector<std::wstring>{L"real", L"to folder", L"to link"}));
+  const auto real = outer->OpenChild(L"real");
+  EXPECT_EQ(outer->OpenChild(L"to link")->Identity(), real->Identity());
+  const auto inner = real->OpenChild(L"inner");
+  EXPECT_NE(inner->Identity(), real->Identity());
+  EXPECT_EQ(names_in(*inner), std::vector<std::wstring>{L"up"});
+  EXPECT_EQ(inner->OpenChild(L"up")->Identity(), real->Identity());
+}
+
+TEST(FolderListing, FollowsTheFileSystemsOrderEveryTime) {
+  const TemporaryFolder folder;
+  make_many(folder, "");
+  std::vector<std::wstring> expected;
+  for (const auto& entry : std::filesystem::directory_iterator(folder.path()))
+    expected.push_back(entry.path().filename().wstring());
+  const auto open_folder = opened(folder.path());
+  EXPECT_EQ(names_in(*open_folder), expected);
+  EXPECT_EQ(names_in(*open_folder), expected);
+}
+
+TEST(FolderListing, FolderThatIsGoneOrClosedToUs) {
+  const TemporaryFolder folder;
+  folder.folder("gone");
+  folder.folder("closed");
+  const auto outer = opened(folder.path());
+  const auto gone = outer->OpenChild(L"gone");
+  ASSERT_TRUE(gone);
+  std::filesystem::remove(folder / "gone");
+  EXPECT_FALSE(gone->ListFolders([](std::wstring_view) { FAIL(); }));
+  EXPECT_FALSE(gone->OpenChild(L"x"));
+  if (geteuid() == 0) return;  // nothing is closed to root
+  chmod((folder / "closed").c_str(), 0);
+  EXPECT_FALSE(outer->OpenChild(L"closed"));
+  EXPECT_FALSE(opened(folder / "closed"));
+}
+
+TEST(FolderListing, ListsInsideAListing) {
+  const TemporaryFolder folder;
+  for (const char* name : {"a", "b"}) {
+    folder.folder(name);
+    make_many(folder, name + std::string("/"));
+  }
+  const auto outer = opened(folder.path());
+  std::size_t inner_names = 0;
+  std::vector<std::wstring> names;
+  EXPECT_TRUE(outer->ListFolders([&](std::wstring_view name) {
+    inner_names += names_in(*outer->OpenChild(name)).size();
+    names.emplace_back(name);
+  }));
+  std::sort(names.begin(), names.end());
+  EXPECT_EQ(names, (std::vector<std::wstring>{L"a", L"b"}));
+  EXPECT_EQ(inner_names, 2u * kMany);
+}
+
+TEST(FolderListing, ListingThatThrowsLeavesTheFolderUsable) {
+  const TemporaryFolder folder;
+  folder.folder("a");
+  const auto outer = opened(folder.path());
+  EXPECT_THROW(outer->ListFolders([](std::wstring_view) { throw 1; }), int);
+  EXPECT_EQ(names_in(*outer), std::vector<std::wstring>{L"a"});
+}
+
+TEST(FolderListing, DeeperThanAnyPath) {
+  constexpr int levels = 5000;
+  const TemporaryFolder folder;
+  make_chain(folder, levels);
+  const FewDescriptors few(256);
+  std::vector<std::unique_ptr<OpenFolder>> all;  // every one of them stays open
+  all.push_back(opened(folder.path()));
+  while (all.back()) all.push_back(all.back()->OpenChild(L"deep"));
+  all.pop_back();
+  ASSERT_EQ(all.size(), levels + 1u);
+  EXPECT_TRUE(names_in(*all.back()).empty());
+  for (auto one = all.rbegin() + 1; one != all.rend(); ++one)
+    ASSERT_EQ(names_in(**one), std::vector<std::wstring>{L"deep"});
+
+  std::unique_ptr<OpenFolder> bottom = std::move(all.back());
+  all.clear();
+  EXPECT_TRUE(names_in(*bottom).empty());
+  std::wstring path = system::wide_path(folder.path());
+  for (int level = 0; level < levels; ++level) path += L"\\deep";
+  const auto by_path = opened(path);
+  ASSERT_TRUE(by_path);
+  EXPECT_EQ(by_path->Identity(), bottom->Identity());
+}
+
+TEST(FolderListing, FolderOpenedAgainIsTheSameOrNone) {
+  const TemporaryFolder folder;
+  folder.folder("kept");
+  folder.folder("replaced");
+  folder.folder("other");
+  const auto outer = opened(folder.path());
+  const auto kept = outer->OpenChild(L"kept");
+  const auto replaced = outer->OpenChild(L"replaced");
+  std::vector<std::unique_ptr<OpenFolder>> others;
+  for (int number = 0; number < 300; ++number) others.push_back(outer->OpenChild(L"other"));
+  folder.folder("kept/new");
+  std::filesystem::rename(folder / "replaced", folder / "elsewhere");
+  folder.folder("replaced");
+  EXPECT_EQ(names_in(*kept), std::vector<std::wstring>{L"new"});
+  EXPECT_FALSE(replaced->ListFolders([](std::wstring_view) {}));
+}
+
+}  // namespace
+}  // namespace corvane

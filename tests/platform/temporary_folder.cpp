@@ -1,0 +1,75 @@
+#include "tests/platform/temporary_folder.h"
+
+#include <gtest/gtest.h>
+#include <stdlib.h>
+
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+#include <vector>
+
+namespace corvane::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+// Moves folders inside `folder` up to `top`, so that no depth is too deep, and removes the rest.
+void flatten(const fs::path& top, const fs::path& folder, int& moved) {
+  std::error_code error;
+  fs::permissions(folder, fs::perms::owner_all, error);
+  for (const fs::directory_entry& entry : fs::directory_iterator(folder, error)) {
+    if (entry.symlink_status(error).type() == fs::file_type::directory)
+      fs::rename(entry.path(), top / ("removed " + std::to_string(moved++)), error);
+    else
+      fs::remove(entry.path(), error);
+  }
+  fs::remove(folder, error);
+}
+
+std::vector<fs::path> entries_of(const fs::path& folder) {
+  std::vector<fs::path> entries;
+  std::error_code error;
+  for (const fs::directory_entry& entry : fs::directory_iterator(folder, error))
+    entries.push_back(entry.path());
+  return entries;
+}
+
+void remove_all(const fs::path& top) {
+  int moved = 0;
+  std::error_code error;
+  for (int before = -1; before != moved;) {
+    before = moved;
+    for (const fs::path& entry : entries_of(top)) {
+      if (fs::symlink_status(entry, error).type() == fs::file_type::directory)
+        flatten(top, entry, moved);
+      else
+        fs::remove(entry, error);
+    }
+  }
+  fs::remove(top, error);
+}
+
+}  // namespace
+
+TemporaryFolder::TemporaryFolder()
+    : path_((fs::temp_directory_path() / "corvane-test-XXXXXX").string()) {
+  if (!mkdtemp(path_.data())) throw std::runtime_error("no temporary folder");
+}
+
+TemporaryFolder::~TemporaryFolder() { remove_all(path_); }
+
+void TemporaryFolder::folder(const std::string& name) const {
+  EXPECT_TRUE(fs::create_directory(*this / name)) << name;
+}
+
+void TemporaryFolder::file(const std::string& name, const std::string& content) const {
+  std::ofstream file(*this / name, std::ios::binary);
+  file << content;
+  EXPECT_TRUE(file.flush().good()) << name;
+}
+
+void TemporaryFolder::link(const std::string& name, const std::string& target) const {
+  fs::create_symlink(target, *this / name);
+}
+
+}  // namespace corvane::test
