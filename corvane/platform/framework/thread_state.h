@@ -13,6 +13,7 @@ class WindowHook;
 struct ThreadState {
   HandleMaps handles;
   const MSG* message = nullptr;    // the innermost one being handled
+  bool default_done = false;       // its default handling has run
   int depth = 0;                   // of messages being handled
   WindowHook* creation = nullptr;  // the innermost creation under way
   std::set<std::wstring> class_names;
@@ -23,12 +24,15 @@ struct ThreadState {
 // A message is being handled, until the end of the scope.
 class MessageScope {
  public:
-  MessageScope(ThreadState& state, const MSG& message) : state_(state), outer_(state.message) {
+  MessageScope(ThreadState& state, const MSG& message)
+      : state_(state), outer_(state.message), outer_default_done_(state.default_done) {
     state_.message = &message;
+    state_.default_done = false;
     ++state_.depth;
   }
   ~MessageScope() {
     state_.message = outer_;
+    state_.default_done = outer_default_done_;
     --state_.depth;
   }
   MessageScope(const MessageScope&) = delete;
@@ -37,6 +41,7 @@ class MessageScope {
  private:
   ThreadState& state_;
   const MSG* outer_;
+  bool outer_default_done_;
 };
 
 }  // namespace corvane

@@ -76,8 +76,11 @@ BOOL CWnd::PreTranslateMessage(MSG*) { return FALSE; }
 LRESULT CWnd::WindowProc(UINT message, WPARAM wparam, LPARAM lparam) {
   const HWND window = m_hWnd;
   LRESULT result = 0;
+  ThreadState::current().default_done = false;
   if (OnWndMsg(message, wparam, lparam, &result)) return result;
-  return FromHandlePermanent(window) == this ? DefWindowProcW(message, wparam, lparam) : 0;
+  // A handler that leaves the message to the default handling may have called it already.
+  if (FromHandlePermanent(window) != this || ThreadState::current().default_done) return result;
+  return DefWindowProcW(message, wparam, lparam);
 }
 
 bool CWnd::OnWndMsg(UINT message, WPARAM wparam, LPARAM lparam, LRESULT* result) {
@@ -120,6 +123,7 @@ LRESULT CWnd::Default() {
   const MSG* current = GetCurrentMessage();
   // A handler that was called from outside its window's messages has none to pass on.
   if (!current || current->hwnd != m_hWnd) return 0;
+  ThreadState::current().default_done = true;
   return DefWindowProcW(current->message, current->wParam, current->lParam);
 }
 
