@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "corvane/platform/system/gdi/gdiplus.h"
+#include "corvane/platform/system/gdi/reduced_image.h"
 #include "corvane/platform/system/shell/wide_path.h"
 #include "gdi_fixture.h"
 
@@ -75,6 +76,15 @@ class GdiImages : public GdiTest {
     const Bytes frame("\x2C\0\0\0\0\x02\0\x02\0\0\x02\x03", 12);
     return head + frame + Bytes("\x04\x00\x05", 3) + Bytes("\0", 1) + frame +
            Bytes("\x4C\x92\x05", 3) + Bytes("\0\x3B", 2);
+  }
+
+  // The four quadrants, stored so that they have to be turned clockwise.
+  static Bytes lying_jpeg(int width, int height) {
+    Bytes jpeg = encoded("jpeg", width, height, false);
+    const Bytes exif =
+        Bytes("Exif\0\0MM\0*\0\0\0\x08\0\x01\x01\x12\0\x03\0\0\0\x01\0\x06\0\0\0\0\0\0", 32);
+    jpeg.insert(2, Bytes("\xFF\xE1\0", 3) + static_cast<char>(exif.size() + 2) + exif);
+    return jpeg;
   }
 
   // Pixels at the context's (x, y), alpha byte left out.
@@ -200,11 +210,7 @@ TEST_F(GdiImages, HeadersThatClaimTooMuchAreRefusedBeforeTheMemoryIsTaken) {
 }
 
 TEST_F(GdiImages, JpegIsTurnedUprightByItsOrientation) {
-  Bytes jpeg = encoded("jpeg", 32, 16, false);
-  const Bytes exif =
-      Bytes("Exif\0\0MM\0*\0\0\0\x08\0\x01\x01\x12\0\x03\0\0\0\x01\0\x06\0\0\0\0\0\0", 32);
-  jpeg.insert(2, Bytes("\xFF\xE1\0", 3) + static_cast<char>(exif.size() + 2) + exif);
-  Image image(write("turned", jpeg).c_str());
+  Image image(write("turned", lying_jpeg(32, 16)).c_str());
   ASSERT_EQ(image.GetLastStatus(), Ok);
   EXPECT_EQ(image.GetWidth(), 16u);
   EXPECT_EQ(image.GetHeight(), 32u);
@@ -212,6 +218,50 @@ TEST_F(GdiImages, JpegIsTurnedUprightByItsOrientation) {
   EXPECT_GT(image.pixels()->at(14, 2) & 0xFF00, 0xF000u);
   EXPECT_GT((image.pixels()->at(14, 2) >> 16) & 0xFF, 0xF0u);
   EXPECT_LT((image.pixels()->at(2, 30) >> 16) & 0xFF, 0x10u);
+}
+
+TEST_F(GdiImages, ReducedPicturesFitTheirBoxAndKeepTheirLook) {
+  const struct {
+    const char* what;
+    Bytes bytes;
+    int width, height;
+    bool bright_corner_right;  // of the upper corners
+  } cases[] = {{"wide PNG", encoded("png", 640, 320, false), 100, 50, false},
+               {"wide JPEG", encoded("jpeg", 1600, 800, false), 100, 50, false},
+               {"high JPEG", encoded("jpeg", 800, 1600, false), 40, 80, false},
+               {"turned JPEG", lying_jpeg(1600, 800), 40, 80, true},
+               {"small PNG", encoded("png", 30, 20, false), 30, 20, false},
+               {"thin PNG", encoded("png", 2000, 2, false), 100, 1, false}};
+  for (const auto& each : cases) {
+    write("picture", each.bytes);
+    const auto image = decode_reduced_image(folder / "picture", {100, 80}, {});
+    ASSERT_TRUE(image) << each.what;
+    EXPECT_EQ(image->width, each.width) << each.what;
+    EXPECT_EQ(image->height, each.height) << each.what;
+    const auto at = [&image](int x, int y) {
+      return image->pixels.at(static_cast<std::size_t>(y * image->width + x));
+    };
+    const int bright = each.bright_corner_right ? image->width - 3 : 2;
+    const int dark = image->width - 1 - bright;
+    if (image->height < 20) continue;
+    EXPECT_GT(at(bright, 2) & 0xFFFF00, 0xF0F000u) << each.what;
+    EXPECT_LT((at(dark, image->height - 3) >> 16) & 0xFF, 0x10u) << each.what;
+    EXPECT_EQ(at(bright, 2) >> 24, 0xFFu) << each.what;
+  }
+}
+
+TEST_F(GdiImages, NothingIsReducedOfWhatIsNoWholePictureOrNotWantedAnyMore) {
+  const Bytes whole = encoded("jpeg", 400, 400, true);
+  write("whole", whole);
+  write("cut", whole.substr(0, whole.size() / 2));
+  write("text", "this is no picture");
+  for (const char* name : {"cut", "text", "missing", "."})
+    EXPECT_FALSE(decode_reduced_image(folder / name, {64, 64}, {})) << name;
+  EXPECT_FALSE(decode_reduced_image(folder / "whole", {64, 0}, {}));
+  std::stop_source stop;
+  EXPECT_TRUE(decode_reduced_image(folder / "whole", {64, 64}, stop.get_token()));
+  stop.request_stop();
+  EXPECT_FALSE(decode_reduced_image(folder / "whole", {64, 64}, stop.get_token()));
 }
 
 TEST_F(GdiImages, BitmapsFromMemoryArePremultiplied) {

@@ -1,84 +1,14 @@
 #include "corvane/platform/system/gdi/image_decoder.h"
 
-#include <fcntl.h>
 #include <gdk-pixbuf/gdk-pixbuf.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
-#include <cstdio>
 #include <cstring>
-#include <vector>
 
-#include "corvane/platform/system/gdi/image_completeness.h"
+#include "corvane/platform/system/gdi/pixbuf_file.h"
 
 namespace corvane::system {
 
 namespace {
-
-constexpr std::size_t kChunk = 64 * 1024;
-constexpr off_t kLargestFile = off_t{1} << 30;  // bytes
-
-struct CloseFile {
-  void operator()(std::FILE* file) const { std::fclose(file); }
-};
-struct Unreference {
-  void operator()(void* object) const { g_object_unref(object); }
-};
-using File = std::unique_ptr<std::FILE, CloseFile>;
-using Pixbuf = std::unique_ptr<GdkPixbuf, Unreference>;
-
-// Not for a folder, a pipe or a device, which would never end.
-File open_regular_file(const std::string& path) {
-  const int descriptor = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-  if (descriptor < 0) return nullptr;
-  struct stat status {};
-  const bool usable =
-      fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) && status.st_size <= kLargestFile;
-  File file(usable ? fdopen(descriptor, "rb") : nullptr);
-  if (!file) close(descriptor);
-  return file;
-}
-
-bool is_acceptable(int width, int height) {
-  return width > 0 && height > 0 && width <= kLargestImageSide && height <= kLargestImageSide &&
-         static_cast<long>(width) * height <= kLargestImagePixels;
-}
-
-// Runs the loader over a file. A size of 0 makes it give up before it allocates.
-class Loader {
- public:
-  Loader() : loader_(gdk_pixbuf_loader_new()) {
-    g_signal_connect(loader_.get(), "size-prepared", G_CALLBACK(&Loader::size_prepared), this);
-  }
-
-  Pixbuf load(std::FILE* file) {
-    bool good = feed(file) && !refused_;
-    good = gdk_pixbuf_loader_close(loader_.get(), nullptr) && good && !refused_;
-    GdkPixbuf* picture = good ? gdk_pixbuf_loader_get_pixbuf(loader_.get()) : nullptr;
-    if (!picture) return nullptr;
-    return Pixbuf(gdk_pixbuf_apply_embedded_orientation(picture));
-  }
-
- private:
-  static void size_prepared(GdkPixbufLoader* loader, int width, int height, gpointer self) {
-    if (is_acceptable(width, height)) return;
-    static_cast<Loader*>(self)->refused_ = true;
-    gdk_pixbuf_loader_set_size(loader, 0, 0);
-  }
-
-  bool feed(std::FILE* file) {
-    std::vector<guchar> chunk(kChunk);
-    while (!refused_) {
-      const std::size_t read = std::fread(chunk.data(), 1, chunk.size(), file);
-      if (read == 0) return !std::ferror(file);
-      if (!gdk_pixbuf_loader_write(loader_.get(), chunk.data(), read, nullptr)) return false;
-    }
-    return false;
-  }
-
-  std::unique_ptr<GdkPixbufLoader, Unreference> loader_;
-  bool refused_ = false;
-};
 
 Pixel premultiplied(Pixel red, Pixel green, Pixel blue, Pixel alpha) {
   const auto scaled = [alpha](Pixel channel) { return (channel * alpha + 127) / 255; };
@@ -124,13 +54,8 @@ DecodedImage converted(const GdkPixbuf* picture) {
 }  // namespace
 
 std::optional<DecodedImage> decode_image_file(const std::string& path) {
-  const File file = open_regular_file(path);
-  if (!file) return std::nullopt;
-  const Pixbuf picture = Loader().load(file.get());
+  const Pixbuf picture = load_pixbuf(path, [](int, int) { return SIZE{}; }, {});
   if (!picture) return std::nullopt;
-  if (!is_acceptable(gdk_pixbuf_get_width(picture.get()), gdk_pixbuf_get_height(picture.get())))
-    return std::nullopt;
-  if (!is_complete_image(file.get())) return std::nullopt;
   return converted(picture.get());
 }
 
