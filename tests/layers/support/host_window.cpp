@@ -13,7 +13,8 @@ constexpr int square = 16;
 bool is_kept(UINT message) {
   constexpr UINT kept[] = {corvane::WM_CUT_CMD, corvane::WM_LAYER_BTN_CLICK,
                            WM_KEYDOWN,          WM_KEYUP,
-                           WM_SYSCOMMAND,       WM_MOVING};
+                           WM_SYSCOMMAND,       WM_MOVING,
+                           WM_MOUSEWHEEL,       corvane::WM_TREE_SELECT};
   return std::find(std::begin(kept), std::end(kept), message) != std::end(kept);
 }
 

@@ -24,10 +24,11 @@ void Desktop::pump() {
   }
 }
 
-void Desktop::send_button(DWORD flags) {
+void Desktop::send_button(DWORD flags, int distance) {
   INPUT input{};
   input.type = INPUT_MOUSE;
   input.mi.dwFlags = flags;
+  input.mi.mouseData = static_cast<DWORD>(distance);
   ::SendInput(1, &input, sizeof(input));
 }
 
@@ -53,6 +54,19 @@ void Desktop::release() {
 void Desktop::click(int x, int y) {
   press(x, y);
   release();
+}
+
+void Desktop::double_click(int x, int y) {
+  press(x, y);
+  queue_release();
+  pump();
+  click(x, y);
+}
+
+void Desktop::wheel(int x, int y, int distance) {
+  move_to(x, y);
+  send_button(MOUSEEVENTF_WHEEL, distance);
+  pump();
 }
 
 void Desktop::drag(POINT from, POINT to) {

@@ -27,6 +27,8 @@ class Desktop {
   void release();
   void queue_release();  // does not pump
   void click(int x, int y);
+  void double_click(int x, int y);
+  void wheel(int x, int y, int distance);  // positive: away from the user
   // Presses, moves in steps and releases.
   void drag(POINT from, POINT to);
   void key(int virtual_key);  // down and up
@@ -38,7 +40,7 @@ class Desktop {
 
  private:
   explicit Desktop(std::unique_ptr<corvane::system::HeadlessDisplay> display);
-  static void send_button(DWORD flags);
+  static void send_button(DWORD flags, int distance = 0);
 
   corvane::system::HeadlessDisplay& display_;
   corvane::system::WindowSystem windows_;

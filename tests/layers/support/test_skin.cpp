@@ -9,6 +9,7 @@
 #include <stdexcept>
 
 #include "corvane/platform/base_services/installation.h"
+#include "corvane/platform/system/gdi/image_encoder.h"
 
 namespace corvane_tests {
 namespace {
@@ -55,14 +56,19 @@ std::string crop_controls() {
 }  // namespace
 
 TestSkin::TestSkin() : folder_(make_folder()) {
-  write("ui_control.xml", "<controls><list id=\"4\">" + crop_controls() +
-                              "</list><list id=\"100\">" + control(11, button_11) +
-                              control(12, button_12) + control(13, button_13, "clear.png") +
-                              "</list></controls>");
+  write("ui_control.xml",
+        "<controls><list id=\"4\">" + crop_controls() + "</list><list id=\"100\">" +
+            control(11, button_11) + control(12, button_12) + control(13, button_13, "clear.png") +
+            "</list><list id=\"1\"><control id=\"1\" images=\"glyph_{state}.png\"/>"
+            "<control id=\"2\" images=\"folder_{state}.png\"/></list></controls>");
   write("ui_language.xml", "<captions/>");
   write("ui_logfont.xml", "<fonts/>");
   std::filesystem::create_directory(folder_ / "image");
   write("image/clear.png", {std::begin(clear_picture), std::end(clear_picture)});
+  write_image("image/glyph_normal.png", collapsed_glyph);
+  write_image("image/glyph_selected.png", expanded_glyph);
+  write_image("image/folder_normal.png", folder);
+  write_image("image/folder_selected.png", highlighted_folder);
   corvane::SetSkinFolder(platform_path(folder_).c_str());
 }
 
@@ -76,6 +82,13 @@ void TestSkin::remove_files() {
   for (const auto& entry : std::filesystem::directory_iterator(folder_)) {
     std::filesystem::remove_all(entry.path());
   }
+}
+
+void TestSkin::write_image(const char* name, COLORREF color) const {
+  using namespace corvane::system;
+  const Surface surface(30, 30, 0xFF000000 | pixel_of(color));
+  const auto bytes = encode_png(surface, surface.rect());
+  write(name, {bytes.begin(), bytes.end()});
 }
 
 void TestSkin::write(const char* name, const std::string& text) const {

@@ -26,7 +26,14 @@ class TestSkin {
   static constexpr RECT button_12 = {100, 10, 160, 40};
   static constexpr RECT button_13 = {10, 60, 70, 90};
 
+  // List 1, the folder tree: images of one colour each.
+  static constexpr COLORREF collapsed_glyph = RGB(200, 0, 0);
+  static constexpr COLORREF expanded_glyph = RGB(0, 160, 0);
+  static constexpr COLORREF folder = RGB(200, 180, 0);
+  static constexpr COLORREF highlighted_folder = RGB(200, 0, 200);
+
  private:
+  void write_image(const char* name, COLORREF color) const;
   void write(const char* name, const std::string& text) const;
 
   std::filesystem::path folder_;

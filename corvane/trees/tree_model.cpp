@@ -1,0 +1,150 @@
+#include "corvane/trees/tree_model.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace corvane {
+namespace {
+
+std::wstring_view view(const CString& text) { return text.AsStdString(); }
+
+// The text before the first separator; what follows the separator stays in `path`.
+std::wstring_view take_component(std::wstring_view& path) {
+  const std::size_t separator = path.find(L'\\');
+  const std::wstring_view component = path.substr(0, separator);
+  path = separator == std::wstring_view::npos ? std::wstring_view() : path.substr(separator + 1);
+  return component;
+}
+
+std::wstring_view without_base(std::wstring_view path, std::wstring_view base) {
+  if (!path.starts_with(base)) return path;
+  return path.substr(std::min(base.size() + 1, path.size()));
+}
+
+bool take_end(std::wstring_view& text, std::wstring_view end) {
+  if (!text.ends_with(end)) return false;
+  text.remove_suffix(end.size());
+  return true;
+}
+
+}  // namespace
+
+_NODE* TreeModel::add_child(const wchar_t* name, _NODE* parent) {
+  if (!name) return nullptr;
+  if (!parent) return start_over(name);
+  for (_NODE& child : parent->children_) {
+    if (child.name_ == name) return &child;
+  }
+  return &append_child(name, *parent);
+}
+
+_NODE* TreeModel::start_over(std::wstring_view name) {
+  CString new_name{std::wstring(name)};  // it may be the name of a node that goes now
+  remove_all();
+  root_.name_ = std::move(new_name);
+  root_.expanded_ = 1;
+  return &root_;
+}
+
+_NODE& TreeModel::append_child(std::wstring_view name, _NODE& parent) {
+  _NODE& child = parent.children_.emplace_back();
+  child.name_ = std::wstring(name);
+  child.level_ = parent.level_ + 1;
+  child.parent_ = &parent;
+  ++revision_;
+  return child;
+}
+
+_NODE* TreeModel::find(const wchar_t* path, _NODE* start) {
+  _NODE* node = start ? start : &root_;
+  if (!path || !*path) return node;
+  if (base_path_.IsEmpty()) return nullptr;
+  std::wstring_view rest = path;
+  while (true) {
+    // The base path is dropped at every level, so a relative one may occur again.
+    rest = without_base(rest, view(base_path_));
+    const std::wstring_view first = take_component(rest);
+    if (!first.empty() && first != view(node->name_)) return nullptr;
+    if (rest.empty()) return node;
+    const std::wstring_view wanted = rest.substr(0, rest.find(L'\\'));
+    const auto child =
+        std::find_if(node->children_.begin(), node->children_.end(),
+                     [wanted](const _NODE& each) { return view(each.name_) == wanted; });
+    if (child == node->children_.end()) return nullptr;
+    node = &*child;
+  }
+}
+
+CString TreeModel::path_of(const _NODE* node) const {
+  std::vector<std::wstring_view> names;
+  std::size_t length = view(base_path_).size();
+  for (; node; node = node->parent_) {
+    names.push_back(view(node->name_));
+    length += names.back().size() + 1;
+  }
+  std::wstring path;
+  path.reserve(length);
+  path += view(base_path_);
+  for (auto name = names.rbegin(); name != names.rend(); ++name) (path += L'\\') += *name;
+  return path;
+}
+
+bool TreeModel::is_path_of(const CString& path, const _NODE& node) const {
+  std::wstring_view rest = view(path);
+  for (const _NODE* each = &node; each; each = each->parent_) {
+    if (!take_end(rest, view(each->name_)) || !take_end(rest, L"\\")) return false;
+  }
+  return rest == view(base_path_);
+}
+
+bool TreeModel::remove(_NODE* node) {
+  if (!node) return false;
+  if (!node->parent_) {
+    remove_all();
+    return true;
+  }
+  std::list<_NODE>& siblings = node->parent_->children_;
+  const auto found = std::find_if(siblings.begin(), siblings.end(), [node](const _NODE& sibling) {
+    return sibling.name_ == node->name_;
+  });
+  if (found == siblings.end()) return false;
+  siblings.erase(found);
+  ++revision_;
+  return true;
+}
+
+bool TreeModel::remove(const wchar_t* path) {
+  if (!path) return false;
+  const std::wstring_view whole = path;
+  const std::size_t last = whole.rfind(L'\\');
+  // A copy: the path may be a name of the node that goes.
+  const std::wstring parent_path{last == std::wstring_view::npos ? std::wstring_view()
+                                                                 : whole.substr(0, last)};
+  if (!remove(find(path))) return false;
+  if (view(current_path_).find(parent_path) != std::wstring_view::npos) current_path_ = parent_path;
+  highlight_current();
+  return true;
+}
+
+void TreeModel::remove_all() {
+  root_.free_children();
+  root_.name_.Empty();
+  root_.expanded_ = 0;
+  root_.level_ = 0;
+  root_.row_ = {0, 0, 0, 0};
+  root_.parent_ = nullptr;
+  ++revision_;
+}
+
+void TreeModel::set_expanded(_NODE& node, bool expanded) {
+  if (node.expanded() == expanded) return;
+  node.expanded_ = expanded ? 1 : 0;
+  ++revision_;
+}
+
+void TreeModel::expand_with_ancestors(_NODE& node) {
+  for (_NODE* each = &node; each; each = each->parent_) set_expanded(*each, true);
+}
+
+}  // namespace corvane

@@ -1,0 +1,42 @@
+#pragma once
+// One folder of the owner-drawn tree. Nodes are made, changed and removed by the tree (TreeModel,
+// CTreeCtrlEx2) only; a pointer to a node is valid until that very node is removed.
+#include <list>
+
+#include "corvane/platform/framework/c_string.h"
+#include "corvane/platform/platform.h"
+
+namespace corvane {
+
+class _NODE {
+ public:
+  _NODE() = default;
+  ~_NODE();
+  _NODE(const _NODE&) = delete;  // the children know their parent's address
+  _NODE& operator=(const _NODE&) = delete;
+
+  const CString& name() const { return name_; }  // one path component; empty: an empty tree's root
+  bool expanded() const { return expanded_ != 0; }
+  int level() const { return level_; }  // 0: the root
+  // The row in content coordinates (pixels, before scrolling), as the last layout that showed the
+  // node wrote it; (0, 0, 0, 0) before.
+  const RECT& row() const { return row_; }
+  const std::list<_NODE>& children() const { return children_; }  // in the order they were added
+  _NODE* parent() const { return parent_; }                       // null: the root
+
+ private:
+  friend class TreeModel;
+  friend class TreeLayout;
+  friend class TreeWalk;
+
+  void free_children();
+
+  CString name_;
+  int expanded_ = 0;
+  int level_ = 0;
+  RECT row_{0, 0, 0, 0};
+  std::list<_NODE> children_;
+  _NODE* parent_ = nullptr;
+};
+
+}  // namespace corvane

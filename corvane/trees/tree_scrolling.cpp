@@ -1,0 +1,41 @@
+#include "corvane/trees/tree_scrolling.h"
+
+#include <algorithm>
+
+namespace corvane {
+namespace {
+
+constexpr int wheel_units_of_a_pixel = 12;
+
+}  // namespace
+
+int scrolled_by_bar(UINT code, UINT thumb, const ScrollState& state) {
+  const bool can_go_up = state.position > state.minimum;
+  const bool can_go_down = state.position < state.limit;
+  switch (code) {
+    case SB_LINEUP:
+      return can_go_up ? state.position - 1 : state.position;
+    case SB_LINEDOWN:
+      return can_go_down ? state.position + 1 : state.position;
+    case SB_PAGEUP:
+      return can_go_up ? std::max(state.position - state.page, state.minimum) : state.position;
+    case SB_PAGEDOWN:
+      return can_go_down ? std::min(state.position + state.page, state.limit) : state.position;
+    case SB_THUMBPOSITION:
+    case SB_THUMBTRACK:
+      return static_cast<int>(thumb);
+    case SB_TOP:
+      return state.minimum;
+    case SB_BOTTOM:
+      return state.limit;
+    default:
+      return state.position;
+  }
+}
+
+int scrolled_by_wheel(short distance, const ScrollState& state) {
+  if (state.limit <= state.minimum) return state.position;
+  return std::clamp(state.position - distance / wheel_units_of_a_pixel, state.minimum, state.limit);
+}
+
+}  // namespace corvane

@@ -1,0 +1,81 @@
+#include "tests/trees/support/fake_listing.h"
+
+#include <algorithm>
+
+namespace corvane_tests {
+
+using corvane::FolderIdentity;
+using corvane::OpenFolder;
+
+class FakeFolder : public OpenFolder {
+ public:
+  FakeFolder(FakeListing& listing, std::wstring path)
+      : listing_(listing), path_(std::move(path)), identity_(listing.identities_.at(path_)) {
+    listing_.most_open_ = std::max(listing_.most_open_, ++listing_.open_);
+  }
+  ~FakeFolder() override { --listing_.open_; }
+
+  FolderIdentity Identity() const override { return {1, identity_}; }
+
+  bool ListFolders(const corvane::FoundFolder& found) override {
+    if (listing_.fails(path_, 0)) return false;
+    std::size_t count = 0;
+    for (const std::wstring& name : listing_.names_.at(path_)) {
+      if (listing_.fails(path_, count++)) break;
+      found(name);
+    }
+    if (path_ == listing_.replaced_) listing_.identities_[path_] = ++listing_.last_identity_;
+    return true;
+  }
+
+  std::unique_ptr<OpenFolder> OpenChild(std::wstring_view name) const override {
+    return listing_.open_path(path_ + L'\\' + std::wstring(name));
+  }
+
+ private:
+  FakeListing& listing_;
+  std::wstring path_;
+  std::uint64_t identity_;
+};
+
+void FakeListing::add(const std::wstring& path) {
+  if (names_.count(path)) return;
+  const std::size_t separator = path.rfind(L'\\');
+  if (separator != std::wstring::npos) {
+    add(path.substr(0, separator));
+    names_[path.substr(0, separator)].push_back(path.substr(separator + 1));
+  }
+  names_[path];
+  identities_[path] = ++last_identity_;
+}
+
+void FakeListing::add_link(const std::wstring& path, const std::wstring& target) {
+  add(path);
+  links_[path] = target;
+}
+
+void FakeListing::add_comb(const std::wstring& path, int depth) {
+  std::wstring inner = path;
+  for (int level = 0; level < depth; ++level) {
+    add(inner + L"\\d");
+    add(inner + L"\\last");
+    inner += L"\\d";
+  }
+}
+
+std::unique_ptr<OpenFolder> FakeListing::Open(const wchar_t* path) { return open_path(path); }
+
+std::unique_ptr<OpenFolder> FakeListing::open_path(std::wstring path) {
+  if (fails(path, 0)) return nullptr;
+  if (const auto link = links_.find(path); link != links_.end()) path = link->second;
+  if (!names_.count(path)) return nullptr;
+  return std::make_unique<FakeFolder>(*this, path);
+}
+
+bool FakeListing::fails(const std::wstring& folder, std::size_t names) {
+  if (++operations_ != failing_) return false;
+  failure_ = {folder, names};
+  return true;
+}
+
+}  // namespace corvane_tests

@@ -1,0 +1,213 @@
+// Loading from folders in memory, which can fail, and from real ones.
+#include "corvane/trees/tree_loading.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "corvane/platform/base_services/system_paths.h"
+#include "tests/apps/temporary_folder.h"
+#include "tests/trees/support/fake_listing.h"
+#include "tests/trees/support/tree_text.h"
+
+namespace corvane_tests {
+namespace {
+
+using corvane::_NODE;
+using corvane::load_folders;
+using corvane::TreeModel;
+namespace fs = std::filesystem;
+
+constexpr wchar_t photos[] = L"D:\\Lib\\Photos";
+
+class LoadingTest : public testing::Test {
+ protected:
+  std::string load(const wchar_t* path = photos) {
+    loaded_ = load_folders(model_, listing_, path, nullptr);
+    EXPECT_EQ(listing_.open_folders(), 0) << "all are closed again";
+    return tree_text(model_);
+  }
+
+  FakeListing listing_;
+  TreeModel model_;
+  bool loaded_ = false;
+};
+
+TEST_F(LoadingTest, AddsEveryFolderInTheOrderOfTheListing) {
+  for (const wchar_t* path : {L"D:\\Lib\\Photos\\z\\y\\x", L"D:\\Lib\\Photos\\.cache\\inner",
+                              L"D:\\Lib\\Photos\\a", L"D:\\Lib\\Photos\\z\\b", L"D:\\Lib\\Other"}) {
+    listing_.add(path);
+  }
+  EXPECT_EQ(load(), "-Photos 0\n z 1\n  y 2\n   x 3\n  b 2\n a 1\n");
+  EXPECT_TRUE(loaded_);
+  EXPECT_EQ(model_.base_path(), L"D:\\Lib");
+}
+
+TEST_F(LoadingTest, RootsOfEveryKind) {
+  listing_.add(L"D:\\Lib");
+  listing_.add(L"E:\\\\a");  // below what a separator at the end names
+  struct Case {
+    const wchar_t* path;
+    bool loaded;
+    const wchar_t* base;
+    const char* tree;
+  };
+  const Case cases[] = {{L"D:", true, L"", "-D: 0\n Lib 1\n"},
+                        {L"E:\\", true, L"E:", "- 0\n a 1\n"},
+                        {L"D:\\gone", false, L"D:", "-gone 0\n"},
+                        {L"gone", false, L"", "-gone 0\n"}};
+  for (const Case& each : cases) {
+    EXPECT_EQ(load(each.path), each.tree);
+    EXPECT_EQ(loaded_, each.loaded) << each.tree;
+    EXPECT_EQ(model_.base_path(), each.base) << each.tree;
+  }
+  EXPECT_FALSE(load_folders(model_, listing_, nullptr, nullptr));
+  EXPECT_EQ(tree_text(model_), "-gone 0\n");
+}
+
+TEST_F(LoadingTest, MergesIntoANodeThatIsThere) {
+  listing_.add(L"D:\\Lib\\Photos\\a\\old");
+  load();
+  _NODE* root = &model_.root();
+  model_.add_child(L"only in the tree", model_.find(L"D:\\Lib\\Photos\\a"));
+  model_.set_expanded(*model_.find(L"D:\\Lib\\Photos\\a\\old"), true);
+  for (int i = 0; i < 12; ++i) listing_.add(L"D:\\Lib\\Photos\\a\\new" + std::to_wstring(i));
+  listing_.add(L"D:\\Lib\\Photos\\a\\old\\deep");
+  const std::string merged = "  -old 2\n   deep 3\n  only\\u0020in\\u0020the\\u0020tree 2\n";
+  std::string added;
+  for (int i = 0; i < 12; ++i) added += "  new" + std::to_string(i) + " 2\n";
+  for (int round = 0; round < 2; ++round) {
+    EXPECT_TRUE(load_folders(model_, listing_, L"D:\\Lib\\Photos\\a", root));
+    EXPECT_EQ(tree_text(model_), "-Photos 0\n a 1\n" + merged + added);
+  }
+  EXPECT_FALSE(load_folders(model_, listing_, L"D:\\Lib\\Photos\\gone", root));
+  EXPECT_NE(model_.find(L"D:\\Lib\\Photos\\gone"), nullptr);
+  EXPECT_EQ(model_.base_path(), L"D:\\Lib");
+}
+
+TEST_F(LoadingTest, LinksBackStayWithoutChildren) {
+  listing_.add(L"D:\\Lib\\Photos\\a\\b");
+  listing_.add(L"D:\\Lib\\Other\\inner");
+  listing_.add_link(L"D:\\Lib\\Photos\\a\\b\\to_a", L"D:\\Lib\\Photos\\a");
+  listing_.add_link(L"D:\\Lib\\Photos\\a\\to_root", L"D:\\Lib\\Photos");
+  listing_.add_link(L"D:\\Lib\\Photos\\a\\above", L"D:\\Lib");
+  listing_.add_link(L"D:\\Lib\\Photos\\aside", L"D:\\Lib\\Other");
+  EXPECT_EQ(load(),
+            "-Photos 0\n a 1\n  b 2\n   to_a 3\n  to_root 2\n  above 2\n aside 1\n  inner 2\n");
+  EXPECT_TRUE(load_folders(model_, listing_, L"D:\\Lib\\Photos\\a\\above",
+                           model_.find(L"D:\\Lib\\Photos\\a")));
+  EXPECT_TRUE(model_.find(L"D:\\Lib\\Photos\\a\\above")->children().empty());
+  listing_.add_link(L"D:\\Lib\\Photos\\root", L"D:\\Lib");
+  load(L"D:\\Lib\\Photos\\root");
+  EXPECT_EQ(model_.root().children().size(), 2u) << "the root itself may be such a link";
+}
+
+// What is missing is what lay below the failure, nothing else.
+TEST_F(LoadingTest, FailingAtEveryPointLosesOnlyWhatCouldNotBeRead) {
+  const auto fill = [](FakeListing& listing) {
+    listing.add_comb(L"D:\\Lib\\Photos", 40);
+    listing.add(L"D:\\Lib\\Photos\\z\\y");
+  };
+  fill(listing_);
+  load();
+  const int count = listing_.operations();
+  for (int failing = 1; failing <= count; ++failing) {
+    FakeListing listing;
+    fill(listing);
+    listing.fail_at(failing);
+    TreeModel model;
+    const bool loaded = load_folders(model, listing, photos, nullptr);
+    ASSERT_TRUE(listing.failure());
+    const auto& failure = *listing.failure();
+    // The root is opened first, then the two folders above it; then its listing begins.
+    EXPECT_EQ(loaded, failing != 1 && failing != 4) << failing;
+    EXPECT_EQ(listing.open_folders(), 0);
+    std::vector<const _NODE*> left = {&model_.root()};
+    while (!left.empty()) {
+      const _NODE& node = *left.back();
+      left.pop_back();
+      const std::wstring path = model_.path_of(&node).AsStdString();
+      const bool is_below = path.starts_with(failure.folder + L'\\');
+      if (!is_below && !model.find(path.c_str())) ADD_FAILURE() << failing << " loses too much";
+      for (const _NODE& child : node.children()) left.push_back(&child);
+    }
+  }
+}
+
+TEST_F(LoadingTest, KeepsFewFoldersOpenAndFindsThemAgain) {
+  listing_.add_comb(L"D:\\Lib\\Photos", 500);
+  load();
+  EXPECT_LE(listing_.most_open_folders(), 40);
+  std::wstring deepest = photos;
+  for (int level = 0; level < 500; ++level) {
+    ASSERT_NE(model_.find((deepest + L"\\last").c_str()), nullptr) << level;
+    deepest += L"\\d";
+  }
+  EXPECT_LT(listing_.operations(), 500 * 60) << "opening again costs little for each folder";
+}
+
+TEST_F(LoadingTest, AFolderThatAnotherHasTakenThePlaceOfIsLeft) {
+  listing_.add_comb(L"D:\\Lib\\Photos", 60);
+  listing_.add(L"D:\\Lib\\Photos\\last\\below");
+  listing_.replace_after_listing(L"D:\\Lib\\Photos\\d");
+  load();
+  EXPECT_NE(model_.find(L"D:\\Lib\\Photos\\last\\below"), nullptr);
+  EXPECT_EQ(model_.find(L"D:\\Lib\\Photos\\d\\last")->children().size(), 0u);
+}
+
+class RealLoadingTest : public testing::Test {
+ protected:
+  bool load() {
+    const auto listing = corvane::system_folder_listing();
+    return load_folders(model_, *listing, corvane::wide_path_of(folder_.path()).c_str(), nullptr);
+  }
+  std::string children() {
+    const std::string text = tree_text(model_);
+    return text.substr(text.find('\n') + 1);
+  }
+
+  capture::TemporaryFolder folder_;
+  TreeModel model_;
+};
+
+TEST_F(RealLoadingTest, OddNamesLinksAndFiles) {
+  const std::string long_name(255, 'n');
+  fs::create_directories(folder_ / "only/2024年/旅行");
+  fs::create_directory(folder_ / "only/2024年/旅行/line\nbreak");
+  fs::create_directory(folder_ / "only/2024年/旅行/line\nbreak/back\\slash");
+  fs::create_directory(folder_ / "only/2024年/旅行/line\nbreak/back\\slash/\xFF");
+  fs::create_directory(folder_ / ("only/2024年/旅行/line\nbreak/back\\slash/\xFF/" + long_name));
+  fs::create_directory(folder_ / "only/.hidden");
+  std::ofstream(folder_ / "only/photo.jpg") << "no folder";
+  fs::create_directory_symlink(
+      "..", folder_ / "only/2024年/旅行/line\nbreak/back\\slash/\xFF/" / long_name / "up");
+  EXPECT_TRUE(load());
+  EXPECT_EQ(children(),
+            " only 1\n  2024\\u5E74 2\n   \\u65C5\\u884C 3\n    line\\u000Abreak 4\n"
+            "     back\\uF75Cslash 5\n      \\uF7FF 6\n       " +
+                long_name + " 7\n        up 8\n");
+}
+
+TEST_F(RealLoadingTest, AChainOfFiveThousandFolders) {
+  constexpr int depth = 5000;
+  int folder = ::open(folder_.path().c_str(), O_RDONLY | O_DIRECTORY);
+  for (int level = 0; level < depth; ++level) {
+    ASSERT_EQ(::mkdirat(folder, "chain", 0700), 0);
+    const int inner = ::openat(folder, "chain", O_RDONLY | O_DIRECTORY);
+    ::close(folder);
+    folder = inner;
+  }
+  ::close(folder);
+  EXPECT_TRUE(load());
+  const _NODE* node = &model_.root();
+  while (!node->children().empty()) node = &node->children().front();
+  EXPECT_EQ(node->level(), depth);
+  model_.remove_all();
+}
+
+}  // namespace
+}  // namespace corvane_tests

@@ -1,0 +1,134 @@
+// The rules of names and paths.
+#include "corvane/trees/tree_model.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/trees/support/tree_text.h"
+
+namespace corvane_tests {
+namespace {
+
+using corvane::_NODE;
+using corvane::CString;
+using corvane::TreeModel;
+
+class TreeModelTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    model_.set_base_path(L"D:\\Lib");
+    root_ = model_.add_child(L"Photos", nullptr);
+    a_ = model_.add_child(L"a", root_);
+    b_ = model_.add_child(L"b", a_);
+  }
+
+  TreeModel model_;
+  _NODE* root_ = nullptr;
+  _NODE* a_ = nullptr;
+  _NODE* b_ = nullptr;
+};
+
+TEST_F(TreeModelTest, AddsEachNameOnceAndExactly) {
+  EXPECT_EQ(model_.add_child(L"a", root_), a_);
+  EXPECT_NE(model_.add_child(L"A", root_), a_);
+  EXPECT_EQ(model_.add_child(nullptr, root_), nullptr);
+  EXPECT_EQ(tree_text(model_), "-Photos 0\n a 1\n  b 2\n A 1\n") << "expanded: -";
+}
+
+TEST_F(TreeModelTest, StartsOverWithTheNameOfANodeThatGoes) {
+  model_.set_expanded(*root_, false);
+  model_.set_current_path(L"D:\\Lib\\Photos\\a");
+  EXPECT_EQ(model_.add_child(b_->name(), nullptr), root_);
+  EXPECT_EQ(tree_text(model_), "-b 0\n");
+  EXPECT_EQ(model_.current_path(), L"D:\\Lib\\Photos\\a");
+  EXPECT_EQ(model_.path_of(root_), L"D:\\Lib\\b");
+}
+
+TEST_F(TreeModelTest, FindsByFullAndRelativePath) {
+  struct Case {
+    const wchar_t* path;
+    _NODE* start;
+    _NODE* found;
+  };
+  const Case cases[] = {{L"D:\\Lib\\Photos\\a\\b", nullptr, b_},
+                        {L"D:\\Lib\\Photos", nullptr, root_},
+                        {L"D:\\Lib\\Photos\\", nullptr, root_},
+                        {L"D:\\Lib", nullptr, root_},
+                        {L"D:\\Lib\\photos", nullptr, nullptr},
+                        {L"D:\\Lib\\Photos\\x", nullptr, nullptr},
+                        {L"D:\\Lib\\Photos\\a\\\\b", nullptr, nullptr},
+                        {L"D:\\Library", nullptr, nullptr},
+                        {L"d:\\Lib\\Photos", nullptr, nullptr},
+                        {L"", nullptr, root_},
+                        {nullptr, nullptr, root_},
+                        {L"", a_, a_},
+                        {L"a\\b", a_, b_},
+                        {L"\\b", a_, b_},
+                        {L"b", a_, nullptr},
+                        {L"Photos\\a", nullptr, a_}};
+  for (const Case& each : cases) {
+    EXPECT_EQ(model_.find(each.path, each.start), each.found)
+        << CString(each.path).AsStdString().size() << " characters, case " << &each - cases;
+  }
+  model_.set_base_path(L"");
+  EXPECT_EQ(model_.find(L"Photos"), nullptr) << "without a base path";
+  EXPECT_EQ(model_.find(L""), root_);
+}
+
+TEST_F(TreeModelTest, ARelativeBasePathIsDroppedAtEveryLevel) {
+  model_.set_base_path(L"a");
+  EXPECT_EQ(model_.find(L"a\\Photos\\a"), a_);
+  EXPECT_EQ(model_.find(L"a\\Photos\\a\\b"), nullptr);
+}
+
+TEST_F(TreeModelTest, ComposesAndRecognisesPaths) {
+  EXPECT_EQ(model_.path_of(nullptr), L"D:\\Lib");
+  EXPECT_EQ(model_.path_of(b_), L"D:\\Lib\\Photos\\a\\b");
+  for (const wchar_t* path : {L"D:\\Lib\\Photos\\a\\b", L"D:\\Lib\\Photos\\a", L"b", L"\\b", L"",
+                              L"D:\\Lib\\Photos\\ab", L"D:\\Lib\\Photos\\x\\b", L"\\Photos\\a\\b",
+                              L"xD:\\Lib\\Photos\\a\\b", L"D:\\Lib\\Photos\\a\\b\\"}) {
+    EXPECT_EQ(model_.is_path_of(path, *b_), model_.path_of(b_) == path) << "of " << path;
+  }
+}
+
+TEST_F(TreeModelTest, RemovesANodeByItsPathAndMovesTheCurrentPath) {
+  struct Case {
+    const wchar_t* path;
+    const wchar_t* current;
+    bool removed;
+    const wchar_t* current_after;
+  };
+  const Case cases[] = {
+      {L"D:\\Lib\\Photos\\a", L"D:\\Lib\\Photos\\B\\C", true, L"D:\\Lib\\Photos"},
+      {L"D:\\Lib\\Photos\\a", L"E:\\Other", true, L"E:\\Other"},
+      {L"D:\\Lib\\Photos\\a\\b", L"D:\\Lib\\Photos\\a\\b\\c", true, L"D:\\Lib\\Photos\\a"},
+      {L"D:\\Lib\\Photos", L"D:\\Lib\\Photos\\a", true, L"D:\\Lib"},
+      {L"Photos", L"E:\\Other", true, L""},
+      {L"", L"E:\\Other", true, L""},
+      {L"D:\\Lib\\Photos\\x", L"D:\\Lib\\Photos\\x", false, L"D:\\Lib\\Photos\\x"},
+      {nullptr, L"E:\\Other", false, L"E:\\Other"}};
+  for (const Case& each : cases) {
+    SCOPED_TRACE(&each - cases);
+    TreeModel model;
+    model.set_base_path(L"D:\\Lib");
+    model.add_child(L"b", model.add_child(L"a", model.add_child(L"Photos", nullptr)));
+    model.set_current_path(each.current);
+    EXPECT_EQ(model.remove(each.path), each.removed);
+    EXPECT_EQ(model.current_path(), each.current_after);
+    EXPECT_EQ(model.highlight_path(), each.removed ? each.current_after : L"");
+    EXPECT_EQ(model.find(L"D:\\Lib\\Photos\\a\\b") == nullptr, each.removed);
+  }
+}
+
+TEST_F(TreeModelTest, RemovingANodeLeavesThePaths) {
+  model_.set_current_path(L"D:\\Lib\\Photos\\a");
+  EXPECT_TRUE(model_.remove(a_));
+  EXPECT_EQ(tree_text(model_), "-Photos 0\n");
+  EXPECT_FALSE(model_.remove(static_cast<_NODE*>(nullptr)));
+  EXPECT_TRUE(model_.remove(root_));
+  EXPECT_TRUE(model_.empty());
+  EXPECT_EQ(model_.current_path(), L"D:\\Lib\\Photos\\a");
+  EXPECT_EQ(model_.base_path(), L"D:\\Lib");
+}
+
+}  // namespace
+}  // namespace corvane_tests
