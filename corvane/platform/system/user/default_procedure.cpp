@@ -6,6 +6,8 @@
 #include "corvane/platform/system/user/move_loop.h"
 #include "corvane/platform/system/user/painting.h"
 #include "corvane/platform/system/user/scroll_bars.h"
+#include "corvane/platform/system/user/scroll_loop.h"
+#include "corvane/platform/system/user/scroll_painting.h"
 #include "corvane/platform/system/user/window_geometry.h"
 
 namespace corvane_system {
@@ -15,6 +17,14 @@ namespace {
 
 constexpr UINT kCommandBits = 0xFFF0;
 constexpr int HTBORDER = 18;
+
+struct BarCodes {
+  ScrollAxis axis;
+  int hit;
+  UINT command;
+};
+constexpr BarCodes kBarCodes[] = {{ScrollAxis::vertical, HTVSCROLL, SC_VSCROLL | HTVSCROLL},
+                                  {ScrollAxis::horizontal, HTHSCROLL, SC_HSCROLL | HTHSCROLL}};
 
 LRESULT to_parent(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
   Window* found = find(window);
@@ -64,6 +74,11 @@ LRESULT on_hit_test(HWND window, LPARAM lparam) {
   POINT point{GET_X_LPARAM(lparam), GET_Y_LPARAM(lparam)};
   RECT client = client_on_screen(*found);
   if (PtInRect(&client, point)) return HTCLIENT;
+  POINT inside{point.x - client.left, point.y - client.top};
+  for (const BarCodes& codes : kBarCodes) {
+    RECT bar = bar_rect(*found, codes.axis);
+    if (PtInRect(&bar, inside)) return codes.hit;
+  }
   RECT frame = frame_on_screen(*found);
   return PtInRect(&frame, point) ? HTBORDER : HTNOWHERE;
 }
@@ -89,6 +104,8 @@ LRESULT on_set_cursor(HWND window, WPARAM wparam, LPARAM lparam) {
   int code = static_cast<SHORT>(LOWORD(static_cast<DWORD_PTR>(lparam)));
   if (code == HTCLIENT && found->window_class->cursor != nullptr) {
     SetCursor(found->window_class->cursor);
+  } else if (code == HTVSCROLL || code == HTHSCROLL) {
+    SetCursor(LoadCursorW(nullptr, IDC_ARROW));
   }
   return FALSE;
 }
@@ -122,7 +139,11 @@ LRESULT on_position_changed(HWND window, LPARAM lparam) {
   return 0;
 }
 
-LRESULT on_system_command(HWND window, WPARAM wparam) {
+LRESULT on_system_command(HWND window, WPARAM wparam, LPARAM lparam) {
+  for (const BarCodes& codes : kBarCodes) {
+    POINT press{GET_X_LPARAM(lparam), GET_Y_LPARAM(lparam)};
+    if (wparam == codes.command) run_scroll_loop(window, codes.axis, press);
+  }
   if (wparam == (SC_MOVE | HTCAPTION)) {
     run_move_loop(window);
   } else if ((wparam & kCommandBits) == SC_CLOSE) {
@@ -131,10 +152,28 @@ LRESULT on_system_command(HWND window, WPARAM wparam) {
   return 0;
 }
 
+// Also the second press of two: whoever presses an arrow quickly means it twice.
+LRESULT on_bar_press(HWND window, WPARAM wparam, LPARAM lparam) {
+  for (const BarCodes& codes : kBarCodes) {
+    if (wparam == static_cast<WPARAM>(codes.hit)) {
+      send(window, WM_SYSCOMMAND, codes.command, lparam);
+    }
+  }
+  return 0;
+}
+
 LRESULT on_nc_press(HWND window, WPARAM wparam, LPARAM lparam) {
   if (wparam == static_cast<WPARAM>(HTCAPTION)) {
     send(window, WM_SYSCOMMAND, SC_MOVE | HTCAPTION, lparam);
   }
+  return on_bar_press(window, wparam, lparam);
+}
+
+LRESULT on_nc_paint(HWND window) {
+  Window* found = find(window);
+  if (found == nullptr) return 0;
+  found->bars_due = true;
+  if (bars_pending(*found)) paint_bars(*found);
   return 0;
 }
 
@@ -193,9 +232,13 @@ LRESULT DefWindowProcW(HWND window, UINT message, WPARAM wparam, LPARAM lparam) 
     case WM_WINDOWPOSCHANGED:
       return on_position_changed(window, lparam);
     case WM_SYSCOMMAND:
-      return on_system_command(window, wparam);
+      return on_system_command(window, wparam, lparam);
     case WM_NCLBUTTONDOWN:
       return on_nc_press(window, wparam, lparam);
+    case WM_NCLBUTTONDBLCLK:
+      return on_bar_press(window, wparam, lparam);
+    case WM_NCPAINT:
+      return on_nc_paint(window);
     case WM_RBUTTONUP:
       return on_right_release(window, lparam);
     case WM_CONTEXTMENU:

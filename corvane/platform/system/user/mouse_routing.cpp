@@ -123,7 +123,7 @@ void route_mouse(System& state, const InputEvent& event) {
   // 2. Otherwise the window at the point: z-order, enabling, colour key, alpha, its own answer.
   Hit hit = hit_test(event.position, DisabledTops::swallow);
   // 3. The window that the pointer left is told.
-  check_leave(state, hit.window);
+  check_leave(state, hit.code == HTCLIENT ? hit.window : nullptr);
   if (hit.window == nullptr) return;
   // 4. The second of two quick presses becomes a double-click.
   if (press && completes_double_click(state, hit.window, event)) {

@@ -23,7 +23,7 @@ bool begin_update(HWND window, Region& region) {
   found->needs_erase = false;
   if (!erase) return true;
   System& state = *corvane::system::system();
-  HDC dc = open_window_dc(*found, &region, false);
+  HDC dc = open_window_dc(*found, &region, Area::client);
   LRESULT erased = send(window, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc));
   state.gdi.close_dc(dc);
   return erased != 0;
@@ -38,7 +38,7 @@ HDC BeginPaint(HWND window, LPPAINTSTRUCT paint) {
   bool erased = begin_update(window, region);
   Window* found = find(window);
   if (found == nullptr) return nullptr;
-  paint->hdc = open_window_dc(*found, &region, false);
+  paint->hdc = open_window_dc(*found, &region, Area::client);
   paint->fErase = erased ? FALSE : TRUE;
   paint->rcPaint = region.bounds();
   corvane::system::system()->open_paints.push_back({window, paint->hdc});
@@ -62,13 +62,13 @@ HDC GetDC(HWND window) {
     return state->gdi.open_dc(nothing, {0, 0}, Region());
   }
   Window* found = checked(window);
-  return found == nullptr ? nullptr : open_window_dc(*found, nullptr, false);
+  return found == nullptr ? nullptr : open_window_dc(*found, nullptr, Area::client);
 }
 
 HDC GetWindowDC(HWND window) {
   if (window == nullptr) return GetDC(nullptr);
   Window* found = checked(window);
-  return found == nullptr ? nullptr : open_window_dc(*found, nullptr, true);
+  return found == nullptr ? nullptr : open_window_dc(*found, nullptr, Area::frame);
 }
 
 int ReleaseDC(HWND, HDC dc) {

@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "corvane/platform/system/user/messages.h"
+#include "corvane/platform/system/user/scroll_bars.h"
+#include "corvane/platform/system/user/scroll_painting.h"
 
 namespace corvane::system {
 namespace {
@@ -31,11 +33,17 @@ void invalidate_child(Window& child, Region region, bool erase, Children childre
   region.intersect(child.frame);
   if (region.empty()) return;
   region.translate(-child.client.left, -child.client.top);
-  invalidate(child, region, erase, children);
+  expose(child, region, erase, children);
+}
+
+bool touches_bars(const Window& window, const Region& region) {
+  return region.intersects(bar_rect(window, ScrollAxis::vertical)) ||
+         region.intersects(bar_rect(window, ScrollAxis::horizontal)) ||
+         region.intersects(bar_corner(window));
 }
 
 Window* first_invalid(Window& window) {
-  if (window.needs_paint) return &window;
+  if (window.needs_paint || bars_pending(window)) return &window;
   for (Window* child : window.children) {
     if (Window* found = first_invalid(*child)) return found;
   }
@@ -65,7 +73,13 @@ void invalidate(Window& window, const Region& region, bool erase, Children child
   add_to_update(window, own, erase);
 }
 
+void expose(Window& window, const Region& region, bool erase, Children children) {
+  window.bars_due = window.bars_due || touches_bars(window, region);
+  invalidate(window, region, erase, children);
+}
+
 void invalidate_all(Window& window, bool erase) {
+  window.bars_due = true;
   invalidate(window, Region(window.client_area()), erase, Children::always);
 }
 
@@ -88,7 +102,7 @@ void erase_now(HWND window) {
   Window* found = find(window);
   if (found == nullptr || !found->needs_erase || found->update.empty()) return;
   System& state = *system();
-  HDC dc = open_window_dc(*found, &found->update, false);
+  HDC dc = open_window_dc(*found, &found->update, Area::client);
   LRESULT erased = send(window, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc));
   state.gdi.close_dc(dc);
   found = find(window);
@@ -98,6 +112,7 @@ void erase_now(HWND window) {
 void update_now(HWND window) {
   Window* found = find(window);
   if (found == nullptr) return;
+  if (bars_pending(*found)) paint_bars(*found);
   if (found->needs_paint) send(window, WM_PAINT);
   found = find(window);
   if (found == nullptr) return;
@@ -117,11 +132,13 @@ Window* next_to_paint(System& state, HWND within) {
   return nullptr;
 }
 
+bool bars_pending(const Window& window) { return window.bars_due && records_updates(window); }
+
 bool paints_pending(System& state) { return next_to_paint(state, nullptr) != nullptr; }
 
-Region visible_region(Window& window) {
+Region visible_region(Window& window, Area area) {
   if (window.parent == nullptr || !records_updates(window)) return Region();
-  Region region(client_on_screen(window));
+  Region region(area == Area::frame ? frame_on_screen(window) : client_on_screen(window));
   Window* owner = surface_owner(window);
   for (Window* it = &window; it != owner; it = it->parent) {
     region.intersect(client_on_screen(*it->parent));
@@ -141,14 +158,14 @@ Region visible_region(Window& window) {
   return region;
 }
 
-HDC open_window_dc(Window& window, const Region* clip, bool whole_frame) {
+HDC open_window_dc(Window& window, const Region* clip, Area area) {
   System& state = *system();
   Window* owner = surface_owner(window);
   if (owner->surface == nullptr) return nullptr;
   RECT base = frame_on_screen(*owner);
-  RECT area = whole_frame ? frame_on_screen(window) : client_on_screen(window);
-  POINT origin{area.left - base.left, area.top - base.top};
-  Region visible = visible_region(window);
+  RECT drawn = area == Area::frame ? frame_on_screen(window) : client_on_screen(window);
+  POINT origin{drawn.left - base.left, drawn.top - base.top};
+  Region visible = visible_region(window, area);
   if (clip != nullptr) {
     Region limited = *clip;
     limited.translate(origin.x, origin.y);

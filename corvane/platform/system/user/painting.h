@@ -10,7 +10,10 @@ enum class Children { by_style, always, never };
 // children's. Hidden windows and windows with WM_SETREDRAW off record nothing.
 void invalidate(Window& window, const Region& region, bool erase,
                 Children children = Children::by_style);
-void invalidate_all(Window& window, bool erase);
+// The same for a region that also has to be drawn outside the client area: the scroll bars in it.
+void expose(Window& window, const Region& region, bool erase,
+            Children children = Children::by_style);
+void invalidate_all(Window& window, bool erase);  // with the scroll bars
 // Invalidates, with erase, what lies below a screen rectangle in the window's client area.
 void invalidate_uncovered(Window& parent, const RECT& screen_rect);
 void validate(Window& window, const Region& region);
@@ -18,14 +21,17 @@ void validate(Window& window, const Region& region);
 void erase_now(HWND window);
 // Sends WM_PAINT to the window and then to its invalid children.
 void update_now(HWND window);
-// The window whose WM_PAINT is next (parents before children), restricted to `within` and its
-// children unless null.
+// The window whose WM_PAINT, or whose scroll bars' drawing, is next (parents before children),
+// restricted to `within` and its children unless null.
 Window* next_to_paint(System& state, HWND within);
 bool paints_pending(System& state);
+// Whether the scroll bars are to be drawn, and can be seen.
+bool bars_pending(const Window& window);
 
-// The part of the window's surface that its client area shows, surface coordinates.
-Region visible_region(Window& window);
-// A device context on the client area (or the whole frame) limited to `clip` (client coordinates).
-HDC open_window_dc(Window& window, const Region* clip, bool whole_frame);
+enum class Area { client, frame };
+// The part of the window's surface that shows the area, surface coordinates.
+Region visible_region(Window& window, Area area);
+// A device context on the area, limited to `clip` (coordinates of the area) unless null.
+HDC open_window_dc(Window& window, const Region* clip, Area area);
 
 }  // namespace corvane::system

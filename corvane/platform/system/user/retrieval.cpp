@@ -5,6 +5,7 @@
 #include "corvane/platform/system/user/input_routing.h"
 #include "corvane/platform/system/user/painting.h"
 #include "corvane/platform/system/user/presenting.h"
+#include "corvane/platform/system/user/scroll_painting.h"
 
 namespace corvane::system {
 namespace {
@@ -48,6 +49,10 @@ std::optional<MSG> take_input(System& state, const MessageFilter& filter, bool r
 std::optional<MSG> take_paint(System& state, const MessageFilter& filter) {
   bool thread_messages_only = filter.window == reinterpret_cast<HWND>(LONG_PTR{-1});
   Window* window = thread_messages_only ? nullptr : next_to_paint(state, filter.window);
+  while (window != nullptr && bars_pending(*window)) {
+    paint_bars(*window);
+    window = next_to_paint(state, filter.window);
+  }
   if (window == nullptr) return std::nullopt;
   MSG message = make_message(state, window->handle, WM_PAINT, 0, 0);
   if (!filter.matches(state, message)) return std::nullopt;

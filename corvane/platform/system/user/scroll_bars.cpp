@@ -69,6 +69,11 @@ void reconsider_bar(const Target& target, bool kept_greyed) {
   if (needed || !kept_greyed) show_bar(target.window->handle, target.axis, needed);
 }
 
+int bar_length(const Window& window, ScrollAxis axis) {
+  RECT bar = bar_rect(window, axis);
+  return axis == ScrollAxis::vertical ? bar.bottom - bar.top : bar.right - bar.left;
+}
+
 }  // namespace
 
 std::optional<ScrollAxis> axis_of(int bar) {
@@ -103,6 +108,18 @@ RECT bar_corner(const Window& window) {
   RECT horizontal = bar_rect(window, ScrollAxis::horizontal);
   if (IsRectEmpty(&vertical) || IsRectEmpty(&horizontal)) return {};
   return {vertical.left, horizontal.top, vertical.right, horizontal.bottom};
+}
+
+ScrollLayout bar_layout(const Window& window, ScrollAxis axis) {
+  const ScrollBarState& bar = window.bar(axis);
+  if (bar.drag) return dragged_bar_layout(window, axis, bar.drag->begin);
+  ScrollModel model = bar.model.value_or(ScrollModel{});
+  return scroll_layout(model, bar_length(window, axis), kBarThickness);
+}
+
+ScrollLayout dragged_bar_layout(const Window& window, ScrollAxis axis, int thumb_begin) {
+  ScrollModel model = window.bar(axis).model.value_or(ScrollModel{});
+  return scroll_layout_dragged(model, bar_length(window, axis), kBarThickness, thumb_begin);
 }
 
 }  // namespace corvane::system

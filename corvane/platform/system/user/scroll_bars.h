@@ -26,5 +26,8 @@ void leave_room_for_bars(const Window& window, RECT& rect);
 RECT bar_rect(const Window& window, ScrollAxis axis);
 // The square between the ends of two bars; empty when there are not both.
 RECT bar_corner(const Window& window);
+// Where the parts of a shown bar lie, along it; a thumb that the user holds is where it is held.
+ScrollLayout bar_layout(const Window& window, ScrollAxis axis);
+ScrollLayout dragged_bar_layout(const Window& window, ScrollAxis axis, int thumb_begin);
 
 }  // namespace corvane::system

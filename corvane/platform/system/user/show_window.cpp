@@ -105,9 +105,9 @@ void make_visible(HWND window) {
   found->style |= WS_VISIBLE;
   if (!shown_on_screen(*found)) return;
   damage_frame(*system(), *found);
+  invalidate_all(*found, true);
   RECT area = found->client_area();
   if (IsRectEmpty(&area)) return;
-  invalidate_all(*found, true);
   send(window, WM_NCPAINT, 1, 0);
   erase_now(window);
 }

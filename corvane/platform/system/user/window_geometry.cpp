@@ -84,7 +84,7 @@ void move_child_pixels(Window& window, const Region& old_shown, POINT travel) {
   RECT base = frame_on_screen(*owner);
   POINT origin = client_origin(window);
   exposed.translate(base.left - origin.x, base.top - origin.y);
-  invalidate(window, exposed, true, Children::always);
+  expose(window, exposed, true, Children::always);
 }
 
 RECT ask_client(HWND window, const RECT& frame, WINDOWPOS* position) {
@@ -149,6 +149,7 @@ Moved apply_move(HWND window, const Move& move, WINDOWPOS* position) {
       if (shown_on_screen(*found)) invalidate_uncovered(*found->parent, rect);
     }
   }
+  found->bars_due = found->bars_due || resized || move.recalculate;
   if (moved.client_resized) {
     found->update.intersect(found->client_area());
     invalidate(*found, newly_needed(*found, old_client), true);

@@ -1,5 +1,6 @@
 #include "tests/platform/conformance/support/message_names.h"
 
+#include <iterator>
 #include <map>
 #include <sstream>
 #include <vector>
@@ -46,6 +47,9 @@ const std::map<UINT, const char*>& names() {
       {WM_NCHITTEST, "WM_NCHITTEST"},
       {WM_NCPAINT, "WM_NCPAINT"},
       {WM_NCACTIVATE, "WM_NCACTIVATE"},
+      {WM_NCLBUTTONDOWN, "WM_NCLBUTTONDOWN"},
+      {WM_NCLBUTTONUP, "WM_NCLBUTTONUP"},
+      {WM_NCLBUTTONDBLCLK, "WM_NCLBUTTONDBLCLK"},
       {WM_KEYDOWN, "WM_KEYDOWN"},
       {WM_KEYUP, "WM_KEYUP"},
       {WM_CHAR, "WM_CHAR"},
@@ -55,6 +59,8 @@ const std::map<UINT, const char*>& names() {
       {WM_COMMAND, "WM_COMMAND"},
       {WM_SYSCOMMAND, "WM_SYSCOMMAND"},
       {WM_TIMER, "WM_TIMER"},
+      {WM_HSCROLL, "WM_HSCROLL"},
+      {WM_VSCROLL, "WM_VSCROLL"},
       {WM_MOUSEMOVE, "WM_MOUSEMOVE"},
       {WM_LBUTTONDOWN, "WM_LBUTTONDOWN"},
       {WM_LBUTTONUP, "WM_LBUTTONUP"},
@@ -163,6 +169,16 @@ std::string key_or_command_details(UINT message, WPARAM wparam, LPARAM lparam,
   return plain_details(message, wparam, lparam);
 }
 
+// The code by its vertical name, the position as the program sees it, the bar's handle if any.
+std::string scroll_details(WPARAM wparam, LPARAM lparam) {
+  static const char* const kCodes[] = {"LINEUP",   "LINEDOWN",      "PAGEUP",
+                                       "PAGEDOWN", "THUMBPOSITION", "THUMBTRACK",
+                                       "TOP",      "BOTTOM",        "ENDSCROLL"};
+  const UINT code = LOWORD(wparam);
+  return (code < std::size(kCodes) ? kCodes[code] : std::to_string(code)) + std::string(" ") +
+         std::to_string(HIWORD(wparam)) + (lparam == 0 ? "" : " bar");
+}
+
 std::string mouse_details(UINT message, WPARAM wparam, LPARAM lparam, const WindowNamer& name_of) {
   switch (message) {
     case WM_MOUSEWHEEL:
@@ -177,6 +193,13 @@ std::string mouse_details(UINT message, WPARAM wparam, LPARAM lparam, const Wind
       return name_of(reinterpret_cast<HWND>(wparam)) + " " + point_text(lparam);
     case WM_CAPTURECHANGED:
       return name_of(reinterpret_cast<HWND>(lparam));
+    case WM_HSCROLL:
+    case WM_VSCROLL:
+      return scroll_details(wparam, lparam);
+    case WM_NCLBUTTONDOWN:
+    case WM_NCLBUTTONUP:
+    case WM_NCLBUTTONDBLCLK:
+      return std::to_string(wparam) + " " + point_text(lparam);
     case WM_MOVING:
       return rectangle_text(*reinterpret_cast<const RECT*>(lparam));
     default:
