@@ -20,6 +20,7 @@ if(NOT WIN32)
       display/display.h display/headless_display.h display/input_event.h display/open_display.h
       display/wake_event.h
       gdi/gdi.h gdi/gdi_api.h gdi/gdiplus.h gdi/image_encoder.h gdi/region.h gdi/surface.h
+      shell/shell_api.h
       types.h
       user/constants.h user/user_api.h user/window_system.h)
     cmake_path(GET header PARENT_PATH folder)

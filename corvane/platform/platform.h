@@ -18,9 +18,11 @@ using std::min;
 }  // namespace Gdiplus
 #include <gdiplus.h>
 #include <objidl.h>
+#include <shlwapi.h>
 #else
 #include "corvane/platform/system/gdi/gdi_api.h"
 #include "corvane/platform/system/gdi/gdiplus.h"
+#include "corvane/platform/system/shell/shell_api.h"
 #include "corvane/platform/system/types.h"
 #include "corvane/platform/system/user/constants.h"
 #include "corvane/platform/system/user/user_api.h"

@@ -1,0 +1,70 @@
+#pragma once
+// The platform's names for finding files. Paths are wide paths (wide_path.h) of any length; a
+// "\\?\" before them is allowed. All functions may be called from any thread.
+#include "corvane/platform/system/types.h"
+
+namespace corvane_system {
+
+inline const HANDLE INVALID_HANDLE_VALUE = reinterpret_cast<HANDLE>(static_cast<LONG_PTR>(-1));
+constexpr int MAX_PATH = 260;
+
+// Steps of 100 ns since the year 1601, UTC.
+struct FILETIME {
+  DWORD dwLowDateTime;
+  DWORD dwHighDateTime;
+};
+
+struct WIN32_FIND_DATAW {
+  DWORD dwFileAttributes;
+  FILETIME ftCreationTime;  // the last write's where the file system does not know it
+  FILETIME ftLastAccessTime;
+  FILETIME ftLastWriteTime;
+  DWORD nFileSizeHigh;  // bytes; 0 for folders and links
+  DWORD nFileSizeLow;
+  DWORD dwReserved0;  // IO_REPARSE_TAG_SYMLINK for a link
+  DWORD dwReserved1;
+  WCHAR cFileName[MAX_PATH];
+  WCHAR cAlternateFileName[14];  // always empty
+};
+using WIN32_FIND_DATA = WIN32_FIND_DATAW;
+using LPWIN32_FIND_DATAW = WIN32_FIND_DATAW*;
+
+constexpr DWORD FILE_ATTRIBUTE_READONLY = 0x1;  // a file that nobody may write
+constexpr DWORD FILE_ATTRIBUTE_HIDDEN = 0x2;    // its name begins with a dot
+constexpr DWORD FILE_ATTRIBUTE_SYSTEM = 0x4;    // never set
+constexpr DWORD FILE_ATTRIBUTE_DIRECTORY = 0x10;
+constexpr DWORD FILE_ATTRIBUTE_ARCHIVE = 0x20;  // whatever is no folder
+constexpr DWORD FILE_ATTRIBUTE_NORMAL = 0x80;
+constexpr DWORD FILE_ATTRIBUTE_REPARSE_POINT = 0x400;  // a link; with DIRECTORY: to a folder
+constexpr DWORD INVALID_FILE_ATTRIBUTES = 0xFFFFFFFF;
+constexpr DWORD IO_REPARSE_TAG_SYMLINK = 0xA000000C;
+
+constexpr DWORD ERROR_FILE_NOT_FOUND = 2;
+constexpr DWORD ERROR_PATH_NOT_FOUND = 3;
+constexpr DWORD ERROR_TOO_MANY_OPEN_FILES = 4;
+constexpr DWORD ERROR_NOT_ENOUGH_MEMORY = 8;
+constexpr DWORD ERROR_NO_MORE_FILES = 18;
+constexpr DWORD ERROR_GEN_FAILURE = 31;
+constexpr DWORD ERROR_FILENAME_EXCED_RANGE = 206;
+
+// Finds the entries of one folder in the file system's order; for a pattern that allows them "."
+// and
+// ".." come first, except in a drive's root. '*' and '?' stand for characters of the last component
+// alone; letter case does not matter with them. Without them it is the one entry of that name.
+// Fails with INVALID_HANDLE_VALUE and ERROR_PATH_NOT_FOUND (no such folder), ERROR_FILE_NOT_FOUND
+// (nothing in it fits, or the path ends with a separator), ERROR_ACCESS_DENIED or
+// ERROR_INVALID_PARAMETER (a null pointer). The caller closes the handle by FindClose.
+HANDLE FindFirstFileW(LPCWSTR pattern, LPWIN32_FIND_DATAW data);
+// FALSE with ERROR_NO_MORE_FILES at the end. Entries that vanish meanwhile are left out, and so are
+// names that do not fit into cFileName.
+BOOL FindNextFileW(HANDLE search, LPWIN32_FIND_DATAW data);
+// FALSE with ERROR_INVALID_HANDLE for what is no open search, as in FindNextFileW.
+BOOL FindClose(HANDLE search);
+
+// A link's own attributes. INVALID_FILE_ATTRIBUTES, with errors as above, when there is nothing.
+DWORD GetFileAttributesW(LPCWSTR path);
+// Whether there is a file or folder behind the path. Links are followed: one that leads nowhere is
+// none, although its name is taken (GetFileAttributesW sees it).
+BOOL PathFileExistsW(LPCWSTR path);
+
+}  // namespace corvane_system

@@ -1,0 +1,347 @@
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <filesystem>
+#include <set>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "corvane/platform/system/shell/name_pattern.h"
+#include "corvane/platform/system/shell/shell_api.h"
+#include "corvane/platform/system/shell/wide_path.h"
+#include "tests/platform/temporary_folder.h"
+
+namespace corvane::system {
+namespace {
+
+using test::TemporaryFolder;
+using Names = std::set<std::wstring>;
+
+std::wstring in(const TemporaryFolder& folder, const std::wstring& rest) {
+  return wide_path(folder.path()) + L"\\" + rest;
+}
+
+HANDLE first(const std::wstring& pattern, WIN32_FIND_DATAW& data) {
+  SetLastError(ERROR_SUCCESS);
+  return FindFirstFileW(pattern.c_str(), &data);
+}
+
+// Everything that a search delivers, in its order.
+std::vector<WIN32_FIND_DATAW> all(const std::wstring& pattern) {
+  std::vector<WIN32_FIND_DATAW> found;
+  WIN32_FIND_DATAW data;
+  const HANDLE search = first(pattern, data);
+  if (search == INVALID_HANDLE_VALUE) return found;
+  do {
+    found.push_back(data);
+  } while (FindNextFileW(search, &data));
+  EXPECT_EQ(GetLastError(), ERROR_NO_MORE_FILES);
+  EXPECT_TRUE(FindClose(search));
+  return found;
+}
+
+Names names(const std::wstring& pattern) {
+  Names found;
+  for (const WIN32_FIND_DATAW& data : all(pattern))
+    EXPECT_TRUE(found.insert(data.cFileName).second);
+  return found;
+}
+
+WIN32_FIND_DATAW one(const std::wstring& path) {
+  const std::vector<WIN32_FIND_DATAW> found = all(path);
+  EXPECT_EQ(found.size(), 1u);
+  return found.empty() ? WIN32_FIND_DATAW{} : found.front();
+}
+
+DWORD error_of(const std::wstring& pattern) {
+  WIN32_FIND_DATAW data;
+  EXPECT_EQ(first(pattern, data), INVALID_HANDLE_VALUE);
+  return GetLastError();
+}
+
+TEST(NamePattern, FitsAsOnThePlatform) {
+  struct {
+    const wchar_t* pattern;
+    const wchar_t* name;
+    bool fits;
+  } const cases[] = {
+      {L"*", L"any.thing", true},
+      {L"*.*", L"no extension", true},
+      {L"*.jpg", L"a.jpg", true},
+      {L"*.jpg", L"a.b.jpg", true},
+      {L"*.jpg", L"a.jpg.bak", false},
+      {L"*.jpg", L"ajpg", false},
+      {L"*.jpg", L".jpg", true},
+      {L"*.JPG", L"A.jpg", true},
+      {L"\x00C9t*", L"\x00E9t\x00E9", true},
+      {L"图*", L"图片", true},
+      {L"图*", L"片图", false},
+      {L"*.", L"folder", true},
+      {L"*.", L"a.jpg", false},
+      {L"a*.*", L"abc", true},
+      {L"a*.*", L"abc.d.e", true},
+      {L"a*.?", L"a.txt", false},
+      {L"*a*b*", L"xaxbx", true},
+      {L"*a*b*", L"xbxax", false},
+      {L"?", L"a", true},
+      {L"?", L"ab", false},
+      {L"???", L"ab", true},
+      {L"a?c", L"abc", true},
+      {L"a?c", L"ac", false},
+      {L"a??.txt", L"a.txt", true},
+      {L"a?txt", L"a.txt", false},
+      {L"*aab", L"aaaaaaaaaaaaaaaaaab", true},
+      {L"a*", L"", false},
+      {L"*?*", L"", true},
+  };
+  for (const auto& item : cases) {
+    EXPECT_EQ(NamePattern(item.pattern).fits(item.name), item.fits)
+        << testing::PrintToString(item.pattern) << testing::PrintToString(item.name);
+  }
+}
+
+TEST(FindFiles, EntriesOfAFolder) {
+  const TemporaryFolder folder;
+  folder.folder("Album");
+  folder.folder("Album/inner");
+  folder.file("a.jpg");
+  folder.file("B.JPG");
+  folder.file("back\\slash\n.jpg");
+  folder.file("\xFF.txt");
+  const std::wstring slash = wide_name("back\\slash\n.jpg");
+  const std::wstring byte = wide_name("\xFF.txt");
+  struct {
+    const wchar_t* pattern;
+    Names expected;
+  } const cases[] = {
+      {L"*", {L".", L"..", L"Album", L"a.jpg", L"B.JPG", slash, byte}},
+      {L"*.*", {L".", L"..", L"Album", L"a.jpg", L"B.JPG", slash, byte}},
+      {L"*.jpg", {L"a.jpg", L"B.JPG", slash}},
+      {L"?.jpg", {L"a.jpg", L"B.JPG"}},
+      {L"album*", {L"Album"}},
+      {L"Album", {L"Album"}},
+      {L"Album\\*", {L".", L"..", L"inner"}},
+      {L"Album/inn*", {L"inner"}},
+      {L"Album\\inner", {L"inner"}},
+  };
+  for (const auto& item : cases)
+    EXPECT_EQ(names(in(folder, item.pattern)), item.expected)
+        << testing::PrintToString(item.pattern);
+  EXPECT_EQ(names(in(folder, slash)), Names{slash});
+  EXPECT_EQ(names(L"\\\\?\\" + in(folder, byte)), Names{byte});
+}
+
+TEST(FindFiles, DotsComeFirstAndTheRestInTheFileSystemsOrder) {
+  const TemporaryFolder folder;
+  std::vector<std::wstring> expected{L".", L".."};
+  for (int number = 0; number < 300; ++number)
+    folder.file(std::string(200, 'm') + std::to_string(number));
+  for (const auto& entry : std::filesystem::directory_iterator(folder.path()))
+    expected.push_back(entry.path().filename().wstring());
+  std::vector<std::wstring> found;
+  for (const WIN32_FIND_DATAW& data : all(in(folder, L"*"))) found.push_back(data.cFileName);
+  EXPECT_EQ(found, expected);
+}
+
+TEST(FindFiles, DriveRootsHaveNoDots) {
+  const TemporaryFolder folder;
+  folder.folder("a");
+  folder.folder("a/b");
+  ASSERT_TRUE(mount_drive(L'D', folder.path()));
+  for (const wchar_t* pattern : {L"D:\\*", L"d:*", L"D:/*", L"D:\\\\*", L"\\\\?\\D:\\*"})
+    EXPECT_EQ(names(pattern), Names{L"a"}) << testing::PrintToString(pattern);
+  EXPECT_EQ(names(L"D:\\a\\*"), (Names{L".", L"..", L"b"}));
+  EXPECT_EQ(names(L"Z:\\*").count(L"."), 0u);
+  EXPECT_EQ(names(L"\\*").count(L".."), 0u);
+  EXPECT_EQ(GetFileAttributesW(L"D:"), FILE_ATTRIBUTE_DIRECTORY);
+  EXPECT_TRUE(PathFileExistsW(L"D:\\"));
+  mount_drive(L'D', "");
+  EXPECT_EQ(error_of(L"D:\\*"), ERROR_PATH_NOT_FOUND);
+  EXPECT_FALSE(PathFileExistsW(L"D:\\"));
+}
+
+TEST(FindFiles, WhatCannotBeFound) {
+  const TemporaryFolder folder;
+  folder.folder("a");
+  folder.file("file");
+  struct {
+    const wchar_t* pattern;
+    DWORD error;
+  } const cases[] = {
+      {L"gone", ERROR_FILE_NOT_FOUND},    {L"gone*", ERROR_FILE_NOT_FOUND},
+      {L"a\\", ERROR_FILE_NOT_FOUND},     {L"gone\\*", ERROR_PATH_NOT_FOUND},
+      {L"gone\\x", ERROR_PATH_NOT_FOUND}, {L"file\\*", ERROR_PATH_NOT_FOUND},
+      {L"file\\x", ERROR_PATH_NOT_FOUND}, {L"x\x110000", ERROR_FILE_NOT_FOUND},
+  };
+  for (const auto& item : cases)
+    EXPECT_EQ(error_of(in(folder, item.pattern)), item.error)
+        << testing::PrintToString(item.pattern);
+  EXPECT_EQ(error_of(in(folder, std::wstring(256, L'n'))), ERROR_FILENAME_EXCED_RANGE);
+  EXPECT_EQ(error_of(L""), ERROR_PATH_NOT_FOUND);
+  EXPECT_EQ(error_of(L"Q:\\*"), ERROR_PATH_NOT_FOUND);
+  WIN32_FIND_DATAW data;
+  EXPECT_EQ(FindFirstFileW(nullptr, &data), INVALID_HANDLE_VALUE);
+  EXPECT_EQ(FindFirstFileW(L"Z:\\*", nullptr), INVALID_HANDLE_VALUE);
+  EXPECT_EQ(GetLastError(), ERROR_INVALID_PARAMETER);
+  if (geteuid() == 0) return;  // nothing is closed to root
+  chmod((folder / "a").c_str(), 0);
+  EXPECT_EQ(error_of(in(folder, L"a\\*")), ERROR_ACCESS_DENIED);
+}
+
+TEST(FindFiles, Attributes) {
+  const TemporaryFolder folder;
+  folder.folder("folder");
+  folder.folder(".dot folder");
+  folder.file("file");
+  folder.file(".dot file");
+  folder.file("readonly");
+  chmod((folder / "readonly").c_str(), 0444);
+  folder.link("to folder", "folder");
+  folder.link("to file", "file");
+  folder.link("to parent", "..");
+  folder.link("dangling", "nowhere");
+  constexpr DWORD link = FILE_ATTRIBUTE_REPARSE_POINT;
+  struct {
+    const wchar_t* name;
+    DWORD attributes;
+    BOOL exists;
+  } const cases[] = {
+      {L"folder", FILE_ATTRIBUTE_DIRECTORY, TRUE},
+      {L".dot folder", FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_HIDDEN, TRUE},
+      {L"file", FILE_ATTRIBUTE_ARCHIVE, TRUE},
+      {L".dot file", FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_HIDDEN, TRUE},
+      {L"readonly", FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_READONLY, TRUE},
+      {L"to folder", link | FILE_ATTRIBUTE_DIRECTORY, TRUE},
+      {L"to file", link | FILE_ATTRIBUTE_ARCHIVE, TRUE},
+      {L"to parent", link | FILE_ATTRIBUTE_DIRECTORY, TRUE},
+      {L"dangling", link | FILE_ATTRIBUTE_ARCHIVE, FALSE},
+      {L"gone", INVALID_FILE_ATTRIBUTES, FALSE},
+  };
+  for (const auto& item : cases) {
+    const std::wstring path = in(folder, item.name);
+    const auto name = testing::PrintToString(item.name);
+    EXPECT_EQ(GetFileAttributesW(path.c_str()), item.attributes) << name;
+    EXPECT_EQ(PathFileExistsW(path.c_str()), item.exists) << name;
+    if (item.attributes == INVALID_FILE_ATTRIBUTES) continue;
+    const WIN32_FIND_DATAW data = one(path);
+    EXPECT_EQ(data.dwFileAttributes, item.attributes) << name;
+    EXPECT_EQ(data.dwReserved0, item.attributes & link ? IO_REPARSE_TAG_SYMLINK : 0) << name;
+  }
+  const std::vector<WIN32_FIND_DATAW> found = all(in(folder, L"*"));
+  ASSERT_GT(found.size(), 2u);
+  EXPECT_EQ(found[0].dwFileAttributes, FILE_ATTRIBUTE_DIRECTORY);
+  EXPECT_EQ(found[1].dwFileAttributes, FILE_ATTRIBUTE_DIRECTORY);
+}
+
+TEST(FindFiles, ErrorsOfQueries) {
+  const TemporaryFolder folder;
+  folder.file("file");
+  struct {
+    const wchar_t* path;
+    DWORD error;
+  } const cases[] = {
+      {L"gone", ERROR_FILE_NOT_FOUND},    {L"gone\\", ERROR_FILE_NOT_FOUND},
+      {L"gone\\x", ERROR_PATH_NOT_FOUND}, {L"file\\", ERROR_PATH_NOT_FOUND},
+      {L"file\\x", ERROR_PATH_NOT_FOUND},
+  };
+  for (const auto& item : cases) {
+    SetLastError(ERROR_SUCCESS);
+    EXPECT_FALSE(PathFileExistsW(in(folder, item.path).c_str()));
+    EXPECT_EQ(GetLastError(), item.error) << testing::PrintToString(item.path);
+  }
+  for (const wchar_t* path : {L"", L"Q:\\x", static_cast<const wchar_t*>(nullptr)}) {
+    EXPECT_FALSE(PathFileExistsW(path));
+    EXPECT_EQ(GetFileAttributesW(path), INVALID_FILE_ATTRIBUTES);
+  }
+}
+
+std::uint64_t whole(DWORD high, DWORD low) { return (std::uint64_t{high} << 32) | low; }
+
+std::uint64_t whole(const FILETIME& time) { return whole(time.dwHighDateTime, time.dwLowDateTime); }
+
+TEST(FindFiles, SizesAndTimes) {
+  const TemporaryFolder folder;
+  folder.file("file", "12345");
+  folder.link("link", "file");
+  constexpr std::uint64_t large = (std::uint64_t{5} << 32) + 7;
+  folder.file("large");
+  std::error_code sparse_unsupported;
+  std::filesystem::resize_file(folder / "large", large, sparse_unsupported);
+  const timespec times[] = {{1000000000, 0}, {1700000000, 123456700}};
+  ASSERT_EQ(utimensat(AT_FDCWD, (folder / "file").c_str(), times, 0), 0);
+  const WIN32_FIND_DATAW data = one(in(folder, L"file"));
+  EXPECT_EQ(whole(data.nFileSizeHigh, data.nFileSizeLow), 5u);
+  EXPECT_EQ(whole(data.ftLastWriteTime), 133444736001234567u);
+  EXPECT_EQ(whole(data.ftLastAccessTime), 126444736000000000u);
+  EXPECT_GT(whole(data.ftCreationTime), 0u);
+  EXPECT_EQ(one(in(folder, L"link")).nFileSizeLow, 0u);
+  EXPECT_EQ(one(wide_path(folder.path())).nFileSizeLow, 0u);
+  if (sparse_unsupported) return;
+  const WIN32_FIND_DATAW sparse = one(in(folder, L"large"));
+  EXPECT_EQ(whole(sparse.nFileSizeHigh, sparse.nFileSizeLow), large);
+}
+
+TEST(FindFiles, EntriesThatVanishAreLeftOut) {
+  const TemporaryFolder folder;
+  for (const char* name : {"a", "b", "c"}) folder.file(name);
+  WIN32_FIND_DATAW data;
+  const HANDLE search = first(in(folder, L"?"), data);
+  ASSERT_NE(search, INVALID_HANDLE_VALUE);
+  for (const char* name : {"a", "b", "c"}) std::filesystem::remove(folder / name);
+  EXPECT_FALSE(FindNextFileW(search, &data));
+  EXPECT_EQ(GetLastError(), ERROR_NO_MORE_FILES);
+  EXPECT_TRUE(FindClose(search));
+}
+
+TEST(FindFiles, HandlesAreChecked) {
+  const TemporaryFolder folder;
+  folder.file("a");
+  WIN32_FIND_DATAW data;
+  const HANDLE closed = first(in(folder, L"*"), data);
+  EXPECT_TRUE(FindClose(closed));
+  const HANDLE open = first(in(folder, L"*"), data);
+  int on_the_stack = 0;
+  for (const HANDLE wrong :
+       {closed, INVALID_HANDLE_VALUE, HANDLE{nullptr}, static_cast<HANDLE>(&on_the_stack)}) {
+    SetLastError(ERROR_SUCCESS);
+    EXPECT_FALSE(FindNextFileW(wrong, &data));
+    EXPECT_EQ(GetLastError(), ERROR_INVALID_HANDLE);
+    SetLastError(ERROR_SUCCESS);
+    EXPECT_FALSE(FindClose(wrong));
+    EXPECT_EQ(GetLastError(), ERROR_INVALID_HANDLE);
+  }
+  EXPECT_FALSE(FindNextFileW(open, nullptr));
+  EXPECT_EQ(GetLastError(), ERROR_INVALID_PARAMETER);
+  EXPECT_TRUE(FindNextFileW(open, &data));
+  EXPECT_STREQ(data.cFileName, L"..");
+  EXPECT_TRUE(FindClose(open));
+}
+
+TEST(FindFiles, ManyThreads) {
+  const TemporaryFolder folder;
+  constexpr int files = 200;
+  for (int number = 0; number < files; ++number) folder.file(std::to_string(number));
+  WIN32_FIND_DATAW data;
+  const HANDLE shared = first(in(folder, L"*"), data);
+  std::atomic<int> from_shared = 1;
+  std::atomic<int> own = 0;
+  std::vector<std::thread> threads;
+  for (int i = 0; i < 4; ++i) {
+    threads.emplace_back([&] {
+      WIN32_FIND_DATAW entry;
+      while (FindNextFileW(shared, &entry)) ++from_shared;
+      own += static_cast<int>(all(in(folder, L"*")).size());
+    });
+  }
+  for (std::thread& thread : threads) thread.join();
+  EXPECT_TRUE(FindClose(shared));
+  EXPECT_EQ(from_shared, files + 2);
+  EXPECT_EQ(own, 4 * (files + 2));
+}
+
+}  // namespace
+}  // namespace corvane::system
