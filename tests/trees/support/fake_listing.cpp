@@ -1,7 +1,5 @@
 #include "tests/trees/support/fake_listing.h"
 
-#include <algorithm>
-
 namespace corvane_tests {
 
 using corvane::FolderIdentity;
@@ -11,7 +9,7 @@ class FakeFolder : public OpenFolder {
  public:
   FakeFolder(FakeListing& listing, std::wstring path)
       : listing_(listing), path_(std::move(path)), identity_(listing.identities_.at(path_)) {
-    listing_.most_open_ = std::max(listing_.most_open_, ++listing_.open_);
+    ++listing_.open_;
   }
   ~FakeFolder() override { --listing_.open_; }
 
@@ -24,7 +22,6 @@ class FakeFolder : public OpenFolder {
       if (listing_.fails(path_, count++)) break;
       found(name);
     }
-    if (path_ == listing_.replaced_) listing_.identities_[path_] = ++listing_.last_identity_;
     return true;
   }
 

@@ -33,9 +33,6 @@ class FakeListing : public corvane::FolderListing {
   const std::optional<Failure>& failure() const { return failure_; }
 
   int open_folders() const { return open_; }
-  int most_open_folders() const { return most_open_; }
-  // As soon as the folder was listed once, its place is taken by another one.
-  void replace_after_listing(const std::wstring& path) { replaced_ = path; }
 
  private:
   friend class FakeFolder;
@@ -46,12 +43,10 @@ class FakeListing : public corvane::FolderListing {
   std::map<std::wstring, std::wstring> links_;
   std::map<std::wstring, std::uint64_t> identities_;
   std::uint64_t last_identity_ = 0;
-  std::wstring replaced_;
   int failing_ = 0;
   int operations_ = 0;
   std::optional<Failure> failure_;
   int open_ = 0;
-  int most_open_ = 0;
 };
 
 }  // namespace corvane_tests
