@@ -498,5 +498,32 @@ TEST_F(FrameworkWnd, InputReachesTheHandlers) {
   EXPECT_EQ(parent.turned, 240) << "passed on by the default handling";
 }
 
+class PassingWnd : public WatchedWnd {
+ public:
+  const MessageMap* GetMessageMap() const override {
+    static constexpr auto kMessages = MessageTable(On<WM_MOUSEWHEEL>(&PassingWnd::OnMouseWheel));
+    static const MessageMap map = kMessages.Extending(WatchedWnd::GetMessageMap());
+    return &map;
+  }
+
+ protected:
+  BOOL OnMouseWheel(UINT flags, short distance, CPoint point) {
+    return CWnd::OnMouseWheel(flags, distance, point);
+  }
+};
+
+TEST_F(FrameworkWnd, WheelThatIsPassedOnReachesEveryParentOnce) {
+  int seen = 0;
+  WatchedWnd top([&](UINT message, WPARAM, LPARAM) { seen += message == WM_MOUSEWHEEL; });
+  PassingWnd parent, child;
+  ASSERT_TRUE(top.create());
+  ASSERT_TRUE(parent.create(top, WS_CHILD | WS_VISIBLE, CRect(10, 10, 140, 140)));
+  ASSERT_TRUE(child.create(parent, WS_CHILD | WS_VISIBLE, CRect(10, 10, 80, 90)));
+  desktop_.move_to(140, 140);
+  desktop_.wheel(-120);
+  desktop_.windows.process_pending();
+  EXPECT_EQ(seen, 1);
+}
+
 }  // namespace
 }  // namespace corvane

@@ -152,6 +152,36 @@ TEST_F(WheelTest, RoutedToTheFocusWindowWhenTheParameterSaysSo) {
   EXPECT_TRUE(log_is("other (q) WM_MOUSEWHEEL 120 160,170"));
 }
 
+TEST_F(WheelTest, FocusWindowPassesItUpItsParentsToo) {
+  ASSERT_NE(SystemParametersInfoW(SPI_SETMOUSEWHEELROUTING, 0, nullptr, 0), 0);
+  DWORD routing = 99;
+  EXPECT_NE(SystemParametersInfoW(SPI_GETMOUSEWHEELROUTING, 0, &routing, 0), 0);
+  EXPECT_EQ(routing, MOUSEWHEEL_ROUTING_FOCUS);
+  SetFocus(child_);
+  move_to(510, 110);
+  wheel(WHEEL_DELTA);
+  EXPECT_TRUE(log_is("child (q) WM_MOUSEWHEEL 120 510,110 { top WM_MOUSEWHEEL 120 510,110 }"));
+}
+
+TEST_F(WheelTest, RoutedBackToTheWindowUnderThePointer) {
+  for (const DWORD routing : {MOUSEWHEEL_ROUTING_FOCUS, MOUSEWHEEL_ROUTING_MOUSE_POS}) {
+    void* value = reinterpret_cast<void*>(static_cast<UINT_PTR>(routing));
+    ASSERT_NE(SystemParametersInfoW(SPI_SETMOUSEWHEELROUTING, 0, value, 0), 0);
+  }
+  SetFocus(other_);
+  move_to(110, 110);
+  wheel(WHEEL_DELTA);
+  EXPECT_TRUE(log_is("top (q) WM_MOUSEWHEEL 120 110,110"));
+}
+
+TEST_F(WheelTest, OverAScrollBarItIsTheBarsWindows) {
+  settled_child("barred", top_, 100, 0, 50, 100, WS_VSCROLL);
+  recorder().answer("barred", WM_MOUSEWHEEL, 0);
+  move_to(245, 150);
+  wheel(WHEEL_DELTA);
+  EXPECT_TRUE(log_is("barred (q) WM_MOUSEWHEEL 120 245,150"));
+}
+
 TEST_F(WheelTest, OtherSystemParameters) {
   RECT area{};
   EXPECT_NE(SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0), 0);
