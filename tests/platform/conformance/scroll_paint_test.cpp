@@ -226,12 +226,15 @@ TEST_P(ChildScrollPaintTest, IsClippedByTheParent) {
 
 TEST_P(ChildScrollPaintTest, IsUncoveredByASibling) {
   const HWND above = settled_child("above", parent_, 150, 50, 100, 100);
+  paint_patches("above", {{{0, 0, 100, 100}, red}});
   SetWindowPos(above, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
   pump();
-  EXPECT_EQ(screen_pixel(601, 200), white);
+  EXPECT_EQ(screen_pixel(601, 200), red);
   DestroyWindow(above);
-  InvalidateRect(child_, nullptr, TRUE);
   EXPECT_EQ(childs_thumb(), "18..149");
+  EXPECT_NE(screen_pixel(601, 200), red);
+  EXPECT_EQ(screen_pixel(594, 200), screen_pixel(594, 400)) << "the track beside the thumb";
+  EXPECT_EQ(screen_pixel(580, 200), white) << "the client area";
 }
 
 INSTANTIATE_TEST_SUITE_P(, ChildScrollPaintTest,

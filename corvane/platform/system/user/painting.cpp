@@ -88,7 +88,8 @@ void invalidate_uncovered(Window& parent, const RECT& screen_rect) {
   POINT origin = client_origin(parent);
   RECT local = screen_rect;
   OffsetRect(&local, -origin.x, -origin.y);
-  invalidate(parent, Region(local), true);
+  // Also the siblings below: whether the parent clips its children or not, somebody draws there.
+  invalidate(parent, Region(local), true, Children::always);
 }
 
 void validate(Window& window, const Region& region) {

@@ -14,7 +14,8 @@ void invalidate(Window& window, const Region& region, bool erase,
 void expose(Window& window, const Region& region, bool erase,
             Children children = Children::by_style);
 void invalidate_all(Window& window, bool erase);  // with the scroll bars
-// Invalidates, with erase, what lies below a screen rectangle in the window's client area.
+// Invalidates, with erase, what lies below a screen rectangle in the window's client area: the
+// window itself and its children there.
 void invalidate_uncovered(Window& parent, const RECT& screen_rect);
 void validate(Window& window, const Region& region);
 // Sends WM_ERASEBKGND for a pending erase; keeps it pending when the handler returns 0.
