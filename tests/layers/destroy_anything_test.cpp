@@ -1,45 +1,22 @@
 // Whatever message a window of a layer gets, a host may destroy the layer, its parent or a part of
 // it right then. Each case plays a user's whole session once for every message that comes in it and
 // does its worst at that message. Nothing may crash, nothing may be left.
-#include <map>
 #include <memory>
-#include <string>
-#include <vector>
+#include <tuple>
 
 #include "corvane/layers/frame/window_layer.h"
 #include "tests/layers/support/crop_scene.h"
-#include "tests/layers/support/message_trap.h"
+#include "tests/layers/support/destroy_session.h"
 
 namespace corvane_tests {
 namespace {
-
-constexpr SIZE screen = {240, 180};
-constexpr RECT small_host = {10, 10, 230, 170};
-
-// A host with layers, what a user does to them, and what may go wrong.
-class Scene {
- public:
-  Scene(Desktop& desktop, MessageTrap& trap) : desktop_(desktop), trap_(trap) {}
-  virtual ~Scene() = default;
-
-  virtual void play() = 0;
-  virtual void delete_layer() = 0;
-  virtual void destroy_layer() = 0;
-  virtual void destroy_part(int which) = 0;
-  void destroy_host() { host_.DestroyWindow(); }
-
- protected:
-  Desktop& desktop_;
-  MessageTrap& trap_;
-  HostWindow host_;
-};
 
 class CropSession : public Scene {
  public:
   using Scene::Scene;
 
   void play() override {
-    host_.open(small_host);
+    host_.open(session_host);
     desktop_.pump();
     create();
     trap_.begin_phase();
@@ -117,7 +94,7 @@ class ButtonLayerSession : public Scene {
   }
 
   void play() override {
-    host_.open(small_host);
+    host_.open(session_host);
     desktop_.pump();
     create();
     if (layer_) layer_->ShowWindow(SW_SHOW);
@@ -166,100 +143,36 @@ class ButtonLayerSession : public Scene {
 };
 
 enum class Session { crop, button_layer };
-enum class Deed { delete_layer, destroy_layer, destroy_host, destroy_first, destroy_second };
-
-void do_worst(Scene& scene, Deed deed) {
-  switch (deed) {
-    case Deed::delete_layer:
-      return scene.delete_layer();
-    case Deed::destroy_layer:
-      return scene.destroy_layer();
-    case Deed::destroy_host:
-      return scene.destroy_host();
-    case Deed::destroy_first:
-      return scene.destroy_part(0);
-    case Deed::destroy_second:
-      return scene.destroy_part(1);
-  }
-}
-
-struct Case {
-  Session session;
-  Deed deed;
-  TrapSide side;
-};
+using Case = std::tuple<Session, DestroyCase>;
 
 class DestroyAnythingTest : public testing::TestWithParam<Case> {
  protected:
-  std::unique_ptr<Scene> scene(Desktop& desktop, MessageTrap& trap) const {
-    if (GetParam().session == Session::crop) return std::make_unique<CropSession>(desktop, trap);
-    return std::make_unique<ButtonLayerSession>(desktop, trap);
-  }
-
-  // The messages of an undisturbed session, each at its first time in every phase.
-  std::map<TrapPoint, std::vector<int>> listen() {
-    Desktop desktop(screen);
-    MessageTrap trap;
-    scene(desktop, trap)->play();
-    return trap.firsts();
-  }
-
-  // False: the message did not come.
-  bool play(const TrapPoint& point, int occurrence) {
-    Desktop desktop(screen);
-    const int windows = desktop.windows().live_windows();
-    bool sprung = false;
-    {
-      MessageTrap trap;
-      const auto played = scene(desktop, trap);
-      desktop.app().m_pMainWnd = nullptr;
-      trap.set(point, occurrence, GetParam().side, [&] { do_worst(*played, GetParam().deed); });
-      played->play();
-      sprung = trap.sprung();
-      played->delete_layer();
-    }
-    EXPECT_EQ(desktop.windows().live_windows(), windows);
-    EXPECT_EQ(desktop.windows().live_timers(), 0);
-    return sprung;
-  }
-
   TestSkin skin_;
 };
 
 TEST_P(DestroyAnythingTest, AtEveryMessage) {
-  const auto messages = listen();
-  ASSERT_GT(messages.size(), 50U);
-  for (const auto& [point, occurrences] : messages) {
-    for (const int occurrence : occurrences) {
-      SCOPED_TRACE(point.window + " at message " + std::to_string(point.message) + ", occurrence " +
-                   std::to_string(occurrence));
-      EXPECT_TRUE(play(point, occurrence));
+  const auto& [session, destroy_case] = GetParam();
+  const auto make_scene = [crop = session == Session::crop](Desktop& desktop, MessageTrap& trap) {
+    std::unique_ptr<Scene> scene;
+    if (crop) {
+      scene = std::make_unique<CropSession>(desktop, trap);
+    } else {
+      scene = std::make_unique<ButtonLayerSession>(desktop, trap);
     }
-  }
+    return scene;
+  };
+  destroy_at_every_message(make_scene, destroy_case);
 }
 
-std::vector<Case> cases() {
-  std::vector<Case> all;
-  for (const Session session : {Session::crop, Session::button_layer}) {
-    for (const Deed deed : {Deed::delete_layer, Deed::destroy_layer, Deed::destroy_host,
-                            Deed::destroy_first, Deed::destroy_second}) {
-      for (const TrapSide side : {TrapSide::before_handling, TrapSide::after_handling}) {
-        all.push_back({session, deed, side});
-      }
-    }
-  }
-  return all;
+std::string case_name(const testing::TestParamInfo<Case>& info) {
+  const auto& [session, destroy_case] = info.param;
+  return (session == Session::crop ? "Crop" : "ButtonLayer") + name_of(destroy_case);
 }
 
-std::string name_of(const testing::TestParamInfo<Case>& info) {
-  constexpr const char* deeds[] = {"DeletesLayer", "DestroysLayer", "DestroysHost",
-                                   "DestroysFirstPart", "DestroysSecondPart"};
-  return std::string(info.param.session == Session::crop ? "Crop" : "ButtonLayer") +
-         deeds[static_cast<int>(info.param.deed)] +
-         (info.param.side == TrapSide::before_handling ? "Before" : "After");
-}
-
-INSTANTIATE_TEST_SUITE_P(Sessions, DestroyAnythingTest, testing::ValuesIn(cases()), name_of);
+INSTANTIATE_TEST_SUITE_P(Sessions, DestroyAnythingTest,
+                         testing::Combine(testing::Values(Session::crop, Session::button_layer),
+                                          testing::ValuesIn(destroy_cases())),
+                         case_name);
 
 }  // namespace
 }  // namespace corvane_tests

@@ -5,9 +5,9 @@
 
 #include "corvane/layers/frame/layer_messages.h"
 #include "corvane/platform/base_services/system_paths.h"
-#include "corvane/trees/tree_ctrl_ex2.h"
 #include "tests/apps/temporary_folder.h"
 #include "tests/layers/support/layer_test.h"
+#include "tests/trees/support/scripted_tree.h"
 
 namespace corvane_tests {
 namespace {
@@ -22,21 +22,6 @@ namespace fs = std::filesystem;
 
 constexpr COLORREF white = RGB(255, 255, 255);
 constexpr COLORREF frame = RGB(106, 144, 226);
-
-class ScriptedTree : public CTreeCtrlEx2 {
- public:
-  ~ScriptedTree() override { DestroyWindow(); }
-  std::vector<std::function<void()>> steps;  // one for each WM_VSCROLL
-
- protected:
-  LRESULT WindowProc(UINT message, WPARAM wparam, LPARAM lparam) override {
-    if (message == WM_VSCROLL && next_ < steps.size()) steps[next_++]();
-    return CTreeCtrlEx2::WindowProc(message, wparam, lparam);
-  }
-
- private:
-  std::size_t next_ = 0;
-};
 
 // The tree takes a part of the host that is 240 wide and 300 high.
 class TreeWindowTest : public LayerTest {

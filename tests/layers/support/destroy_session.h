@@ -1,0 +1,49 @@
+#pragma once
+// A user's session with a layer that is played once for every message that comes in it, each time
+// with a deed at that message: nothing may crash, nothing may be left.
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "tests/layers/support/layer_test.h"
+#include "tests/layers/support/message_trap.h"
+
+namespace corvane_tests {
+
+// A host with layers, what a user does to them, and what may go wrong.
+class Scene {
+ public:
+  Scene(Desktop& desktop, MessageTrap& trap) : desktop_(desktop), trap_(trap) {}
+  virtual ~Scene() = default;
+
+  virtual void play() = 0;
+  virtual void delete_layer() = 0;
+  virtual void destroy_layer() = 0;
+  virtual void destroy_part(int which) = 0;
+  void destroy_host() { host_.DestroyWindow(); }
+
+ protected:
+  Desktop& desktop_;
+  MessageTrap& trap_;
+  HostWindow host_;
+};
+
+enum class Deed { delete_layer, destroy_layer, destroy_host, destroy_first, destroy_second };
+
+struct DestroyCase {
+  Deed deed;
+  TrapSide side;
+};
+// Every deed before and after the handling of a message.
+std::vector<DestroyCase> destroy_cases();
+std::string name_of(const DestroyCase& destroy_case);  // for a parameterised test
+
+// The desktop that the sessions take place on.
+inline constexpr SIZE session_screen = {240, 180};
+inline constexpr RECT session_host = {10, 10, 230, 170};
+
+using SceneMaker = std::function<std::unique_ptr<Scene>(Desktop& desktop, MessageTrap& trap)>;
+void destroy_at_every_message(const SceneMaker& make_scene, const DestroyCase& destroy_case);
+
+}  // namespace corvane_tests

@@ -1,0 +1,25 @@
+#pragma once
+#include <functional>
+#include <vector>
+
+#include "corvane/trees/tree_ctrl_ex2.h"
+
+namespace corvane_tests {
+
+// Its scroll bar keeps the loop while the mouse button is held; a step follows each message of it.
+class ScriptedTree : public corvane::CTreeCtrlEx2 {
+ public:
+  ~ScriptedTree() override { DestroyWindow(); }
+  std::vector<std::function<void()>> steps;  // one for each WM_VSCROLL
+
+ protected:
+  LRESULT WindowProc(UINT message, WPARAM wparam, LPARAM lparam) override {
+    if (message == WM_VSCROLL && next_ < steps.size()) steps[next_++]();
+    return corvane::CTreeCtrlEx2::WindowProc(message, wparam, lparam);
+  }
+
+ private:
+  std::size_t next_ = 0;
+};
+
+}  // namespace corvane_tests

@@ -1,0 +1,91 @@
+// Whatever message a window gets while a user works with the tree, the host may destroy the tree or
+// change its folders right then.
+#include "tests/layers/support/destroy_session.h"
+#include "tests/trees/support/scripted_tree.h"
+
+namespace corvane_tests {
+namespace {
+
+class TreeSession : public Scene {
+ public:
+  using Scene::Scene;
+
+  void play() override {
+    host_.open(session_host);
+    desktop_.pump();
+    create();
+    trap_.begin_phase();
+    desktop_.click(100, 30);
+    desktop_.double_click(100, 60);
+    trap_.begin_phase();
+    desktop_.wheel(100, 60, -120);
+    trap_.begin_phase();
+    drag_thumb();
+    trap_.begin_phase();
+    desktop_.key(VK_ESCAPE);
+    desktop_.key(VK_RETURN);
+    trap_.begin_phase();
+    if (tree_) tree_->SetCurPath(L"Q:\\Lib\\1");
+    if (tree_) tree_->MoveWindow(5, 5, 150, 90, TRUE);
+    desktop_.pump();
+    if (tree_) tree_->DelAllNode();
+    if (tree_) tree_->DestroyWindow();
+    destroy_host();
+  }
+  void delete_layer() override { tree_.reset(); }
+  void destroy_layer() override {
+    if (tree_) tree_->DestroyWindow();
+  }
+  void destroy_part(int which) override {
+    if (!tree_) return;
+    if (which == 0) {
+      tree_->DelAllNode();
+    } else {
+      fill(3);  // so few that the bar goes
+    }
+  }
+
+ private:
+  void create() {
+    tree_ = std::make_unique<ScriptedTree>();
+    fill(12);
+    tree_->Create(nullptr, L"tree", WS_CHILD | WS_VISIBLE, corvane::CRect(5, 5, 205, 125), &host_,
+                  1);
+    desktop_.pump();
+  }
+  void fill(int count) {
+    tree_->SetPath(L"Q:\\Lib", nullptr);
+    corvane::_NODE* root = tree_->FindNode(L"", nullptr);
+    for (int i = 0; i < count; ++i) {
+      tree_->AddChildNode(L"inner", tree_->AddChildNode(std::to_wstring(i).c_str(), root));
+    }
+  }
+  void drag_thumb() {
+    if (tree_) {
+      tree_->steps = {[] { ::SetCursorPos(206, 80); }, [this] { desktop_.queue_release(); }};
+    }
+    desktop_.press(206, 40);
+    desktop_.release();
+  }
+
+  std::unique_ptr<ScriptedTree> tree_;
+};
+
+class TreeDestroyTest : public testing::TestWithParam<DestroyCase> {
+ protected:
+  TestSkin skin_;
+};
+
+TEST_P(TreeDestroyTest, AtEveryMessage) {
+  destroy_at_every_message(
+      [](Desktop& desktop, MessageTrap& trap) {
+        return std::make_unique<TreeSession>(desktop, trap);
+      },
+      GetParam());
+}
+
+INSTANTIATE_TEST_SUITE_P(Deeds, TreeDestroyTest, testing::ValuesIn(destroy_cases()),
+                         [](const auto& each) { return name_of(each.param); });
+
+}  // namespace
+}  // namespace corvane_tests
