@@ -1,8 +1,7 @@
-// corvane-capture [--script FOLDER] PICTURE
+// corvane-capture [--library FOLDER] [--script FOLDER] [PICTURE]
 #include <cstdio>
-#include <cstring>
-#include <string>
 
+#include "apps/capture/launch.h"
 #include "apps/capture/main_window.h"
 #include "apps/capture/scripted_session.h"
 
@@ -10,31 +9,13 @@ namespace {
 
 constexpr int kUsageError = 2;
 
-struct Arguments {
-  std::string picture;
-  std::string script_folder;  // empty: an ordinary session
-  bool valid = false;
-};
-
-Arguments Parse(int count, char** values) {
-  Arguments arguments;
-  int next = 1;
-  if (next + 1 < count && std::strcmp(values[next], "--script") == 0) {
-    arguments.script_folder = values[next + 1];
-    next += 2;
-  }
-  arguments.valid = next + 1 == count && std::strncmp(values[next], "--", 2) != 0;
-  if (arguments.valid) arguments.picture = values[next];
-  return arguments;
-}
-
 class CCaptureApp : public corvane::CWinApp {
  public:
-  explicit CCaptureApp(std::unique_ptr<capture::CPicture> picture) : picture_(std::move(picture)) {}
+  explicit CCaptureApp(capture::Beginning beginning) : beginning_(std::move(beginning)) {}
 
   bool InitInstance() override {
     m_pMainWnd = &window_;
-    opened_ = window_.Open(std::move(picture_));
+    opened_ = window_.Open(std::move(beginning_));
     return opened_;
   }
   int ExitInstance() override { return opened_ ? CWinApp::ExitInstance() : 1; }
@@ -42,7 +23,7 @@ class CCaptureApp : public corvane::CWinApp {
   capture::CMainWindow& window() { return window_; }
 
  private:
-  std::unique_ptr<capture::CPicture> picture_;
+  capture::Beginning beginning_;
   capture::CMainWindow window_;
   bool opened_ = false;
 };
@@ -50,18 +31,17 @@ class CCaptureApp : public corvane::CWinApp {
 }  // namespace
 
 int main(int count, char** values) {
-  Arguments arguments = Parse(count, values);
+  capture::Arguments arguments = capture::ParseArguments(count, values);
   if (!arguments.valid) {
-    std::fprintf(stderr, "usage: corvane-capture [--script FOLDER] PICTURE\n");
+    std::fprintf(stderr, "usage: corvane-capture [--library FOLDER] [--script FOLDER] [PICTURE]\n");
     return kUsageError;
   }
-  std::unique_ptr<capture::CPicture> picture = capture::CPicture::Open(arguments.picture);
-  if (picture == nullptr) {
-    std::fprintf(stderr, "corvane-capture: cannot open the picture %s\n",
-                 arguments.picture.c_str());
+  capture::Launch launch = capture::PrepareLaunch(arguments);
+  if (!launch.error.empty()) {
+    std::fprintf(stderr, "corvane-capture: %s\n", launch.error.c_str());
     return kUsageError;
   }
-  CCaptureApp app(std::move(picture));
+  CCaptureApp app(std::move(launch.beginning));
   if (arguments.script_folder.empty()) return corvane::RunApp(app);
   if (!app.InitInstance()) return 1;
   return capture::PlayScriptedSession(app.window(), arguments.script_folder);

@@ -1,47 +1,29 @@
 #include "apps/capture/main_window.h"
 
 #include <cerrno>
-#include <cstring>
-#include <filesystem>
 
+#include "apps/capture/capture_messages.h"
+#include "apps/capture/picture_folder.h"
+#include "apps/capture/picture_saving.h"
 #include "apps/capture/texts.h"
+#include "apps/capture/window_layout.h"
+#include "corvane/platform/base_services/system_paths.h"
 
 namespace capture {
 namespace {
 
 using namespace corvane;
 
-constexpr int kToolbarList = 100;
-constexpr int kToolbarBackground = 7;
-constexpr int kToolbarHeight = 76;
-constexpr int kQuitMargin = 12;
-constexpr UINT_PTR kRecognitionTimer = 1;
-constexpr UINT kRecognitionInterval = 100;  // milliseconds
-constexpr SIZE kTextPanelSize{720, 480};
 constexpr SIZE kOpenPanelSize{640, 560};
 constexpr SIZE kSmallestReadable{8, 8};  // pixels of the picture
 
-constexpr wchar_t kHowToInstall[] =
-    L"文字识别需要 tesseract 程序，现在没有安装。\n\n"
-    L"请安装软件包 tesseract-ocr 和 tesseract-ocr-chi-sim：\n"
-    L"sudo apt install tesseract-ocr tesseract-ocr-chi-sim";
+CString NameForUser(const std::wstring& path) { return CString(NameOf(path).c_str()); }
 
-// The usual reasons in the user's language, others in the system's.
-CString SaveError(int error) {
-  switch (error) {
-    case ENOSPC:
-    case EDQUOT:
-      return L"磁盘空间不足";
-    case EACCES:
-    case EPERM:
-    case EROFS:
-      return L"没有写入权限";
-    case ENOENT:
-    case ENOTDIR:
-      return L"图片所在的文件夹不存在";
-    default:
-      return Wide(std::strerror(error));
+HWND FindOwned(HWND owner) {
+  for (HWND it = GetTopWindow(nullptr); it != nullptr; it = GetWindow(it, GW_HWNDNEXT)) {
+    if (GetWindow(it, GW_OWNER) == owner) return it;
   }
+  return nullptr;
 }
 
 }  // namespace
@@ -49,15 +31,17 @@ CString SaveError(int error) {
 const MessageMap* CMainWindow::GetMessageMap() const {
   static constexpr auto kMessages =
       MessageTable(On<WM_ERASEBKGND>(&CMainWindow::OnEraseBkgnd), On<WM_SIZE>(&CMainWindow::OnSize),
-                   On<WM_KEYDOWN>(&CMainWindow::OnKeyDown), On<WM_TIMER>(&CMainWindow::OnTimer),
+                   On<WM_KEYDOWN>(&CMainWindow::OnKeyDown),
                    OnMessage<WM_LAYER_BTN_CLICK>(&CMainWindow::OnToolbarButton),
                    OnMessage<WM_CUT_CMD>(&CMainWindow::OnCropCommand),
-                   OnMessage<WM_PICTURE_CHOSEN>(&CMainWindow::OnPictureChosen));
+                   OnMessage<WM_PICTURE_CHOSEN>(&CMainWindow::OnPictureChosen),
+                   OnMessage<WM_FOLDER_CHOSEN>(&CMainWindow::OnFolderChosen),
+                   OnMessage<WM_PICTURE_CLICKED>(&CMainWindow::OnPictureClicked));
   static const MessageMap map = kMessages.Extending(CWnd::GetMessageMap());
   return &map;
 }
 
-bool CMainWindow::Open(std::unique_ptr<CPicture> picture) {
+bool CMainWindow::Open(Beginning beginning) {
   HCURSOR arrow = LoadCursorW(nullptr, IDC_ARROW);
   const wchar_t* window_class = AfxRegisterWndClass(CS_DBLCLKS, arrow);
   RECT screen{};
@@ -66,34 +50,20 @@ bool CMainWindow::Open(std::unique_ptr<CPicture> picture) {
     return false;
   }
   if (!CreateParts()) return false;
-  ShowPicture(std::move(picture));
   Layout();
   CWnd::ShowWindow(SW_SHOW);
+  browser_.Load(beginning.library, beginning.folder);
+  ShowPicture(std::move(beginning.picture));
   return true;
 }
 
 bool CMainWindow::CreateParts() {
-  CreateToolbar();
-  return view_.CreateEx(0, nullptr, L"picture", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), this,
+  view_.SetEmptyText(L"图库里还没有图片\n把图片放进图库的文件夹，或按“打开”选择一张图片");
+  return toolbar_.Open(this) && browser_.Create(this) &&
+         view_.CreateEx(0, nullptr, L"picture", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), this,
                         0) &&
-         CreateCropLayer() && text_panel_.Open(this, L"文字识别") &&
+         CreateCropLayer() && recognition_.Open(this, L"文字识别") &&
          open_panel_.Open(this, L"打开");
-}
-
-void CMainWindow::CreateToolbar() {
-  skin_.LoadCtrlList(L"ui_control.xml", kToolbarList);
-  skin_.LoadLanguageList(L"ui_language.xml", kToolbarList);
-  skin_.LoadLogfontList(L"ui_logfont.xml");
-  CRect unused;
-  skin_.LoadGdiImage(toolbar_background_, unused, kToolbarBackground);
-  toolbar_.SetXmlListMgr(&skin_);
-  toolbar_.SetBgImage(toolbar_background_.GetImage(), CRect());
-  for (ToolbarButton button : {ToolbarButton::crop, ToolbarButton::text, ToolbarButton::open,
-                               ToolbarButton::previous, ToolbarButton::next, ToolbarButton::quit}) {
-    toolbar_.AddBtn(static_cast<int>(button));
-  }
-  toolbar_.CreateEx(0, nullptr, L"toolbar", WS_CHILD | WS_CLIPCHILDREN, CRect(0, 0, 0, 0), this, 0);
-  toolbar_.ShowWindow(SW_SHOW);
 }
 
 bool CMainWindow::CreateCropLayer() {
@@ -118,13 +88,10 @@ void CMainWindow::OnSize(UINT kind, int width, int height) {
 void CMainWindow::Layout() {
   CRect client;
   GetClientRect(client);
-  toolbar_.MoveWindow(0, 0, client.Width(), kToolbarHeight);
-  int quit = static_cast<int>(ToolbarButton::quit);
-  CRect place = toolbar_.GetBtnRect(quit);
-  place.OffsetRect(client.right - kQuitMargin - place.right, 0);
-  toolbar_.SetBtnRect(quit, place);
-  view_.MoveWindow(0, kToolbarHeight, client.Width(),
-                   std::max(client.Height() - kToolbarHeight, 0));
+  WindowLayout layout = LayOut({client.right, client.bottom}, CToolbar::kHeight);
+  toolbar_.Place(client.Width());
+  browser_.Place(layout.library, layout.strip);
+  view_.MoveWindow(&layout.stage);
   view_.Invalidate(FALSE);
   PlaceCropLayer();
 }
@@ -142,29 +109,61 @@ void CMainWindow::PlaceCropLayer() {
   if (crop_.IsWindowVisible()) StartCrop(crop_mode_);
 }
 
+CRect CMainWindow::CropButtonOnScreen(CropCommand command) const {
+  // The bar is an owned window of the crop rectangle's window, which the background owns.
+  HWND bar = FindOwned(FindOwned(crop_.GetSafeHwnd()));
+  CRect rect;
+  if (bar != nullptr) ::GetWindowRect(::GetDlgItem(bar, static_cast<int>(command)), &rect);
+  return rect;
+}
+
 void CMainWindow::ShowPicture(std::unique_ptr<CPicture> picture) {
   EndCrop();
   view_.SetPicture(picture.get());
   picture_ = std::move(picture);
-  if (picture_ == nullptr) return;
+  if (picture_ == nullptr) {
+    CWnd::SetWindowTextW(L"Corvane");
+    return;
+  }
   SIZE size = picture_->size();
   CString title;
   title.Format(L" — %d × %d — Corvane", size.cx, size.cy);
   CWnd::SetWindowTextW(Wide(picture_->name()) + title);
+  browser_.MarkOpened(wide_path_of(picture_->path()));
 }
 
-void CMainWindow::OpenPath(const std::string& path) {
+void CMainWindow::OpenPath(const std::wstring& path) {
+  std::unique_ptr<CPicture> picture = CPicture::Open(native_path(path).string());
+  if (picture == nullptr) {
+    view_.ShowNotice(CString(L"无法打开：") + NameForUser(path));
+    return;
+  }
+  ShowPicture(std::move(picture));
+}
+
+void CMainWindow::OpenNeighbour(int step) {
+  RefreshLibrary();
+  std::wstring path = browser_.PictureFromOpened(step);
   if (path.empty()) {
     view_.ShowNotice(L"这个文件夹里没有别的图片");
     return;
   }
-  std::unique_ptr<CPicture> picture = CPicture::Open(path);
-  if (picture == nullptr) {
-    view_.ShowNotice(CString(L"无法打开：") +
-                     Wide(std::filesystem::path(path).filename().string()));
-    return;
-  }
-  ShowPicture(std::move(picture));
+  OpenPath(path);
+}
+
+void CMainWindow::RefreshLibrary() {
+  CString notice = browser_.Refresh();
+  if (!notice.IsEmpty()) view_.ShowNotice(notice);
+}
+
+LRESULT CMainWindow::OnFolderChosen(WPARAM, LPARAM) {
+  RefreshLibrary();
+  return 0;
+}
+
+LRESULT CMainWindow::OnPictureClicked(WPARAM, LPARAM) {
+  OpenPath(browser_.ClickedPicture());
+  return 0;
 }
 
 LRESULT CMainWindow::OnToolbarButton(WPARAM id, LPARAM) {
@@ -180,10 +179,7 @@ LRESULT CMainWindow::OnToolbarButton(WPARAM id, LPARAM) {
       break;
     case ToolbarButton::previous:
     case ToolbarButton::next:
-      if (picture_ != nullptr) {
-        OpenPath(
-            picture_->Neighbour(static_cast<ToolbarButton>(id) == ToolbarButton::next ? 1 : -1));
-      }
+      OpenNeighbour(static_cast<ToolbarButton>(id) == ToolbarButton::next ? 1 : -1);
       break;
     case ToolbarButton::quit:
       PostMessageW(WM_CLOSE);
@@ -194,7 +190,7 @@ LRESULT CMainWindow::OnToolbarButton(WPARAM id, LPARAM) {
 
 void CMainWindow::StartCrop(CropMode mode) {
   if (picture_ == nullptr) return;
-  text_panel_.Close();
+  recognition_.Close();
   open_panel_.Close();
   crop_mode_ = mode;
   crop_.SetOCRMode(mode == CropMode::text ? 1 : 0);
@@ -240,14 +236,25 @@ void CMainWindow::SaveFramed() {
     view_.ShowNotice(L"所选区域里没有图片");
     return;
   }
-  SavedPart saved = SaveBeside(picture_->path(), png);
-  if (saved.path.empty()) {
-    view_.ShowNotice(CString(L"无法保存：") + SaveError(saved.error));
+  SaveInCurrentFolder(png);
+}
+
+void CMainWindow::SaveInCurrentFolder(const std::vector<std::uint8_t>& png) {
+  CString notice = browser_.Refresh();
+  if (!notice.IsEmpty()) notice += L"。";
+  std::wstring folder = browser_.Folder();
+  SavedPart saved{{}, ENOENT};
+  if (!folder.empty()) {
+    saved = SaveNumbered(folder, NameOf(wide_path_of(picture_->path())), png);
+  }
+  if (saved.name.empty()) {
+    view_.ShowNotice(notice + L"无法保存：" + SaveErrorText(saved.error));
     return;
   }
-  last_saved_ = saved.path;
-  view_.ShowNotice(CString(L"已保存 ") +
-                   Wide(std::filesystem::path(saved.path).filename().string()));
+  last_saved_ = folder + L'\\' + saved.name;
+  browser_.Refresh();
+  browser_.ScrollTo(saved.name);
+  view_.ShowNotice(notice + L"已保存到“" + NameForUser(folder) + L"”：" + saved.name.c_str());
 }
 
 void CMainWindow::RecogniseFramed() {
@@ -258,54 +265,21 @@ void CMainWindow::RecogniseFramed() {
     view_.ShowNotice(L"所选区域太小，没有可识别的文字");
     return;
   }
-  if (!CTextRecognition::Installed()) {
-    ShowText(L"文字识别", kHowToInstall);
-  } else if (recognition_.Start(picture_->EncodePart(part))) {
-    ShowText(L"文字识别", L"正在识别……");
-    SetTimer(kRecognitionTimer, kRecognitionInterval);
-  } else {
-    ShowText(L"文字识别", L"无法启动文字识别程序。");
-  }
-}
-
-void CMainWindow::OnTimer(UINT_PTR id) {
-  if (id != kRecognitionTimer) {
-    Default();
-    return;
-  }
-  std::optional<std::string> text = recognition_.TakeResult();
-  if (!text && recognition_.Running()) return;
-  KillTimer(kRecognitionTimer);
-  if (text) ShowRecognised(*text);
-}
-
-void CMainWindow::ShowRecognised(const std::string& text) {
-  if (text.empty()) {
-    ShowText(L"文字识别", L"没有识别出文字。");
-    return;
-  }
-  ShowText(L"识别结果", Wide(text));
-}
-
-void CMainWindow::ShowText(const wchar_t* title, const CString& text) {
-  text_panel_.SetTitle(title);
-  text_panel_.SetText(text);
-  text_panel_.ShowIn(StageOnScreen(), kTextPanelSize);
+  recognition_.Read(picture_->EncodePart(part), StageOnScreen());
 }
 
 void CMainWindow::ShowOpenPanel() {
   EndCrop();
-  text_panel_.Close();
-  std::error_code error;
-  std::filesystem::path folder = picture_ == nullptr
-                                     ? std::filesystem::current_path(error)
-                                     : std::filesystem::path(picture_->path()).parent_path();
+  recognition_.Close();
+  std::wstring folder =
+      picture_ == nullptr ? browser_.Folder() : FolderOf(wide_path_of(picture_->path()));
   open_panel_.ShowIn(StageOnScreen(), kOpenPanelSize);
-  open_panel_.ListFolder(folder, picture_ == nullptr ? std::string() : picture_->path());
+  open_panel_.ListFolder(native_path(folder).string(),
+                         picture_ == nullptr ? std::string() : picture_->path());
 }
 
 LRESULT CMainWindow::OnPictureChosen(WPARAM, LPARAM) {
-  OpenPath(open_panel_.ChosenPath());
+  OpenPath(wide_path_of(open_panel_.ChosenPath()));
   return 0;
 }
 
@@ -316,7 +290,7 @@ void CMainWindow::OnKeyDown(UINT key, UINT, UINT) {
       break;
     case VK_LEFT:
     case VK_RIGHT:
-      if (picture_ != nullptr) OpenPath(picture_->Neighbour(key == VK_RIGHT ? 1 : -1));
+      OpenNeighbour(key == VK_RIGHT ? 1 : -1);
       break;
     default:
       Default();

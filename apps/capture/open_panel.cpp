@@ -4,9 +4,10 @@
 #include <filesystem>
 #include <system_error>
 
+#include "apps/capture/capture_messages.h"
 #include "apps/capture/fill.h"
 #include "apps/capture/palette.h"
-#include "apps/capture/picture.h"
+#include "apps/capture/picture_folder.h"
 #include "apps/capture/texts.h"
 #include "corvane/platform/drawing/gdi_dc.h"
 
@@ -49,11 +50,11 @@ void COpenPanel::ListFolder(const std::string& folder, const std::string& curren
   std::error_code error;
   for (fs::directory_iterator it(folder, error), end; !error && it != end; it.increment(error)) {
     std::error_code ignored;
-    std::string name = it->path().filename();
+    CString name = Wide(it->path().filename());
     bool is_folder = it->is_directory(ignored);
-    bool is_picture = HasPictureEnding(name) && it->is_regular_file(ignored);
-    if (name.starts_with('.') || (!is_folder && !is_picture)) continue;
-    entries_.push_back({it->path(), Wide(name), is_folder});
+    bool is_picture = HasPictureEnding(name.AsStdString()) && it->is_regular_file(ignored);
+    if (name.AsStdString().starts_with(L'.') || (!is_folder && !is_picture)) continue;
+    entries_.push_back({it->path(), name, is_folder});
   }
   std::sort(entries_.begin(), entries_.end(), [](const Entry& a, const Entry& b) {
     return a.folder != b.folder ? a.folder : a.path < b.path;

@@ -7,9 +7,7 @@
 
 namespace capture {
 
-// Posted to the owner when a picture was chosen; ChosenPath() names it.
-constexpr UINT WM_PICTURE_CHOSEN = WM_APP + 1;
-
+// Posts WM_PICTURE_CHOSEN to its owner.
 class COpenPanel : public CPanel {
  public:
   // Byte path. Lists the folder and marks `current`, when it is there.

@@ -1,5 +1,8 @@
 #include "apps/capture/picture_view.h"
 
+#include <algorithm>
+#include <string>
+
 #include "apps/capture/fill.h"
 #include "apps/capture/palette.h"
 #include "apps/capture/texts.h"
@@ -17,6 +20,7 @@ constexpr int kMargin = 16;
 constexpr int kNoticeHeight = 38;
 constexpr int kNoticePadding = 18;
 constexpr int kNoticeFontHeight = 17;
+constexpr int kEmptyLineDistance = 36;
 
 int TextWidth(HDC dc, const CString& text, const LOGFONTW& font) {
   HFONT handle = CreateFontIndirectW(&font);
@@ -67,11 +71,30 @@ void CPictureView::OnPaint() {
   if (picture_ != nullptr) {
     CGdiDC().DrawImage(dc, picture_->image(), CRect(shown));
   } else {
-    LOGFONTW font = UiFont(20);
-    CGdiDC().DrawTextW(dc, L"没有打开图片", &font, client, 0xFF93A1B0,
-                       DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+    DrawEmptyStage(dc, client);
   }
   if (!notice_.IsEmpty()) DrawNotice(dc, client);
+}
+
+void CPictureView::SetEmptyText(const CString& text) {
+  empty_text_ = text;
+  Invalidate(FALSE);
+}
+
+void CPictureView::DrawEmptyStage(HDC dc, const RECT& client) const {
+  std::wstring text = empty_text_.AsStdString();
+  std::size_t end = std::min(text.find(L'\n'), text.size());
+  LOGFONTW font = UiFont(24);
+  CRect first(client);
+  first.bottom -= kEmptyLineDistance;
+  CGdiDC().DrawTextW(dc, text.substr(0, end).c_str(), &font, first, 0xFFE8EEF4,
+                     DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+  if (end == text.size()) return;
+  font = UiFont(17);
+  CRect second(client);
+  second.top += kEmptyLineDistance;
+  CGdiDC().DrawTextW(dc, text.substr(end + 1).c_str(), &font, second, 0xFF93A1B0,
+                     DT_CENTER | DT_VCENTER | DT_SINGLELINE);
 }
 
 void CPictureView::DrawNotice(HDC dc, const RECT& client) const {

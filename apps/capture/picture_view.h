@@ -13,6 +13,9 @@ class CPictureView : public corvane::CWnd {
   RECT ShownRect() const;
   // Shows a line of text at the bottom for a few seconds.
   void ShowNotice(const corvane::CString& text);
+  const corvane::CString& notice() const { return notice_; }  // empty when none is shown
+  // What stands on the stage while there is no picture; '\n' begins another, smaller line.
+  void SetEmptyText(const corvane::CString& text);
 
  protected:
   const corvane::MessageMap* GetMessageMap() const override;
@@ -21,10 +24,12 @@ class CPictureView : public corvane::CWnd {
   void OnTimer(UINT_PTR id);
 
  private:
+  void DrawEmptyStage(HDC dc, const RECT& client) const;
   void DrawNotice(HDC dc, const RECT& client) const;
 
   const CPicture* picture_ = nullptr;
   corvane::CString notice_;
+  corvane::CString empty_text_;
 };
 
 }  // namespace capture

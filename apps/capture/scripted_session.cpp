@@ -1,5 +1,6 @@
 #include "apps/capture/scripted_session.h"
 
+#include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -7,6 +8,8 @@
 #include <thread>
 #include <vector>
 
+#include "apps/capture/synthetic_user.h"
+#include "corvane/platform/base_services/system_paths.h"
 #include "corvane/platform/system/gdi/image_encoder.h"
 #include "corvane/platform/system/user/window_system.h"
 
@@ -16,61 +19,114 @@ namespace {
 using namespace corvane;
 namespace fs = std::filesystem;
 
-constexpr int kStepsOfADrag = 12;
-constexpr auto kRecognitionPause = std::chrono::milliseconds(50);
-constexpr int kMostRecognitionPauses = 1200;
+constexpr auto kPause = std::chrono::milliseconds(20);
+constexpr int kMostPauses = 3000;
+constexpr int kRowHeight = 30;  // of the tree
+
+POINT At(const CRect& rect, int percent_x, int percent_y) {
+  return {rect.left + rect.Width() * percent_x / 100, rect.top + rect.Height() * percent_y / 100};
+}
+
+CRect OnScreen(const CWnd& window) {
+  CRect rect;
+  window.GetWindowRect(rect);
+  return rect;
+}
 
 class Session {
  public:
   Session(CMainWindow& window, fs::path folder) : window_(window), folder_(std::move(folder)) {}
 
   int Play() {
-    Pump();
-    Frame("the picture");
+    HandleWaitingMessages();
+    Frame("the picture, its folder and the folder's pictures");
+    Crop();
+    Recognise();
+    BrowseTheLibrary();
+    return failed_ ? 1 : 0;
+  }
+
+ private:
+  void Crop() {
     ClickToolbar(ToolbarButton::crop);
-    CRect stage = Stage();
+    CRect stage = OnScreen(window_.view());
     Drag(At(stage, 20, 25), At(stage, 55, 60));
     Frame("a rectangle was drawn, its bar is shown");
     Drag(Corner(), {Corner().x + stage.Width() / 10, Corner().y + stage.Height() / 8});
     Frame("the lower right handle was dragged");
     Drag(Middle(), {Middle().x - stage.Width() / 20, Middle().y - stage.Height() / 20});
     Frame("the rectangle was moved");
-    ClickCropBar(static_cast<int>(CropCommand::save));
-    Frame("the part was saved");
+    ClickCropBar(CropCommand::save);
+    Frame("the part was saved in the current folder");
     CopyCrop();
+  }
+
+  void Recognise() {
     ClickToolbar(ToolbarButton::text);
     Frame("text recognition asks for a region");
     CRect picture = Picture();
     Drag(At(picture, 9, 23), At(picture, 57, 76));
     Frame("the region for text recognition");
-    ClickCropBar(static_cast<int>(CropCommand::read));
-    WaitForRecognition();
+    ClickCropBar(CropCommand::read);
+    WaitWhile([this] {
+      LetTimePass(100);
+      return window_.recognising();
+    });
     Frame("what was recognised");
-    Key(VK_ESCAPE);
+    PressKey(VK_ESCAPE);
     Frame("Escape closed the box");
-    return failed_ ? 1 : 0;
   }
 
- private:
-  void Pump() {
-    MSG message;
-    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-      if (message.message == WM_QUIT) return;
-      if (PreTranslateInput(&message)) continue;
-      TranslateMessage(&message);
-      DispatchMessageW(&message);
+  // Goes down to a folder in a folder of the root, where the library has one, and crops there.
+  void BrowseTheLibrary() {
+    if (!ClickRow(1, &DoubleClick)) return;
+    Frame("a double click on a folder shows those in it");
+    ClickRow(2, &Click);
+    Frame("a click on a folder shows its pictures");
+    CRect strip = OnScreen(window_.browser().strip());
+    TurnWheel(strip.CenterPoint(), -4);
+    Frame("the wheel moves the row of pictures");
+    TurnWheel(strip.CenterPoint(), 4);
+    TurnWheel(OnScreen(window_.browser().pane().tree()).CenterPoint(), -9);
+    Frame("the wheel moves the tree");
+    if (window_.browser().strip().names().empty()) return;
+    Click(PictureInStrip(0));
+    Frame("a click on a picture opens it");
+    ClickToolbar(ToolbarButton::crop);
+    CRect picture = Picture();
+    Drag(At(picture, 20, 20), At(picture, 80, 70));
+    ClickCropBar(CropCommand::save);
+    Frame("a part of it was saved beside it");
+  }
+
+  template <class Condition>
+  static void WaitWhile(const Condition& condition) {
+    for (int i = 0; condition() && i < kMostPauses; ++i) {
+      std::this_thread::sleep_for(kPause);
+      HandleWaitingMessages();
     }
   }
 
+  bool ThumbnailsAreMissing() const {
+    const CPictureStrip& strip = window_.browser().strip();
+    CellRange visible = strip.layout().Visible();
+    for (int cell = visible.first; cell < visible.last; ++cell) {
+      const std::wstring& name = strip.names()[static_cast<std::size_t>(cell)];
+      if (strip.thumbnails().Find(name) == nullptr) return true;
+    }
+    return false;
+  }
+
   void Frame(const char* what) {
-    Pump();
+    HandleWaitingMessages();
+    WaitWhile([this] { return ThumbnailsAreMissing(); });
     const system::Surface& screen = system::WindowSystem::current()->frame();
     char name[32];
     std::snprintf(name, sizeof(name), "frame_%02d.png", ++frames_);
     Write(name, system::encode_png(screen, screen.rect()), what);
   }
 
-  void Write(const char* name, const std::vector<std::uint8_t>& bytes, const char* what) {
+  void Write(const char* name, const std::vector<std::uint8_t>& bytes, const std::string& what) {
     fs::path path = folder_ / name;
     std::ofstream file(path, std::ios::binary | std::ios::trunc);
     file.write(reinterpret_cast<const char*>(bytes.data()),
@@ -81,117 +137,56 @@ class Session {
       std::fprintf(stderr, "corvane-capture: cannot write %s\n", path.c_str());
       return;
     }
-    std::printf("%s: %s\n", path.c_str(), what);
+    std::printf("%s: %s\n", path.c_str(), what.c_str());
   }
 
   void CopyCrop() {
-    std::ifstream saved(window_.last_saved(), std::ios::binary);
+    fs::path path = native_path(window_.last_saved());
+    std::ifstream saved(path, std::ios::binary);
     std::vector<std::uint8_t> bytes{std::istreambuf_iterator<char>(saved),
                                     std::istreambuf_iterator<char>()};
-    Write("crop.png", bytes, ("the cropped picture, saved as " + window_.last_saved()).c_str());
-  }
-
-  void WaitForRecognition() {
-    Pump();
-    for (int i = 0; window_.recognising() && i < kMostRecognitionPauses; ++i) {
-      std::this_thread::sleep_for(kRecognitionPause);
-      system::WindowSystem::current()->display().wait(
-          system::WindowSystem::current()->display().now() + 100);
-      Pump();
-    }
-  }
-
-  CRect Stage() const {
-    CRect rect;
-    window_.view().GetWindowRect(rect);
-    return rect;
+    Write("crop.png", bytes, "the cropped picture, saved as " + path.string());
   }
 
   CRect Picture() const {
     CRect rect(window_.view().ShownRect());
-    CRect stage = Stage();
-    rect.OffsetRect(stage.left, stage.top);
+    rect.OffsetRect(OnScreen(window_.view()).TopLeft());
     return rect;
-  }
-
-  static POINT At(const CRect& rect, int percent_x, int percent_y) {
-    return {rect.left + rect.Width() * percent_x / 100, rect.top + rect.Height() * percent_y / 100};
   }
 
   CRect Framed() const {
     CRect rect = window_.crop().GetCutRect();
-    CRect stage = Stage();
-    rect.OffsetRect(stage.left, stage.top);
+    rect.OffsetRect(OnScreen(window_.view()).TopLeft());
     return rect;
   }
   POINT Corner() const { return {Framed().right, Framed().bottom}; }
-  POINT Middle() const {
-    CRect framed = Framed();
-    return {framed.left + framed.Width() / 3, framed.top + framed.Height() / 3};
+  POINT Middle() const { return At(Framed(), 33, 33); }
+
+  POINT PictureInStrip(int cell) const {
+    const CPictureStrip& strip = window_.browser().strip();
+    CRect rect(strip.layout().Picture(cell));
+    strip.ClientToScreen(rect);
+    return rect.CenterPoint();
   }
 
-  void MoveTo(POINT point) {
-    SetCursorPos(point.x, point.y);
-    Pump();
-  }
-
-  void Button(DWORD flag) {
-    INPUT input{};
-    input.type = INPUT_MOUSE;
-    input.mi.dwFlags = flag;
-    SendInput(1, &input, sizeof(input));
-    Pump();
-  }
-
-  void Click(POINT point) {
-    MoveTo(point);
-    Button(MOUSEEVENTF_LEFTDOWN);
-    Button(MOUSEEVENTF_LEFTUP);
-  }
-
-  void Drag(POINT from, POINT to) {
-    MoveTo(from);
-    Button(MOUSEEVENTF_LEFTDOWN);
-    for (int i = 1; i <= kStepsOfADrag; ++i) {
-      MoveTo({from.x + (to.x - from.x) * i / kStepsOfADrag,
-              from.y + (to.y - from.y) * i / kStepsOfADrag});
-    }
-    Button(MOUSEEVENTF_LEFTUP);
-  }
-
-  void Key(int virtual_key) {
-    for (DWORD flags : {DWORD{0}, KEYEVENTF_KEYUP}) {
-      INPUT input{};
-      input.type = INPUT_KEYBOARD;
-      input.ki.wVk = static_cast<WORD>(virtual_key);
-      input.ki.dwFlags = flags;
-      SendInput(1, &input, sizeof(input));
-    }
-    Pump();
+  // False when the tree has no such row.
+  bool ClickRow(int row, void (*click)(POINT)) const {
+    CTreeCtrlEx2& tree = window_.browser().pane().tree();
+    CPoint point(100, row * kRowHeight + kRowHeight / 2);
+    if (tree.HitTest(point) == nullptr) return false;
+    tree.ClientToScreen(&point);
+    click(point);
+    return true;
   }
 
   void ClickToolbar(ToolbarButton button) {
-    CRect rect = window_.toolbar().GetBtnRect(static_cast<int>(button));
-    window_.toolbar().ClientToScreen(rect);
-    Click(rect.CenterPoint());
+    Click(window_.toolbar().ButtonOnScreen(button).CenterPoint());
   }
 
-  // The bar is an owned window of the crop rectangle's window, which the background owns.
-  void ClickCropBar(int id) {
-    HWND bar = FindOwned(FindOwned(window_.crop().GetSafeHwnd()));
-    RECT rect{};
-    if (bar == nullptr || !GetWindowRect(GetDlgItem(bar, id), &rect)) {
-      failed_ = true;
-      return;
-    }
-    Click({(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2});
-  }
-
-  static HWND FindOwned(HWND owner) {
-    for (HWND it = GetTopWindow(nullptr); it != nullptr; it = GetWindow(it, GW_HWNDNEXT)) {
-      if (GetWindow(it, GW_OWNER) == owner) return it;
-    }
-    return nullptr;
+  void ClickCropBar(CropCommand command) {
+    CRect button = window_.CropButtonOnScreen(command);
+    failed_ = failed_ || button.IsRectEmpty();
+    Click(button.CenterPoint());
   }
 
   CMainWindow& window_;

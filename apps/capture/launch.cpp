@@ -1,0 +1,89 @@
+#include "apps/capture/launch.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <string_view>
+#include <system_error>
+
+#include "apps/capture/picture_folder.h"
+#include "corvane/platform/base_services/system_paths.h"
+
+namespace capture {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t kMostAttempts = 20;  // at pictures that cannot be opened
+
+// A full path without a separator at its end; empty when it cannot be told.
+std::wstring FullPath(const std::string& path) {
+  std::error_code error;
+  fs::path full = fs::absolute(path, error).lexically_normal();
+  if (error) return {};
+  std::wstring wide = corvane::wide_path_of(full);
+  while (wide.ends_with(L'\\')) wide.pop_back();
+  return wide;
+}
+
+std::unique_ptr<CPicture> FirstPictureOf(const std::wstring& folder) {
+  std::optional<FolderEntries> entries = ReadFolder(folder);
+  if (!entries) return nullptr;
+  std::size_t attempts = std::min(entries->pictures.size(), kMostAttempts);
+  for (std::size_t i = 0; i < attempts; ++i) {
+    auto picture =
+        CPicture::Open(corvane::native_path(folder + L'\\' + entries->pictures[i]).string());
+    if (picture != nullptr) return picture;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+Arguments ParseArguments(int count, char** values) {
+  Arguments arguments;
+  int next = 1;
+  for (; next + 1 < count; next += 2) {
+    std::string_view option = values[next];
+    if (option == "--library") {
+      arguments.library = values[next + 1];
+    } else if (option == "--script") {
+      arguments.script_folder = values[next + 1];
+    } else {
+      break;
+    }
+  }
+  if (next < count && std::string_view(values[next]).starts_with("--")) return arguments;
+  if (next < count) arguments.picture = values[next++];
+  arguments.valid = next == count && !(arguments.library.empty() && arguments.picture.empty());
+  return arguments;
+}
+
+Launch PrepareLaunch(const Arguments& arguments) {
+  Launch launch;
+  Beginning& beginning = launch.beginning;
+  if (!arguments.picture.empty()) {
+    beginning.picture = CPicture::Open(arguments.picture);
+    if (beginning.picture == nullptr) {
+      launch.error = "cannot open the picture " + arguments.picture;
+      return launch;
+    }
+    beginning.folder = FolderOf(corvane::wide_path_of(beginning.picture->path()));
+    beginning.library = beginning.folder;
+  }
+  if (arguments.library.empty()) return launch;
+  beginning.library = FullPath(arguments.library);
+  if (beginning.library.empty() || !ReadFolder(beginning.library)) {
+    launch.error = "cannot open the folder " + arguments.library;
+    return launch;
+  }
+  if (beginning.picture != nullptr) return launch;
+  beginning.folder = FirstFolderWithPictures(beginning.library);
+  if (beginning.folder.empty()) {
+    beginning.folder = beginning.library;
+  } else {
+    beginning.picture = FirstPictureOf(beginning.folder);
+  }
+  return launch;
+}
+
+}  // namespace capture

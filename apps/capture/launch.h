@@ -1,0 +1,24 @@
+#pragma once
+// From the command line to what the program begins with.
+#include <string>
+
+#include "apps/capture/main_window.h"
+
+namespace capture {
+
+struct Arguments {
+  std::string library;        // folder; empty: the picture's
+  std::string picture;        // empty: one of the library's
+  std::string script_folder;  // empty: an ordinary session
+  bool valid = false;         // a library or a picture is given
+};
+Arguments ParseArguments(int count, char** values);
+
+struct Launch {
+  Beginning beginning;
+  std::string error;  // one line, when it cannot begin
+};
+// Looks the library up and opens the first picture. Byte paths.
+Launch PrepareLaunch(const Arguments& arguments);
+
+}  // namespace capture

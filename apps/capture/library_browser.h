@@ -1,0 +1,41 @@
+#pragma once
+// The picture library: the pane with its folders and the strip with the current folder's pictures,
+// kept in step with each other and with the disk. All paths are full wide paths.
+#include <string>
+
+#include "apps/capture/library_pane.h"
+#include "apps/capture/picture_strip.h"
+
+namespace capture {
+
+class CLibraryBrowser {
+ public:
+  bool Create(corvane::CWnd* parent);
+  void Place(const RECT& pane, const RECT& strip);  // the parent's client coordinates
+
+  // Loads the library and selects a folder of it (the root when it does not lie in the library).
+  void Load(const std::wstring& root, const std::wstring& folder);
+  // The current folder; empty when the whole library is gone.
+  std::wstring Folder() const;
+  // Lists the current folder anew. When it has vanished, the nearest folder above it becomes the
+  // current one. What the user should know of that, else empty.
+  corvane::CString Refresh();
+  // Marks the picture as the opened one and selects its folder when that lies in the library.
+  void MarkOpened(const std::wstring& path);
+  void ScrollTo(const std::wstring& name) { strip_.ScrollToName(name); }
+  // The picture of the current folder that is `step` further than the opened one; empty: none.
+  std::wstring PictureFromOpened(int step) const;
+  std::wstring ClickedPicture() const { return Folder() + L'\\' + strip_.ClickedName(); }
+
+  CLibraryPane& pane() { return pane_; }
+  const CPictureStrip& strip() const { return strip_; }
+
+ private:
+  void ShowEntries(const std::wstring& folder);
+
+  CLibraryPane pane_;
+  CPictureStrip strip_;
+  std::wstring opened_;  // path
+};
+
+}  // namespace capture

@@ -1,0 +1,122 @@
+#include "apps/capture/library_pane.h"
+
+#include "apps/capture/capture_messages.h"
+#include "apps/capture/fill.h"
+#include "apps/capture/palette.h"
+#include "apps/capture/picture_folder.h"
+#include "apps/capture/sorted_folders.h"
+#include "apps/capture/texts.h"
+#include "corvane/layers/frame/layer_messages.h"
+#include "corvane/platform/drawing/gdi_dc.h"
+
+namespace capture {
+namespace {
+
+using namespace corvane;
+
+constexpr int kTitleHeight = 40;
+constexpr int kMargin = 10;
+constexpr int kTreeId = 1;
+
+}  // namespace
+
+const MessageMap* CLibraryPane::GetMessageMap() const {
+  static constexpr auto kMessages = MessageTable(
+      On<WM_CREATE>(&CLibraryPane::OnCreate), On<WM_ERASEBKGND>(&CLibraryPane::OnEraseBkgnd),
+      On<WM_PAINT>(&CLibraryPane::OnPaint), On<WM_SIZE>(&CLibraryPane::OnSize),
+      On<WM_KEYDOWN>(&CLibraryPane::OnKeyDown),
+      OnMessage<WM_TREE_SELECT>(&CLibraryPane::OnTreeSelect));
+  static const MessageMap map = kMessages.Extending(CWnd::GetMessageMap());
+  return &map;
+}
+
+bool CLibraryPane::Open(CWnd* parent) {
+  return Create(nullptr, L"library", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, CRect(0, 0, 0, 0),
+                parent, 0);
+}
+
+void CLibraryPane::SetRoot(const std::wstring& root) {
+  root_ = root;
+  tree_.SetPath(root.c_str(), nullptr);
+  SortFolders(tree_, root);
+  tree_.Invalidate(FALSE);
+}
+
+void CLibraryPane::SetCurrent(const std::wstring& folder) { tree_.SetCurPath(folder.c_str()); }
+
+void CLibraryPane::LeaveVanishedFolder() {
+  std::wstring vanished = Current();
+  tree_.SetCurPath(nullptr);
+  std::wstring left = Current();
+  if (vanished == left || !LiesIn(left, vanished)) return;
+  std::size_t end = vanished.find(L'\\', left.size() + 1);
+  tree_.DelNode(vanished.substr(0, end).c_str());
+}
+
+void CLibraryPane::SetCount(int pictures) {
+  if (count_ == pictures) return;
+  count_ = pictures;
+  Invalidate(FALSE);
+}
+
+int CLibraryPane::OnCreate(LPCREATESTRUCT creation) {
+  if (CWnd::OnCreate(creation) == -1) return -1;
+  bool created =
+      tree_.Create(nullptr, L"folders", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), this, kTreeId);
+  return created ? 0 : -1;
+}
+
+CRect CLibraryPane::TreeFrame() const {
+  CRect frame;
+  GetClientRect(frame);
+  frame.DeflateRect(kMargin, kTitleHeight, kMargin, kMargin);
+  return frame;
+}
+
+BOOL CLibraryPane::OnEraseBkgnd(CDC*) { return TRUE; }
+
+void CLibraryPane::OnPaint() {
+  CPaintDC dc(this);
+  CRect client;
+  GetClientRect(client);
+  if (!buffer_.HasSizeOf(client)) return;
+  FillWith(buffer_, client, kPanelColor);
+  FillWith(buffer_, CRect(client.right - 1, client.top, client.right, client.bottom),
+           kPanelEdgeColor);
+  FrameWith(buffer_, TreeFrame(), kPanelEdgeColor);
+  CRect title(kMargin + 4, 0, client.right - kMargin - 4, kTitleHeight);
+  LOGFONTW bold = UiFont(17, FW_BOLD);
+  CGdiDC().DrawTextW(buffer_, L"图库", &bold, title, 0xFFE8EEF4, DT_VCENTER | DT_SINGLELINE);
+  CString count;
+  count.Format(L"%d 张图片", count_);
+  LOGFONTW font = UiFont(14);
+  CGdiDC().DrawTextW(buffer_, count, &font, title, 0xFF93A1B0,
+                     DT_RIGHT | DT_VCENTER | DT_SINGLELINE);
+  buffer_.Paste(dc, client);
+}
+
+void CLibraryPane::OnSize(UINT kind, int width, int height) {
+  CWnd::OnSize(kind, width, height);
+  CRect client(0, 0, width, height);
+  if (!client.IsRectEmpty()) buffer_.CreateBufferDC(nullptr, client);
+  CRect tree = TreeFrame();
+  tree.DeflateRect(1, 1);
+  if (tree_.GetSafeHwnd() != nullptr && !tree.IsRectEmpty()) tree_.MoveWindow(tree);
+  Invalidate(FALSE);
+}
+
+void CLibraryPane::OnKeyDown(UINT key, UINT, UINT) {
+  const MSG* message = GetCurrentMessage();
+  if (key == VK_ESCAPE && message != nullptr) {
+    ::PostMessageW(::GetParent(m_hWnd), WM_KEYDOWN, message->wParam, message->lParam);
+    return;
+  }
+  Default();
+}
+
+LRESULT CLibraryPane::OnTreeSelect(WPARAM, LPARAM) {
+  ::PostMessageW(::GetParent(m_hWnd), WM_FOLDER_CHOSEN, 0, 0);
+  return 0;
+}
+
+}  // namespace capture

@@ -1,0 +1,37 @@
+#pragma once
+// The folders of a picture library and the pictures in them. All paths are full wide paths without
+// a separator at the end.
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace capture {
+
+// Whether the name ends like a picture's (.jpg, .jpeg, .png, .bmp, .gif in any case).
+bool HasPictureEnding(std::wstring_view name);
+
+struct FolderEntries {
+  std::vector<std::wstring> folders;  // names, sorted; no links, nothing that begins with a dot
+  std::vector<std::wstring> pictures;
+};
+// Nothing when the folder cannot be listed.
+std::optional<FolderEntries> ReadFolder(const std::wstring& folder);
+bool FolderExists(const std::wstring& folder);
+
+// The first folder at or below the root, in sorted order, that holds a picture; empty: there is
+// none.
+std::wstring FirstFolderWithPictures(const std::wstring& root);
+
+// Whether the path is the root or lies below it.
+bool LiesIn(std::wstring_view root, std::wstring_view path);
+
+// The parts before and after a path's last separator.
+std::wstring FolderOf(const std::wstring& path);
+std::wstring NameOf(const std::wstring& path);
+
+// The name `step` places further in the sorted names, going round; empty when there is no other.
+// A name that is not among them counts as standing between its neighbours.
+std::wstring NameFrom(const std::vector<std::wstring>& names, const std::wstring& name, int step);
+
+}  // namespace capture

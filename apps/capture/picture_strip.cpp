@@ -1,0 +1,201 @@
+#include "apps/capture/picture_strip.h"
+
+#include <algorithm>
+#include <span>
+
+#include "apps/capture/capture_messages.h"
+#include "apps/capture/strip_painter.h"
+#include "apps/capture/thumbnail_order.h"
+
+namespace capture {
+namespace {
+
+using namespace corvane;
+
+std::span<const std::wstring> Part(const std::vector<std::wstring>& names, const CellRange& cells) {
+  return std::span(names).subspan(static_cast<std::size_t>(cells.first),
+                                  static_cast<std::size_t>(cells.last - cells.first));
+}
+
+}  // namespace
+
+const MessageMap* CPictureStrip::GetMessageMap() const {
+  static constexpr auto kMessages = MessageTable(
+      On<WM_CREATE>(&CPictureStrip::OnCreate), On<WM_DESTROY>(&CPictureStrip::OnDestroy),
+      On<WM_ERASEBKGND>(&CPictureStrip::OnEraseBkgnd), On<WM_PAINT>(&CPictureStrip::OnPaint),
+      On<WM_SIZE>(&CPictureStrip::OnSize), On<WM_MOUSEMOVE>(&CPictureStrip::OnMouseMove),
+      On<WM_MOUSELEAVE>(&CPictureStrip::OnMouseLeave),
+      On<WM_MOUSEWHEEL>(&CPictureStrip::OnMouseWheel),
+      On<WM_LBUTTONDOWN>(&CPictureStrip::OnLButtonDown),
+      On<WM_LBUTTONUP>(&CPictureStrip::OnLButtonUp),
+      On<WM_CAPTURECHANGED>(&CPictureStrip::OnCaptureChanged),
+      OnMessage<WM_THUMBNAILS_LOADED>(&CPictureStrip::OnThumbnailsLoaded));
+  static const MessageMap map = kMessages.Extending(CWnd::GetMessageMap());
+  return &map;
+}
+
+bool CPictureStrip::Open(CWnd* parent) {
+  HCURSOR arrow = LoadCursorW(nullptr, IDC_ARROW);
+  // Without double clicks: two quick ones are two clicks.
+  return CreateEx(0, AfxRegisterWndClass(0, arrow), L"pictures", WS_CHILD | WS_VISIBLE,
+                  CRect(0, 0, 0, 0), parent, 0);
+}
+
+int CPictureStrip::OnCreate(LPCREATESTRUCT creation) {
+  if (CWnd::OnCreate(creation) == -1) return -1;
+  loader_ = std::make_unique<CThumbnailLoader>(
+      DecodeThumbnail, [window = m_hWnd] { ::PostMessageW(window, WM_THUMBNAILS_LOADED, 0, 0); });
+  return 0;
+}
+
+void CPictureStrip::OnDestroy() {
+  loader_.reset();
+  CWnd::OnDestroy();
+}
+
+void CPictureStrip::ShowPictures(const std::wstring& folder, std::vector<std::wstring> names,
+                                 const wchar_t* empty_text) {
+  if (folder == folder_ && names == names_ && empty_text_ == empty_text) return;
+  bool other_folder = folder != folder_;
+  folder_ = folder;
+  names_ = std::move(names);
+  empty_text_ = empty_text;
+  gesture_.Cancel();
+  hovered_ = -1;
+  layout_.SetCount(static_cast<int>(names_.size()));
+  if (other_folder) {
+    cache_.Clear();
+    layout_.ScrollTo(0);
+  }
+  Scrolled();
+}
+
+int CPictureStrip::CellOf(const std::wstring& name) const {
+  auto found = std::lower_bound(names_.begin(), names_.end(), name);
+  return found != names_.end() && *found == name ? static_cast<int>(found - names_.begin()) : -1;
+}
+
+void CPictureStrip::Mark(const std::wstring& name) {
+  marked_ = name;
+  ScrollToName(name);
+}
+
+void CPictureStrip::ScrollToName(const std::wstring& name) {
+  layout_.Show(CellOf(name));
+  Scrolled();
+}
+
+void CPictureStrip::Scrolled() {
+  RequestThumbnails();
+  Invalidate(FALSE);
+}
+
+void CPictureStrip::RequestThumbnails() {
+  if (loader_ == nullptr) return;
+  StoreLoaded();
+  CellRange visible = layout_.Visible();
+  cache_.Keep(Part(names_, Neighbourhood(visible, layout_.count())));
+  std::vector<ThumbnailRequest> requests;
+  for (int cell : LoadOrder(visible, layout_.count())) {
+    const std::wstring& name = names_[static_cast<std::size_t>(cell)];
+    if (cache_.Find(name) == nullptr) requests.push_back({folder_, name, layout_.PictureBox()});
+  }
+  loader_->Want(std::move(requests));
+}
+
+void CPictureStrip::StoreLoaded() {
+  SIZE box = layout_.PictureBox();
+  for (LoadedThumbnail& loaded : loader_->TakeLoaded()) {
+    bool fits = loaded.request.box.cx == box.cx && loaded.request.box.cy == box.cy;
+    if (!fits || loaded.request.folder != folder_) continue;
+    cache_.Put(loaded.request.name, std::move(loaded.thumbnail));
+  }
+}
+
+LRESULT CPictureStrip::OnThumbnailsLoaded(WPARAM, LPARAM) {
+  if (loader_ == nullptr) return 0;
+  StoreLoaded();
+  Invalidate(FALSE);
+  return 0;
+}
+
+BOOL CPictureStrip::OnEraseBkgnd(CDC*) { return TRUE; }
+
+void CPictureStrip::OnPaint() {
+  CPaintDC dc(this);
+  CRect client;
+  GetClientRect(client);
+  if (!buffer_.HasSizeOf(client)) return;
+  DrawStripBackground(buffer_, client);
+  CellRange visible = layout_.Visible();
+  for (int cell = visible.first; cell < visible.last; ++cell) {
+    const std::wstring& name = names_[static_cast<std::size_t>(cell)];
+    DrawStripCell(buffer_, layout_, cell,
+                  {name.c_str(), cache_.Find(name), cell == hovered_, name == marked_});
+  }
+  DrawStripScroll(buffer_, layout_, gesture_.moves_row());
+  if (names_.empty()) DrawEmptyStrip(buffer_, client, empty_text_);
+  buffer_.Paste(dc, client);
+}
+
+void CPictureStrip::OnSize(UINT kind, int width, int height) {
+  CWnd::OnSize(kind, width, height);
+  CRect client(0, 0, width, height);
+  if (!client.IsRectEmpty()) buffer_.CreateBufferDC(nullptr, client);
+  SIZE former = layout_.PictureBox();
+  layout_.SetArea({width, height});
+  if (layout_.PictureBox().cy != former.cy) cache_.Clear();
+  layout_.Show(CellOf(marked_));
+  Scrolled();
+}
+
+void CPictureStrip::Hover(int cell) {
+  if (cell == hovered_) return;
+  hovered_ = cell;
+  Invalidate(FALSE);
+}
+
+void CPictureStrip::OnMouseMove(UINT, CPoint point) {
+  if (gesture_.active()) {
+    int before = layout_.scroll();
+    gesture_.Move(layout_, point);
+    if (layout_.scroll() != before) Scrolled();
+  }
+  TRACKMOUSEEVENT leaving{sizeof(TRACKMOUSEEVENT), TME_LEAVE, m_hWnd, 0};
+  ::TrackMouseEvent(&leaving);
+  Hover(gesture_.moves_row() ? -1 : layout_.CellAt(point));
+}
+
+void CPictureStrip::OnMouseLeave() { Hover(-1); }
+
+BOOL CPictureStrip::OnMouseWheel(UINT, short distance, CPoint screen_point) {
+  layout_.ScrollTo(layout_.scroll() - distance * layout_.CellWidth() / WHEEL_DELTA);
+  POINT point = screen_point;
+  ScreenToClient(&point);
+  hovered_ = layout_.CellAt(point);
+  Scrolled();
+  return TRUE;
+}
+
+void CPictureStrip::OnLButtonDown(UINT, CPoint point) {
+  SetCapture();
+  gesture_.Press(layout_, point);
+  Scrolled();
+}
+
+void CPictureStrip::OnLButtonUp(UINT, CPoint point) {
+  int cell = gesture_.Release(layout_, point);
+  if (GetCapture() == this) ::ReleaseCapture();
+  Hover(layout_.CellAt(point));
+  Invalidate(FALSE);
+  if (cell < 0 || cell >= layout_.count()) return;
+  clicked_ = names_[static_cast<std::size_t>(cell)];
+  ::PostMessageW(::GetParent(m_hWnd), WM_PICTURE_CLICKED, 0, 0);
+}
+
+void CPictureStrip::OnCaptureChanged(CWnd*) {
+  gesture_.Cancel();
+  Invalidate(FALSE);
+}
+
+}  // namespace capture

@@ -1,0 +1,26 @@
+#pragma once
+// The program's toolbar, with its buttons, captions and background from the skin. The parent gets
+// its WM_LAYER_BTN_CLICK.
+#include "corvane/corvane.h"
+
+namespace capture {
+
+// The control ids in list 100 of the skin.
+enum class ToolbarButton { crop = 1, text = 2, open = 3, previous = 4, next = 5, quit = 6 };
+
+class CToolbar {
+ public:
+  static constexpr int kHeight = 76;  // pixels
+
+  bool Open(corvane::CWnd* parent);
+  // At the top of the parent's client area; the last button goes to the right edge.
+  void Place(int width);
+  corvane::CRect ButtonOnScreen(ToolbarButton button) const;
+
+ private:
+  corvane::CXmlListMgr skin_;  // this and the background outlive the layer, which borrows them
+  corvane::CGdiImage background_;
+  corvane::CWindowLayer layer_;
+};
+
+}  // namespace capture

@@ -1,0 +1,34 @@
+#include "apps/capture/window_layout.h"
+
+#include <algorithm>
+
+namespace capture {
+namespace {
+
+// Both grow with the window, but a tree's rows and a thumbnail have a size that is enough.
+constexpr int kNarrowestLibrary = 160, kWidestLibrary = 420;
+constexpr int kLowestStrip = 104, kHighestStrip = 200;
+constexpr LONG kSmallestStage = 200;  // beside and above the others
+
+int LibraryWidth(LONG width) {
+  if (width < kNarrowestLibrary + kSmallestStage) return 0;
+  return std::clamp(static_cast<int>(width) * 13 / 64, kNarrowestLibrary, kWidestLibrary);
+}
+
+int StripHeight(LONG height) {
+  if (height < kLowestStrip + kSmallestStage) return 0;
+  return std::clamp(static_cast<int>(height) / 5, kLowestStrip, kHighestStrip);
+}
+
+}  // namespace
+
+WindowLayout LayOut(SIZE client, int toolbar_height) {
+  LONG top = std::min<LONG>(toolbar_height, client.cy);
+  LONG left = LibraryWidth(client.cx);
+  LONG bottom = client.cy - StripHeight(client.cy - top);
+  return {{0, top, left, client.cy},
+          {left, top, client.cx, bottom},
+          {left, bottom, client.cx, client.cy}};
+}
+
+}  // namespace capture

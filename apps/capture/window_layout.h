@@ -1,0 +1,16 @@
+#pragma once
+// Where the parts of the main window stand below the toolbar.
+#include "corvane/platform/platform.h"
+
+namespace capture {
+
+struct WindowLayout {  // client coordinates, pixels
+  RECT library{};      // at the left, the whole height
+  RECT stage{};        // the picture
+  RECT strip{};        // below the picture
+};
+
+// On a window too small for all, the stage gets what there is.
+WindowLayout LayOut(SIZE client, int toolbar_height);
+
+}  // namespace capture
