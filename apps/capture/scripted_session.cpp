@@ -8,6 +8,7 @@
 #include <thread>
 #include <vector>
 
+#include "apps/capture/picture_folder.h"
 #include "apps/capture/synthetic_user.h"
 #include "corvane/platform/base_services/system_paths.h"
 #include "corvane/platform/system/gdi/image_encoder.h"
@@ -77,11 +78,15 @@ class Session {
     Frame("Escape closed the box");
   }
 
-  // Goes down to a folder in a folder of the root, where the library has one, and crops there.
+  // Goes down to the first folder in the first folder of the root, where the library has one, and
+  // crops a picture there.
   void BrowseTheLibrary() {
-    if (!ClickRow(1, &DoubleClick)) return;
+    std::wstring outer = FirstFolderIn(window_.browser().pane().root());
+    std::wstring inner = FirstFolderIn(outer);
+    if (inner.empty()) return;
+    DoubleClick(RowOf(outer));
     Frame("a double click on a folder shows those in it");
-    ClickRow(2, &Click);
+    Click(RowOf(inner));
     Frame("a click on a folder shows its pictures");
     CRect strip = OnScreen(window_.browser().strip());
     TurnWheel(strip.CenterPoint(), -4);
@@ -169,14 +174,21 @@ class Session {
     return rect.CenterPoint();
   }
 
-  // False when the tree has no such row.
-  bool ClickRow(int row, void (*click)(POINT)) const {
+  static std::wstring FirstFolderIn(const std::wstring& folder) {
+    auto entries = ReadFolder(folder);
+    if (!entries || entries->folders.empty()) return {};
+    return folder + L'\\' + entries->folders.front();
+  }
+
+  // On the screen; where nothing is, when the tree does not show the folder.
+  POINT RowOf(const std::wstring& folder) {
     CTreeCtrlEx2& tree = window_.browser().pane().tree();
-    CPoint point(100, row * kRowHeight + kRowHeight / 2);
-    if (tree.HitTest(point) == nullptr) return false;
+    CPoint point(100, kRowHeight / 2);
+    for (_NODE* node; (node = tree.HitTest(point)) != nullptr; point.y += kRowHeight) {
+      if (tree.GetNodePath(node) == folder.c_str()) break;
+    }
     tree.ClientToScreen(&point);
-    click(point);
-    return true;
+    return point;
   }
 
   void ClickToolbar(ToolbarButton button) {

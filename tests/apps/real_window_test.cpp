@@ -10,13 +10,15 @@
 namespace capture {
 namespace {
 
-// The screen is 1280 x 800, the toolbar 76 high; a picture of 1000 x 600 stands in the middle of
-// what is left, at its own size.
-constexpr POINT kPictureCorner{140, 138};
+// The screen is 1280 x 800, the toolbar 76 high, the library 260 wide, the strip 144 high; a
+// picture of 800 x 500 stands in the middle of what is left, at its own size.
+constexpr POINT kPictureCorner{370, 116};
 constexpr POINT kCropButton{56, 38};
 constexpr POINT kQuitButton{1224, 38};
 constexpr POINT kEmptyToolbar{800, 38};
-constexpr RECT kFramed{300, 250, 720, 500};
+constexpr POINT kSecondRowOfTheTree{120, 162};
+constexpr POINT kFirstThumbnail{333, 715};
+constexpr RECT kFramed{420, 200, 840, 450};
 constexpr int kBarWidth = 4 * 96;
 
 std::uint32_t Original(POINT point) {
@@ -37,9 +39,11 @@ std::uint32_t Under(std::uint32_t color, std::uint32_t cover) {
 class RealWindow : public testing::Test {
  protected:
   void SetUp() override {
-    WriteTestPicture(folder_ / "page.png", 1000, 600);
+    WriteTestPicture(folder_ / "page.png", 800, 500);
+    std::filesystem::create_directory(folder_ / "名片");
+    WriteTestPicture(folder_ / "名片" / "card.png", 400, 300);
     user_.emplace(CORVANE_CAPTURE, folder_ / "page.png");
-    ASSERT_TRUE(user_->SeesWindow("page.png — 1000 × 600 — Corvane"));
+    ASSERT_TRUE(user_->SeesWindow("page.png — 800 × 500 — Corvane"));
     ASSERT_TRUE(user_->SeesPixel({640, 400}, Original({640, 400})));
   }
 
@@ -55,9 +59,9 @@ class RealWindow : public testing::Test {
 TEST_F(RealWindow, CropsWithTheMouse) {
   StartCrop();
   user_->Drag({kFramed.left, kFramed.top}, {kFramed.right, kFramed.bottom});
-  POINT inside{500, 400};
-  POINT outside{900, 600};
-  POINT on_frame{400, kFramed.top};
+  POINT inside{600, 300};
+  POINT outside{1000, 550};
+  POINT on_frame{500, kFramed.top};
   EXPECT_TRUE(user_->SeesPixel(inside, Original(inside), 1)) << "untouched inside";
   EXPECT_TRUE(user_->SeesPixel(outside, Under(Original(outside), 0), 1)) << "dimmed outside";
   EXPECT_TRUE(user_->SeesPixel(on_frame, Under(Original(on_frame), 0x00FF00), 1)) << "green frame";
@@ -76,7 +80,16 @@ TEST_F(RealWindow, EscapeEndsACrop) {
   StartCrop();
   user_->Drag({kFramed.left, kFramed.top}, {kFramed.right, kFramed.bottom});
   user_->Key("Escape");
-  EXPECT_TRUE(user_->SeesPixel({900, 600}, Original({900, 600})));
+  EXPECT_TRUE(user_->SeesPixel({1000, 550}, Original({1000, 550})));
+}
+
+TEST_F(RealWindow, AFolderIsSelectedAndItsPictureOpened) {
+  constexpr int kAlike = 12;
+  EXPECT_TRUE(user_->SeesPixel(kFirstThumbnail, TestPixel(400, 250) & 0xFFFFFF, kAlike));
+  user_->Click(kSecondRowOfTheTree);
+  EXPECT_TRUE(user_->SeesPixel(kFirstThumbnail, TestPixel(200, 150) & 0xFFFFFF, kAlike));
+  user_->Click(kFirstThumbnail);
+  EXPECT_TRUE(user_->SeesWindow("card.png — 400 × 300 — Corvane"));
 }
 
 TEST_F(RealWindow, TheToolbarDragsTheWindow) {
