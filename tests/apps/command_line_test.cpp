@@ -52,10 +52,22 @@ TEST(CommandLine, APictureThatCannotBeOpenedGivesOneLineAndStatus2) {
 }
 
 TEST(CommandLine, WrongArgumentsGiveTheUsageAndStatus2) {
-  for (const char* arguments : {"", "a b", "--script", "--script x"}) {
+  for (const char* arguments : {"", "a b", "--script", "--script x", "--library", "--libary x a"}) {
     Outcome outcome = RunCommand(kProgram + arguments + " 2>&1 >/dev/null");
     EXPECT_EQ(outcome.status, 2) << arguments;
     EXPECT_THAT(outcome.text, testing::StartsWith("usage: ")) << arguments;
+  }
+}
+
+TEST(CommandLine, ALibraryThatCannotBeOpenedGivesOneLineAndStatus2) {
+  TemporaryFolder folder;
+  std::ofstream(folder / "file") << "no folder";
+  for (const char* name : {"missing", "file"}) {
+    Outcome outcome =
+        RunCommand(kProgram + "--library " + Quoted(folder / name) + " 2>&1 >/dev/null");
+    EXPECT_EQ(outcome.status, 2) << name;
+    EXPECT_THAT(outcome.text,
+                testing::MatchesRegex("corvane-capture: cannot open the folder [^\n]*\n"));
   }
 }
 
@@ -82,6 +94,19 @@ TEST(ScriptedSession, LeavesItsFramesAndTheCrop) {
   ASSERT_NE(saved, nullptr);
   EXPECT_EQ(crop->size().cx, saved->size().cx);
   EXPECT_GT(crop->size().cx, 300);
+}
+
+TEST(ScriptedSession, GoesThroughTheLibrary) {
+  TemporaryFolder folder;
+  std::filesystem::create_directories(folder / "图库" / "一月" / "上旬");
+  WriteTestPicture(folder / "图库" / "page.png", 1000, 600);
+  WriteTestPicture(folder / "图库" / "一月" / "上旬" / "card.png", 800, 500);
+  Outcome outcome = RunCommand(kProgram + "--library " + Quoted(folder / "图库") + " --script " +
+                               Quoted(folder / "out"));
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_THAT(outcome.text, testing::HasSubstr("a part of it was saved beside it"));
+  EXPECT_NE(CPicture::Open(folder / "图库" / "page_1.png"), nullptr);
+  EXPECT_NE(CPicture::Open(folder / "图库" / "一月" / "上旬" / "card_1.png"), nullptr);
 }
 
 std::string WholeFile(const std::filesystem::path& path) {

@@ -1,0 +1,223 @@
+// The program's window on a display in memory, driven by mouse and wheel: folders, pictures, crops.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <thread>
+
+#include "apps/capture/launch.h"
+#include "apps/capture/main_window.h"
+#include "apps/capture/synthetic_user.h"
+#include "corvane/platform/base_services/installation.h"
+#include "corvane/platform/base_services/system_paths.h"
+#include "corvane/platform/system/display/headless_display.h"
+#include "corvane/platform/system/user/window_system.h"
+#include "tests/apps/temporary_folder.h"
+#include "tests/apps/test_pictures.h"
+
+namespace capture {
+namespace {
+
+using namespace corvane;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+constexpr int kRow = 30;  // height of a tree's row
+
+class LibraryWindow : public testing::Test {
+ protected:
+  LibraryWindow() {
+    SetSkinFolder(wide_path_of(CORVANE_DEFAULT_SKIN));
+    std::filesystem::create_directories(library_ / "一月" / "上旬");
+    std::filesystem::create_directories(library_ / "二月");
+    WriteTestPicture(library_ / "page.png", 600, 400);
+    for (const char* name : {"a.png", "b.png"})
+      WriteTestPicture(library_ / "一月" / name, 320, 200);
+  }
+  ~LibraryWindow() override { SetSkinFolder(L""); }
+
+  // As with the program's arguments; empty: none.
+  void Start(const std::string& picture = {}) {
+    Launch launch = PrepareLaunch({library_, picture, {}, true});
+    ASSERT_EQ(launch.error, "");
+    app_.m_pMainWnd = &window_;
+    ASSERT_TRUE(window_.Open(std::move(launch.beginning)));
+    HandleWaitingMessages();
+  }
+
+  std::wstring Path(const wchar_t* below) const { return wide_path_of(library_) + below; }
+  CPictureStrip& Strip() { return const_cast<CPictureStrip&>(window_.browser().strip()); }
+  CTreeCtrlEx2& Tree() { return window_.browser().pane().tree(); }
+
+  // The row that shows the folder.
+  POINT RowOf(const wchar_t* below) {
+    CPoint point(120, kRow / 2);
+    for (_NODE* node; (node = Tree().HitTest(point)) != nullptr; point.y += kRow) {
+      if (Tree().GetNodePath(node) == Path(below).c_str()) break;
+    }
+    Tree().ClientToScreen(&point);
+    return point;
+  }
+  POINT CellInStrip(int cell) {
+    CRect rect(Strip().layout().Picture(cell));
+    Strip().ClientToScreen(rect);
+    return rect.CenterPoint();
+  }
+  void ClickButton(ToolbarButton button) {
+    Click(window_.toolbar().ButtonOnScreen(button).CenterPoint());
+  }
+  // Crops the middle of the picture.
+  void CropAndSave() {
+    ClickButton(ToolbarButton::crop);
+    CRect picture(window_.view().ShownRect());
+    window_.view().ClientToScreen(picture);
+    Drag({picture.left + 100, picture.top + 100}, {picture.left + 300, picture.top + 250});
+    Click(window_.CropButtonOnScreen(CropCommand::save).CenterPoint());
+  }
+  std::string Notice() const { return native_path(window_.view().notice().AsStdString()).string(); }
+  std::string Opened() const { return window_.picture() ? window_.picture()->name() : ""; }
+
+  TemporaryFolder folder_;
+  std::filesystem::path library_ = folder_ / "图库";
+  system::WindowSystem windows_{std::make_unique<system::HeadlessDisplay>()};
+  CWinApp app_;
+  CMainWindow window_;
+};
+
+TEST_F(LibraryWindow, BeginsWithTheFirstPictureOfTheLibrary) {
+  Start();
+  EXPECT_EQ(Opened(), "page.png");
+  EXPECT_EQ(window_.browser().Folder(), Path(L""));
+  EXPECT_THAT(Strip().names(), ElementsAre(L"page.png"));
+}
+
+TEST_F(LibraryWindow, APictureGivenBesideTheLibrarySelectsItsFolder) {
+  Start(library_ / "一月" / "b.png");
+  EXPECT_EQ(Opened(), "b.png");
+  EXPECT_EQ(window_.browser().Folder(), Path(L"\\一月"));
+  ClickButton(ToolbarButton::next);
+  EXPECT_EQ(Opened(), "a.png") << "round in its folder";
+}
+
+TEST_F(LibraryWindow, AClickOnAFolderShowsItsPicturesAndOneOnAPictureOpensIt) {
+  Start();
+  Click(RowOf(L"\\一月"));
+  EXPECT_EQ(window_.browser().Folder(), Path(L"\\一月"));
+  EXPECT_THAT(Strip().names(), ElementsAre(L"a.png", L"b.png"));
+  EXPECT_EQ(Opened(), "page.png") << "a folder opens no picture";
+  Click(CellInStrip(1));
+  EXPECT_EQ(Opened(), "b.png");
+  EXPECT_EQ(window_.browser().Folder(), Path(L"\\一月"));
+}
+
+TEST_F(LibraryWindow, ADoubleClickOpensAFolderInTheTree) {
+  Start();
+  EXPECT_EQ(Tree().ListSort(), 3 * kRow);
+  DoubleClick(RowOf(L"\\一月"));
+  EXPECT_EQ(Tree().ListSort(), 4 * kRow);
+  Click(RowOf(L"\\一月\\上旬"));
+  EXPECT_EQ(window_.browser().Folder(), Path(L"\\一月\\上旬"));
+  EXPECT_TRUE(Strip().names().empty());
+}
+
+TEST_F(LibraryWindow, TheTreeShowsFoldersByName) {
+  for (const char* name : {"03", "01", "10", "02"}) {
+    std::filesystem::create_directories(library_ / "二月" / name / "b");
+    std::filesystem::create_directories(library_ / "二月" / name / "a");
+  }
+  Start();
+  DoubleClick(RowOf(L"\\二月"));
+  POINT previous = RowOf(L"\\二月");
+  for (const wchar_t* name : {L"\\二月\\01", L"\\二月\\02", L"\\二月\\03", L"\\二月\\10"}) {
+    EXPECT_EQ(RowOf(name).y, previous.y + kRow);
+    previous = RowOf(name);
+  }
+  DoubleClick(previous);
+  EXPECT_EQ(RowOf(L"\\二月\\10\\b").y, previous.y + 2 * kRow) << "a comes first";
+}
+
+TEST_F(LibraryWindow, ACropGoesIntoTheCurrentFolderAndTheStrip) {
+  Start();
+  Click(RowOf(L"\\二月"));
+  CropAndSave();
+  EXPECT_EQ(window_.last_saved(), Path(L"\\二月\\page_1.png"));
+  auto saved = CPicture::Open(library_ / "二月" / "page_1.png");
+  ASSERT_NE(saved, nullptr);
+  EXPECT_EQ(saved->size().cx, 200);
+  EXPECT_THAT(Strip().names(), ElementsAre(L"page_1.png"));
+  EXPECT_THAT(Notice(), HasSubstr("二月"));
+  EXPECT_THAT(Notice(), HasSubstr("page_1.png"));
+}
+
+TEST_F(LibraryWindow, AFolderThatVanishedIsLeftForTheNearestOneAbove) {
+  Start();
+  DoubleClick(RowOf(L"\\一月"));
+  Click(RowOf(L"\\一月\\上旬"));
+  std::filesystem::remove_all(library_ / "一月");
+  CropAndSave();
+  EXPECT_EQ(window_.browser().Folder(), Path(L""));
+  EXPECT_EQ(window_.last_saved(), Path(L"\\page_1.png")) << "the crop is not lost";
+  EXPECT_THAT(Notice(), HasSubstr("上旬"));
+  EXPECT_THAT(Strip().names(), ElementsAre(L"page.png", L"page_1.png"));
+  EXPECT_EQ(Tree().ListSort(), 2 * kRow) << "the tree no longer shows it";
+}
+
+TEST_F(LibraryWindow, ALibraryThatVanishedTakesNoCrops) {
+  Start();
+  std::filesystem::remove_all(library_);
+  CropAndSave();
+  EXPECT_EQ(window_.last_saved(), L"");
+  EXPECT_THAT(Notice(), HasSubstr("无法保存"));
+  EXPECT_TRUE(std::filesystem::is_empty(folder_.path()));
+}
+
+TEST_F(LibraryWindow, WithoutPicturesItSaysSoAndEveryButtonIsHarmless) {
+  std::filesystem::remove_all(library_);
+  std::filesystem::create_directories(library_);
+  Start();
+  EXPECT_EQ(Opened(), "");
+  for (ToolbarButton button : {ToolbarButton::crop, ToolbarButton::text, ToolbarButton::previous,
+                               ToolbarButton::next, ToolbarButton::open}) {
+    ClickButton(button);
+  }
+  PressKey(VK_ESCAPE);
+  EXPECT_FALSE(window_.crop().IsWindowVisible());
+  WriteTestPicture(library_ / "new.png", 100, 100);
+  ClickButton(ToolbarButton::next);
+  EXPECT_EQ(Opened(), "new.png");
+}
+
+TEST_F(LibraryWindow, ManyPicturesScrollAndOnlyTheNeighbourhoodIsKept) {
+  WriteTestPicture(library_ / "二月" / "0000.png", 200, 100);
+  for (int i = 1; i < 3000; ++i) {
+    std::string name = std::to_string(10000 + i) + ".png";
+    std::filesystem::create_hard_link(library_ / "二月" / "0000.png", library_ / "二月" / name);
+  }
+  Start();
+  Click(RowOf(L"\\二月"));
+  ASSERT_EQ(Strip().layout().count(), 3000);
+  CRect strip;
+  Strip().GetWindowRect(strip);
+  TurnWheel(strip.CenterPoint(), -1);
+  EXPECT_EQ(Strip().layout().scroll(), Strip().layout().CellWidth());
+  EXPECT_GE(Strip().hovered(), 0);
+  for (int i = 0; i < 30; ++i) TurnWheel(strip.CenterPoint(), -40);
+  int visible = Strip().layout().Visible().last - Strip().layout().Visible().first;
+  for (int i = 0; i < 2000; ++i) {
+    HandleWaitingMessages();
+    const std::wstring last =
+        std::to_wstring(10000 + Strip().layout().Visible().last - 1) + L".png";
+    if (const Thumbnail* found = Strip().thumbnails().Find(last)) {
+      EXPECT_NE(*found, nullptr);
+      break;
+    }
+    ASSERT_LT(i, 1999) << "what is visible is never loaded";
+    std::this_thread::sleep_for(std::chrono::milliseconds(5));
+  }
+  EXPECT_LE(Strip().thumbnails().size(), 3u * static_cast<unsigned>(visible));
+  MoveTo({640, 300});
+  EXPECT_EQ(Strip().hovered(), -1) << "the pointer has left";
+}
+
+}  // namespace
+}  // namespace capture

@@ -1,0 +1,82 @@
+// The library's folders and the order of their pictures.
+#include "apps/capture/picture_folder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+#include "corvane/platform/base_services/system_paths.h"
+#include "tests/apps/temporary_folder.h"
+
+namespace capture {
+namespace {
+
+using testing::ElementsAre;
+
+TEST(PictureEnding, IsKnownInAnyCase) {
+  for (const wchar_t* name : {L"a.jpg", L"a.JPEG", L"图 1.png", L"a.b.Bmp", L"x.gif"}) {
+    EXPECT_TRUE(HasPictureEnding(name)) << corvane::native_path(name);
+  }
+  for (const wchar_t* name : {L"a.txt", L"jpg", L".png", L"a.jpg.bak", L"", L"a."}) {
+    EXPECT_FALSE(HasPictureEnding(name)) << corvane::native_path(name);
+  }
+}
+
+TEST(NameFrom, GoesRoundAndStandsBetweenNeighboursWhenItIsNotThere) {
+  const std::vector<std::wstring> names = {L"a", L"c", L"甲"};
+  const struct {
+    const wchar_t* from;
+    int step;
+    const wchar_t* to;
+  } cases[] = {{L"a", 1, L"c"},  {L"a", -1, L"甲"}, {L"甲", 1, L"a"}, {L"b", 1, L"c"},
+               {L"b", -1, L"a"}, {L"", 1, L"a"},    {L"", -1, L"甲"}};
+  for (const auto& each : cases) {
+    EXPECT_EQ(NameFrom(names, each.from, each.step), each.to);
+  }
+  EXPECT_EQ(NameFrom({L"only"}, L"only", 1), L"");
+  EXPECT_EQ(NameFrom({L"only"}, L"gone", 1), L"only");
+  EXPECT_EQ(NameFrom({}, L"gone", -1), L"");
+}
+
+TEST(LiesIn, CountsWholeNames) {
+  EXPECT_TRUE(LiesIn(L"Z:\\lib", L"Z:\\lib"));
+  EXPECT_TRUE(LiesIn(L"Z:\\lib", L"Z:\\lib\\a\\b"));
+  EXPECT_FALSE(LiesIn(L"Z:\\lib", L"Z:\\library"));
+  EXPECT_FALSE(LiesIn(L"Z:\\lib", L"Z:"));
+}
+
+class LibraryFolders : public testing::Test {
+ protected:
+  void Make(const std::string& path) {
+    std::filesystem::create_directories((folder_ / path).parent_path());
+    std::ofstream(folder_ / path) << "a file";
+  }
+  std::wstring root() const { return corvane::wide_path_of(folder_.path()); }
+
+  TemporaryFolder folder_;
+};
+
+TEST_F(LibraryFolders, AreReadSortedAndWithoutWhatIsHiddenOrLinked) {
+  for (const char* path : {"乙/x", "甲/x", "b.png", "a.JPG", "notes.txt", ".hidden/x"}) Make(path);
+  std::filesystem::create_directory_symlink(folder_.path(), folder_ / "link");
+  auto entries = ReadFolder(root());
+  ASSERT_TRUE(entries);
+  EXPECT_THAT(entries->folders, ElementsAre(L"乙", L"甲"));
+  EXPECT_THAT(entries->pictures, ElementsAre(L"a.JPG", L"b.png"));
+  EXPECT_FALSE(ReadFolder(root() + L"\\missing"));
+  EXPECT_FALSE(ReadFolder(root() + L"\\notes.txt"));
+}
+
+TEST_F(LibraryFolders, TheFirstOneWithPicturesIsFoundFromTheTopInOrder) {
+  EXPECT_EQ(FirstFolderWithPictures(root()), L"");
+  Make("c/late.png");
+  Make("b/deep/deeper/first.png");
+  Make("a/notes.txt");
+  EXPECT_EQ(FirstFolderWithPictures(root()), root() + L"\\b\\deep\\deeper");
+  Make("top.png");
+  EXPECT_EQ(FirstFolderWithPictures(root()), root());
+}
+
+}  // namespace
+}  // namespace capture
