@@ -4,7 +4,7 @@
 #include "apps/capture/fill.h"
 #include "apps/capture/palette.h"
 #include "apps/capture/picture_folder.h"
-#include "apps/capture/sorted_folders.h"
+#include "apps/capture/sorted_listing.h"
 #include "apps/capture/texts.h"
 #include "corvane/layers/frame/layer_messages.h"
 #include "corvane/platform/drawing/gdi_dc.h"
@@ -37,8 +37,8 @@ bool CLibraryPane::Open(CWnd* parent) {
 
 void CLibraryPane::SetRoot(const std::wstring& root) {
   root_ = root;
+  tree_.SetFolderListing(SortedListing());
   tree_.SetPath(root.c_str(), nullptr);
-  SortFolders(tree_, root);
   tree_.Invalidate(FALSE);
 }
 

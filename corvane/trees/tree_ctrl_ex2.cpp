@@ -47,6 +47,10 @@ int CTreeCtrlEx2::SetPath(const wchar_t* path, _NODE* parent) {
   return load_folders(model_, *listing_, path, parent) ? 1 : 0;
 }
 
+void CTreeCtrlEx2::SetFolderListing(std::unique_ptr<FolderListing> listing) {
+  listing_ = listing ? std::move(listing) : system_folder_listing();
+}
+
 void CTreeCtrlEx2::SetCurPath(const wchar_t* path) {
   if (path) {
     model_.set_current_path(path);

@@ -38,6 +38,9 @@ class CTreeCtrlEx2 : public CWnd {
   // 1, or 0 when the folder cannot be listed; its node is in the tree all the same. 0 and nothing
   // changes for a null path. A link that leads back to a folder above it stays without children.
   int SetPath(const wchar_t* path, _NODE* parent);
+  // From now on SetPath reads from `listing` instead of the system's folders; null: from these
+  // again. A host can so choose the order of siblings, or leave folders out.
+  void SetFolderListing(std::unique_ptr<FolderListing> listing);
   // Makes the path the current and highlighted one, expands its node and all above it, posts
   // WM_TREE_SELECT and repaints; whether the folder exists does not matter. Null: the current
   // path, or the nearest folder above it that exists; the root when there is none yet.

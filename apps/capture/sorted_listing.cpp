@@ -1,0 +1,80 @@
+#include "apps/capture/sorted_listing.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace capture {
+namespace {
+
+using namespace corvane;
+
+bool IsDigit(wchar_t character) { return character >= L'0' && character <= L'9'; }
+
+// The number's digits without zeros before it; what follows stays in `text`.
+std::wstring_view TakeNumber(std::wstring_view& text) {
+  std::size_t end = 0;
+  while (end < text.size() && IsDigit(text[end])) ++end;
+  std::wstring_view digits = text.substr(0, end);
+  text.remove_prefix(end);
+  digits.remove_prefix(std::min(digits.find_first_not_of(L'0'), digits.size()));
+  return digits;
+}
+
+class SortedFolder : public OpenFolder {
+ public:
+  explicit SortedFolder(std::unique_ptr<OpenFolder> folder) : folder_(std::move(folder)) {}
+
+  FolderIdentity Identity() const override { return folder_->Identity(); }
+  bool ListFolders(const FoundFolder& found) override {
+    std::vector<std::wstring> names;
+    bool listed = folder_->ListFolders([&](std::wstring_view name) { names.emplace_back(name); });
+    std::sort(names.begin(), names.end(), StandsBefore);
+    for (const std::wstring& name : names) found(name);
+    return listed;
+  }
+  std::unique_ptr<OpenFolder> OpenChild(std::wstring_view name) const override {
+    return Sorted(folder_->OpenChild(name));
+  }
+  static std::unique_ptr<OpenFolder> Sorted(std::unique_ptr<OpenFolder> folder) {
+    return folder ? std::make_unique<SortedFolder>(std::move(folder)) : nullptr;
+  }
+
+ private:
+  std::unique_ptr<OpenFolder> folder_;
+};
+
+class Listing : public FolderListing {
+ public:
+  std::unique_ptr<OpenFolder> Open(const wchar_t* path) override {
+    return SortedFolder::Sorted(system_->Open(path));
+  }
+
+ private:
+  std::unique_ptr<FolderListing> system_ = system_folder_listing();
+};
+
+}  // namespace
+
+std::unique_ptr<FolderListing> SortedListing() { return std::make_unique<Listing>(); }
+
+bool StandsBefore(std::wstring_view name, std::wstring_view other) {
+  std::wstring_view left = name;
+  std::wstring_view right = other;
+  while (!left.empty() && !right.empty()) {
+    if (IsDigit(left.front()) && IsDigit(right.front())) {
+      std::wstring_view number = TakeNumber(left);
+      std::wstring_view other_number = TakeNumber(right);
+      if (number.size() != other_number.size()) return number.size() < other_number.size();
+      if (number != other_number) return number < other_number;
+    } else {
+      if (left.front() != right.front()) return left.front() < right.front();
+      left.remove_prefix(1);
+      right.remove_prefix(1);
+    }
+  }
+  if (left.empty() != right.empty()) return left.empty();
+  return name < other;  // 7 and 07
+}
+
+}  // namespace capture
