@@ -234,7 +234,7 @@ TEST(FolderListing, ListingThatThrowsLeavesTheFolderUsable) {
 
 TEST(FolderListing, DeeperThanAnyPath) {
   constexpr int levels = 5000;
-  const TemporaryFolder folder;
+  const TemporaryFolder folder(TemporaryFolder::Place::memory);
   make_chain(folder, levels);
   const FewDescriptors few(256);
   std::vector<std::unique_ptr<OpenFolder>> all;  // every one of them stays open

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <stdlib.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -49,10 +50,17 @@ void remove_all(const fs::path& top) {
   fs::remove(top, error);
 }
 
+fs::path parent_folder(TemporaryFolder::Place place) {
+  const fs::path memory = "/dev/shm";
+  const bool in_memory =
+      place == TemporaryFolder::Place::memory && access(memory.c_str(), W_OK) == 0;
+  return in_memory ? memory : fs::temp_directory_path();
+}
+
 }  // namespace
 
-TemporaryFolder::TemporaryFolder()
-    : path_((fs::temp_directory_path() / "corvane-test-XXXXXX").string()) {
+TemporaryFolder::TemporaryFolder(Place place)
+    : path_((parent_folder(place) / "corvane-test-XXXXXX").string()) {
   if (!mkdtemp(path_.data())) throw std::runtime_error("no temporary folder");
 }
 

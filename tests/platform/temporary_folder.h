@@ -6,7 +6,9 @@ namespace corvane::test {
 
 class TemporaryFolder {
  public:
-  TemporaryFolder();
+  // On the disk, or in memory where the system offers that, for a test that makes very much.
+  enum class Place { disk, memory };
+  explicit TemporaryFolder(Place place = Place::disk);
   TemporaryFolder(const TemporaryFolder&) = delete;
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;
   ~TemporaryFolder();
