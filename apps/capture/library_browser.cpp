@@ -31,16 +31,18 @@ std::wstring CLibraryBrowser::Folder() const {
   return LiesIn(pane_.root(), folder) ? folder : std::wstring();
 }
 
-CString CLibraryBrowser::Refresh() {
+CString CLibraryBrowser::LeaveVanishedFolder() {
+  std::wstring vanished = Folder();
+  if (vanished.empty() || FolderExists(vanished)) return {};
+  pane_.LeaveVanishedFolder();
+  CString notice = CString(L"文件夹“") + NameForUser(vanished) + L"”已不存在";
   std::wstring folder = Folder();
-  CString notice;
-  if (!folder.empty() && !FolderExists(folder)) {
-    pane_.LeaveVanishedFolder();
-    notice = CString(L"文件夹“") + NameForUser(folder) + L"”已不存在";
-    folder = Folder();
-    if (!folder.empty()) notice += CString(L"，已转到“") + NameForUser(folder) + L"”";
-  }
-  ShowEntries(folder);
+  return folder.empty() ? notice : notice + L"，已转到“" + NameForUser(folder) + L"”";
+}
+
+CString CLibraryBrowser::Refresh() {
+  CString notice = LeaveVanishedFolder();
+  ShowEntries(Folder());
   return notice;
 }
 

@@ -17,8 +17,10 @@ class CLibraryBrowser {
   void Load(const std::wstring& root, const std::wstring& folder);
   // The current folder; empty when the whole library is gone.
   std::wstring Folder() const;
-  // Lists the current folder anew. When it has vanished, the nearest folder above it becomes the
-  // current one. What the user should know of that, else empty.
+  // When the current folder has vanished, the nearest folder above it becomes the current one. What
+  // the user should know of that, else empty.
+  corvane::CString LeaveVanishedFolder();
+  // The same, and lists the current folder anew.
   corvane::CString Refresh();
   // Marks the picture as the opened one and selects its folder when that lies in the library.
   void MarkOpened(const std::wstring& path);

@@ -142,13 +142,13 @@ void CMainWindow::OpenPath(const std::wstring& path) {
 }
 
 void CMainWindow::OpenNeighbour(int step) {
-  RefreshLibrary();
   std::wstring path = browser_.PictureFromOpened(step);
-  if (path.empty()) {
-    view_.ShowNotice(L"这个文件夹里没有别的图片");
-    return;
+  if (!PathFileExistsW(path.c_str())) {
+    CString notice = browser_.Refresh();
+    view_.ShowNotice(notice.IsEmpty() ? CString(L"这个文件夹里没有别的图片") : notice);
+    path = browser_.PictureFromOpened(step);
   }
-  OpenPath(path);
+  if (!path.empty()) OpenPath(path);
 }
 
 void CMainWindow::RefreshLibrary() {
@@ -240,7 +240,7 @@ void CMainWindow::SaveFramed() {
 }
 
 void CMainWindow::SaveInCurrentFolder(const std::vector<std::uint8_t>& png) {
-  CString notice = browser_.Refresh();
+  CString notice = browser_.LeaveVanishedFolder();
   if (!notice.IsEmpty()) notice += L"。";
   std::wstring folder = browser_.Folder();
   SavedPart saved{{}, ENOENT};

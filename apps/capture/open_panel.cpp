@@ -8,6 +8,7 @@
 #include "apps/capture/fill.h"
 #include "apps/capture/palette.h"
 #include "apps/capture/picture_folder.h"
+#include "apps/capture/sorted_listing.h"
 #include "apps/capture/texts.h"
 #include "corvane/platform/drawing/gdi_dc.h"
 
@@ -57,7 +58,8 @@ void COpenPanel::ListFolder(const std::string& folder, const std::string& curren
     entries_.push_back({it->path(), name, is_folder});
   }
   std::sort(entries_.begin(), entries_.end(), [](const Entry& a, const Entry& b) {
-    return a.folder != b.folder ? a.folder : a.path < b.path;
+    return a.folder != b.folder ? a.folder
+                                : StandsBefore(a.label.AsStdString(), b.label.AsStdString());
   });
   fs::path parent = fs::path(folder).parent_path();
   if (!parent.empty() && parent != folder) {

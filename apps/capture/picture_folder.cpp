@@ -1,17 +1,23 @@
 #include "apps/capture/picture_folder.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <system_error>
 
-#include "corvane/platform/base_services/system_paths.h"
+#include "apps/capture/sorted_listing.h"
+#include "corvane/platform/platform.h"
 
 namespace capture {
 namespace {
 
-namespace fs = std::filesystem;
-
 constexpr wchar_t kSeparator = L'\\';
+
+void Add(FolderEntries& entries, const WIN32_FIND_DATAW& found) {
+  std::wstring_view name = found.cFileName;
+  if (!(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY)) {
+    if (HasPictureEnding(name)) entries.pictures.emplace_back(name);
+  } else if (!(found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) && !name.starts_with(L'.')) {
+    entries.folders.emplace_back(name);
+  }
+}
 
 }  // namespace
 
@@ -27,27 +33,25 @@ bool HasPictureEnding(std::wstring_view name) {
 }
 
 std::optional<FolderEntries> ReadFolder(const std::wstring& folder) {
+  WIN32_FIND_DATAW found;
+  HANDLE search = FindFirstFileW((folder + L"\\*").c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) return std::nullopt;
   FolderEntries entries;
-  std::error_code error;
-  fs::directory_iterator it(corvane::native_path(folder), error);
-  if (error) return std::nullopt;
-  for (fs::directory_iterator end; !error && it != end; it.increment(error)) {
-    std::error_code ignored;
-    std::wstring name = corvane::wide_path_of(it->path().filename());
-    if (it->is_directory(ignored)) {
-      if (!it->is_symlink(ignored) && !name.starts_with(L'.')) entries.folders.push_back(name);
-    } else if (HasPictureEnding(name)) {
-      entries.pictures.push_back(name);
-    }
-  }
-  std::sort(entries.folders.begin(), entries.folders.end());
-  std::sort(entries.pictures.begin(), entries.pictures.end());
+  do {
+    Add(entries, found);
+  } while (FindNextFileW(search, &found));
+  FindClose(search);
+  std::sort(entries.folders.begin(), entries.folders.end(), StandsBefore);
+  std::sort(entries.pictures.begin(), entries.pictures.end(), StandsBefore);
   return entries;
 }
 
 bool FolderExists(const std::wstring& folder) {
-  std::error_code error;
-  return fs::is_directory(corvane::native_path(folder), error);
+  // What a link leads to counts, so the link's own attributes would not do.
+  WIN32_FIND_DATAW found;
+  HANDLE search = FindFirstFileW((folder + L"\\*").c_str(), &found);
+  if (search != INVALID_HANDLE_VALUE) FindClose(search);
+  return search != INVALID_HANDLE_VALUE || GetLastError() == ERROR_ACCESS_DENIED;
 }
 
 std::wstring FirstFolderWithPictures(const std::wstring& root) {
@@ -83,7 +87,7 @@ std::wstring NameOf(const std::wstring& path) {
 std::wstring NameFrom(const std::vector<std::wstring>& names, const std::wstring& name, int step) {
   if (names.empty()) return {};
   auto count = static_cast<std::ptrdiff_t>(names.size());
-  auto here = std::lower_bound(names.begin(), names.end(), name);
+  auto here = std::lower_bound(names.begin(), names.end(), name, StandsBefore);
   bool present = here != names.end() && *here == name;
   if (present && count == 1) return {};
   std::ptrdiff_t index = here - names.begin() + (present || step < 0 ? step : step - 1);

@@ -12,14 +12,15 @@ namespace capture {
 bool HasPictureEnding(std::wstring_view name);
 
 struct FolderEntries {
-  std::vector<std::wstring> folders;  // names, sorted; no links, nothing that begins with a dot
+  std::vector<std::wstring>
+      folders;  // names in order (StandsBefore); no links, nothing that begins with a dot
   std::vector<std::wstring> pictures;
 };
 // Nothing when the folder cannot be listed.
 std::optional<FolderEntries> ReadFolder(const std::wstring& folder);
 bool FolderExists(const std::wstring& folder);
 
-// The first folder at or below the root, in sorted order, that holds a picture; empty: there is
+// The first folder at or below the root, in order, that holds a picture; empty: there is
 // none.
 std::wstring FirstFolderWithPictures(const std::wstring& root);
 
@@ -30,7 +31,7 @@ bool LiesIn(std::wstring_view root, std::wstring_view path);
 std::wstring FolderOf(const std::wstring& path);
 std::wstring NameOf(const std::wstring& path);
 
-// The name `step` places further in the sorted names, going round; empty when there is no other.
+// The name `step` places further in the ordered names, going round; empty when there is no other.
 // A name that is not among them counts as standing between its neighbours.
 std::wstring NameFrom(const std::vector<std::wstring>& names, const std::wstring& name, int step);
 

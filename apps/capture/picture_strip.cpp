@@ -4,6 +4,7 @@
 #include <span>
 
 #include "apps/capture/capture_messages.h"
+#include "apps/capture/sorted_listing.h"
 #include "apps/capture/strip_painter.h"
 #include "apps/capture/thumbnail_order.h"
 
@@ -71,7 +72,7 @@ void CPictureStrip::ShowPictures(const std::wstring& folder, std::vector<std::ws
 }
 
 int CPictureStrip::CellOf(const std::wstring& name) const {
-  auto found = std::lower_bound(names_.begin(), names_.end(), name);
+  auto found = std::lower_bound(names_.begin(), names_.end(), name, StandsBefore);
   return found != names_.end() && *found == name ? static_cast<int>(found - names_.begin()) : -1;
 }
 

@@ -19,8 +19,8 @@ class CPictureStrip : public corvane::CWnd {
   ~CPictureStrip() override { DestroyWindow(); }  // ends the thumbnail thread
 
   bool Open(corvane::CWnd* parent);
-  // The names (sorted) of the folder's pictures. The same folder again keeps its thumbnails and its
-  // place. `empty_text` is shown when there are none.
+  // The names of the folder's pictures, in order (StandsBefore). The same folder again keeps its
+  // thumbnails and its place. `empty_text` is shown when there are none.
   void ShowPictures(const std::wstring& folder, std::vector<std::wstring> names,
                     const wchar_t* empty_text);
   const std::vector<std::wstring>& names() const { return names_; }

@@ -13,7 +13,7 @@ class CThumbnailCache {
   void Put(const std::wstring& name, Thumbnail thumbnail);
   // Null: not loaded. A loaded one may itself be null (no readable picture).
   const Thumbnail* Find(const std::wstring& name) const;
-  // Forgets all but those of these names, which are sorted.
+  // Forgets all but those of these names, which stand in order (StandsBefore).
   void Keep(std::span<const std::wstring> names);
   void Clear() { thumbnails_.clear(); }
   std::size_t size() const { return thumbnails_.size(); }

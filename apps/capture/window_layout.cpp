@@ -7,7 +7,7 @@ namespace {
 
 // Both grow with the window, but a tree's rows and a thumbnail have a size that is enough.
 constexpr int kNarrowestLibrary = 160, kWidestLibrary = 420;
-constexpr int kLowestStrip = 104, kHighestStrip = 200;
+constexpr int kLowestStrip = 104, kHighestStrip = 260;
 constexpr LONG kSmallestStage = 200;  // beside and above the others
 
 int LibraryWidth(LONG width) {

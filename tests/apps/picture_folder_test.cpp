@@ -57,13 +57,15 @@ class LibraryFolders : public testing::Test {
   TemporaryFolder folder_;
 };
 
-TEST_F(LibraryFolders, AreReadSortedAndWithoutWhatIsHiddenOrLinked) {
-  for (const char* path : {"乙/x", "甲/x", "b.png", "a.JPG", "notes.txt", ".hidden/x"}) Make(path);
+TEST_F(LibraryFolders, AreReadInOrderAndWithoutWhatIsHiddenOrLinked) {
+  for (const char* path :
+       {"乙/x", "甲/x", "b_10.png", "b_2.png", "a.JPG", "notes.txt", ".hidden/x"})
+    Make(path);
   std::filesystem::create_directory_symlink(folder_.path(), folder_ / "link");
   auto entries = ReadFolder(root());
   ASSERT_TRUE(entries);
   EXPECT_THAT(entries->folders, ElementsAre(L"乙", L"甲"));
-  EXPECT_THAT(entries->pictures, ElementsAre(L"a.JPG", L"b.png"));
+  EXPECT_THAT(entries->pictures, ElementsAre(L"a.JPG", L"b_2.png", L"b_10.png"));
   EXPECT_FALSE(ReadFolder(root() + L"\\missing"));
   EXPECT_FALSE(ReadFolder(root() + L"\\notes.txt"));
 }

@@ -174,7 +174,7 @@ TEST(WindowLayout, ThePartsFillTheWindowWithoutOverlap) {
     SIZE client;
     LONG library_width, strip_height;
   } cases[] = {{{1280, 800}, 260, 144},
-               {{3840, 2160}, 420, 200},
+               {{3840, 2160}, 420, 260},
                {{640, 480}, 160, 104},
                {{300, 240}, 0, 0},
                {{10, 10}, 0, 0}};
