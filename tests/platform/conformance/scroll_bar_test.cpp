@@ -229,15 +229,21 @@ INSTANTIATE_TEST_SUITE_P(, ScrollTrackTest,
                                          TrackCase{"FarToTheLeft", 100, 90, {-280, 190}, 100}),
                          [](const auto& instance) { return instance.param.label; });
 
-TEST_F(ScrollBarTest, GrabbedAndLetGoMeansThePositionItHad) {
+TEST_F(ScrollBarTest, ThumbThatStaysMeansThePositionItHad) {
   set(SIF_ALL, 100000, 10, 4321);  // many positions share a pixel
-  int seen = -1;
-  recorder().before_default("pop", WM_VSCROLL, [&] {
-    if (seen < 0) button_up();
-    seen = track_position();
-  });
-  press_at(bar_x, bar_top + 34);
-  EXPECT_EQ(seen, 4321);
+  std::vector<int> seen;
+  const auto note = [&] { seen.push_back(track_position()); };
+  work(bar_x, bar_top + 34,
+       {[&] {
+          note();
+          SetCursorPos(bar_x + 5, bar_top + 34);
+        },
+        [&] {
+          note();
+          button_up();
+        },
+        note});
+  EXPECT_EQ(seen, (std::vector<int>{4321, 4321, 4321}));
 }
 
 TEST_F(ScrollBarTest, HighWordHasSixteenBitsAndTheTrackPositionAll) {

@@ -84,6 +84,13 @@ TEST_F(ScrollPaintTest, WithWmSetredrawOffItWaits) {
   EXPECT_EQ(thumb(), "151..282");
 }
 
+TEST_F(ScrollPaintTest, UpdateWindowDrawsItAtOnce) {
+  const COLORREF track = screen_pixel(bar_x, 350);
+  SetScrollPos(window_, SB_VERT, 301, TRUE);
+  UpdateWindow(window_);
+  EXPECT_NE(screen_pixel(bar_x, 350), track);
+}
+
 TEST_F(ScrollPaintTest, NewPositionPaintsNothingButTheBar) {
   SetScrollPos(window_, SB_VERT, 50, TRUE);
   EXPECT_EQ(text_of(update_rect(window_)), "0,0,0,0");
@@ -221,7 +228,27 @@ TEST_P(ChildScrollPaintTest, IsClippedByTheParent) {
   EXPECT_NE(screen_pixel(699, 200), red);
   EXPECT_NE(screen_pixel(699, 200), screen_pixel(700, 200));
   MoveWindow(child_, 10, 20, 200, 300, TRUE);
-  EXPECT_EQ(childs_thumb(), "18..149") << "what was outside is drawn";
+  EXPECT_EQ(childs_thumb(), "18..149");
+  EXPECT_EQ(screen_pixel(608, 300), screen_pixel(594, 300)) << "what was outside is drawn";
+}
+
+TEST_P(ChildScrollPaintTest, FollowsTheChildsSize) {
+  MoveWindow(child_, 10, 20, 150, 300, TRUE);
+  EXPECT_EQ(thumb_at(551, 120, 420), "18..149") << "narrower";
+  EXPECT_EQ(screen_pixel(601, 200), red);
+  MoveWindow(child_, 10, 20, 150, 167, TRUE);
+  EXPECT_EQ(thumb_at(551, 120, 287), "18..82") << "lower";
+  MoveWindow(child_, 10, 20, 200, 300, TRUE);
+  EXPECT_EQ(childs_thumb(), "18..149") << "larger";
+  EXPECT_EQ(screen_pixel(551, 200), white);
+}
+
+TEST_P(ChildScrollPaintTest, ComesAndGoes) {
+  ShowScrollBar(child_, SB_VERT, FALSE);
+  pump();
+  EXPECT_EQ(screen_pixel(601, 200), white);
+  ShowScrollBar(child_, SB_VERT, TRUE);
+  EXPECT_EQ(childs_thumb(), "18..149");
 }
 
 TEST_P(ChildScrollPaintTest, IsUncoveredByASibling) {
