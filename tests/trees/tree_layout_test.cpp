@@ -9,6 +9,7 @@ namespace corvane_tests {
 namespace {
 
 using corvane::_NODE;
+using corvane::tree_row_height;
 using corvane::TreeLayout;
 using corvane::TreeModel;
 
@@ -123,6 +124,29 @@ TEST(TreeLayout, AnswersAsAWalkOverTheWholeTreeWould) {
     EXPECT_EQ(layout.node_below_at(model, node, {5, top}), hit) << "round " << round;
     EXPECT_EQ(layout.rows_below(model, *node, top, bottom), expected) << "round " << round;
   }
+}
+
+// So deep that a call for each level would not fit on the stack.
+TEST(TreeLayout, AChainOfAnyDepth) {
+  constexpr int depth = 300000;
+  TreeModel model;
+  TreeLayout layout;
+  _NODE* deepest = model.add_child(L"root", nullptr);
+  _NODE* second = nullptr;
+  for (int level = 0; level < depth; ++level) {
+    model.set_expanded(*deepest, true);
+    deepest = model.add_child(L"x", deepest);
+    if (!second) second = deepest;
+  }
+  for (int laid_out = 0; laid_out < 2; ++laid_out) {
+    const LONG top = layout.arrange(model, width) - tree_row_height;
+    EXPECT_EQ(top, depth * tree_row_height);
+    if (laid_out == 1) layout.arrange_below(&model.root(), width, 1);  // nothing is looked up
+    EXPECT_EQ(layout.node_at(model, {5, top}), deepest);
+    EXPECT_EQ(layout.rows_below(model, model.root(), top, top + 1).size(), 1u);
+  }
+  EXPECT_TRUE(model.remove(second));
+  EXPECT_EQ(layout.arrange(model, width), tree_row_height);
 }
 
 }  // namespace

@@ -134,13 +134,15 @@ TEST_F(TreeWindowTest, FramesTheHighlightedRow) {
   repaint();
   const int top = 60;
   const int right = size.cx;
-  for (POINT on : {POINT{100, top + 2}, POINT{100, top + 28}, POINT{right - 2, top + 15},
-                   POINT{2, top + 15}}) {
+  for (POINT on : {POINT{100, top + 1}, POINT{100, top + 2}, POINT{100, top + 27},
+                   POINT{100, top + 28}, POINT{right - 3, top + 15}, POINT{right - 2, top + 15},
+                   POINT{1, top + 15}, POINT{2, top + 15}}) {
     EXPECT_EQ(pixel(on.x, on.y), frame) << on.x << ", " << on.y;
   }
-  for (POINT off : {POINT{100, top + 5}, POINT{100, top - 1}, POINT{100, top + 31},
-                    POINT{right - 6, top + 15}}) {
-    EXPECT_NE(pixel(off.x, off.y), frame) << off.x << ", " << off.y;
+  for (POINT off : {POINT{100, top}, POINT{100, top + 3}, POINT{100, top + 26},
+                    POINT{100, top + 29}, POINT{right - 4, top + 15}, POINT{right - 1, top + 15},
+                    POINT{0, top + 15}, POINT{3, top + 15}}) {
+    EXPECT_EQ(pixel(off.x, off.y), white) << off.x << ", " << off.y;
   }
 }
 
@@ -348,6 +350,18 @@ TEST_F(TreeOnDiskTest, LoadsAndSelects) {
   expect_current(L"Q:");
   tree_.ClearCurPath();
   EXPECT_EQ(tree_.GetCurPath(), L"");
+}
+
+TEST_F(TreeOnDiskTest, ARootWithoutANameIsLoadedButNotShown) {
+  repaint();
+  EXPECT_EQ(pixel(45, 15), TestSkin::folder);
+  EXPECT_EQ(tree_.SetPath(root_path_ + L"\\", nullptr), 1);
+  EXPECT_NE(tree_.FindNode(root_path_ + L"\\\\2023\\May", nullptr), nullptr);
+  EXPECT_EQ(tree_.ListSort(), 0);
+  repaint();
+  EXPECT_EQ(pixel(45, 15), white);
+  click(45, 15);
+  EXPECT_EQ(selections(), 0u);
 }
 
 TEST_F(TreeOnDiskTest, MergesANewFolder) {
