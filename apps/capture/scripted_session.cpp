@@ -41,6 +41,7 @@ class Session {
   int Play() {
     HandleWaitingMessages();
     Frame("the picture, its folder and the folder's pictures");
+    if (window_.picture() == nullptr) return failed_ ? 1 : 0;
     Crop();
     Recognise();
     BrowseTheLibrary();
@@ -50,12 +51,12 @@ class Session {
  private:
   void Crop() {
     ClickToolbar(ToolbarButton::crop);
-    CRect stage = OnScreen(window_.view());
-    Drag(At(stage, 20, 25), At(stage, 55, 60));
+    CRect picture = Picture();
+    Drag(At(picture, 9, 20), At(picture, 43, 60));
     Frame("a rectangle was drawn, its bar is shown");
-    Drag(Corner(), {Corner().x + stage.Width() / 10, Corner().y + stage.Height() / 8});
+    Drag(Corner(), {Corner().x + picture.Width() / 8, Corner().y + picture.Height() / 10});
     Frame("the lower right handle was dragged");
-    Drag(Middle(), {Middle().x - stage.Width() / 20, Middle().y - stage.Height() / 20});
+    Drag(Middle(), {Middle().x + picture.Width() / 40, Middle().y + picture.Height() / 80});
     Frame("the rectangle was moved");
     ClickCropBar(CropCommand::save);
     Frame("the part was saved in the current folder");

@@ -27,10 +27,12 @@ class SortedFolder : public OpenFolder {
 
   FolderIdentity Identity() const override { return folder_->Identity(); }
   bool ListFolders(const FoundFolder& found) override {
-    std::vector<std::wstring> names;
-    bool listed = folder_->ListFolders([&](std::wstring_view name) { names.emplace_back(name); });
-    std::sort(names.begin(), names.end(), StandsBefore);
-    for (const std::wstring& name : names) found(name);
+    std::vector<std::pair<std::wstring, FolderKind>> folders;
+    bool listed = folder_->ListFolders(
+        [&](std::wstring_view name, FolderKind kind) { folders.emplace_back(name, kind); });
+    std::sort(folders.begin(), folders.end(),
+              [](const auto& a, const auto& b) { return StandsBefore(a.first, b.first); });
+    for (const auto& [name, kind] : folders) found(name, kind);
     return listed;
   }
   std::unique_ptr<OpenFolder> OpenChild(std::wstring_view name) const override {

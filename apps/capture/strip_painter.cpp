@@ -67,7 +67,7 @@ void DrawStripScroll(HDC dc, const CStripLayout& layout, bool held) {
   RECT track = layout.ScrollTrack();
   if (IsRectEmpty(&track)) return;
   FillWith(dc, track, kStageColor);
-  FillWith(dc, layout.ScrollMark(), held ? kQuietTextColor : kPanelEdgeColor);
+  FillWith(dc, layout.ScrollMark(), held ? kQuietTextColor : kScrollMarkColor);
 }
 
 void DrawEmptyStrip(HDC dc, const RECT& client, const CString& text) {
