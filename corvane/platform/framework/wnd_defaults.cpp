@@ -59,11 +59,7 @@ void CWnd::OnMouseMove(UINT, CPoint) { Default(); }
 
 void CWnd::OnMouseLeave() { Default(); }
 
-BOOL CWnd::OnMouseWheel(UINT, short, CPoint) {
-  // The parents have had it now, whatever they answered: 0 would give it to them once more.
-  Default();
-  return TRUE;
-}
+BOOL CWnd::OnMouseWheel(UINT, short, CPoint) { return static_cast<BOOL>(Default()); }
 
 void CWnd::OnLButtonDown(UINT, CPoint) { Default(); }
 
