@@ -84,13 +84,13 @@ _NODE* CTreeCtrlEx2::FindNode(const wchar_t* path, _NODE* start) {
 
 int CTreeCtrlEx2::DelNode(const wchar_t* path) {
   if (!model_.remove(path)) return 0;
-  Repaint();
+  if (!model_.empty()) Repaint();
   return 1;
 }
 
 int CTreeCtrlEx2::DelNode(_NODE* node) {
   if (!model_.remove(node)) return 0;
-  Repaint();
+  if (!model_.empty()) Repaint();
   return 1;
 }
 
@@ -155,11 +155,10 @@ void CTreeCtrlEx2::OnPaint() {
   CRect client;
   GetClientRect(client);
   if (watch.gone() || !buffer_.GetDC()) return;
+  OnEraseBkgnd(&paint);  // the size may have changed without anything being erased
   buffer_.SetBackColor(client, background);
   DoDraw(buffer_, client);
-  if (watch.gone()) return;
-  // The buffer may have the size that the window had before.
-  ::BitBlt(paint, 0, 0, client.Width(), client.Height(), buffer_, 0, 0, SRCCOPY);
+  if (!watch.gone() && buffer_.HasSizeOf(client)) buffer_.Paste(paint, client, SRCCOPY);
 }
 
 void CTreeCtrlEx2::DoDraw(HDC dc, CRect rect) {
@@ -189,7 +188,6 @@ int CTreeCtrlEx2::DrawItem(HDC dc, _NODE* node) {
 void CTreeCtrlEx2::DrawRow(HDC dc, const _NODE& node, int position) const {
   CRect row(node.row());
   row.OffsetRect(0, -position);
-  if (!::RectVisible(dc, row)) return;
   painter_.Draw(dc, node, row, model_.is_path_of(model_.highlight_path(), node));
 }
 

@@ -36,10 +36,11 @@ class CTreeCtrlEx2 : public CWnd {
   // Loads a folder and everything below it: as the root (null parent; the tree starts over), or
   // into `parent`, where existing nodes are kept and missing ones added. Waits until all is read.
   // 1, or 0 when the folder cannot be listed; its node is in the tree all the same. 0 and nothing
-  // changes for a null path. A link that leads back to a folder above it stays without children.
+  // changes for a null path. A link that leads back to a folder above it stays without children. An
+  // empty path names the root of the file system, under an empty name.
   int SetPath(const wchar_t* path, _NODE* parent);
   // From now on SetPath reads from `listing` instead of the system's folders; null: from these
-  // again. A host can so choose the order of siblings, or leave folders out.
+  // again. A host can so choose the order of siblings, or leave folders out. Not during SetPath.
   void SetFolderListing(std::unique_ptr<FolderListing> listing);
   // Makes the path the current and highlighted one, expands its node and all above it, posts
   // WM_TREE_SELECT and repaints; whether the folder exists does not matter. Null: the current
@@ -51,22 +52,24 @@ class CTreeCtrlEx2 : public CWnd {
   void Expand(const wchar_t* path);
 
   // --- Nodes. None of these reads the disk.
-  // The parent's child of that name, added as the last one when there is none; a null parent: the
-  // tree starts over with that root. Null for a null name.
+  // The parent's child of that name, added as the last one and collapsed when there is none; a null
+  // parent: the tree starts over with that root, expanded. Null for a null name.
   _NODE* AddChildNode(const wchar_t* name, _NODE* parent);
   // The node of a full path; a path that does not begin with the base path begins with the name of
-  // `start` (null: the root). `start` itself for a null or empty path; null: there is none.
+  // `start` (null: the root). `start` itself for a null or empty path; null: there is none, or the
+  // base path is empty.
   _NODE* FindNode(const wchar_t* path, _NODE* start);
-  // Remove a node with all below it; 1, or 0 when there is none. By path, the current path also
-  // moves up to the parent's when it leads through it, and is highlighted.
+  // Remove a node with all below it and repaint; 1, or 0 when there is none. The root: as
+  // DelAllNode, which leaves repainting to the caller. By path, the current path also becomes the
+  // parent's when it contains it anywhere, and is highlighted.
   int DelNode(const wchar_t* path);
   int DelNode(_NODE* node);
   int DelAllNode();                        // 1; the paths stay
   CString GetNodePath(_NODE* node) const;  // null: the base path
 
   // --- Rows
-  // Lay out the visible rows, 30 pixels each: all (the result is their height in pixels), or those
-  // below one node from a row number on (the result is the next free number).
+  // Lay out the visible rows, 30 pixels each: all (the result is their height in pixels, 0 for an
+  // empty tree), or those below one node from a row number on (the result is the next free number).
   LONG ListSort();
   int ListSort(_NODE* node, int width, int row);
   // The node whose row, as last laid out, holds the point; null: none. The second looks only at
@@ -87,8 +90,8 @@ class CTreeCtrlEx2 : public CWnd {
   // The vertical scroll bar: positions 0 to `maximum` in pages of `page` pixels; non-zero `show`
   // shows it. The next drawing sets it again.
   void OpenVscroll(int show, int maximum, int page);
-  // Non-zero: a right click shows the menu.
-  void OpenRButtonMenu(int open) { menu_open_ = open; }
+  // Whether a right click may show a menu; there is none yet.
+  void OpenRButtonMenu(int enable) { menu_enabled_ = enable; }
 
   // --- Skin: list 1 of ui_control.xml, control 1 (glyphs) and control 2 (folders), each with a
   // normal and a selected image. What is missing is not drawn.
@@ -110,6 +113,7 @@ class CTreeCtrlEx2 : public CWnd {
 
  private:
   int ScrollPosition() const;
+  POINT ContentPoint(CPoint point) const;
   ScrollState GetScrollState() const;
   void ScrollTo(int position);
   _NODE* MakeCurrentAt(CPoint point);
@@ -123,7 +127,7 @@ class CTreeCtrlEx2 : public CWnd {
   CXmlListMgr skin_;
   CBufferDC buffer_;
   TreeRowPainter painter_;
-  int menu_open_ = 0;
+  int menu_enabled_ = 0;
   Liveness liveness_;
 };
 

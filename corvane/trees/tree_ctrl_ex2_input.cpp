@@ -1,4 +1,7 @@
 // The tree's scroll bar, mouse and keys.
+#include <algorithm>
+#include <limits>
+
 #include "corvane/layers/frame/layer_key_filter.h"
 #include "corvane/trees/tree_ctrl_ex2.h"
 
@@ -54,14 +57,15 @@ BOOL CTreeCtrlEx2::OnMouseWheel(UINT flags, short distance, CPoint screen_point)
   return CWnd::OnMouseWheel(flags, distance, screen_point);
 }
 
-_NODE* CTreeCtrlEx2::HitTest(CPoint point) {
-  point.y += ScrollPosition();
-  return layout_.node_at(model_, point);
+POINT CTreeCtrlEx2::ContentPoint(CPoint point) const {
+  const auto y = static_cast<long long>(point.y) + ScrollPosition();
+  return {point.x, static_cast<LONG>(std::min<long long>(y, std::numeric_limits<LONG>::max()))};
 }
 
+_NODE* CTreeCtrlEx2::HitTest(CPoint point) { return layout_.node_at(model_, ContentPoint(point)); }
+
 _NODE* CTreeCtrlEx2::HitTest(_NODE* node, CPoint point) {
-  point.y += ScrollPosition();
-  return layout_.node_below_at(model_, node, point);
+  return layout_.node_below_at(model_, node, ContentPoint(point));
 }
 
 _NODE* CTreeCtrlEx2::MakeCurrentAt(CPoint point) {

@@ -8,7 +8,7 @@ namespace corvane {
 namespace {
 
 RECT row_rect(int row, int width) {
-  const LONG top = static_cast<LONG>(row) * tree_row_height;
+  const auto top = static_cast<LONG>(static_cast<long long>(row) * tree_row_height);
   return {0, top, width, top + tree_row_height};
 }
 

@@ -2,12 +2,21 @@
 
 #include <algorithm>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "corvane/trees/child_names.h"
 
 namespace corvane {
 namespace {
+
+constexpr int most_links_followed = 100;  // to one folder
+
+struct IdentityHash {
+  std::size_t operator()(const FolderIdentity& identity) const {
+    return std::hash<std::uint64_t>()(identity.folder * 31 + identity.volume);
+  }
+};
 
 std::wstring_view parent_path(std::wstring_view path) {
   const std::size_t separator = path.rfind(L'\\');
@@ -28,18 +37,21 @@ class FolderLoad {
     std::unique_ptr<OpenFolder> folder = listing_.Open(path_.c_str());
     if (!folder) return false;
     find_folders_above();
-    // The root is what the user asked for, wherever it leads.
-    if (top.parent() && leads_back(*folder)) return true;
+    // What was asked for is listed wherever it leads.
     if (!enter(std::move(folder), top)) return false;
     while (!levels_.empty()) step();
     return true;
   }
 
  private:
+  struct Child {
+    _NODE* node;
+    FolderKind kind;
+  };
   // A folder whose sub-folders are being loaded.
   struct Level {
     std::unique_ptr<OpenFolder> folder;
-    std::vector<_NODE*> children;  // those that the folder lists
+    std::vector<Child> children;  // those that the folder lists
     std::size_t next = 0;
   };
 
@@ -52,16 +64,20 @@ class FolderLoad {
     }
   }
 
-  bool leads_back(const OpenFolder& folder) const {
-    return std::find(above_.rbegin(), above_.rend(), folder.Identity()) != above_.rend();
+  bool leads_back(const FolderIdentity& folder) const {
+    return std::find(above_.rbegin(), above_.rend(), folder) != above_.rend();
+  }
+  // Folders full of links to each other would be read in every order that there is.
+  bool is_followed_too_often(const FolderIdentity& target) {
+    return ++links_followed_[target] > most_links_followed;
   }
 
   // Adds the nodes of the folder's sub-folders; they are loaded in later steps.
   bool enter(std::unique_ptr<OpenFolder> folder, _NODE& node) {
     Level level;
     ChildNames names(model_, node);
-    const bool listed = folder->ListFolders([&](std::wstring_view name) {
-      if (!name.starts_with(L'.')) level.children.push_back(&names.child(name));
+    const bool listed = folder->ListFolders([&](std::wstring_view name, FolderKind kind) {
+      if (!name.starts_with(L'.')) level.children.push_back({&names.child(name), kind});
     });
     if (level.children.empty()) return listed;
     above_.push_back(folder->Identity());
@@ -77,10 +93,14 @@ class FolderLoad {
       above_.pop_back();
       return;
     }
-    _NODE& child = *level.children[level.next++];
-    std::unique_ptr<OpenFolder> folder = level.folder->OpenChild(child.name().AsStdString());
+    const Child child = level.children[level.next++];
+    std::unique_ptr<OpenFolder> folder = level.folder->OpenChild(child.node->name().AsStdString());
     if (level.next == level.children.size()) level.folder.reset();
-    if (folder && !leads_back(*folder)) enter(std::move(folder), child);
+    if (!folder) return;
+    const FolderIdentity identity = folder->Identity();
+    if (leads_back(identity)) return;
+    if (child.kind == FolderKind::link && is_followed_too_often(identity)) return;
+    enter(std::move(folder), *child.node);
   }
 
   TreeModel& model_;
@@ -88,6 +108,7 @@ class FolderLoad {
   std::wstring path_;
   std::vector<Level> levels_;
   std::vector<FolderIdentity> above_;  // those above the top, then one for each level
+  std::unordered_map<FolderIdentity, int, IdentityHash> links_followed_;
 };
 
 }  // namespace

@@ -41,7 +41,7 @@ class TreeModel {
 
   // Remove a node with all below it; the root: everything. False: there is no such node.
   bool remove(_NODE* node);
-  // Afterwards the current path, when it leads through the parent's path, is the parent's; and
+  // Afterwards the current path, when it contains the parent's path anywhere, is the parent's; and
   // the highlighted path is the current one.
   bool remove(const wchar_t* path);
   void remove_all();

@@ -102,6 +102,18 @@ TEST_F(GdiDC, PlacesTextByItsFormat) {
   }
 }
 
+TEST_F(GdiDC, ASingleLineHasNoBreaks) {
+  const LOGFONTW font{-16, 0, 0, 0, 400, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, L"宋体"};
+  const CRect box(0, 0, 200, 100);
+  for (const wchar_t* text : {L"国\n国", L"国\r\n国", L"国\u2028国", L"国\v国"}) {
+    const CBufferDC target = buffer(200, 100, kWhite);
+    drawing_.DrawTextW(target, text, &font, box, 0xFF000000, DT_SINGLELINE | DT_VCENTER);
+    const CRect ink = ink_of(target, box, kWhite);
+    EXPECT_LE(ink.Height(), 16);
+    EXPECT_GT(ink.Width(), 30);
+  }
+}
+
 TEST_F(GdiDC, PutsABufferOnALayeredWindow) {
   WNDCLASSW window_class{};
   window_class.lpfnWndProc = ::DefWindowProcW;

@@ -29,7 +29,8 @@ std::unique_ptr<OpenFolder> opened(const std::string& path) {
 
 std::vector<std::wstring> names_in(OpenFolder& folder) {
   std::vector<std::wstring> names;
-  EXPECT_TRUE(folder.ListFolders([&names](std::wstring_view name) { names.emplace_back(name); }));
+  EXPECT_TRUE(folder.ListFolders(
+      [&names](std::wstring_view name, FolderKind) { names.emplace_back(name); }));
   return names;
 }
 
@@ -198,7 +199,7 @@ TEST(FolderListing, FolderThatIsGoneOrClosedToUs) {
   const auto gone = outer->OpenChild(L"gone");
   ASSERT_TRUE(gone);
   std::filesystem::remove(folder / "gone");
-  EXPECT_FALSE(gone->ListFolders([](std::wstring_view) { FAIL(); }));
+  EXPECT_FALSE(gone->ListFolders([](std::wstring_view, FolderKind) { FAIL(); }));
   EXPECT_FALSE(gone->OpenChild(L"x"));
   if (geteuid() == 0) return;  // nothing is closed to root
   chmod((folder / "closed").c_str(), 0);
@@ -215,7 +216,7 @@ TEST(FolderListing, ListsInsideAListing) {
   const auto outer = opened(folder.path());
   std::size_t inner_names = 0;
   std::vector<std::wstring> names;
-  EXPECT_TRUE(outer->ListFolders([&](std::wstring_view name) {
+  EXPECT_TRUE(outer->ListFolders([&](std::wstring_view name, FolderKind) {
     inner_names += names_in(*outer->OpenChild(name)).size();
     names.emplace_back(name);
   }));
@@ -228,7 +229,7 @@ TEST(FolderListing, ListingThatThrowsLeavesTheFolderUsable) {
   const TemporaryFolder folder;
   folder.folder("a");
   const auto outer = opened(folder.path());
-  EXPECT_THROW(outer->ListFolders([](std::wstring_view) { throw 1; }), int);
+  EXPECT_THROW(outer->ListFolders([](std::wstring_view, FolderKind) { throw 1; }), int);
   EXPECT_EQ(names_in(*outer), std::vector<std::wstring>{L"a"});
 }
 
@@ -270,7 +271,7 @@ TEST(FolderListing, FolderOpenedAgainIsTheSameOrNone) {
   std::filesystem::rename(folder / "replaced", folder / "elsewhere");
   folder.folder("replaced");
   EXPECT_EQ(names_in(*kept), std::vector<std::wstring>{L"new"});
-  EXPECT_FALSE(replaced->ListFolders([](std::wstring_view) {}));
+  EXPECT_FALSE(replaced->ListFolders([](std::wstring_view, FolderKind) {}));
 }
 
 }  // namespace

@@ -293,9 +293,32 @@ TEST_F(TreeWindowTest, ResizingRemakesThePicture) {
   desktop_.pump();
   EXPECT_FALSE(bar_is_shown());
   EXPECT_EQ(pixel(45, 435), white);
+  tree_.MoveWindow(10, 20, 340, 440, FALSE);
+  repaint();
+  EXPECT_EQ(pixel(335, 45), white) << "grown without having been erased";
   EXPECT_EQ(pixel(60, 405), TestSkin::folder);
   tree_.MoveWindow(10, 20, 0, 0);
   repaint();
+}
+
+TEST_F(TreeWindowTest, ImagesAreDrawnWhateverTheWidthOfTheRows) {
+  tree_.MoveWindow(10, 20, 40, 200);
+  load();
+  corvane::CBufferDC wide;
+  wide.CreateBufferDC(nullptr, CRect(0, 0, 200, 200));
+  ::IntersectClipRect(wide, 50, 0, 200, 200);
+  tree_.DoDraw(wide, CRect(0, 0, 40, 200));
+  EXPECT_EQ(::GetPixel(wide, 60, 45) & 0xFFFFFF, TestSkin::folder);
+}
+
+TEST_F(TreeWindowTest, DeletingRepaintsButOfTheRoot) {
+  load();
+  tree_.DelNode(a_);
+  EXPECT_TRUE(::GetUpdateRect(tree_, nullptr, FALSE));
+  desktop_.pump();
+  tree_.DelNode(L"Q:\\Lib");
+  EXPECT_FALSE(::GetUpdateRect(tree_, nullptr, FALSE));
+  EXPECT_EQ(tree_.FindNode(L"Q:\\Lib\\b0", nullptr), nullptr);
 }
 
 TEST_F(TreeWindowTest, WithoutSkinImagesTextAndFrameAreDrawn) {

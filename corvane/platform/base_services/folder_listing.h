@@ -18,9 +18,11 @@ struct FolderIdentity {
   bool operator==(const FolderIdentity&) const = default;
 };
 
+enum class FolderKind { folder, link };  // link: a symbolic link or junction that leads to one
+
 // Takes the name of a sub-folder, which is valid during the call only. The call may open and list
 // other folders, but not destroy the one that is being listed.
-using FoundFolder = std::function<void(std::wstring_view name)>;
+using FoundFolder = std::function<void(std::wstring_view name, FolderKind kind)>;
 
 // A folder held open for listing. It may outlive the folder and the listing that it came from.
 class OpenFolder {

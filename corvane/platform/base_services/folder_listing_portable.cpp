@@ -18,7 +18,9 @@ class PortableFolder : public OpenFolder {
 
   FolderIdentity Identity() const override { return {folder_->volume(), folder_->number()}; }
   bool ListFolders(const FoundFolder& found) override {
-    return pool_->list_folders(*folder_, found);
+    return pool_->list_folders(*folder_, [&found](std::wstring_view name, bool through_link) {
+      found(name, through_link ? FolderKind::link : FolderKind::folder);
+    });
   }
   std::unique_ptr<OpenFolder> OpenChild(std::wstring_view name) const override {
     FolderPool::Folder child = pool_->open_child(folder_, name);

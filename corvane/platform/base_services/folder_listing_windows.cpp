@@ -73,7 +73,9 @@ bool WindowsFolder::ListFolders(const FoundFolder& found) {
   const std::unique_ptr<void, CloseFind> closed_at_the_end(listing);
   do {
     const std::wstring_view name = entry.cFileName;
-    if (is_name(name) && (entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY)) found(name);
+    if (!is_name(name) || !(entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY)) continue;
+    const bool is_link = (entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+    found(name, is_link ? FolderKind::link : FolderKind::folder);
   } while (FindNextFileW(listing, &entry));
   return true;
 }

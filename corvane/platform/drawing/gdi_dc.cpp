@@ -1,7 +1,8 @@
 #include "corvane/platform/drawing/gdi_dc.h"
 
 #include <algorithm>
-#include <cwchar>
+#include <string>
+#include <string_view>
 
 namespace corvane {
 namespace {
@@ -27,6 +28,15 @@ void rotate_about(Gdiplus::Graphics& graphics, REAL x, REAL y, int angle) {
 Gdiplus::StringAlignment alignment(UINT format, UINT centred, UINT at_end) {
   if (format & centred) return Gdiplus::StringAlignmentCenter;
   return format & at_end ? Gdiplus::StringAlignmentFar : Gdiplus::StringAlignmentNear;
+}
+
+// A single line has no breaks in it.
+std::wstring without_line_breaks(std::wstring text) {
+  constexpr std::wstring_view breaks = L"\n\r\v\f\u0085\u2028\u2029";
+  for (wchar_t& character : text) {
+    if (breaks.find(character) != breaks.npos) character = L' ';
+  }
+  return text;
 }
 
 void set_format(Gdiplus::StringFormat& string_format, UINT format) {
@@ -66,7 +76,8 @@ bool CGdiDC::DrawTextW(HDC dc, const wchar_t* text, const LOGFONTW* font, const 
   set_format(string_format, format);
   const Gdiplus::RectF layout(static_cast<REAL>(rect.left), static_cast<REAL>(rect.top),
                               static_cast<REAL>(rect.Width()), static_cast<REAL>(rect.Height()));
-  return graphics.DrawString(text, static_cast<INT>(std::wcslen(text)), &drawing_font, layout,
+  const std::wstring drawn = format & DT_SINGLELINE ? without_line_breaks(text) : text;
+  return graphics.DrawString(drawn.c_str(), static_cast<INT>(drawn.size()), &drawing_font, layout,
                              &string_format, &brush) == Gdiplus::Ok;
 }
 

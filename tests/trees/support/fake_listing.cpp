@@ -20,7 +20,8 @@ class FakeFolder : public OpenFolder {
     std::size_t count = 0;
     for (const std::wstring& name : listing_.names_.at(path_)) {
       if (listing_.fails(path_, count++)) break;
-      found(name);
+      const bool is_link = listing_.links_.count(path_ + L'\\' + name) > 0;
+      found(name, is_link ? corvane::FolderKind::link : corvane::FolderKind::folder);
     }
     return true;
   }
@@ -60,7 +61,11 @@ void FakeListing::add_comb(const std::wstring& path, int depth) {
   }
 }
 
-std::unique_ptr<OpenFolder> FakeListing::Open(const wchar_t* path) { return open_path(path); }
+std::unique_ptr<OpenFolder> FakeListing::Open(const wchar_t* path) {
+  std::wstring folder = path;
+  while (!names_.count(folder) && folder.ends_with(L'\\')) folder.pop_back();
+  return open_path(folder);
+}
 
 std::unique_ptr<OpenFolder> FakeListing::open_path(std::wstring path) {
   if (fails(path, 0)) return nullptr;

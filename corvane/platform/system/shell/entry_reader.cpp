@@ -32,11 +32,15 @@ bool EntryReader::read_block(int folder) {
   return size > 0;
 }
 
-bool leads_to_folder(int folder, const dirent64& entry) {
-  if (entry.d_type == DT_DIR) return true;
-  if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN) return false;
-  struct stat status;
-  return fstatat(folder, entry.d_name, &status, 0) == 0 && S_ISDIR(status.st_mode);
+EntryKind kind_of(int folder, const dirent64& entry) {
+  const auto leads_to_folder = [&](int flags) {
+    struct stat status;
+    return fstatat(folder, entry.d_name, &status, flags) == 0 && S_ISDIR(status.st_mode);
+  };
+  if (entry.d_type == DT_DIR) return EntryKind::folder;
+  if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN) return EntryKind::other;
+  if (entry.d_type == DT_UNKNOWN && leads_to_folder(AT_SYMLINK_NOFOLLOW)) return EntryKind::folder;
+  return leads_to_folder(0) ? EntryKind::link_to_folder : EntryKind::other;
 }
 
 bool is_dot_or_dot_dot(const char* name) {

@@ -26,8 +26,8 @@ class EntryReader {
   int error_ = 0;
 };
 
-// Whether the entry is a folder or a link that leads to one.
-bool leads_to_folder(int folder, const dirent64& entry);
+enum class EntryKind { folder, link_to_folder, other };
+EntryKind kind_of(int folder, const dirent64& entry);
 bool is_dot_or_dot_dot(const char* name);
 
 }  // namespace corvane::system

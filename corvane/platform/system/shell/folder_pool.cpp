@@ -78,10 +78,12 @@ bool FolderPool::list_folders(PooledFolder& folder, const FoundName& found) {
   const dirent64* entry = listing.reader().next(descriptor);
   if (!entry && listing.reader().error() != 0) return false;
   for (; entry; entry = listing.reader().next(descriptor)) {
-    if (is_dot_or_dot_dot(entry->d_name) || !leads_to_folder(descriptor, *entry)) continue;
+    if (is_dot_or_dot_dot(entry->d_name)) continue;
+    const EntryKind kind = kind_of(descriptor, *entry);
+    if (kind == EntryKind::other) continue;
     listing.name().clear();
     append_wide_name(listing.name(), entry->d_name);
-    found(listing.name());
+    found(listing.name(), kind == EntryKind::link_to_folder);
   }
   return true;
 }

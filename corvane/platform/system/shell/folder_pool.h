@@ -19,7 +19,8 @@ namespace corvane::system {
 class FolderPool {
  public:
   using Folder = std::shared_ptr<PooledFolder>;
-  using FoundName = std::function<void(std::wstring_view name)>;  // valid during the call
+  // The name is valid during the call; whether it is a link's.
+  using FoundName = std::function<void(std::wstring_view name, bool is_link)>;
 
   // `path` is a byte path. Null when it names no folder or one that must not be listed.
   Folder open(const std::string& path);
