@@ -1,18 +1,24 @@
 #include "bench/measure.h"
 
+#include <time.h>
+
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 
 namespace corvane::bench {
 
 namespace {
 
-double milliseconds_of(const std::function<void()>& work) {
-  const auto start = std::chrono::steady_clock::now();
+double milliseconds(Clock clock) {
+  timespec now{};
+  clock_gettime(clock == Clock::wall ? CLOCK_MONOTONIC : CLOCK_PROCESS_CPUTIME_ID, &now);
+  return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
+}
+
+double milliseconds_of(const std::function<void()>& work, Clock clock) {
+  const double start = milliseconds(clock);
   work();
-  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
-      .count();
+  return milliseconds(clock) - start;
 }
 
 std::string with_digits(double value, int digits) {
@@ -37,11 +43,12 @@ Options options_of(int argc, char** argv) {
   return options;
 }
 
-std::vector<Times> interleaved(const std::vector<std::function<void()>>& works, int rounds) {
+std::vector<Times> interleaved(const std::vector<std::function<void()>>& works, int rounds,
+                               Clock clock) {
   std::vector<std::vector<double>> samples(works.size());
   for (int round = 0; round <= rounds; ++round) {
     for (std::size_t i = 0; i < works.size(); ++i) {
-      const double time = milliseconds_of(works[i]);
+      const double time = milliseconds_of(works[i], clock);
       if (round > 0) samples[i].push_back(time);
     }
   }

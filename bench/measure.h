@@ -20,9 +20,14 @@ struct Times {
   double median = 0;
 };
 
+// The processor's time is that of this process: right for work that waits for nothing, on a machine
+// that has other work to do.
+enum class Clock { wall, processor };
+
 // Runs all works in turn, `rounds` times over, so that a slow moment of the machine meets all of
 // them. The first round does not count.
-std::vector<Times> interleaved(const std::vector<std::function<void()>>& works, int rounds);
+std::vector<Times> interleaved(const std::vector<std::function<void()>>& works, int rounds,
+                               Clock clock = Clock::wall);
 
 // One line per benchmark: name value unit ratio limit, with "-" for what does not apply.
 class Report {
