@@ -24,7 +24,7 @@ class CLibraryBrowser {
   corvane::CString Refresh();
   // Marks the picture as the opened one and selects its folder when that lies in the library.
   void MarkOpened(const std::wstring& path);
-  void ScrollTo(const std::wstring& name) { strip_.ScrollToName(name); }
+  void ScrollToNew(const std::wstring& name) { strip_.ScrollToNew(name); }
   // The picture of the current folder that is `step` further than the opened one; empty: none.
   std::wstring PictureFromOpened(int step) const;
   std::wstring ClickedPicture() const { return Folder() + L'\\' + strip_.ClickedName(); }

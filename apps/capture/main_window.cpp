@@ -253,7 +253,7 @@ void CMainWindow::SaveInCurrentFolder(const std::vector<std::uint8_t>& png) {
   }
   last_saved_ = folder + L'\\' + saved.name;
   browser_.Refresh();
-  browser_.ScrollTo(saved.name);
+  browser_.ScrollToNew(saved.name);
   view_.ShowNotice(notice + L"已保存到“" + NameForUser(folder) + L"”：" + saved.name.c_str());
 }
 

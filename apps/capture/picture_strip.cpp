@@ -81,6 +81,12 @@ void CPictureStrip::Mark(const std::wstring& name) {
   ScrollToName(name);
 }
 
+void CPictureStrip::ScrollToNew(const std::wstring& name) {
+  StoreLoaded();
+  cache_.Forget(name);
+  ScrollToName(name);
+}
+
 void CPictureStrip::ScrollToName(const std::wstring& name) {
   layout_.Show(CellOf(name));
   Scrolled();
@@ -105,6 +111,7 @@ void CPictureStrip::RequestThumbnails() {
 }
 
 void CPictureStrip::StoreLoaded() {
+  if (loader_ == nullptr) return;
   SIZE box = layout_.PictureBox();
   for (LoadedThumbnail& loaded : loader_->TakeLoaded()) {
     bool fits = loaded.request.box.cx == box.cx && loaded.request.box.cy == box.cy;
@@ -114,7 +121,6 @@ void CPictureStrip::StoreLoaded() {
 }
 
 LRESULT CPictureStrip::OnThumbnailsLoaded(WPARAM, LPARAM) {
-  if (loader_ == nullptr) return 0;
   StoreLoaded();
   Invalidate(FALSE);
   return 0;

@@ -26,7 +26,8 @@ class CPictureStrip : public corvane::CWnd {
   const std::vector<std::wstring>& names() const { return names_; }
   // Marks the opened picture and scrolls to it; a name that is not there marks none.
   void Mark(const std::wstring& name);
-  void ScrollToName(const std::wstring& name);
+  // Scrolls to a picture that was just written; its thumbnail is made anew.
+  void ScrollToNew(const std::wstring& name);
   const std::wstring& ClickedName() const { return clicked_; }
 
   const CStripLayout& layout() const { return layout_; }
@@ -49,6 +50,7 @@ class CPictureStrip : public corvane::CWnd {
   LRESULT OnThumbnailsLoaded(WPARAM, LPARAM);
 
  private:
+  void ScrollToName(const std::wstring& name);
   int CellOf(const std::wstring& name) const;  // -1: not there
   void Hover(int cell);
   void Scrolled();  // loads what came into view, repaints

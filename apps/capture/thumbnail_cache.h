@@ -15,6 +15,7 @@ class CThumbnailCache {
   const Thumbnail* Find(const std::wstring& name) const;
   // Forgets all but those of these names, which stand in order (StandsBefore).
   void Keep(std::span<const std::wstring> names);
+  void Forget(const std::wstring& name) { thumbnails_.erase(name); }
   void Clear() { thumbnails_.clear(); }
   std::size_t size() const { return thumbnails_.size(); }
 

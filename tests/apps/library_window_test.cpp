@@ -74,6 +74,15 @@ class LibraryWindow : public testing::Test {
     Drag({picture.left + 100, picture.top + 100}, {picture.left + 300, picture.top + 250});
     Click(window_.CropButtonOnScreen(CropCommand::save).CenterPoint());
   }
+  // Null when it is no picture or never comes.
+  Thumbnail WaitForThumbnail(const std::wstring& name) {
+    for (int i = 0; i < 2000; ++i) {
+      HandleWaitingMessages();
+      if (const Thumbnail* found = Strip().thumbnails().Find(name)) return *found;
+      std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+    return nullptr;
+  }
   std::string Notice() const { return native_path(window_.view().notice().AsStdString()).string(); }
   std::string Opened() const { return window_.picture() ? window_.picture()->name() : ""; }
 
@@ -149,6 +158,16 @@ TEST_F(LibraryWindow, ACropGoesIntoTheCurrentFolderAndTheStrip) {
   EXPECT_THAT(Notice(), HasSubstr("page_1.png"));
 }
 
+TEST_F(LibraryWindow, APictureWrittenUnderAFormerNameGetsAThumbnailOfItsOwn) {
+  Start();
+  CropAndSave();
+  Thumbnail former = WaitForThumbnail(L"page_1.png");
+  ASSERT_NE(former, nullptr);
+  std::filesystem::remove(library_ / "page_1.png");
+  CropAndSave();
+  EXPECT_NE(WaitForThumbnail(L"page_1.png"), former);
+}
+
 TEST_F(LibraryWindow, AFolderThatVanishedIsLeftForTheNearestOneAbove) {
   Start();
   DoubleClick(RowOf(L"\\一月"));
@@ -203,17 +222,8 @@ TEST_F(LibraryWindow, ManyPicturesScrollAndOnlyTheNeighbourhoodIsKept) {
   EXPECT_GE(Strip().hovered(), 0);
   for (int i = 0; i < 30; ++i) TurnWheel(strip.CenterPoint(), -40);
   int visible = Strip().layout().Visible().last - Strip().layout().Visible().first;
-  for (int i = 0; i < 2000; ++i) {
-    HandleWaitingMessages();
-    const std::wstring last =
-        std::to_wstring(10000 + Strip().layout().Visible().last - 1) + L".png";
-    if (const Thumbnail* found = Strip().thumbnails().Find(last)) {
-      EXPECT_NE(*found, nullptr);
-      break;
-    }
-    ASSERT_LT(i, 1999) << "what is visible is never loaded";
-    std::this_thread::sleep_for(std::chrono::milliseconds(5));
-  }
+  int last = Strip().layout().Visible().last - 1;
+  EXPECT_NE(WaitForThumbnail(std::to_wstring(10000 + last) + L".png"), nullptr);
   EXPECT_LE(Strip().thumbnails().size(), 3u * static_cast<unsigned>(visible));
   MoveTo({640, 300});
   EXPECT_EQ(Strip().hovered(), -1) << "the pointer has left";
