@@ -1,6 +1,7 @@
 #include "corvane/trees/tree_ctrl_ex2.h"
 
 #include "corvane/platform/framework/paint_dc.h"
+#include "corvane/trees/nearest_int.h"
 #include "corvane/trees/tree_loading.h"
 
 namespace corvane {
@@ -164,7 +165,7 @@ void CTreeCtrlEx2::OnPaint() {
 void CTreeCtrlEx2::DoDraw(HDC dc, CRect rect) {
   if (model_.empty()) return;
   const LONG total = ListSort();
-  const LONG height = rect.bottom - rect.top;
+  const LONG height = nearest_int(static_cast<long long>(rect.bottom) - rect.top);
   const bool overflows = total > height;
   const auto watch = liveness_.watch();
   OpenVscroll(overflows, overflows ? total : 0, overflows ? height : 0);
@@ -178,8 +179,10 @@ int CTreeCtrlEx2::DrawItem(HDC dc, _NODE* node) {
   const int position = ScrollPosition();
   CRect clip;
   ::GetClipBox(dc, clip);
-  for (const _NODE* below :
-       layout_.rows_below(model_, *node, clip.top + position, clip.bottom + position)) {
+  const long long top = clip.top;
+  const long long bottom = clip.bottom;
+  for (const _NODE* below : layout_.rows_below(model_, *node, nearest_int(top + position),
+                                               nearest_int(bottom + position))) {
     DrawRow(dc, *below, position);
   }
   return 1;
@@ -187,7 +190,11 @@ int CTreeCtrlEx2::DrawItem(HDC dc, _NODE* node) {
 
 void CTreeCtrlEx2::DrawRow(HDC dc, const _NODE& node, int position) const {
   CRect row(node.row());
-  row.OffsetRect(0, -position);
+  row.top = nearest_int(static_cast<long long>(row.top) - position);
+  row.bottom = nearest_int(static_cast<long long>(row.bottom) - position);
+  CRect clip;
+  ::GetClipBox(dc, clip);
+  if (row.bottom <= clip.top || row.top >= clip.bottom) return;
   painter_.Draw(dc, node, row, model_.is_path_of(model_.highlight_path(), node));
 }
 

@@ -1,8 +1,6 @@
 // The tree's scroll bar, mouse and keys.
-#include <algorithm>
-#include <limits>
-
 #include "corvane/layers/frame/layer_key_filter.h"
+#include "corvane/trees/nearest_int.h"
 #include "corvane/trees/tree_ctrl_ex2.h"
 
 namespace corvane {
@@ -36,7 +34,7 @@ ScrollState CTreeCtrlEx2::GetScrollState() const {
   state.limit = GetScrollLimit(SB_VERT);
   SCROLLINFO info{};
   info.cbSize = sizeof(info);
-  if (GetScrollInfo(SB_VERT, &info, SIF_ALL)) state.page = static_cast<int>(info.nPage);
+  if (GetScrollInfo(SB_VERT, &info, SIF_ALL)) state.page = nearest_int(info.nPage);
   state.position = ScrollPosition();
   return state;
 }
@@ -58,8 +56,7 @@ BOOL CTreeCtrlEx2::OnMouseWheel(UINT flags, short distance, CPoint screen_point)
 }
 
 POINT CTreeCtrlEx2::ContentPoint(CPoint point) const {
-  const auto y = static_cast<long long>(point.y) + ScrollPosition();
-  return {point.x, static_cast<LONG>(std::min<long long>(y, std::numeric_limits<LONG>::max()))};
+  return {point.x, nearest_int(static_cast<long long>(point.y) + ScrollPosition())};
 }
 
 _NODE* CTreeCtrlEx2::HitTest(CPoint point) { return layout_.node_at(model_, ContentPoint(point)); }

@@ -1,15 +1,17 @@
 #include "corvane/trees/tree_layout.h"
 
 #include <algorithm>
+#include <limits>
 
+#include "corvane/trees/nearest_int.h"
 #include "corvane/trees/tree_walk.h"
 
 namespace corvane {
 namespace {
 
 RECT row_rect(int row, int width) {
-  const auto top = static_cast<LONG>(static_cast<long long>(row) * tree_row_height);
-  return {0, top, width, top + tree_row_height};
+  const long long top = static_cast<long long>(row) * tree_row_height;
+  return {0, nearest_int(top), std::max(width, 0), nearest_int(top + tree_row_height)};
 }
 
 }  // namespace
@@ -36,7 +38,10 @@ int TreeLayout::arrange_below(_NODE* node, int width, int row) {
   if (!node) return row;
   complete_revision_ = 0;
   TreeWalk walk(*node);
-  while (_NODE* below = walk.next()) below->row_ = row_rect(row++, width);
+  while (_NODE* below = walk.next()) {
+    below->row_ = row_rect(row, width);
+    if (row < (std::numeric_limits<int>::max)()) ++row;
+  }
   return row;
 }
 

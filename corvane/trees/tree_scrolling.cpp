@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "corvane/trees/nearest_int.h"
+
 namespace corvane {
 namespace {
 
@@ -10,6 +12,7 @@ constexpr int wheel_units_of_a_pixel = 12;
 }  // namespace
 
 int scrolled_by_bar(UINT code, UINT thumb, const ScrollState& state) {
+  const long long position = state.position;
   const bool can_go_up = state.position > state.minimum;
   const bool can_go_down = state.position < state.limit;
   switch (code) {
@@ -18,9 +21,11 @@ int scrolled_by_bar(UINT code, UINT thumb, const ScrollState& state) {
     case SB_LINEDOWN:
       return can_go_down ? state.position + 1 : state.position;
     case SB_PAGEUP:
-      return can_go_up ? std::max(state.position - state.page, state.minimum) : state.position;
+      return can_go_up ? std::max(nearest_int(position - state.page), state.minimum)
+                       : state.position;
     case SB_PAGEDOWN:
-      return can_go_down ? std::min(state.position + state.page, state.limit) : state.position;
+      return can_go_down ? std::min(nearest_int(position + state.page), state.limit)
+                         : state.position;
     case SB_THUMBPOSITION:
     case SB_THUMBTRACK:
       return static_cast<int>(thumb);
@@ -35,7 +40,9 @@ int scrolled_by_bar(UINT code, UINT thumb, const ScrollState& state) {
 
 int scrolled_by_wheel(short distance, const ScrollState& state) {
   if (state.limit <= state.minimum) return state.position;
-  return std::clamp(state.position - distance / wheel_units_of_a_pixel, state.minimum, state.limit);
+  const long long moved =
+      state.position - static_cast<long long>(distance / wheel_units_of_a_pixel);
+  return std::clamp(nearest_int(moved), state.minimum, state.limit);
 }
 
 }  // namespace corvane

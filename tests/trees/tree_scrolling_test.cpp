@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace corvane_tests {
 namespace {
 
@@ -42,6 +44,16 @@ TEST(TreeScrolling, Wheel) {
         << each.distance << " at " << each.position;
   }
   EXPECT_EQ(corvane::scrolled_by_wheel(-120, {0, 0, 0, 0}), 0) << "nothing to scroll";
+}
+
+TEST(TreeScrolling, EndsOfTheNumbers) {
+  using Limits = std::numeric_limits<int>;
+  const ScrollState first{Limits::min(), Limits::max(), Limits::max(), Limits::min() + 1};
+  const ScrollState last{Limits::min(), Limits::max(), Limits::max(), Limits::max() - 1};
+  EXPECT_EQ(corvane::scrolled_by_bar(SB_PAGEUP, 0, first), first.minimum);
+  EXPECT_EQ(corvane::scrolled_by_bar(SB_PAGEDOWN, 0, last), last.limit);
+  EXPECT_EQ(corvane::scrolled_by_wheel(120, first), first.minimum);
+  EXPECT_EQ(corvane::scrolled_by_wheel(-120, last), last.limit);
 }
 
 }  // namespace

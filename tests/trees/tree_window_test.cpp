@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include <fstream>
+#include <limits>
 
 #include "corvane/layers/frame/layer_messages.h"
 #include "corvane/platform/base_services/system_paths.h"
@@ -309,6 +310,27 @@ TEST_F(TreeWindowTest, ImagesAreDrawnWhateverTheWidthOfTheRows) {
   ::IntersectClipRect(wide, 50, 0, 200, 200);
   tree_.DoDraw(wide, CRect(0, 0, 40, 200));
   EXPECT_EQ(::GetPixel(wide, 60, 45) & 0xFFFFFF, TestSkin::folder);
+}
+
+TEST_F(TreeWindowTest, NothingIsTooFarAway) {
+  using Limits = std::numeric_limits<int>;
+  load();
+  tree_.ClickNode({5, 45}, -1);
+  corvane::CBufferDC buffer;
+  buffer.CreateBufferDC(nullptr, CRect(0, 0, 50, 50));
+  for (int row : {Limits::min(), -1, Limits::max()}) {
+    for (int width : {Limits::min(), Limits::max()}) {
+      tree_.DoDraw(buffer, CRect(0, row, 50, row < 0 ? Limits::max() : -5));
+      const int next = tree_.ListSort(model_root_, width, row);
+      EXPECT_EQ(next, row > 0 ? row : row + 3);
+      for (int position : {Limits::min(), 0, Limits::max()}) {
+        tree_.SetScrollRange(SB_VERT, Limits::min(), Limits::max(), FALSE);
+        tree_.SetScrollPos(SB_VERT, position, FALSE);
+        EXPECT_EQ(tree_.DrawItem(buffer, model_root_), 1);
+        for (int y : {Limits::min(), Limits::max()}) tree_.ClickNode({0, y}, -1);
+      }
+    }
+  }
 }
 
 TEST_F(TreeWindowTest, DeletingRepaintsButOfTheRoot) {
