@@ -66,6 +66,7 @@ void CLibraryBrowser::ShowEntries(const std::wstring& folder) {
 
 void CLibraryBrowser::MarkOpened(const std::wstring& path) {
   opened_ = path;
+  reached_ = path;
   std::wstring folder = FolderOf(path);
   if (folder != Folder() && LiesIn(pane_.root(), folder)) {
     pane_.SetCurrent(folder);
@@ -75,10 +76,10 @@ void CLibraryBrowser::MarkOpened(const std::wstring& path) {
   strip_.Mark(folder == Folder() ? NameOf(path) : std::wstring());
 }
 
-std::wstring CLibraryBrowser::PictureFromOpened(int step) const {
+std::wstring CLibraryBrowser::Neighbour(int step) const {
   std::wstring folder = Folder();
-  bool inside = FolderOf(opened_) == folder;
-  std::wstring name = NameFrom(strip_.names(), inside ? NameOf(opened_) : std::wstring(), step);
+  bool inside = FolderOf(reached_) == folder;
+  std::wstring name = NameFrom(strip_.names(), inside ? NameOf(reached_) : std::wstring(), step);
   return name.empty() ? name : folder + L'\\' + name;
 }
 

@@ -24,9 +24,11 @@ class CLibraryBrowser {
   corvane::CString Refresh();
   // Marks the picture as the opened one and selects its folder when that lies in the library.
   void MarkOpened(const std::wstring& path);
+  void MarkUnreadable(const std::wstring& path) { reached_ = path; }
   void ScrollToNew(const std::wstring& name) { strip_.ScrollToNew(name); }
-  // The picture of the current folder that is `step` further than the opened one; empty: none.
-  std::wstring PictureFromOpened(int step) const;
+  // The picture of the current folder that is `step` further than the last one that was opened or
+  // could not be; empty: none.
+  std::wstring Neighbour(int step) const;
   std::wstring ClickedPicture() const { return Folder() + L'\\' + strip_.ClickedName(); }
 
   CLibraryPane& pane() { return pane_; }
@@ -37,7 +39,8 @@ class CLibraryBrowser {
 
   CLibraryPane pane_;
   CPictureStrip strip_;
-  std::wstring opened_;  // path
+  std::wstring opened_;   // path
+  std::wstring reached_;  // path, opened or unreadable
 };
 
 }  // namespace capture

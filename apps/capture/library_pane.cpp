@@ -17,6 +17,8 @@ using namespace corvane;
 constexpr int kTitleHeight = 40;
 constexpr int kMargin = 10;
 constexpr int kTreeId = 1;
+// The tree finds folders only below one that holds its root; the long form of a drive has one.
+constexpr std::wstring_view kBeforeDrive = L"\\\\?\\";
 
 }  // namespace
 
@@ -38,11 +40,23 @@ bool CLibraryPane::Open(CWnd* parent) {
 void CLibraryPane::SetRoot(const std::wstring& root) {
   root_ = root;
   tree_.SetFolderListing(SortedListing());
-  tree_.SetPath(root.c_str(), nullptr);
+  tree_.SetPath(InTree(root).c_str(), nullptr);
   tree_.Invalidate(FALSE);
 }
 
-void CLibraryPane::SetCurrent(const std::wstring& folder) { tree_.SetCurPath(folder.c_str()); }
+void CLibraryPane::SetCurrent(const std::wstring& folder) {
+  tree_.SetCurPath(InTree(folder).c_str());
+}
+
+std::wstring CLibraryPane::Current() const {
+  std::wstring path = tree_.GetCurPath().AsStdString();
+  bool is_long = IsDrive() && path.starts_with(kBeforeDrive);
+  return is_long ? path.substr(kBeforeDrive.size()) : path;
+}
+
+std::wstring CLibraryPane::InTree(const std::wstring& path) const {
+  return IsDrive() ? std::wstring(kBeforeDrive) + path : path;
+}
 
 void CLibraryPane::LeaveVanishedFolder() {
   std::wstring vanished = Current();
@@ -50,7 +64,7 @@ void CLibraryPane::LeaveVanishedFolder() {
   std::wstring left = Current();
   if (vanished == left || !LiesIn(left, vanished)) return;
   std::size_t end = vanished.find(L'\\', left.size() + 1);
-  tree_.DelNode(vanished.substr(0, end).c_str());
+  tree_.DelNode(InTree(vanished.substr(0, end)).c_str());
 }
 
 void CLibraryPane::SetCount(int pictures) {
@@ -101,7 +115,10 @@ void CLibraryPane::OnSize(UINT kind, int width, int height) {
   if (!client.IsRectEmpty()) buffer_.CreateBufferDC(nullptr, client);
   CRect tree = TreeFrame();
   tree.DeflateRect(1, 1);
-  if (tree_.GetSafeHwnd() != nullptr && !tree.IsRectEmpty()) tree_.MoveWindow(tree);
+  if (tree_.GetSafeHwnd() != nullptr && !tree.IsRectEmpty()) {
+    tree_.MoveWindow(tree);
+    tree_.Invalidate(FALSE);  // all of it: its rows and its bar depend on its size
+  }
   Invalidate(FALSE);
 }
 

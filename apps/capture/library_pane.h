@@ -19,7 +19,7 @@ class CLibraryPane : public corvane::CWnd {
   const std::wstring& root() const { return root_; }
   // Selects the folder, as a click on it does.
   void SetCurrent(const std::wstring& folder);
-  std::wstring Current() const { return tree_.GetCurPath().AsStdString(); }
+  std::wstring Current() const;
   // When the current folder has vanished: takes it out of the tree and selects the nearest folder
   // above it that exists.
   void LeaveVanishedFolder();
@@ -38,6 +38,8 @@ class CLibraryPane : public corvane::CWnd {
 
  private:
   corvane::CRect TreeFrame() const;
+  bool IsDrive() const { return root_.find(L'\\') == std::wstring::npos; }
+  std::wstring InTree(const std::wstring& path) const;  // as the tree names a path
 
   std::wstring root_;
   int count_ = 0;

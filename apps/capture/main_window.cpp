@@ -135,6 +135,7 @@ void CMainWindow::ShowPicture(std::unique_ptr<CPicture> picture) {
 void CMainWindow::OpenPath(const std::wstring& path) {
   std::unique_ptr<CPicture> picture = CPicture::Open(native_path(path).string());
   if (picture == nullptr) {
+    browser_.MarkUnreadable(path);
     view_.ShowNotice(CString(L"无法打开：") + NameForUser(path));
     return;
   }
@@ -142,11 +143,11 @@ void CMainWindow::OpenPath(const std::wstring& path) {
 }
 
 void CMainWindow::OpenNeighbour(int step) {
-  std::wstring path = browser_.PictureFromOpened(step);
+  std::wstring path = browser_.Neighbour(step);
   if (!PathFileExistsW(path.c_str())) {
     CString notice = browser_.Refresh();
     view_.ShowNotice(notice.IsEmpty() ? CString(L"这个文件夹里没有别的图片") : notice);
-    path = browser_.PictureFromOpened(step);
+    path = browser_.Neighbour(step);
   }
   if (!path.empty()) OpenPath(path);
 }

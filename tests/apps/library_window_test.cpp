@@ -11,6 +11,7 @@
 #include "corvane/platform/base_services/installation.h"
 #include "corvane/platform/base_services/system_paths.h"
 #include "corvane/platform/system/display/headless_display.h"
+#include "corvane/platform/system/shell/wide_path.h"
 #include "corvane/platform/system/user/window_system.h"
 #include "tests/apps/temporary_folder.h"
 #include "tests/apps/test_pictures.h"
@@ -166,6 +167,48 @@ TEST_F(LibraryWindow, APictureWrittenUnderAFormerNameGetsAThumbnailOfItsOwn) {
   std::filesystem::remove(library_ / "page_1.png");
   CropAndSave();
   EXPECT_NE(WaitForThumbnail(L"page_1.png"), former);
+}
+
+TEST_F(LibraryWindow, APictureThatCannotBeOpenedIsPassed) {
+  std::ofstream(library_ / "二月" / "1.png") << "no picture";
+  std::filesystem::create_symlink("nowhere", library_ / "二月" / "2.png");
+  WriteTestPicture(library_ / "二月" / "3.png", 100, 100);
+  Start();
+  Click(RowOf(L"\\二月"));
+  for (const char* unreadable : {"1.png", "2.png"}) {
+    ClickButton(ToolbarButton::next);
+    EXPECT_THAT(Notice(), HasSubstr(unreadable));
+    EXPECT_EQ(Opened(), "page.png");
+  }
+  ClickButton(ToolbarButton::next);
+  EXPECT_EQ(Opened(), "3.png");
+  ClickButton(ToolbarButton::previous);
+  EXPECT_THAT(Notice(), HasSubstr("2.png"));
+}
+
+TEST_F(LibraryWindow, ADriveIsALibrary) {
+  ASSERT_TRUE(system::mount_drive(L'Q', library_));
+  Start(library_ / "一月" / "b.png");
+  EXPECT_EQ(window_.browser().Folder(), L"Q:\\一月");
+  CPoint last(120, 2 * kRow + kRow / 2);
+  Tree().ClientToScreen(&last);
+  Click({last.x, last.y + kRow});
+  EXPECT_EQ(window_.browser().Folder(), L"Q:\\二月") << "below the folder in the first one";
+  std::filesystem::remove_all(library_ / "二月");
+  CropAndSave();
+  EXPECT_EQ(window_.browser().Folder(), L"Q:");
+  EXPECT_EQ(window_.last_saved(), L"Q:\\b_1.png");
+  EXPECT_EQ(Tree().ListSort(), 3 * kRow);
+  system::mount_drive(L'Q', "");
+}
+
+TEST_F(LibraryWindow, TheTreesBarFollowsTheWindowsHeight) {
+  Start();
+  for (int height : {200, 800, 200}) {
+    window_.MoveWindow(0, 0, 1280, height);
+    HandleWaitingMessages();
+    EXPECT_EQ((Tree().GetStyle() & WS_VSCROLL) != 0, height == 200);
+  }
 }
 
 TEST_F(LibraryWindow, AFolderThatVanishedIsLeftForTheNearestOneAbove) {
