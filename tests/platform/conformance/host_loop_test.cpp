@@ -144,5 +144,15 @@ TEST_F(HostLoopTest, WindowThatFillsTheScreenFollowsItsSize) {
   EXPECT_EQ(system::color_of(display_->frame().at(399, 249)) & 0xFFFFFF, RGB(255, 255, 255));
 }
 
+// A display that is never smaller than a least size may lose its content all the same.
+TEST_F(HostLoopTest, AResizeToTheSameSizeShowsEverythingAgain) {
+  system_->process_pending();
+  const system::Surface black(300, 200);
+  display_->present(black, system::Region(black.rect()));
+  display_->resize({300, 200});
+  system_->process_pending();
+  EXPECT_EQ(system::color_of(display_->frame().at(20, 20)) & 0xFFFFFF, RGB(255, 255, 255));
+}
+
 }  // namespace
 }  // namespace corvane::conformance

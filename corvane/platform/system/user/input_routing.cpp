@@ -101,11 +101,11 @@ void resize_screen(System& state, SIZE size) {
   if (size.cx <= 0 || size.cy <= 0) return;
   RECT old = state.desktop->frame;
   RECT now{0, 0, size.cx, size.cy};
+  state.frame_damage.unite(now);  // the display may have lost what it showed
   if (EqualRect(&old, &now)) return;
   state.desktop->frame = now;
   state.desktop->client = now;
   state.frame.resize(size.cx, size.cy);
-  state.frame_damage.unite(now);
   std::vector<HWND> filling;
   for (const Window* top : state.desktop->children) {
     if (EqualRect(&top->frame, &old)) filling.push_back(top->handle);
