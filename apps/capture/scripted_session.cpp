@@ -85,8 +85,11 @@ class Session {
     std::wstring outer = FirstFolderIn(window_.browser().pane().root());
     std::wstring inner = FirstFolderIn(outer);
     if (inner.empty()) return;
-    DoubleClick(RowOf(outer));
-    Frame("a double click on a folder shows those in it");
+    const _NODE* node = window_.browser().pane().tree().FindNode(outer.c_str(), nullptr);
+    if (node != nullptr && !node->expanded()) {
+      DoubleClick(RowOf(outer));
+      Frame("a double click on a folder shows those in it");
+    }
     Click(RowOf(inner));
     Frame("a click on a folder shows its pictures");
     CRect strip = OnScreen(window_.browser().strip());
