@@ -4,7 +4,9 @@
 #include <iterator>
 
 #include "corvane/platform/system/user/window_system.h"
+#include "fuzz/made_up_folders.h"
 #include "fuzz/patient_display.h"
+#include "fuzz/tree_play.h"
 
 namespace {
 
@@ -13,6 +15,8 @@ using corvane::AfxRegisterWndClass;
 constexpr RECT kHostPlace{0, 0, 320, 240};
 constexpr RECT kButtonsPlace{0, 0, 320, 76};
 constexpr RECT kCropPlace{0, 76, 320, 240};
+constexpr RECT kTreePlace{200, 20, 310, 220};
+constexpr wchar_t kTreePath[] = L"Q:\\Lib";
 constexpr int kToolbarList = 100;
 constexpr int kButtonIds[] = {1, 4, 6};
 
@@ -73,7 +77,10 @@ std::vector<HWND> all_windows() {
 }  // namespace
 
 FuzzHost::FuzzHost()
-    : class_name_(AfxRegisterWndClass(CS_DBLCLKS, nullptr, CreateSolidBrush(0x808080))) {}
+    : class_name_(AfxRegisterWndClass(CS_DBLCLKS, nullptr, CreateSolidBrush(0x808080))) {
+  tree_.SetFolderListing(std::make_unique<MadeUpListing>());
+  tree_.SetPath(kTreePath, nullptr);
+}
 
 void FuzzHost::open() {
   if (!m_hWnd) {
@@ -89,6 +96,7 @@ void FuzzHost::open() {
     buttons_.CreateEx(0, class_name_, L"buttons", WS_CHILD, kButtonsPlace, this, 1);
     buttons_.ShowWindow(SW_SHOW);
   }
+  if (!tree_.m_hWnd) tree_.Create(nullptr, L"tree", WS_CHILD | WS_VISIBLE, kTreePlace, this, 2);
   if (!crop_.m_hWnd) {
     crop_.SetParentHwnd(m_hWnd);
     crop_.ShowBtn(1);
@@ -110,7 +118,9 @@ const Desktop::Operation Desktop::kOperations[] = {
     &Desktop::run_timer,      &Desktop::show_crop,
     &Desktop::change_buttons, &Desktop::reopen,
     &Desktop::advance_clock,  &Desktop::resize_screen,
-    &Desktop::turn_loop,      &Desktop::take_frame};
+    &Desktop::turn_loop,      &Desktop::take_frame,
+    &Desktop::play_tree,      &Desktop::play_tree,
+    &Desktop::play_tree};
 
 Desktop::Desktop(corvane::system::WindowSystem& system, PatientDisplay& display)
     : system_(system), display_(display) {
@@ -290,6 +300,8 @@ void Desktop::change_buttons(ByteStream& stream) {
   if (stream.below(8) == 0) buttons.DelAllBtn();
   buttons.GetBtnRect(id);
 }
+
+void Desktop::play_tree(ByteStream& stream) { TreePlay(host_.tree()).play_one(stream); }
 
 void Desktop::reopen(ByteStream&) { host_.open(); }
 

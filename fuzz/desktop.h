@@ -7,6 +7,7 @@
 #include "corvane/layers/frame/window_layer.h"
 #include "corvane/platform/framework/framework.h"
 #include "corvane/skin/xml_list_mgr.h"
+#include "corvane/trees/tree_ctrl_ex2.h"
 #include "fuzz/byte_stream.h"
 
 class PatientDisplay;
@@ -24,12 +25,14 @@ class FuzzHost : public corvane::CWnd {
 
   corvane::CWindowLayer& buttons() { return buttons_; }
   corvane::CCutBgLayer& crop() { return crop_; }
+  corvane::CTreeCtrlEx2& tree() { return tree_; }
 
  private:
   const wchar_t* class_name_;
   corvane::CXmlListMgr skin_;
   corvane::CWindowLayer buttons_;
   corvane::CCutBgLayer crop_;
+  corvane::CTreeCtrlEx2 tree_;
 };
 
 class Desktop {
@@ -63,6 +66,7 @@ class Desktop {
   void run_timer(ByteStream& stream);
   void show_crop(ByteStream& stream);
   void change_buttons(ByteStream& stream);
+  void play_tree(ByteStream& stream);
   void reopen(ByteStream& stream);
   void advance_clock(ByteStream& stream);
   void resize_screen(ByteStream& stream);
