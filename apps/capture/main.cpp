@@ -1,4 +1,5 @@
 // corvane-capture [--library FOLDER] [--script FOLDER] [PICTURE]
+#include <csignal>
 #include <cstdio>
 
 #include "apps/capture/launch.h"
@@ -31,6 +32,9 @@ class CCaptureApp : public corvane::CWinApp {
 }  // namespace
 
 int main(int count, char** values) {
+#ifdef SIGXFSZ
+  std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is told like a full disk
+#endif
   capture::Arguments arguments = capture::ParseArguments(count, values);
   if (!arguments.valid) {
     std::fprintf(stderr, "usage: corvane-capture [--library FOLDER] [--script FOLDER] [PICTURE]\n");

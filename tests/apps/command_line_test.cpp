@@ -114,6 +114,19 @@ std::string WholeFile(const std::filesystem::path& path) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
+TEST(ScriptedSession, FilesThatMayNotGrowAreAFailureThatLeavesNothing) {
+  TemporaryFolder folder;
+  WriteTestPicture(folder / "page.png", 300, 200);
+  Outcome outcome =
+      RunCommand("ulimit -f 1; CORVANE_DISPLAY=headless " + kProgram + "--script " +
+                 Quoted(folder / "out") + " " + Quoted(folder / "page.png") + " 2>&1");
+  EXPECT_EQ(outcome.status, 1) << outcome.text;
+  EXPECT_THAT(outcome.text, testing::HasSubstr("cannot write"));
+  for (const auto& entry : std::filesystem::directory_iterator(folder.path())) {
+    EXPECT_THAT(entry.path().filename().string(), testing::AnyOf("page.png", "out"));
+  }
+}
+
 TEST(Skin, TheToolbarsBackgroundIsThePictureThatControl7Names) {
   TemporaryFolder folder;
   std::filesystem::copy(CORVANE_DEFAULT_SKIN, folder / "skin",
