@@ -170,7 +170,10 @@ void CTreeCtrlEx2::DoDraw(HDC dc, CRect rect) {
   const auto watch = liveness_.watch();
   OpenVscroll(overflows, overflows ? total : 0, overflows ? height : 0);
   if (watch.gone() || model_.empty()) return;
-  DrawRow(dc, model_.root(), ScrollPosition());
+  CRect clip;
+  ::GetClipBox(dc, clip);
+  const long long root_bottom = model_.root().row().bottom;
+  if (root_bottom - ScrollPosition() > clip.top) DrawRow(dc, model_.root(), ScrollPosition());
   DrawItem(dc, &model_.root());
 }
 
@@ -192,9 +195,6 @@ void CTreeCtrlEx2::DrawRow(HDC dc, const _NODE& node, int position) const {
   CRect row(node.row());
   row.top = nearest_int(static_cast<long long>(row.top) - position);
   row.bottom = nearest_int(static_cast<long long>(row.bottom) - position);
-  CRect clip;
-  ::GetClipBox(dc, clip);
-  if (row.bottom <= clip.top || row.top >= clip.bottom) return;
   painter_.Draw(dc, node, row, model_.is_path_of(model_.highlight_path(), node));
 }
 

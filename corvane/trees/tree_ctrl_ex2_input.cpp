@@ -28,15 +28,9 @@ void CTreeCtrlEx2::OpenVscroll(int show, int maximum, int page) {
 int CTreeCtrlEx2::ScrollPosition() const { return GetScrollPos(SB_VERT); }
 
 ScrollState CTreeCtrlEx2::GetScrollState() const {
-  ScrollState state;
-  int maximum = 0;
-  GetScrollRange(SB_VERT, &state.minimum, &maximum);
-  state.limit = GetScrollLimit(SB_VERT);
   SCROLLINFO info{};
-  info.cbSize = sizeof(info);
-  if (GetScrollInfo(SB_VERT, &info, SIF_ALL)) state.page = nearest_int(info.nPage);
-  state.position = ScrollPosition();
-  return state;
+  if (!GetScrollInfo(SB_VERT, &info, SIF_ALL)) return {};
+  return {info.nMin, GetScrollLimit(SB_VERT), nearest_int(info.nPage), info.nPos};
 }
 
 void CTreeCtrlEx2::ScrollTo(int position) {

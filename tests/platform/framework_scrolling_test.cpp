@@ -53,17 +53,6 @@ TEST_F(FrameworkScrolling, LimitIsTheLastPositionWithAFullPage) {
   }
 }
 
-TEST_F(FrameworkScrolling, ShowsAndHidesTheBar) {
-  ASSERT_TRUE(window_.create(nullptr, WS_POPUP | WS_VISIBLE));
-  CRect client;
-  window_.ShowScrollBar(SB_VERT);
-  window_.GetClientRect(client);
-  EXPECT_EQ(client.Width(), 200 - 17);
-  window_.ShowScrollBar(SB_VERT, FALSE);
-  window_.GetClientRect(client);
-  EXPECT_EQ(client.Width(), 200);
-}
-
 TEST_F(FrameworkScrolling, WithoutAWindowEverythingFails) {
   SCROLLINFO info{0, SIF_ALL, 0, 9, 1, 3, 0};
   EXPECT_FALSE(window_.SetScrollInfo(SB_VERT, &info));
@@ -78,47 +67,6 @@ TEST_F(FrameworkScrolling, WithoutAWindowEverythingFails) {
   EXPECT_EQ(maximum, 0);
   window_.SetScrollRange(SB_VERT, 0, 5);
   window_.ShowScrollBar(SB_VERT);
-}
-
-// A list that scrolls as its bar says: the bar's messages reach the handler with the position.
-class ScrolledWnd : public WatchedWnd {
- public:
-  const MessageMap* GetMessageMap() const override {
-    static constexpr auto kMessages = MessageTable(On<WM_VSCROLL>(&ScrolledWnd::OnVScroll));
-    static const MessageMap map = kMessages.Extending(WatchedWnd::GetMessageMap());
-    return &map;
-  }
-
- protected:
-  void OnVScroll(UINT code, UINT position, CScrollBar* bar) {
-    EXPECT_EQ(bar, nullptr);
-    if (code == SB_LINEDOWN) SetScrollPos(SB_VERT, GetScrollPos(SB_VERT) + 1);
-    if (code == SB_PAGEDOWN) SetScrollPos(SB_VERT, GetScrollPos(SB_VERT) + 10);
-    if (code == SB_THUMBTRACK) SetScrollPos(SB_VERT, static_cast<int>(position));
-  }
-};
-
-TEST_F(FrameworkScrolling, HandlerScrollsByTheBar) {
-  ScrolledWnd list;
-  ASSERT_TRUE(list.create(nullptr, kBarred));  // its bar: x 283 to 299, y 100 to 249
-  SCROLLINFO info{0, SIF_ALL, 0, 99, 10, 0, 0};
-  list.SetScrollInfo(SB_VERT, &info);
-  const auto click = [&](int y) {
-    desktop_.move_to(290, y);
-    desktop_.button(MOUSEEVENTF_LEFTDOWN);
-    desktop_.button(MOUSEEVENTF_LEFTUP);
-    desktop_.windows.process_pending();
-  };
-  click(245);
-  EXPECT_EQ(list.GetScrollPos(SB_VERT), 1);
-  click(220);
-  EXPECT_EQ(list.GetScrollPos(SB_VERT), 11);
-  desktop_.move_to(290, 140);
-  desktop_.button(MOUSEEVENTF_LEFTDOWN);
-  desktop_.move_to(290, 500);
-  desktop_.button(MOUSEEVENTF_LEFTUP);
-  desktop_.windows.process_pending();
-  EXPECT_EQ(list.GetScrollPos(SB_VERT), 90);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include "corvane/platform/system/user/input_routing.h"
 #include "corvane/platform/system/user/messages.h"
+#include "corvane/platform/system/user/modal_work.h"
 #include "corvane/platform/system/user/presenting.h"
 #include "corvane/platform/system/user/retrieval.h"
 
@@ -35,21 +36,15 @@ class MoveLoop {
 
  private:
   Step take_step() {
-    if (auto message = take_posted(state_, {}, true)) {
-      TranslateMessage(&*message);
-      DispatchMessageW(&*message);
-      return Step::go_on;
-    }
-    poll_display(state_);
-    if (!state_.input.events.empty()) return handle_event();
-    if (state_.queue.take_quit(false)) return Step::done;
-    if (auto message = take_paint(state_, {})) {
-      DispatchMessageW(&*message);
-      return Step::go_on;
-    }
-    if (auto message = take_timer(state_, {}, true)) {
-      DispatchMessageW(&*message);
-      return Step::go_on;
+    switch (work_in_modal_loop(state_)) {
+      case ModalWork::dispatched:
+        return Step::go_on;
+      case ModalWork::input:
+        return handle_event();
+      case ModalWork::quit:
+        return Step::done;
+      case ModalWork::none:
+        break;
     }
     return sleep() ? Step::go_on : Step::done;
   }

@@ -5,6 +5,7 @@
 
 #include "corvane/platform/system/user/input_routing.h"
 #include "corvane/platform/system/user/messages.h"
+#include "corvane/platform/system/user/modal_work.h"
 #include "corvane/platform/system/user/presenting.h"
 #include "corvane/platform/system/user/retrieval.h"
 #include "corvane/platform/system/user/scroll_bars.h"
@@ -112,19 +113,15 @@ class ScrollLoop {
 
   // False: the loop ends.
   bool take_step() {
-    if (auto message = take_posted(state_, {}, true)) {
-      TranslateMessage(&*message);
-      DispatchMessageW(&*message);
-      return true;
-    }
-    poll_display(state_);
-    if (!state_.input.events.empty()) return handle_event();
-    if (state_.queue.take_quit(false)) return false;
-    auto message = take_paint(state_, {});
-    if (!message) message = take_timer(state_, {}, true);
-    if (message) {
-      DispatchMessageW(&*message);
-      return true;
+    switch (work_in_modal_loop(state_)) {
+      case ModalWork::dispatched:
+        return true;
+      case ModalWork::input:
+        return handle_event();
+      case ModalWork::quit:
+        return false;
+      case ModalWork::none:
+        break;
     }
     return repeat() || sleep();
   }
