@@ -30,7 +30,7 @@ function(corvane_test name)
   cmake_parse_arguments(TEST "" "" "SOURCES;ROOMS;LIBRARIES" ${ARGN})
   add_executable(${name} ${TEST_SOURCES})
   list(TRANSFORM TEST_ROOMS PREPEND room_)
-  target_link_libraries(${name} PRIVATE ${TEST_ROOMS} corvane_options GTest::gtest_main
+  target_link_libraries(${name} PRIVATE ${TEST_ROOMS} test_support corvane_options GTest::gtest_main
     GTest::gmock ${TEST_LIBRARIES})
   target_compile_definitions(${name} PRIVATE CORVANE_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
   gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120

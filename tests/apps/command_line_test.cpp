@@ -9,11 +9,13 @@
 #include <iterator>
 
 #include "apps/capture/picture.h"
-#include "tests/apps/temporary_folder.h"
 #include "tests/apps/test_pictures.h"
+#include "tests/support/temporary_folder.h"
 
 namespace capture {
 namespace {
+
+using corvane::test::TemporaryFolder;
 
 struct Outcome {
   int status = -1;

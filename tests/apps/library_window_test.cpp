@@ -13,11 +13,13 @@
 #include "corvane/platform/system/display/headless_display.h"
 #include "corvane/platform/system/shell/wide_path.h"
 #include "corvane/platform/system/user/window_system.h"
-#include "tests/apps/temporary_folder.h"
 #include "tests/apps/test_pictures.h"
+#include "tests/support/temporary_folder.h"
 
 namespace capture {
 namespace {
+
+using corvane::test::TemporaryFolder;
 
 using namespace corvane;
 using testing::ElementsAre;

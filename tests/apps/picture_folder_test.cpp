@@ -7,10 +7,12 @@
 #include <fstream>
 
 #include "corvane/platform/base_services/system_paths.h"
-#include "tests/apps/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace capture {
 namespace {
+
+using corvane::test::TemporaryFolder;
 
 using testing::ElementsAre;
 

@@ -8,11 +8,13 @@
 
 #include "apps/capture/picture_saving.h"
 #include "corvane/platform/base_services/system_paths.h"
-#include "tests/apps/temporary_folder.h"
 #include "tests/apps/test_pictures.h"
+#include "tests/support/temporary_folder.h"
 
 namespace capture {
 namespace {
+
+using corvane::test::TemporaryFolder;
 
 std::vector<std::uint8_t> BytesOf(const std::string& path) {
   std::ifstream file(path, std::ios::binary);

@@ -4,11 +4,13 @@
 
 #include "apps/capture/picture.h"
 #include "tests/apps/desktop_user.h"
-#include "tests/apps/temporary_folder.h"
 #include "tests/apps/test_pictures.h"
+#include "tests/support/temporary_folder.h"
 
 namespace capture {
 namespace {
+
+using corvane::test::TemporaryFolder;
 
 // The screen is 1280 x 800, the toolbar 76 high, the library 260 wide, the strip 144 high; a
 // picture of 800 x 500 stands in the middle of what is left, at its own size.

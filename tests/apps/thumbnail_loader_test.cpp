@@ -9,11 +9,13 @@
 #include <future>
 
 #include "corvane/platform/base_services/system_paths.h"
-#include "tests/apps/temporary_folder.h"
 #include "tests/apps/test_pictures.h"
+#include "tests/support/temporary_folder.h"
 
 namespace capture {
 namespace {
+
+using corvane::test::TemporaryFolder;
 
 using testing::ElementsAre;
 

@@ -10,7 +10,7 @@
 #include "corvane/platform/base_services/paths.h"
 #include "corvane/platform/base_services/system_paths.h"
 #include "corvane/platform/base_services/utf8.h"
-#include "tests/skin/support/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace corvane {
 namespace {
@@ -71,7 +71,7 @@ TEST_F(InstallationPaths, TheDefaultSkinIsFoundNearTheLibraryOrTheProgram) {
       return folder.empty() ? std::filesystem::path() : tree.path() / folder;
     };
     for (const char* const skin : each.skins) {
-      tree.write(std::string(skin) + "/ui_control.xml", "<controls/>");
+      tree.file(std::string(skin) + "/ui_control.xml", "<controls/>");
     }
     const auto found = find_default_skin(below(each.library), below(each.program));
     const auto expected = each.expected ? std::optional(below(each.expected)) : std::nullopt;
@@ -80,7 +80,7 @@ TEST_F(InstallationPaths, TheDefaultSkinIsFoundNearTheLibraryOrTheProgram) {
 }
 
 TEST_F(InstallationPaths, NarrowPathsComeBackAsTheSameFile) {
-  const std::string file = folder_.write("拍照 \xFF\xE9.xml", "x");
+  const std::string file = folder_.file("拍照 \xFF\xE9.xml", "x");
   const auto wide = wide_path_of(file);
   EXPECT_EQ(narrow_path(wide), file);
   EXPECT_TRUE(std::filesystem::exists(native_path(wide)));
@@ -96,16 +96,16 @@ TEST_F(InstallationPaths, APathThatNoFileNameCanHoldIsAnError) {
 TEST_F(InstallationPaths, LanguageTexts) {
   SetSkinFolder(folder_.wide());
   EXPECT_EQ(GetLanguageText(L"move", L"移动到"), L"移动到");
-  folder_.write("texts.txt",
-                "\xEF\xBB\xBF"
-                "first=Number one\r\n"
-                "no equals sign\n"
-                "\n"
-                " move =Move to\\nanother \\\\ place \\t=x\n"
-                "move=second\n"
-                "broken=\xFF\n"
-                "empty=\n"
-                "last=End");
+  folder_.file("texts.txt",
+               "\xEF\xBB\xBF"
+               "first=Number one\r\n"
+               "no equals sign\n"
+               "\n"
+               " move =Move to\\nanother \\\\ place \\t=x\n"
+               "move=second\n"
+               "broken=\xFF\n"
+               "empty=\n"
+               "last=End");
   struct Case {
     const wchar_t* key;
     const wchar_t* expected;

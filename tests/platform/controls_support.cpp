@@ -143,7 +143,7 @@ COLORREF ControlTest::pixel(int x, int y) {
 }
 
 void ControlTest::write_picture(const std::string& name, int width, int height, COLORREF color) {
-  folder_.write("image/" + name, bitmap_file(width, height, color));
+  folder_.file("image/" + name, bitmap_file(width, height, color));
 }
 
 int ControlTest::count_other_than(const CRect& rect, COLORREF color, CRect* bounds) {

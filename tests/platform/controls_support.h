@@ -9,7 +9,7 @@
 #include "corvane/platform/framework/framework.h"
 #include "corvane/platform/system/display/headless_display.h"
 #include "corvane/platform/system/user/window_system.h"
-#include "tests/skin/support/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace corvane::test {
 

@@ -13,7 +13,7 @@
 #include "corvane/platform/system/shell/name_pattern.h"
 #include "corvane/platform/system/shell/shell_api.h"
 #include "corvane/platform/system/shell/wide_path.h"
-#include "tests/platform/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace corvane::system {
 namespace {
@@ -22,7 +22,7 @@ using test::TemporaryFolder;
 using Names = std::set<std::wstring>;
 
 std::wstring in(const TemporaryFolder& folder, const std::wstring& rest) {
-  return wide_path(folder.path()) + L"\\" + rest;
+  return wide_path(folder.path().native()) + L"\\" + rest;
 }
 
 HANDLE first(const std::wstring& pattern, WIN32_FIND_DATAW& data) {
@@ -151,7 +151,7 @@ TEST(FindFiles, DriveRootsHaveNoDots) {
   const TemporaryFolder folder;
   folder.folder("a");
   folder.folder("a/b");
-  ASSERT_TRUE(mount_drive(L'D', folder.path()));
+  ASSERT_TRUE(mount_drive(L'D', folder.path().native()));
   for (const wchar_t* pattern : {L"D:\\*", L"d:*", L"D:/*", L"D:\\\\*", L"\\\\?\\D:\\*"})
     EXPECT_EQ(names(pattern), Names{L"a"}) << testing::PrintToString(pattern);
   EXPECT_EQ(names(L"D:\\a\\*"), (Names{L".", L"..", L"b"}));
@@ -279,7 +279,7 @@ TEST(FindFiles, SizesAndTimes) {
   EXPECT_EQ(whole(data.ftLastAccessTime), 126444736000000000u);
   EXPECT_GT(whole(data.ftCreationTime), 0u);
   EXPECT_EQ(one(in(folder, L"link")).nFileSizeLow, 0u);
-  EXPECT_EQ(one(wide_path(folder.path())).nFileSizeLow, 0u);
+  EXPECT_EQ(one(wide_path(folder.path().native())).nFileSizeLow, 0u);
   if (sparse_unsupported) return;
   const WIN32_FIND_DATAW sparse = one(in(folder, L"large"));
   EXPECT_EQ(whole(sparse.nFileSizeHigh, sparse.nFileSizeLow), large);

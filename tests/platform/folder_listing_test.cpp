@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "corvane/platform/system/shell/wide_path.h"
-#include "tests/platform/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace corvane {
 namespace {
@@ -98,7 +98,7 @@ TEST(FolderListing, EveryNameGoesOutAndBackIn) {
     folder.folder(name + "/inner");
   }
   folder.file("file");
-  const auto outer = opened(folder.path());
+  const auto outer = opened(folder.path().native());
   const std::vector<std::wstring> found = names_in(*outer);
   EXPECT_EQ(found.size(), std::size(names));
   for (const std::string& name : names) {
@@ -115,7 +115,7 @@ TEST(FolderListing, WhatIsNoNameOfASubFolderDoesNotOpen) {
   folder.folder("a");
   folder.folder("a/b");
   folder.file("file");
-  const auto outer = opened(folder.path());
+  const auto outer = opened(folder.path().native());
   const std::wstring too_long(256, L'n');
   for (const std::wstring& name :
        {std::wstring(), std::wstring(L"."), std::wstring(L".."), std::wstring(L"a\\b"),
@@ -140,7 +140,7 @@ TEST(FolderListing, OnePathManySpellings) {
   const TemporaryFolder folder;
   folder.folder("album");
   folder.folder("album/year");
-  ASSERT_TRUE(system::mount_drive(L'D', folder.path()));
+  ASSERT_TRUE(system::mount_drive(L'D', folder.path().native()));
   ASSERT_TRUE(system::mount_drive(L'E', folder / "album"));
   const FolderIdentity album = opened(folder / "album")->Identity();
   for (const wchar_t* path : {L"D:\\album", L"D:\\album\\", L"d:/album", L"D:\\album\\\\",
@@ -169,7 +169,7 @@ TEST(FolderListing, LinksToFoldersAreFolders) {
   folder.link("dangling", "nowhere");
   folder.link("real/inner/up", "..");
   folder.link("itself", "itself");
-  const auto outer = opened(folder.path());
+  const auto outer = opened(folder.path().native());
   EXPECT_EQ(sorted_names_in(*outer),
             (std::vector<std::wstring>{L"real", L"to folder", L"to link"}));
   const auto real = outer->OpenChild(L"real");
@@ -186,7 +186,7 @@ TEST(FolderListing, FollowsTheFileSystemsOrderEveryTime) {
   std::vector<std::wstring> expected;
   for (const auto& entry : std::filesystem::directory_iterator(folder.path()))
     expected.push_back(entry.path().filename().wstring());
-  const auto open_folder = opened(folder.path());
+  const auto open_folder = opened(folder.path().native());
   EXPECT_EQ(names_in(*open_folder), expected);
   EXPECT_EQ(names_in(*open_folder), expected);
 }
@@ -195,7 +195,7 @@ TEST(FolderListing, FolderThatIsGoneOrClosedToUs) {
   const TemporaryFolder folder;
   folder.folder("gone");
   folder.folder("closed");
-  const auto outer = opened(folder.path());
+  const auto outer = opened(folder.path().native());
   const auto gone = outer->OpenChild(L"gone");
   ASSERT_TRUE(gone);
   std::filesystem::remove(folder / "gone");
@@ -213,7 +213,7 @@ TEST(FolderListing, ListsInsideAListing) {
     folder.folder(name);
     make_many(folder, name + std::string("/"));
   }
-  const auto outer = opened(folder.path());
+  const auto outer = opened(folder.path().native());
   std::size_t inner_names = 0;
   std::vector<std::wstring> names;
   EXPECT_TRUE(outer->ListFolders([&](std::wstring_view name, FolderKind) {
@@ -228,7 +228,7 @@ TEST(FolderListing, ListsInsideAListing) {
 TEST(FolderListing, ListingThatThrowsLeavesTheFolderUsable) {
   const TemporaryFolder folder;
   folder.folder("a");
-  const auto outer = opened(folder.path());
+  const auto outer = opened(folder.path().native());
   EXPECT_THROW(outer->ListFolders([](std::wstring_view, FolderKind) { throw 1; }), int);
   EXPECT_EQ(names_in(*outer), std::vector<std::wstring>{L"a"});
 }
@@ -239,7 +239,7 @@ TEST(FolderListing, DeeperThanAnyPath) {
   make_chain(folder, levels);
   const FewDescriptors few(256);
   std::vector<std::unique_ptr<OpenFolder>> all;  // every one of them stays open
-  all.push_back(opened(folder.path()));
+  all.push_back(opened(folder.path().native()));
   while (all.back()) all.push_back(all.back()->OpenChild(L"deep"));
   all.pop_back();
   ASSERT_EQ(all.size(), levels + 1u);
@@ -250,7 +250,7 @@ TEST(FolderListing, DeeperThanAnyPath) {
   std::unique_ptr<OpenFolder> bottom = std::move(all.back());
   all.clear();
   EXPECT_TRUE(names_in(*bottom).empty());
-  std::wstring path = system::wide_path(folder.path());
+  std::wstring path = system::wide_path(folder.path().native());
   for (int level = 0; level < levels; ++level) path += L"\\deep";
   const auto by_path = opened(path);
   ASSERT_TRUE(by_path);
@@ -262,7 +262,7 @@ TEST(FolderListing, FolderOpenedAgainIsTheSameOrNone) {
   folder.folder("kept");
   folder.folder("replaced");
   folder.folder("other");
-  const auto outer = opened(folder.path());
+  const auto outer = opened(folder.path().native());
   const auto kept = outer->OpenChild(L"kept");
   const auto replaced = outer->OpenChild(L"replaced");
   std::vector<std::unique_ptr<OpenFolder>> others;

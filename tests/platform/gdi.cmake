@@ -7,4 +7,4 @@ corvane_test(gdi_test
   ROOMS gdi
   LIBRARIES PkgConfig::IMAGE_LIBS)
 corvane_test(wide_path_test SOURCES wide_path_test.cpp ROOMS shell)
-corvane_test(find_files_test SOURCES find_files_test.cpp temporary_folder.cpp ROOMS shell)
+corvane_test(find_files_test SOURCES find_files_test.cpp ROOMS shell)

@@ -19,13 +19,13 @@ constexpr COLORREF kMain = RGB(10, 20, 30), kDown = RGB(40, 50, 60), kEnd = RGB(
 class SkinControls : public test::ControlTest {
  protected:
   SkinControls() {
-    folder_.write("ui_control.xml", R"(<controls><list id="4">
+    folder_.file("ui_control.xml", R"(<controls><list id="4">
         <control id="1" x="10" y="20" width="30" height="40" image="main.bmp"
                  image-pressed="down.bmp" image-forward="end.bmp" image-backward="end.bmp"
                  caption="1"/>
         <control id="2" x="50" y="20" width="30" height="40" caption="404"/></list></controls>)");
-    folder_.write("ui_language.xml",
-                  R"(<captions><list id="4"><caption id="1" text="保存"/></list></captions>)");
+    folder_.file("ui_language.xml",
+                 R"(<captions><list id="4"><caption id="1" text="保存"/></list></captions>)");
     write_picture("main.bmp", 30, 40, kMain);
     write_picture("down.bmp", 12, 14, kDown);
     write_picture("end.bmp", 8, 10, kEnd);
@@ -79,12 +79,12 @@ TEST_F(SkinControls, CopiesOfAnImageShareThePicture) {
 }
 
 TEST_F(SkinControls, FilesThatAreNoPicturesLeaveNoImage) {
-  folder_.write("image/main.bmp", "BM, but no bitmap");
+  folder_.file("image/main.bmp", "BM, but no bitmap");
   CGdiImage image;
   skin_.LoadGdiImage(image, rect_, 1);
   EXPECT_EQ(image.GetImage(), nullptr);
   EXPECT_EQ(image.Load(nullptr), 0);
-  EXPECT_EQ(image.Load(folder_.wide()), 0);
+  EXPECT_EQ(image.Load(folder_.wide().c_str()), 0);
 }
 
 TEST_F(SkinControls, AButtonGetsItsCaptionRectangleAndId) {

@@ -6,7 +6,7 @@
 #include "corvane/platform/skin_reader/control_mgr.h"
 #include "corvane/platform/skin_reader/language_mgr.h"
 #include "corvane/platform/skin_reader/logfont_mgr.h"
-#include "tests/skin/support/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace corvane {
 namespace {
@@ -25,7 +25,7 @@ class SkinReader : public testing::Test {
   // Reads list 4 of a control file with these contents.
   DWORD read_controls(std::string_view contents) {
     CControlMgr reader;
-    loaded = reader.Load(folder.write("ui_control.xml", contents).c_str());
+    loaded = reader.Load(folder.file("ui_control.xml", contents).c_str());
     return reader.ReadControl(controls.records, 4, &background);
   }
 
@@ -196,7 +196,7 @@ TEST_F(SkinReader, AFileWithOneByteChangedNeverBreaksTheReader) {
       contents[place] = byte;
       OwnedList<_MYCONTROL> list;
       CControlMgr reader;
-      reader.Load(folder.write("changed.xml", contents).c_str());
+      reader.Load(folder.file("changed.xml", contents).c_str());
       const DWORD count = reader.ReadControl(list.records, 4, nullptr);
       ASSERT_EQ(count, list.records.size());
       ASSERT_LE(count, 3u);
@@ -216,7 +216,7 @@ TEST_F(SkinReader, PathsThatNameNoFileGiveNothing) {
 
 TEST_F(SkinReader, AFailedLoadForgetsTheFormerFile) {
   CControlMgr reader;
-  ASSERT_EQ(reader.Load(folder.write("whole.xml", kWholeControl).c_str()), 1);
+  ASSERT_EQ(reader.Load(folder.file("whole.xml", kWholeControl).c_str()), 1);
   ASSERT_EQ(reader.Load("no such file"), 0);
   EXPECT_EQ(reader.ReadControl(controls.records, 4, &background), 0u);
 }
@@ -225,7 +225,7 @@ TEST_F(SkinReader, ACopiedReaderReadsTheSameFile) {
   CControlMgr copy;
   {
     CControlMgr reader;
-    ASSERT_EQ(reader.Load(folder.write("whole.xml", kWholeControl).c_str()), 1);
+    ASSERT_EQ(reader.Load(folder.file("whole.xml", kWholeControl).c_str()), 1);
     copy = reader;
   }
   EXPECT_EQ(copy.ReadControl(controls.records, 4, nullptr), 2u);
@@ -234,7 +234,7 @@ TEST_F(SkinReader, ACopiedReaderReadsTheSameFile) {
 TEST_F(SkinReader, ReadsCaptionsOfOneList) {
   CLanguageMgr reader;
   ASSERT_EQ(reader.Load(folder
-                            .write("ui_language.xml", R"(<captions>
+                            .file("ui_language.xml", R"(<captions>
       <list id="4"><caption id="1" text="保存 &amp; 关闭" font="2"/><caption text="no id"/>
         <caption id="2"/></list>
       <list id="5"><caption id="3" text="other"/></list></captions>)")
@@ -254,10 +254,10 @@ TEST_F(SkinReader, ReadsFontsWithLimits) {
   CLogfontMgr reader;
   const std::string longest(31, 'f');
   ASSERT_EQ(reader.Load(folder
-                            .write("ui_logfont.xml", R"(<fonts>
+                            .file("ui_logfont.xml", R"(<fonts>
       <font id="1" face="黑体" size="14" weight="700" italic="true" underline="1"/>
       <font id="2" size="0" weight="2000" italic="yes" face="f)" +
-                                                         longest + R"("/>
+                                                        longest + R"("/>
       <font id="3" face=")" + longest + R"("/><font face="no id"/></fonts>)")
                             .c_str()),
             1);

@@ -7,7 +7,7 @@
 
 #include "corvane/platform/base_services/installation.h"
 #include "corvane/platform/base_services/system_paths.h"
-#include "tests/skin/support/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace corvane {
 namespace {
@@ -19,16 +19,16 @@ class XmlListMgr : public testing::Test {
  protected:
   XmlListMgr() {
     SetSkinFolder(folder_.wide());
-    folder_.write("ui_control.xml", R"(<controls>
+    folder_.file("ui_control.xml", R"(<controls>
         <list id="4" background="#102030">
           <control id="1" x="1" y="2" width="10" height="20" image="one.png" caption="5"/>
           <control id="2" image="two.png"/><control id="1" x="9" image="later.png"/></list>
         <list id="5"><control id="8"/></list></controls>)");
-    folder_.write("ui_language.xml", R"(<captions>
+    folder_.file("ui_language.xml", R"(<captions>
         <list id="4"><caption id="5" text="保存" font="1"/></list>
         <list id="5"><caption id="5" text="other"/><caption id="6" text="more"/></list>
         </captions>)");
-    folder_.write("ui_logfont.xml", R"(<fonts><font id="1" size="20"/><font id="2"/></fonts>)");
+    folder_.file("ui_logfont.xml", R"(<fonts><font id="1" size="20"/><font id="2"/></fonts>)");
   }
   ~XmlListMgr() override { SetSkinFolder(L""); }
 

@@ -6,8 +6,8 @@
 
 #include "corvane/layers/frame/layer_messages.h"
 #include "corvane/platform/base_services/system_paths.h"
-#include "tests/apps/temporary_folder.h"
 #include "tests/layers/support/layer_test.h"
+#include "tests/support/temporary_folder.h"
 #include "tests/trees/support/scripted_tree.h"
 
 namespace corvane_tests {
@@ -372,7 +372,7 @@ class TreeOnDiskTest : public TreeWindowTest {
     EXPECT_EQ(selections(), ++expected_selections_);
   }
 
-  capture::TemporaryFolder disk_;
+  corvane::test::TemporaryFolder disk_;
   CString root_path_;
   std::size_t expected_selections_ = 0;
 };

@@ -1,4 +1,4 @@
-#include "tests/platform/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 #include <stdlib.h>
@@ -35,7 +35,7 @@ std::vector<fs::path> entries_of(const fs::path& folder) {
   return entries;
 }
 
-void remove_all(const fs::path& top) {
+void remove_tree(const fs::path& top) {
   int moved = 0;
   std::error_code error;
   for (int before = -1; before != moved;) {
@@ -59,21 +59,25 @@ fs::path parent_folder(TemporaryFolder::Place place) {
 
 }  // namespace
 
-TemporaryFolder::TemporaryFolder(Place place)
-    : path_((parent_folder(place) / "corvane-test-XXXXXX").string()) {
-  if (!mkdtemp(path_.data())) throw std::runtime_error("no temporary folder");
+TemporaryFolder::TemporaryFolder(Place place) {
+  std::string pattern = parent_folder(place) / "corvane-test-XXXXXX";
+  if (!mkdtemp(pattern.data())) throw std::runtime_error("no temporary folder");
+  path_ = pattern;
 }
 
-TemporaryFolder::~TemporaryFolder() { remove_all(path_); }
+TemporaryFolder::~TemporaryFolder() { remove_tree(path_); }
 
 void TemporaryFolder::folder(const std::string& name) const {
   EXPECT_TRUE(fs::create_directory(*this / name)) << name;
 }
 
-void TemporaryFolder::file(const std::string& name, const std::string& content) const {
-  std::ofstream file(*this / name, std::ios::binary);
+std::string TemporaryFolder::file(const std::string& name, std::string_view content) const {
+  const fs::path path = *this / name;
+  fs::create_directories(path.parent_path());
+  std::ofstream file(path, std::ios::binary);
   file << content;
   EXPECT_TRUE(file.flush().good()) << name;
+  return path;
 }
 
 void TemporaryFolder::link(const std::string& name, const std::string& target) const {

@@ -1,6 +1,10 @@
 #pragma once
 // A folder of the file system that goes with everything in it.
+#include <filesystem>
 #include <string>
+#include <string_view>
+
+#include "corvane/platform/system/shell/wide_path.h"
 
 namespace corvane::test {
 
@@ -13,17 +17,18 @@ class TemporaryFolder {
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;
   ~TemporaryFolder();
 
-  // Bytes, without a slash at the end.
-  const std::string& path() const { return path_; }
-  std::string operator/(const std::string& name) const { return path_ + "/" + name; }
+  const std::filesystem::path& path() const { return path_; }
+  std::filesystem::path operator/(const std::filesystem::path& name) const { return path_ / name; }
+  std::wstring wide() const { return system::wide_path(path_.native()); }
 
-  // Below the folder; the test fails when it cannot be done.
+  // Below the folder; the test fails when it cannot be done. `file` makes the folders to it, too,
+  // and returns its path.
   void folder(const std::string& name) const;
-  void file(const std::string& name, const std::string& content = {}) const;
+  std::string file(const std::string& name, std::string_view content = {}) const;
   void link(const std::string& name, const std::string& target) const;
 
  private:
-  std::string path_;
+  std::filesystem::path path_;
 };
 
 }  // namespace corvane::test
