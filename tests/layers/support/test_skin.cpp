@@ -1,12 +1,8 @@
 #include "tests/layers/support/test_skin.h"
 
-#include <stdlib.h>
-
-#include <algorithm>
-#include <fstream>
+#include <filesystem>
 #include <iterator>
 #include <sstream>
-#include <stdexcept>
 
 #include "corvane/platform/base_services/installation.h"
 #include "corvane/platform/system/gdi/image_encoder.h"
@@ -21,18 +17,6 @@ constexpr unsigned char clear_picture[] = {
     0x00, 0x1F, 0x15, 0xC4, 0x89, 0x00, 0x00, 0x00, 0x0B, 0x49, 0x44, 0x41, 0x54, 0x78,
     0xDA, 0x63, 0x60, 0x00, 0x02, 0x00, 0x00, 0x05, 0x00, 0x01, 0xE9, 0xFA, 0xDC, 0xD8,
     0x00, 0x00, 0x00, 0x00, 0x49, 0x45, 0x4E, 0x44, 0xAE, 0x42, 0x60, 0x82};
-
-std::filesystem::path make_folder() {
-  std::string pattern = (std::filesystem::temp_directory_path() / "layer_skin_XXXXXX").string();
-  if (!mkdtemp(pattern.data())) throw std::runtime_error("no temporary folder");
-  return pattern;
-}
-
-std::wstring platform_path(const std::filesystem::path& path) {
-  std::wstring text = L"Z:" + path.wstring();
-  std::replace(text.begin(), text.end(), L'/', L'\\');
-  return text;
-}
 
 std::string control(int id, const RECT& rect, const char* image = "") {
   std::ostringstream text;
@@ -55,31 +39,27 @@ std::string crop_controls() {
 
 }  // namespace
 
-TestSkin::TestSkin() : folder_(make_folder()) {
-  write("ui_control.xml",
-        "<controls><list id=\"4\">" + crop_controls() + "</list><list id=\"100\">" +
-            control(11, button_11) + control(12, button_12) + control(13, button_13, "clear.png") +
-            "</list><list id=\"1\"><control id=\"1\" images=\"glyph_{state}.png\"/>"
-            "<control id=\"2\" images=\"folder_{state}.png\"/></list></controls>");
-  write("ui_language.xml", "<captions/>");
-  write("ui_logfont.xml", "<fonts/>");
-  std::filesystem::create_directory(folder_ / "image");
-  write("image/clear.png", {std::begin(clear_picture), std::end(clear_picture)});
+TestSkin::TestSkin() {
+  folder_.file("ui_control.xml",
+               "<controls><list id=\"4\">" + crop_controls() + "</list><list id=\"100\">" +
+                   control(11, button_11) + control(12, button_12) +
+                   control(13, button_13, "clear.png") +
+                   "</list><list id=\"1\"><control id=\"1\" images=\"glyph_{state}.png\"/>"
+                   "<control id=\"2\" images=\"folder_{state}.png\"/></list></controls>");
+  folder_.file("ui_language.xml", "<captions/>");
+  folder_.file("ui_logfont.xml", "<fonts/>");
+  folder_.file("image/clear.png", std::string(std::begin(clear_picture), std::end(clear_picture)));
   write_image("image/glyph_normal.png", collapsed_glyph);
   write_image("image/glyph_selected.png", expanded_glyph);
   write_image("image/folder_normal.png", folder);
   write_image("image/folder_selected.png", highlighted_folder);
-  corvane::SetSkinFolder(platform_path(folder_).c_str());
+  corvane::SetSkinFolder(folder_.wide().c_str());
 }
 
-TestSkin::~TestSkin() {
-  corvane::SetSkinFolder(L"");
-  std::error_code ignored;
-  std::filesystem::remove_all(folder_, ignored);
-}
+TestSkin::~TestSkin() { corvane::SetSkinFolder(L""); }
 
 void TestSkin::remove_files() {
-  for (const auto& entry : std::filesystem::directory_iterator(folder_)) {
+  for (const auto& entry : std::filesystem::directory_iterator(folder_.path())) {
     std::filesystem::remove_all(entry.path());
   }
 }
@@ -88,11 +68,7 @@ void TestSkin::write_image(const char* name, COLORREF color) const {
   using namespace corvane::system;
   const Surface surface(30, 30, 0xFF000000 | pixel_of(color));
   const auto bytes = encode_png(surface, surface.rect());
-  write(name, {bytes.begin(), bytes.end()});
-}
-
-void TestSkin::write(const char* name, const std::string& text) const {
-  std::ofstream(folder_ / name, std::ios::binary) << text;
+  folder_.file(name, std::string(bytes.begin(), bytes.end()));
 }
 
 }  // namespace corvane_tests

@@ -1,10 +1,10 @@
 #pragma once
 // A skin in a temporary folder, in force for as long as the object lives. Most of its
 // buttons have no images: only their places count.
-#include <filesystem>
 #include <string>
 
 #include "corvane/platform/platform.h"
+#include "tests/support/temporary_folder.h"
 
 namespace corvane_tests {
 
@@ -34,9 +34,8 @@ class TestSkin {
 
  private:
   void write_image(const char* name, COLORREF color) const;
-  void write(const char* name, const std::string& text) const;
 
-  std::filesystem::path folder_;
+  corvane::test::TemporaryFolder folder_;
 };
 
 }  // namespace corvane_tests
