@@ -25,14 +25,25 @@ function(corvane_room name)
   set_property(GLOBAL APPEND PROPERTY CORVANE_ROOMS room_${name})
 endfunction()
 
-# corvane_test(NAME SOURCES file... ROOMS room... [LIBRARIES library...])
+# corvane_test(NAME SOURCES file... ROOMS room... [LIBRARIES library...] [TIMEOUT seconds] [XVFB])
+# One program with all its cases, in a new order at every run. XVFB: its windows are real ones, on a
+# virtual X server.
 function(corvane_test name)
-  cmake_parse_arguments(TEST "" "" "SOURCES;ROOMS;LIBRARIES" ${ARGN})
+  cmake_parse_arguments(TEST "XVFB" "TIMEOUT" "SOURCES;ROOMS;LIBRARIES" ${ARGN})
   add_executable(${name} ${TEST_SOURCES})
   list(TRANSFORM TEST_ROOMS PREPEND room_)
   target_link_libraries(${name} PRIVATE ${TEST_ROOMS} test_support corvane_options GTest::gtest_main
     GTest::gmock ${TEST_LIBRARIES})
-  target_compile_definitions(${name} PRIVATE CORVANE_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
-  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120
-    ENVIRONMENT "CORVANE_DISPLAY=headless")
+  set(display headless)
+  set(server "")
+  if(TEST_XVFB)
+    set(display sdl)
+    set(server ${PROJECT_SOURCE_DIR}/scripts/with-xvfb)
+  endif()
+  if(NOT TEST_TIMEOUT)
+    set(TEST_TIMEOUT 240)
+  endif()
+  add_test(NAME ${name} COMMAND ${server} $<TARGET_FILE:${name}> --gtest_shuffle --gtest_brief=1)
+  set_tests_properties(${name} PROPERTIES TIMEOUT ${TEST_TIMEOUT}
+    ENVIRONMENT "CORVANE_DISPLAY=${display}")
 endfunction()

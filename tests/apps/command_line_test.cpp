@@ -9,7 +9,9 @@
 #include <iterator>
 
 #include "apps/capture/picture.h"
+#include "tests/apps/capture_program.h"
 #include "tests/apps/test_pictures.h"
+#include "tests/support/source_folder.h"
 #include "tests/support/temporary_folder.h"
 
 namespace capture {
@@ -35,7 +37,7 @@ Outcome RunCommand(const std::string& command) {
 
 std::string Quoted(const std::filesystem::path& path) { return "'" + path.string() + "'"; }
 
-const std::string kProgram = std::string("'") + CORVANE_CAPTURE + "' ";
+const std::string kProgram = Quoted(capture_program()) + " ";
 
 TEST(CommandLine, APictureThatCannotBeOpenedGivesOneLineAndStatus2) {
   TemporaryFolder folder;
@@ -74,8 +76,10 @@ TEST(CommandLine, ALibraryThatCannotBeOpenedGivesOneLineAndStatus2) {
 }
 
 TEST(CommandLine, ADesktopThatCannotBeReachedIsSaid) {
-  Outcome outcome = RunCommand("CORVANE_DISPLAY=sdl WAYLAND_DISPLAY= DISPLAY=:no-such-server " +
-                               kProgram + "'" CORVANE_SAMPLE "' 2>&1 >/dev/null");
+  Outcome outcome =
+      RunCommand("CORVANE_DISPLAY=sdl WAYLAND_DISPLAY= DISPLAY=:no-such-server " + kProgram +
+                 Quoted(corvane::test::source_folder() / "apps/capture/sample/sample_page.jpg") +
+                 " 2>&1 >/dev/null");
   EXPECT_EQ(outcome.status, 1);
   EXPECT_THAT(outcome.text, testing::EndsWith("corvane: the native desktop cannot be reached\n"));
 }
@@ -131,7 +135,7 @@ TEST(ScriptedSession, FilesThatMayNotGrowAreAFailureThatLeavesNothing) {
 
 TEST(Skin, TheToolbarsBackgroundIsThePictureThatControl7Names) {
   TemporaryFolder folder;
-  std::filesystem::copy(CORVANE_DEFAULT_SKIN, folder / "skin",
+  std::filesystem::copy(corvane::test::source_folder() / "skins/default", folder / "skin",
                         std::filesystem::copy_options::recursive);
   std::string controls = WholeFile(folder / "skin" / "ui_control.xml");
   const std::string named = "toolbar_bg.png";

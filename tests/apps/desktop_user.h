@@ -7,7 +7,7 @@
 #include <string>
 
 #include "corvane/platform/platform.h"
-#include "tests/platform/x_client.h"
+#include "tests/platform/display/x_client.h"
 
 namespace capture {
 

@@ -14,6 +14,7 @@
 #include "corvane/platform/system/shell/wide_path.h"
 #include "corvane/platform/system/user/window_system.h"
 #include "tests/apps/test_pictures.h"
+#include "tests/support/source_folder.h"
 #include "tests/support/temporary_folder.h"
 
 namespace capture {
@@ -30,7 +31,7 @@ constexpr int kRow = 30;  // height of a tree's row
 class LibraryWindow : public testing::Test {
  protected:
   LibraryWindow() {
-    SetSkinFolder(wide_path_of(CORVANE_DEFAULT_SKIN));
+    SetSkinFolder(wide_path_of(corvane::test::source_folder() / "skins/default"));
     std::filesystem::create_directories(library_ / "一月" / "上旬");
     std::filesystem::create_directories(library_ / "二月");
     WriteTestPicture(library_ / "page.png", 600, 400);

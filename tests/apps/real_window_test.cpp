@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "apps/capture/picture.h"
+#include "tests/apps/capture_program.h"
 #include "tests/apps/desktop_user.h"
 #include "tests/apps/test_pictures.h"
 #include "tests/support/temporary_folder.h"
@@ -44,7 +45,7 @@ class RealWindow : public testing::Test {
     WriteTestPicture(folder_ / "page.png", 800, 500);
     std::filesystem::create_directory(folder_ / "名片");
     WriteTestPicture(folder_ / "名片" / "card.png", 400, 300);
-    user_.emplace(CORVANE_CAPTURE, folder_ / "page.png");
+    user_.emplace(capture_program(), folder_ / "page.png");
     ASSERT_TRUE(user_->SeesWindow("page.png — 800 × 500 — Corvane"));
     ASSERT_TRUE(user_->SeesPixel({640, 400}, Original({640, 400})));
   }

@@ -10,6 +10,7 @@
 
 #include "corvane/platform/base_services/system_paths.h"
 #include "tests/apps/test_pictures.h"
+#include "tests/support/source_folder.h"
 #include "tests/support/temporary_folder.h"
 
 namespace capture {
@@ -137,7 +138,8 @@ TEST(ThumbnailLoader, DecodesRealPicturesBesideTheUserInterface) {
     WriteTestPicture(folder / name, 300 + i, 200);
     requests.push_back({wide_folder, corvane::wide_path_of(name), {90, 90}});
   }
-  std::filesystem::copy(CORVANE_SAMPLE, folder / "7.jpg");
+  std::filesystem::copy(corvane::test::source_folder() / "apps/capture/sample/sample_page.jpg",
+                        folder / "7.jpg");
   requests.push_back({wide_folder, L"7.jpg", {90, 90}});
   std::ofstream(folder / "broken.png") << "no picture";
   requests.push_back({wide_folder, L"broken.png", {90, 90}});

@@ -9,15 +9,14 @@
 #include "corvane/platform/images/gdi_image.h"
 #include "corvane/platform/system/gdi/surface.h"
 #include "corvane/skin/xml_list_mgr.h"
+#include "tests/support/source_folder.h"
 
 namespace corvane {
 namespace {
 
 class DefaultSkin : public testing::Test {
  protected:
-  DefaultSkin() {
-    SetSkinFolder(wide_path_of(std::filesystem::path(CORVANE_SOURCE_DIR) / "skins/default"));
-  }
+  DefaultSkin() { SetSkinFolder(wide_path_of(test::source_folder() / "skins/default")); }
   ~DefaultSkin() override { SetSkinFolder(L""); }
 };
 

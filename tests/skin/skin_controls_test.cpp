@@ -8,7 +8,7 @@
 #include "corvane/platform/controls/list_tab.h"
 #include "corvane/platform/controls/picture_ex.h"
 #include "corvane/skin/xml_list_mgr.h"
-#include "tests/platform/controls_support.h"
+#include "tests/platform/controls/control_test.h"
 
 namespace corvane {
 namespace {

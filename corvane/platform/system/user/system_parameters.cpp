@@ -1,7 +1,7 @@
 // SystemParametersInfoW and the other facts about the system.
 #include <thread>
 
-#include "corvane/platform/system/user/scroll_bars.h"
+#include "corvane/platform/system/user/scroll_bars/scroll_bars.h"
 
 namespace corvane_system {
 using namespace corvane::system;

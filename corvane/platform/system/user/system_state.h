@@ -7,11 +7,11 @@
 #include <vector>
 
 #include "corvane/platform/system/gdi/gdi.h"
-#include "corvane/platform/system/user/input_state.h"
-#include "corvane/platform/system/user/message_queue.h"
-#include "corvane/platform/system/user/timer_list.h"
-#include "corvane/platform/system/user/window.h"
+#include "corvane/platform/system/user/input/input_state.h"
+#include "corvane/platform/system/user/messages/message_queue.h"
+#include "corvane/platform/system/user/messages/timer_list.h"
 #include "corvane/platform/system/user/window_system.h"
+#include "corvane/platform/system/user/windows/window.h"
 
 namespace corvane::system {
 

@@ -1,11 +1,11 @@
 #include "corvane/platform/system/user/window_system.h"
 
-#include "corvane/platform/system/user/destroy_window.h"
-#include "corvane/platform/system/user/presenting.h"
-#include "corvane/platform/system/user/retrieval.h"
+#include "corvane/platform/system/user/messages/get_message.h"
+#include "corvane/platform/system/user/painting/presenting.h"
 #include "corvane/platform/system/user/system_registry.h"
 #include "corvane/platform/system/user/system_state.h"
-#include "corvane/platform/system/user/window_tree_text.h"
+#include "corvane/platform/system/user/windows/destroy_window.h"
+#include "corvane/platform/system/user/windows/window_tree_text.h"
 
 namespace corvane::system {
 namespace {

@@ -1,0 +1,84 @@
+// Key events: to the focus window, or to the active one as system keys.
+#include "corvane/platform/system/user/input/input_routing.h"
+#include "corvane/platform/system/user/input/key_characters.h"
+#include "corvane/platform/system/user/messages/send_message.h"
+
+namespace corvane::system {
+namespace {
+
+constexpr LPARAM kWasDown = LPARAM{1} << 30;
+constexpr LPARAM kReleased = LPARAM{1} << 31;
+constexpr LPARAM kAltDown = LPARAM{1} << 29;
+
+bool alt_down(const System& state) { return state.input.keys_retrieved[VK_MENU]; }
+
+LPARAM key_lparam(const System& state, const InputEvent& event, bool was_down) {
+  LPARAM value = 1;
+  if (was_down) value |= kWasDown;
+  if (!event.down) value |= kWasDown | kReleased;
+  if (!event.makes_char) value |= kTextFollows;
+  if (alt_down(state)) value |= kAltDown;
+  return value;
+}
+
+}  // namespace
+
+void route_key(System& state, const InputEvent& event) {
+  auto slot = static_cast<std::size_t>(event.virtual_key & 0xFF);
+  bool was_down = state.input.keys_retrieved[slot];
+  state.input.keys_retrieved[slot] = event.down;
+  bool system_key = state.input.focus == nullptr || alt_down(state) || event.virtual_key == VK_MENU;
+  HWND target = state.input.focus != nullptr ? state.input.focus : state.input.active;
+  if (state.find(target) == nullptr) return;
+  UINT message = event.down ? (system_key ? WM_SYSKEYDOWN : WM_KEYDOWN)
+                            : (system_key ? WM_SYSKEYUP : WM_KEYUP);
+  append_routed(state, target, message, static_cast<WPARAM>(event.virtual_key & 0xFF),
+                key_lparam(state, event, was_down));
+}
+
+void route_text(System& state, const InputEvent& event) {
+  HWND target = state.input.focus != nullptr ? state.input.focus : state.input.active;
+  UINT message = state.input.focus != nullptr ? WM_CHAR : WM_SYSCHAR;
+  for (wchar_t letter : event.text) {
+    append_routed(state, target, message, static_cast<WPARAM>(letter), 1);
+  }
+}
+
+}  // namespace corvane::system
+
+namespace corvane_system {
+using namespace corvane::system;
+
+BOOL TranslateMessage(const MSG* message) {
+  System* state = corvane::system::system();
+  if (state == nullptr || message == nullptr) return FALSE;
+  bool system_key = message->message == WM_SYSKEYDOWN;
+  if (message->message != WM_KEYDOWN && !system_key) {
+    return message->message == WM_KEYUP || message->message == WM_SYSKEYUP;
+  }
+  if ((message->lParam & kTextFollows) != 0) return TRUE;
+  const auto& keys = state->input.keys_retrieved;
+  KeyModifiers modifiers{keys[VK_SHIFT], keys[VK_CONTROL]};
+  wchar_t letter = key_character(static_cast<int>(message->wParam), modifiers);
+  if (letter != 0) {
+    post(message->hwnd, system_key ? WM_SYSCHAR : WM_CHAR, static_cast<WPARAM>(letter),
+         message->lParam);
+  }
+  return TRUE;
+}
+
+SHORT GetKeyState(int virtual_key) {
+  System* state = corvane::system::system();
+  if (state == nullptr || virtual_key < 0 || virtual_key > 255) return 0;
+  bool down = state->input.keys_retrieved[static_cast<std::size_t>(virtual_key)];
+  return static_cast<SHORT>(down ? 0x8000 : 0);
+}
+
+SHORT GetAsyncKeyState(int virtual_key) {
+  System* state = corvane::system::system();
+  if (state == nullptr || virtual_key < 0 || virtual_key > 255) return 0;
+  bool down = state->input.keys_now[static_cast<std::size_t>(virtual_key)];
+  return static_cast<SHORT>(down ? 0x8000 : 0);
+}
+
+}  // namespace corvane_system

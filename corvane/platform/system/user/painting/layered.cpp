@@ -1,0 +1,103 @@
+// SetLayeredWindowAttributes and UpdateLayeredWindow.
+#include <algorithm>
+
+#include "corvane/platform/system/user/windows/window_geometry.h"
+
+namespace corvane_system {
+using namespace corvane::system;
+
+namespace {
+
+bool usable(HWND window) {
+  Window* found = checked(window);
+  if (found == nullptr) return false;
+  if (found->is_layered()) return true;
+  SetLastError(ERROR_INVALID_PARAMETER);
+  return false;
+}
+
+// Copies the program's pixels into a new surface of the window. What lies beyond them is clear.
+void take_content(Window& window, const Surface& pixels, POINT from, SIZE size) {
+  auto content = std::make_shared<Surface>(size.cx, size.cy);
+  int first = std::max<int>(0, -from.x);
+  int last = std::min<int>(size.cx, pixels.width() - from.x);
+  std::vector<Pixel> scratch;
+  for (int y = 0; y < size.cy && first < last; ++y) {
+    const Pixel* row = pixels.read_row(from.y + y, scratch);
+    if (row != nullptr)
+      std::copy(row + from.x + first, row + from.x + last, content->row(y) + first);
+  }
+  window.surface = std::move(content);
+}
+
+void place(Window& window, const POINT* position, SIZE size) {
+  POINT corner = position == nullptr ? POINT{window.frame.left, window.frame.top} : *position;
+  window.frame = {corner.x, corner.y, corner.x + size.cx, corner.y + size.cy};
+  window.client = window.frame;
+}
+
+}  // namespace
+
+BOOL SetLayeredWindowAttributes(HWND window, COLORREF key, BYTE alpha, DWORD flags) {
+  if (!usable(window)) return FALSE;
+  Window* found = find(window);
+  if (found->layered.content) {
+    SetLastError(ERROR_INVALID_PARAMETER);
+    return FALSE;
+  }
+  found->layered.attributes = true;
+  found->layered.key = key;
+  found->layered.flags = flags;
+  found->layered.keyed = (flags & LWA_COLORKEY) != 0;
+  found->layered.alpha = (flags & LWA_ALPHA) != 0 ? alpha : BYTE{255};
+  damage_frame(*corvane::system::system(), *found);
+  return TRUE;
+}
+
+BOOL GetLayeredWindowAttributes(HWND window, COLORREF* key, BYTE* alpha, DWORD* flags) {
+  Window* found = checked(window);
+  if (found == nullptr || !found->layered.attributes) return FALSE;
+  if (key != nullptr) *key = found->layered.key;
+  if (alpha != nullptr) *alpha = found->layered.alpha;
+  if (flags != nullptr) *flags = found->layered.flags;
+  return TRUE;
+}
+
+BOOL UpdateLayeredWindow(HWND window, HDC, POINT* position, SIZE* size, HDC source,
+                         POINT* source_point, COLORREF key, BLENDFUNCTION* blend, DWORD flags) {
+  if (!usable(window)) return FALSE;
+  Window* found = find(window);
+  bool sized =
+      size == nullptr || (size->cx > 0 && size->cy > 0 && size->cx <= 32767 && size->cy <= 32767);
+  bool supplied = source == nullptr || (size != nullptr && source_point != nullptr);
+  if (found->layered.attributes || !sized || !supplied) {
+    SetLastError(ERROR_INVALID_PARAMETER);
+    return FALSE;
+  }
+  System& state = *corvane::system::system();
+  POINT origin{};
+  std::shared_ptr<Surface> pixels = state.gdi.dc_surface(source, &origin);
+  if (source != nullptr && pixels == nullptr) {
+    SetLastError(ERROR_INVALID_HANDLE);
+    return FALSE;
+  }
+  damage_frame(state, *found);
+  SIZE extent = size == nullptr ? SIZE{found->width(), found->height()} : *size;
+  place(*found, position, extent);
+  if (pixels != nullptr) {
+    auto bounded = [](LONG value) { return std::clamp<LONG>(value, -100000, 100000); };
+    POINT from{origin.x + bounded(source_point->x), origin.y + bounded(source_point->y)};
+    take_content(*found, *pixels, from, extent);
+  }
+  LayeredState& layered = found->layered;
+  layered.content = true;
+  layered.keyed = (flags & ULW_COLORKEY) != 0;
+  layered.key = key;
+  bool blends = (flags & ULW_ALPHA) != 0 && blend != nullptr;
+  layered.alpha = blends ? blend->SourceConstantAlpha : BYTE{255};
+  layered.pixel_alpha = blends && (blend->AlphaFormat & AC_SRC_ALPHA) != 0;
+  damage_frame(state, *found);
+  return TRUE;
+}
+
+}  // namespace corvane_system

@@ -1,0 +1,178 @@
+#include "corvane/platform/system/user/painting/painting.h"
+
+#include <algorithm>
+
+#include "corvane/platform/system/user/messages/send_message.h"
+#include "corvane/platform/system/user/scroll_bars/scroll_bars.h"
+#include "corvane/platform/system/user/scroll_bars/scroll_painting.h"
+
+namespace corvane::system {
+namespace {
+
+// A region of many small pieces costs more than painting its bounds.
+constexpr int kMostPieces = 64;
+
+// A window whose pixels the program supplies is never asked to paint.
+bool records_updates(const Window& window) {
+  if (window.layered.content) return false;
+  for (const Window* it = &window; it->parent != nullptr; it = it->parent) {
+    if (!it->redraw) return false;
+  }
+  return shown_on_screen(window);
+}
+
+void add_to_update(Window& window, const Region& region, bool erase) {
+  window.update.unite(region);
+  if (window.update.count() > kMostPieces) window.update = Region(window.update.bounds());
+  window.needs_paint = true;
+  window.needs_erase = window.needs_erase || erase;
+}
+
+void invalidate_child(Window& child, Region region, bool erase, Children children) {
+  if ((child.style & WS_VISIBLE) == 0) return;
+  region.intersect(child.frame);
+  if (region.empty()) return;
+  region.translate(-child.client.left, -child.client.top);
+  expose(child, region, erase, children);
+}
+
+bool touches_bars(const Window& window, const Region& region) {
+  return region.intersects(bar_rect(window, ScrollAxis::vertical)) ||
+         region.intersects(bar_rect(window, ScrollAxis::horizontal)) ||
+         region.intersects(bar_corner(window));
+}
+
+Window* first_invalid(Window& window) {
+  if (window.needs_paint || bars_pending(window)) return &window;
+  for (Window* child : window.children) {
+    if (Window* found = first_invalid(*child)) return found;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+void invalidate(Window& window, const Region& region, bool erase, Children children) {
+  if (window.parent == nullptr || !records_updates(window)) return;
+  Region own = region;
+  own.intersect(window.client_area());
+  if (own.empty()) return;
+  bool clips_children = (window.style & WS_CLIPCHILDREN) != 0;
+  bool descend =
+      children == Children::always || (children == Children::by_style && !clips_children);
+  if (descend) {
+    for (Window* child : std::vector<Window*>(window.children)) {
+      invalidate_child(*child, own, true, children);
+    }
+  }
+  if (clips_children) {
+    for (const Window* child : window.children) {
+      if ((child->style & WS_VISIBLE) != 0) own.subtract(child->frame);
+    }
+  }
+  add_to_update(window, own, erase);
+}
+
+void expose(Window& window, const Region& region, bool erase, Children children) {
+  window.bars_due = window.bars_due || touches_bars(window, region);
+  invalidate(window, region, erase, children);
+}
+
+void invalidate_all(Window& window, bool erase) {
+  window.bars_due = true;
+  invalidate(window, Region(window.client_area()), erase, Children::always);
+}
+
+void invalidate_uncovered(Window& parent, const RECT& screen_rect) {
+  if (parent.parent == nullptr) return;
+  POINT origin = client_origin(parent);
+  RECT local = screen_rect;
+  OffsetRect(&local, -origin.x, -origin.y);
+  // Also the siblings below: whether the parent clips its children or not, somebody draws there.
+  invalidate(parent, Region(local), true, Children::always);
+}
+
+void validate(Window& window, const Region& region) {
+  window.update.subtract(region);
+  if (!window.update.empty()) return;
+  window.needs_paint = false;
+  window.needs_erase = false;
+}
+
+void erase_now(HWND window) {
+  Window* found = find(window);
+  if (found == nullptr || !found->needs_erase || found->update.empty()) return;
+  System& state = *system();
+  HDC dc = open_window_dc(*found, &found->update, Area::client);
+  LRESULT erased = send(window, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc));
+  state.gdi.close_dc(dc);
+  found = find(window);
+  if (found != nullptr) found->needs_erase = found->needs_erase && erased == 0;
+}
+
+void update_now(HWND window) {
+  Window* found = find(window);
+  if (found == nullptr) return;
+  if (bars_pending(*found)) paint_bars(*found);
+  if (found->needs_paint) send(window, WM_PAINT);
+  found = find(window);
+  if (found == nullptr) return;
+  std::vector<HWND> children;
+  for (const Window* child : found->children) children.push_back(child->handle);
+  for (HWND child : children) update_now(child);
+}
+
+Window* next_to_paint(System& state, HWND within) {
+  if (within != nullptr) {
+    Window* window = state.find(within);
+    return window == nullptr ? nullptr : first_invalid(*window);
+  }
+  for (Window* window : state.desktop->children) {
+    if (Window* found = first_invalid(*window)) return found;
+  }
+  return nullptr;
+}
+
+bool bars_pending(const Window& window) { return window.bars_due && records_updates(window); }
+
+bool paints_pending(System& state) { return next_to_paint(state, nullptr) != nullptr; }
+
+Region visible_region(Window& window, Area area) {
+  if (window.parent == nullptr || !records_updates(window)) return Region();
+  Region region(area == Area::frame ? frame_on_screen(window) : client_on_screen(window));
+  Window* owner = surface_owner(window);
+  for (Window* it = &window; it != owner; it = it->parent) {
+    region.intersect(client_on_screen(*it->parent));
+    if ((it->style & WS_CLIPSIBLINGS) == 0) continue;
+    for (const Window* sibling : it->parent->children) {
+      if (sibling == it) break;
+      if ((sibling->style & WS_VISIBLE) != 0) region.subtract(frame_on_screen(*sibling));
+    }
+  }
+  if ((window.style & WS_CLIPCHILDREN) != 0) {
+    for (const Window* child : window.children) {
+      if ((child->style & WS_VISIBLE) != 0) region.subtract(frame_on_screen(*child));
+    }
+  }
+  RECT base = frame_on_screen(*owner);
+  region.translate(-base.left, -base.top);
+  return region;
+}
+
+HDC open_window_dc(Window& window, const Region* clip, Area area) {
+  System& state = *system();
+  Window* owner = surface_owner(window);
+  if (owner->surface == nullptr) return nullptr;
+  RECT base = frame_on_screen(*owner);
+  RECT drawn = area == Area::frame ? frame_on_screen(window) : client_on_screen(window);
+  POINT origin{drawn.left - base.left, drawn.top - base.top};
+  Region visible = visible_region(window, area);
+  if (clip != nullptr) {
+    Region limited = *clip;
+    limited.translate(origin.x, origin.y);
+    visible.intersect(limited);
+  }
+  return state.gdi.open_dc(owner->surface, origin, visible);
+}
+
+}  // namespace corvane::system

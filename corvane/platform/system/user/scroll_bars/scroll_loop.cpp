@@ -1,0 +1,245 @@
+#include "corvane/platform/system/user/scroll_bars/scroll_loop.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "corvane/platform/system/user/input/input_routing.h"
+#include "corvane/platform/system/user/messages/get_message.h"
+#include "corvane/platform/system/user/messages/send_message.h"
+#include "corvane/platform/system/user/modal/modal_loop.h"
+#include "corvane/platform/system/user/painting/presenting.h"
+#include "corvane/platform/system/user/scroll_bars/scroll_bars.h"
+
+namespace corvane::system {
+namespace {
+
+constexpr std::uint64_t kFirstRepeat = 250;  // milliseconds from the press
+constexpr std::uint64_t kNextRepeat = 50;
+// A thumb whose pointer is further than this from the bar's side goes back to where it was.
+constexpr int kFarAside = 6 * kBarThickness;
+
+UINT code_of(ScrollPart part) {
+  switch (part) {
+    case ScrollPart::line_back:
+      return SB_LINEUP;
+    case ScrollPart::page_back:
+      return SB_PAGEUP;
+    case ScrollPart::page_forward:
+      return SB_PAGEDOWN;
+    case ScrollPart::line_forward:
+      return SB_LINEDOWN;
+    default:
+      return SB_THUMBTRACK;
+  }
+}
+
+class ScrollLoop {
+ public:
+  ScrollLoop(System& state, HWND window, ScrollAxis axis, POINT press)
+      : state_(state), window_(window), axis_(axis), press_(press), pointer_(press) {}
+
+  void run() {
+    part_ = part_at(press_);
+    if (part_ == ScrollPart::none) return;
+    SetCapture(window_);
+    begin();
+    bool running = true;
+    while (running && held()) running = take_step();
+    finish();
+  }
+
+ private:
+  // The window while it has the bar; null otherwise.
+  Window* shown() const {
+    Window* found = state_.find(window_);
+    if (found == nullptr) return nullptr;
+    RECT bar = bar_rect(*found, axis_);
+    return IsRectEmpty(&bar) ? nullptr : found;
+  }
+
+  // Somebody else may have taken the button's release, or the capture.
+  bool held() const {
+    return shown() != nullptr && state_.input.capture == window_ &&
+           state_.input.keys_retrieved[VK_LBUTTON];
+  }
+
+  RECT bar_on_screen(const Window& window) const {
+    RECT bar = bar_rect(window, axis_);
+    POINT origin = client_origin(window);
+    OffsetRect(&bar, origin.x, origin.y);
+    return bar;
+  }
+
+  int along(const RECT& bar, POINT point) const {
+    return axis_ == ScrollAxis::vertical ? point.y - bar.top : point.x - bar.left;
+  }
+
+  ScrollPart part_at(POINT point) const {
+    Window* found = shown();
+    if (found == nullptr || found->bar(axis_).disabled) return ScrollPart::none;
+    RECT bar = bar_on_screen(*found);
+    if (!PtInRect(&bar, point)) return ScrollPart::none;
+    return bar_layout(*found, axis_).part_at(along(bar, point));
+  }
+
+  bool far_aside(const RECT& bar, POINT point) const {
+    RECT near = bar;
+    bool vertical = axis_ == ScrollAxis::vertical;
+    InflateRect(&near, vertical ? kFarAside : 0, vertical ? 0 : kFarAside);
+    return vertical ? point.x < near.left || point.x >= near.right
+                    : point.y < near.top || point.y >= near.bottom;
+  }
+
+  void tell(UINT code, int position) {
+    UINT message = axis_ == ScrollAxis::vertical ? WM_VSCROLL : WM_HSCROLL;
+    send(window_, message, MAKEWPARAM(code, static_cast<WORD>(position)), 0);
+  }
+
+  void begin() {
+    Window* found = shown();
+    if (found == nullptr) return;
+    ScrollBarState& bar = found->bar(axis_);
+    bar.pressed = part_;
+    found->bars_due = true;
+    if (part_ != ScrollPart::thumb) {
+      next_repeat_ = state_.now() + kFirstRepeat;
+      tell(code_of(part_), 0);
+      return;
+    }
+    start_ = {bar_layout(*found, axis_).thumb.begin, bar.model ? bar.model->position : 0};
+    bar.drag = start_;
+    tell(SB_THUMBTRACK, start_.position);
+  }
+
+  // False: the loop ends.
+  bool take_step() {
+    switch (work_in_modal_loop(state_)) {
+      case ModalWork::dispatched:
+        return true;
+      case ModalWork::input:
+        return handle_event();
+      case ModalWork::quit:
+        return false;
+      case ModalWork::none:
+        break;
+    }
+    return repeat() || sleep();
+  }
+
+  bool handle_event() {
+    InputEvent event = state_.input.events.front();
+    state_.input.events.pop_front();
+    switch (event.kind) {
+      case InputKind::mouse_button:
+        state_.input.keys_retrieved[static_cast<std::size_t>(event.button & 0xFF)] = event.down;
+        if (event.position.x != pointer_.x || event.position.y != pointer_.y) {
+          follow(event.position);
+        }
+        released_ = event.button == VK_LBUTTON && !event.down;
+        return !released_;
+      case InputKind::mouse_move:
+        follow(event.position);
+        return true;
+      case InputKind::mouse_wheel:
+      case InputKind::mouse_leave:
+        return true;
+      default:
+        return handle_other(event);
+    }
+  }
+
+  // Keys wait until the bar is let go; Escape gives up.
+  bool handle_other(const InputEvent& event) {
+    if (event.kind == InputKind::key && event.down && event.virtual_key == VK_ESCAPE) {
+      if (part_ == ScrollPart::thumb) drag_to(start_);
+      released_ = true;
+      return false;
+    }
+    state_.input.events.push_front(event);
+    route_next_event(state_);
+    return true;
+  }
+
+  void follow(POINT pointer) {
+    pointer_ = pointer;
+    state_.input.routed_pointer = pointer;
+    Window* found = shown();
+    if (found == nullptr) return;
+    if (part_ == ScrollPart::thumb) {
+      drag_to(drag_for(*found, pointer));
+      return;
+    }
+    ScrollPart seen = part_at(pointer) == part_ ? part_ : ScrollPart::none;
+    found->bars_due = found->bars_due || found->bar(axis_).pressed != seen;
+    found->bar(axis_).pressed = seen;
+  }
+
+  // Where the thumb is and what it means when the pointer is there.
+  ThumbDrag drag_for(const Window& window, POINT pointer) const {
+    const auto& model = window.bar(axis_).model;
+    RECT bar = bar_on_screen(window);
+    if (!model || far_aside(bar, pointer)) return start_;
+    int travel = along(bar, pointer) - along(bar, press_);
+    ScrollLayout layout = dragged_bar_layout(window, axis_, start_.begin + travel);
+    // Several positions may share a pixel: a thumb that is where it was means what it meant.
+    if (layout.thumb.begin == start_.begin) return start_;
+    return {layout.thumb.begin, position_of_thumb(*model, layout)};
+  }
+
+  void drag_to(ThumbDrag drag) {
+    Window* found = shown();
+    if (found == nullptr) return;
+    found->bar(axis_).drag = drag;
+    found->bars_due = true;
+    tell(SB_THUMBTRACK, drag.position);
+  }
+
+  bool repeats() const { return part_ != ScrollPart::thumb && part_at(pointer_) == part_; }
+
+  bool repeat() {
+    if (!repeats() || state_.now() < next_repeat_) return false;
+    tell(code_of(part_), 0);
+    next_repeat_ = state_.now() + kNextRepeat;
+    return true;
+  }
+
+  bool sleep() {
+    if (!repeats()) return sleep_until_work(state_);
+    present_now(state_);
+    std::uint64_t next = state_.timers.next_due().value_or(next_repeat_);
+    return state_.display->wait(std::min(next, next_repeat_));
+  }
+
+  void finish() {
+    if (state_.input.capture == window_) ReleaseCapture();
+    Window* found = state_.find(window_);
+    if (found != nullptr && found->bar(axis_).drag && released_) {
+      tell(SB_THUMBPOSITION, found->bar(axis_).drag->position);
+      found = state_.find(window_);
+    }
+    if (found == nullptr) return;
+    found->bar(axis_).pressed = ScrollPart::none;
+    found->bar(axis_).drag.reset();
+    found->bars_due = true;
+    tell(SB_ENDSCROLL, 0);
+  }
+
+  System& state_;
+  HWND window_;
+  ScrollAxis axis_;
+  POINT press_;
+  POINT pointer_;
+  ScrollPart part_ = ScrollPart::none;
+  ThumbDrag start_;
+  std::uint64_t next_repeat_ = 0;
+  bool released_ = false;
+};
+
+}  // namespace
+
+void run_scroll_loop(HWND window, ScrollAxis axis, POINT press) {
+  System* state = system();
+  if (state != nullptr) ScrollLoop(*state, window, axis, press).run();
+}
+
+}  // namespace corvane::system

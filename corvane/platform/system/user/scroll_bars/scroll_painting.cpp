@@ -1,0 +1,141 @@
+#include "corvane/platform/system/user/scroll_bars/scroll_painting.h"
+
+#include <cmath>
+#include <initializer_list>
+
+#include "corvane/platform/system/user/painting/painting.h"
+#include "corvane/platform/system/user/scroll_bars/scroll_bars.h"
+
+namespace corvane::system {
+namespace {
+
+constexpr COLORREF kTrack = RGB(0xF0, 0xF2, 0xF4);
+constexpr COLORREF kTrackPressed = RGB(0xE2, 0xE6, 0xEA);
+constexpr COLORREF kThumb = RGB(0xBF, 0xC5, 0xCC);
+constexpr COLORREF kThumbPressed = RGB(0x87, 0x90, 0x9A);
+constexpr COLORREF kArrow = RGB(0x6B, 0x74, 0x7E);
+constexpr COLORREF kArrowPressed = RGB(0x33, 0x3B, 0x44);
+constexpr COLORREF kArrowDisabled = RGB(0xC9, 0xCE, 0xD4);
+
+// Pixels across and along the bar.
+constexpr ScrollSpan kThumbAcross{4, 13};
+constexpr int kThumbGap = 1;
+constexpr int kTriangleHeight = 4;
+
+COLORREF mixed(COLORREF under, COLORREF over, double share) {
+  auto channel = [&](int shift) {
+    double low = (under >> shift) & 0xFF;
+    double high = (over >> shift) & 0xFF;
+    return static_cast<COLORREF>(std::lround(low + (high - low) * share)) << shift;
+  };
+  return channel(0) | channel(8) | channel(16);
+}
+
+// How much of a pixel lies within a circle; the pixel's middle is `distance` from the centre.
+double coverage(double distance, double radius) {
+  double share = radius - distance + 0.5;
+  return share < 0 ? 0 : share > 1 ? 1 : share;
+}
+
+class BarPainter {
+ public:
+  BarPainter(HDC dc, const RECT& bar, ScrollAxis axis) : dc_(dc), bar_(bar), axis_(axis) {}
+
+  void fill(ScrollSpan along, ScrollSpan across, COLORREF color) const {
+    RECT rect = axis_ == ScrollAxis::vertical
+                    ? RECT{across.begin, along.begin, across.end, along.end}
+                    : RECT{along.begin, across.begin, along.end, across.end};
+    OffsetRect(&rect, bar_.left, bar_.top);
+    HBRUSH brush = CreateSolidBrush(color);
+    FillRect(dc_, &rect, brush);
+    DeleteObject(brush);
+  }
+  void fill(ScrollSpan along, COLORREF color) const { fill(along, {0, kBarThickness}, color); }
+
+  // A bar with half circles for ends.
+  void fill_round(ScrollSpan along, ScrollSpan across, COLORREF color, COLORREF under) const {
+    fill(along, across, color);
+    double radius = across.length() / 2.0;
+    int reach = across.length() / 2;
+    for (int depth = 0; depth <= reach && depth < along.length(); ++depth) {
+      for (int place = across.begin; place < across.end; ++place) {
+        double aside = place + 0.5 - (across.begin + radius);
+        double share = coverage(std::hypot(depth + 0.5 - radius, aside), radius);
+        if (depth + 0.5 >= radius || share >= 1) continue;
+        COLORREF edge = mixed(under, color, share);
+        ScrollSpan pixel{place, place + 1};
+        fill({along.begin + depth, along.begin + depth + 1}, pixel, edge);
+        fill({along.end - depth - 1, along.end - depth}, pixel, edge);
+      }
+    }
+  }
+
+  // A triangle in the middle of an arrow's span that points back (to 0) or forward.
+  void triangle(ScrollSpan arrow, bool forward, COLORREF color) const {
+    int begin = arrow.begin + (arrow.length() - kTriangleHeight) / 2;
+    int middle = kBarThickness / 2;
+    for (int row = 0; row < kTriangleHeight; ++row) {
+      int half = forward ? kTriangleHeight - 1 - row : row;
+      fill({begin + row, begin + row + 1}, {middle - half, middle + half + 1}, color);
+    }
+  }
+
+ private:
+  HDC dc_;
+  RECT bar_;
+  ScrollAxis axis_;
+};
+
+void draw_arrow(const BarPainter& painter, const ScrollBarState& bar, ScrollPart part,
+                ScrollSpan span) {
+  if (span.length() < kTriangleHeight) return;
+  bool pressed = bar.pressed == part;
+  COLORREF color = bar.disabled ? kArrowDisabled : pressed ? kArrowPressed : kArrow;
+  painter.triangle(span, part == ScrollPart::line_forward, color);
+}
+
+void draw_bar(const Window& window, ScrollAxis axis, HDC dc, RECT rect) {
+  const ScrollBarState& bar = window.bar(axis);
+  ScrollLayout layout = bar_layout(window, axis);
+  BarPainter painter(dc, rect, axis);
+  painter.fill({0, layout.line_forward.end}, kTrack);
+  if (bar.pressed != ScrollPart::none && bar.pressed != ScrollPart::thumb) {
+    painter.fill(layout.span_of(bar.pressed), kTrackPressed);
+  }
+  draw_arrow(painter, bar, ScrollPart::line_back, layout.line_back);
+  draw_arrow(painter, bar, ScrollPart::line_forward, layout.line_forward);
+  ScrollSpan thumb{layout.thumb.begin + kThumbGap, layout.thumb.end - kThumbGap};
+  if (thumb.length() <= 0) return;
+  COLORREF color = bar.pressed == ScrollPart::thumb ? kThumbPressed : kThumb;
+  painter.fill_round(thumb, kThumbAcross, color, kTrack);
+}
+
+void fill_corner(HDC dc, const RECT& corner) {
+  HBRUSH brush = CreateSolidBrush(kTrack);
+  FillRect(dc, &corner, brush);
+  DeleteObject(brush);
+}
+
+}  // namespace
+
+void paint_bars(Window& window) {
+  window.bars_due = false;
+  if (window.layered.content) return;
+  HDC dc = nullptr;
+  POINT client{window.client.left - window.frame.left, window.client.top - window.frame.top};
+  for (ScrollAxis axis : {ScrollAxis::horizontal, ScrollAxis::vertical}) {
+    RECT rect = bar_rect(window, axis);
+    if (IsRectEmpty(&rect)) continue;
+    if (dc == nullptr) dc = open_window_dc(window, nullptr, Area::frame);
+    if (dc == nullptr) return;
+    OffsetRect(&rect, client.x, client.y);
+    draw_bar(window, axis, dc, rect);
+  }
+  if (dc == nullptr) return;
+  RECT corner = bar_corner(window);
+  OffsetRect(&corner, client.x, client.y);
+  fill_corner(dc, corner);
+  system()->gdi.close_dc(dc);
+}
+
+}  // namespace corvane::system

@@ -1,0 +1,147 @@
+// CreateWindowExW: the order of messages a window is born with.
+#include <algorithm>
+
+#include "corvane/platform/system/user/messages/send_message.h"
+#include "corvane/platform/system/user/windows/destroy_window.h"
+#include "corvane/platform/system/user/windows/window_classes.h"
+#include "corvane/platform/system/user/windows/window_geometry.h"
+#include "corvane/platform/system/user/windows/z_order.h"
+
+namespace corvane_system {
+using namespace corvane::system;
+
+namespace {
+
+constexpr int kFarthest = 0x3FFFFFF;
+constexpr int kLargest = 32767;
+
+// The window that a pop-up created with this parent is owned by.
+HWND owner_for(HWND parent) {
+  Window* found = find(parent);
+  return found == nullptr || found->parent == nullptr ? nullptr : top_level_of(*found)->handle;
+}
+
+RECT initial_frame(const System& state, const CREATESTRUCTW& create) {
+  bool default_place = create.x == CW_USEDEFAULT;
+  bool default_size = create.cx == CW_USEDEFAULT;
+  int x = default_place ? 0 : std::clamp(create.x, -kFarthest, kFarthest);
+  int y = default_place ? 0 : std::clamp(create.y, -kFarthest, kFarthest);
+  int width = default_size ? state.frame.width() : std::clamp(create.cx, 0, kLargest);
+  int height = default_size ? state.frame.height() : std::clamp(create.cy, 0, kLargest);
+  return {x, y, x + width, y + height};
+}
+
+// The checks that refuse a creation; sets the error code.
+bool creatable(const std::shared_ptr<WindowClass>& window_class, DWORD style, HWND parent) {
+  DWORD error = ERROR_SUCCESS;
+  if (window_class == nullptr) {
+    error = ERROR_CLASS_DOES_NOT_EXIST;
+  } else if ((style & WS_CHILD) != 0 && parent == nullptr) {
+    error = ERROR_TLW_WITH_WSCHILD;
+  } else if (parent != nullptr && find(parent) == nullptr) {
+    error = ERROR_INVALID_WINDOW_HANDLE;
+  } else if (Window* found = find(parent); found != nullptr && found->destroying) {
+    error = ERROR_INVALID_WINDOW_HANDLE;
+  }
+  if (error != ERROR_SUCCESS) SetLastError(error);
+  return error == ERROR_SUCCESS;
+}
+
+Window& add_record(System& state, std::shared_ptr<WindowClass> window_class,
+                   const CREATESTRUCTW& create) {
+  auto record = std::make_unique<Window>();
+  Window& window = *record;
+  window.handle = state.new_handle();
+  window.procedure = window_class->procedure;
+  window.extra.resize(static_cast<std::size_t>(window_class->window_extra));
+  window.window_class = std::move(window_class);
+  window.style = static_cast<DWORD>(create.style) & ~WS_VISIBLE;
+  window.ex_style = create.dwExStyle;
+  window.id = reinterpret_cast<UINT_PTR>(create.hMenu);
+  window.instance = create.hInstance;
+  window.frame = initial_frame(state, create);
+  window.client = window.frame;
+  state.windows[window.handle] = std::move(record);
+  state.queue.add_window(window.handle);
+  return window;
+}
+
+void link(System& state, Window& window, HWND parent) {
+  if (window.is_child()) {
+    insert_child(*state.find(parent), window);
+  } else {
+    window.style |= WS_CLIPSIBLINGS;
+    window.owner = owner_for(parent);
+    insert_top_level(state, window);
+  }
+  if (is_top_level(window) || window.is_layered()) {
+    window.surface = std::make_shared<Surface>(window.width(), window.height());
+  }
+}
+
+void discard(HWND window) {
+  if (find(window) == nullptr) return;
+  finish_destruction(window);
+}
+
+// WM_NCCREATE to WM_MOVE; false when the window was refused or destroyed.
+bool bring_to_life(HWND window, CREATESTRUCTW& create) {
+  auto lparam = reinterpret_cast<LPARAM>(&create);
+  bool captioned = find(window)->has_caption();
+  if (captioned) {
+    MINMAXINFO info{};
+    send(window, WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&info));
+  }
+  if (find(window) == nullptr) return false;
+  if (send(window, WM_NCCREATE, 0, lparam) == 0) {
+    discard(window);
+    return false;
+  }
+  if (find(window) == nullptr) return false;
+  calculate_first_client(window);
+  if (find(window) == nullptr) return false;
+  if (send(window, WM_CREATE, 0, lparam) == -1) {
+    discard(window);
+    return false;
+  }
+  Window* found = find(window);
+  if (found == nullptr) return false;
+  if (captioned) {
+    found->first_size_due = true;
+    return true;
+  }
+  send(window, WM_SIZE, SIZE_RESTORED, client_size_lparam(*found));
+  found = find(window);
+  if (found != nullptr) send(window, WM_MOVE, 0, client_position_lparam(*found));
+  return find(window) != nullptr;
+}
+
+}  // namespace
+
+HWND CreateWindowExW(DWORD ex_style, LPCWSTR class_name, LPCWSTR window_name, DWORD style, int x,
+                     int y, int width, int height, HWND parent, HMENU menu_or_id,
+                     HINSTANCE instance, LPVOID parameter) {
+  System* state = corvane::system::system();
+  if (state == nullptr) return nullptr;
+  auto window_class = find_class(*state, class_name);
+  if (!creatable(window_class, style, parent)) return nullptr;
+  CREATESTRUCTW create{
+      parameter,   instance,   menu_or_id, parent, height, width, y, x, static_cast<LONG>(style),
+      window_name, class_name, ex_style};
+  Window& record = add_record(*state, window_class, create);
+  link(*state, record, parent);
+  HWND window = record.handle;
+  if (!ask_creation_hooks(window, create)) {
+    if (find(window) != nullptr) forget_window(window);
+    return nullptr;
+  }
+  if (find(window) == nullptr || !bring_to_life(window, create)) return nullptr;
+  if ((style & WS_CHILD) != 0) {
+    WPARAM what = MAKEWPARAM(WM_CREATE, static_cast<DWORD_PTR>(GetDlgCtrlID(window)));
+    notify_parents(window, what, [window](HWND) { return reinterpret_cast<LPARAM>(window); });
+  }
+  if ((style & WS_VISIBLE) != 0 && find(window) != nullptr) ShowWindow(window, SW_SHOW);
+  return find(window) == nullptr ? nullptr : window;
+}
+
+}  // namespace corvane_system

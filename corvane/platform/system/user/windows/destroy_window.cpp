@@ -1,0 +1,128 @@
+#include "corvane/platform/system/user/windows/destroy_window.h"
+
+#include <algorithm>
+
+#include "corvane/platform/system/user/input/activation.h"
+#include "corvane/platform/system/user/messages/send_message.h"
+#include "corvane/platform/system/user/windows/show_window.h"
+#include "corvane/platform/system/user/windows/z_order.h"
+
+namespace corvane::system {
+namespace {
+
+std::vector<HWND> children_of(HWND window) {
+  std::vector<HWND> handles;
+  if (Window* found = find(window)) {
+    for (const Window* child : found->children) handles.push_back(child->handle);
+  }
+  return handles;
+}
+
+void destroy_owned_windows(HWND window) {
+  std::vector<HWND> owned;
+  for (const Window* top : system()->desktop->children) {
+    if (top->owner == window) owned.push_back(top->handle);
+  }
+  for (HWND handle : owned) {
+    if (find(handle) != nullptr) DestroyWindow(handle);
+  }
+}
+
+void hide_before_destruction(HWND window) {
+  Window* found = find(window);
+  if (found == nullptr || (found->style & WS_VISIBLE) == 0) return;
+  if (found->is_child()) send(window, WM_SHOWWINDOW, FALSE, 0);
+  found = find(window);
+  if (found == nullptr) return;
+  UINT flags = SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_HIDEWINDOW;
+  WINDOWPOS position{window,          nullptr, found->frame.left, found->frame.top, found->width(),
+                     found->height(), flags};
+  bool tell = shown_on_screen(*found);
+  if (tell) send(window, WM_WINDOWPOSCHANGING, 0, reinterpret_cast<LPARAM>(&position));
+  make_hidden(window);
+  position.flags |= SWP_NOCLIENTMOVE | SWP_NOCLIENTSIZE;
+  if (tell) send(window, WM_WINDOWPOSCHANGED, 0, reinterpret_cast<LPARAM>(&position));
+}
+
+void release_focus_of(HWND window) {
+  System& state = *system();
+  Window* found = state.find(window);
+  Window* focus = state.find(state.input.focus);
+  if (found == nullptr || focus == nullptr) return;
+  if (focus == found) {
+    bool to_parent = found->is_child() && can_take_focus(*found->parent);
+    change_focus(to_parent ? found->parent->handle : nullptr);
+  } else if (is_descendant(*found, *focus)) {
+    state.input.focus = nullptr;
+  }
+}
+
+void send_destroy(HWND window) {
+  if (Window* found = find(window)) found->destroying = true;
+  send(window, WM_DESTROY);
+  for (HWND child : children_of(window)) send_destroy(child);
+}
+
+void finish_with_children(HWND window) {
+  for (HWND child : children_of(window)) finish_with_children(child);
+  if (find(window) != nullptr) finish_destruction(window);
+}
+
+void forget_input(System& state, HWND window) {
+  InputState& input = state.input;
+  std::erase_if(input.routed, [window](const MSG& message) { return message.hwnd == window; });
+  for (HWND* slot : {&input.capture, &input.focus, &input.active, &input.tracked_for_leave,
+                     &input.pointer_window, &input.last_press.window}) {
+    if (*slot == window) *slot = nullptr;
+  }
+}
+
+}  // namespace
+
+void finish_destruction(HWND window) {
+  send(window, WM_NCDESTROY);
+  forget_window(window);
+}
+
+void forget_window(HWND window) {
+  System& state = *system();
+  Window* found = state.find(window);
+  if (found == nullptr) return;
+  for (HWND child : children_of(window)) forget_window(child);
+  if (shown_on_screen(*found)) state.frame_damage.unite(frame_on_screen(*found));
+  state.timers.remove_window(window);
+  state.queue.remove_window(window);
+  forget_input(state, window);
+  unlink(*found);
+  state.windows.erase(window);
+}
+
+}  // namespace corvane::system
+
+namespace corvane_system {
+using namespace corvane::system;
+
+BOOL DestroyWindow(HWND window) {
+  Window* found = checked(window);
+  if (found == nullptr) return FALSE;
+  if (found->parent == nullptr || found->destroying) {
+    SetLastError(ERROR_ACCESS_DENIED);
+    return FALSE;
+  }
+  found->destroying = true;
+  if (found->is_child()) {
+    WPARAM what = MAKEWPARAM(WM_DESTROY, static_cast<DWORD_PTR>(GetDlgCtrlID(window)));
+    notify_parents(window, what, [window](HWND) { return reinterpret_cast<LPARAM>(window); });
+  }
+  hide_before_destruction(window);
+  destroy_owned_windows(window);
+  activate_next_after(window);
+  release_focus_of(window);
+  send_destroy(window);
+  finish_with_children(window);
+  return TRUE;
+}
+
+BOOL IsWindow(HWND window) { return find(window) != nullptr; }
+
+}  // namespace corvane_system

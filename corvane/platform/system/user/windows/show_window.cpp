@@ -1,0 +1,156 @@
+#include "corvane/platform/system/user/windows/show_window.h"
+
+#include "corvane/platform/system/user/input/activation.h"
+#include "corvane/platform/system/user/messages/send_message.h"
+#include "corvane/platform/system/user/painting/painting.h"
+#include "corvane/platform/system/user/windows/window_geometry.h"
+#include "corvane/platform/system/user/windows/z_order.h"
+
+namespace corvane::system {
+namespace {
+
+bool activates(const Window& window, int command) {
+  return is_top_level(window) && (window.ex_style & WS_EX_NOACTIVATE) == 0 &&
+         command != SW_SHOWNOACTIVATE && command != SW_SHOWNA;
+}
+
+UINT show_flags(const Window& window, int command) {
+  UINT flags = SWP_NOSIZE | SWP_NOMOVE | SWP_SHOWWINDOW;
+  if (window.is_child()) return flags | SWP_NOZORDER | SWP_NOACTIVATE;
+  if (command == SW_SHOWNA || command == SW_SHOWNOACTIVATE) flags |= SWP_NOACTIVATE;
+  if (command == SW_SHOWNOACTIVATE) flags |= SWP_NOZORDER;
+  return flags;
+}
+
+WINDOWPOS position_of(const Window& window, UINT flags) {
+  return {window.handle,   nullptr, window.frame.left, window.frame.top, window.width(),
+          window.height(), flags};
+}
+
+// Only the style bit changes where a hidden parent keeps the window from being seen.
+bool seen_through_parents(const Window& window) {
+  return window.parent != nullptr && shown_on_screen(*window.parent);
+}
+
+void send_first_size(HWND window) {
+  Window* found = find(window);
+  if (found == nullptr || !found->first_size_due) return;
+  found->first_size_due = false;
+  send(window, WM_SIZE, SIZE_RESTORED, client_size_lparam(*found));
+  found = find(window);
+  if (found != nullptr) send(window, WM_MOVE, 0, client_position_lparam(*found));
+}
+
+void show(HWND window, int command) {
+  send(window, WM_SHOWWINDOW, TRUE, 0);
+  Window* found = find(window);
+  if (found == nullptr) return;
+  if (!seen_through_parents(*found)) {
+    found->style |= WS_VISIBLE;
+    return;
+  }
+  WINDOWPOS position = position_of(*found, show_flags(*found, command));
+  send(window, WM_WINDOWPOSCHANGING, 0, reinterpret_cast<LPARAM>(&position));
+  found = find(window);
+  if (found == nullptr) return;
+  System& state = *system();
+  found->style |= WS_VISIBLE;
+  if (is_top_level(*found) && (position.flags & SWP_NOZORDER) == 0) raise(state, *found);
+  damage_frame(state, *found);
+  if (activates(*found, command)) activate(window, WA_ACTIVE);
+  make_visible(window);
+  found = find(window);
+  if (found == nullptr) return;
+  position.flags |= SWP_NOCLIENTMOVE | SWP_NOCLIENTSIZE;
+  send(window, WM_WINDOWPOSCHANGED, 0, reinterpret_cast<LPARAM>(&position));
+  send_first_size(window);
+}
+
+void leave_hidden(HWND window) {
+  System* state = system();
+  Window* found = state->find(window);
+  if (found == nullptr) return;
+  if (is_top_level(*found)) {
+    activate_next_after(window);
+  } else if (state->input.focus == window) {
+    HWND parent = found->parent->handle;
+    change_focus(can_take_focus(*found->parent) ? parent : nullptr);
+  }
+}
+
+void hide(HWND window) {
+  send(window, WM_SHOWWINDOW, FALSE, 0);
+  Window* found = find(window);
+  if (found == nullptr) return;
+  if (!seen_through_parents(*found)) {
+    found->style &= ~WS_VISIBLE;
+    return;
+  }
+  UINT flags = SWP_NOSIZE | SWP_NOMOVE | SWP_HIDEWINDOW;
+  if (found->is_child()) flags |= SWP_NOZORDER | SWP_NOACTIVATE;
+  WINDOWPOS position = position_of(*found, flags);
+  send(window, WM_WINDOWPOSCHANGING, 0, reinterpret_cast<LPARAM>(&position));
+  make_hidden(window);
+  if (find(window) == nullptr) return;
+  position.flags |= SWP_NOCLIENTMOVE | SWP_NOCLIENTSIZE;
+  send(window, WM_WINDOWPOSCHANGED, 0, reinterpret_cast<LPARAM>(&position));
+  leave_hidden(window);
+}
+
+}  // namespace
+
+void make_visible(HWND window) {
+  Window* found = find(window);
+  if (found == nullptr) return;
+  found->style |= WS_VISIBLE;
+  if (!shown_on_screen(*found)) return;
+  damage_frame(*system(), *found);
+  invalidate_all(*found, true);
+  RECT area = found->client_area();
+  if (IsRectEmpty(&area)) return;
+  send(window, WM_NCPAINT, 1, 0);
+  erase_now(window);
+}
+
+void make_hidden(HWND window) {
+  Window* found = find(window);
+  if (found == nullptr || (found->style & WS_VISIBLE) == 0) return;
+  bool was_shown = shown_on_screen(*found);
+  RECT area = frame_on_screen(*found);
+  found->style &= ~WS_VISIBLE;
+  found->update.clear();
+  found->needs_paint = false;
+  found->needs_erase = false;
+  if (!was_shown) return;
+  system()->frame_damage.unite(area);
+  if (!found->is_child() || found->surface != nullptr || found->parent == nullptr) return;
+  HWND parent = found->parent->handle;
+  invalidate_uncovered(*found->parent, area);
+  erase_now(parent);
+}
+
+}  // namespace corvane::system
+
+namespace corvane_system {
+using namespace corvane::system;
+
+BOOL ShowWindow(HWND window, int command) {
+  Window* found = checked(window);
+  if (found == nullptr || found->parent == nullptr) return FALSE;
+  bool was_visible = (found->style & WS_VISIBLE) != 0;
+  if (command == SW_HIDE) {
+    if (was_visible) hide(window);
+  } else if (!was_visible) {
+    show(window, command);
+  } else if (activates(*found, command)) {
+    activate(window, WA_ACTIVE);
+  }
+  return was_visible;
+}
+
+BOOL IsWindowVisible(HWND window) {
+  Window* found = checked(window);
+  return found != nullptr && found->parent != nullptr && found->redraw && shown_on_screen(*found);
+}
+
+}  // namespace corvane_system

@@ -1,0 +1,376 @@
+// SdlDisplay on a real X server: input comes from xdotool, pixels and windows are looked at through
+// a connection of the test's own.
+#include "corvane/platform/system/display/sdl/sdl_display.h"
+
+#include <gtest/gtest.h>
+#include <poll.h>
+#include <sys/resource.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <functional>
+#include <set>
+#include <thread>
+
+#include "tests/platform/display/x_client.h"
+
+namespace corvane::system {
+namespace {
+
+constexpr const wchar_t* title = L"Corvane 显示 test";
+constexpr const char* title_utf8 = "Corvane 显示 test";
+
+using Events = std::vector<InputEvent>;
+using Condition = std::function<bool(const InputEvent&)>;
+
+Condition is(InputKind kind) {
+  return [kind](const InputEvent& event) { return event.kind == kind; };
+}
+Condition is_text(const std::wstring& text) {
+  return [text](const InputEvent& event) {
+    return event.kind == InputKind::text && event.text == text;
+  };
+}
+Condition is_key(int virtual_key, bool down) {
+  return [=](const InputEvent& event) {
+    return event.kind == InputKind::key && event.virtual_key == virtual_key && event.down == down;
+  };
+}
+Condition is_button(int button, bool down) {
+  return [=](const InputEvent& event) {
+    return event.kind == InputKind::mouse_button && event.button == button && event.down == down;
+  };
+}
+Condition is_at(InputKind kind, int x, int y) {
+  return [=](const InputEvent& event) {
+    return event.kind == kind && event.position.x == x && event.position.y == y;
+  };
+}
+
+const InputEvent* find(const Events& events, const Condition& condition) {
+  for (const InputEvent& event : events)
+    if (condition(event)) return &event;
+  return nullptr;
+}
+
+class SdlDisplayTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    ASSERT_TRUE(server_.connected()) << "There is no X server; run this test by scripts/with-xvfb.";
+    ASSERT_EQ(std::system("command -v xdotool >/dev/null"), 0)
+        << "xdotool is not installed (Debian package xdotool).";
+    tool("mousemove 5 1100");
+    display_ = SdlDisplay::open({640, 480});
+    ASSERT_NE(display_, nullptr);
+    display_->set_title(title);
+  }
+
+  void show() {
+    display_->show();
+    ASSERT_TRUE(happens([&] {
+      window_ = server_.window_named(title_utf8);
+      return window_ != 0 && server_.place(window_).shown;
+    }));
+    present_color(0xFF203040);
+    ASSERT_TRUE(happens([&] { return server_.pixel(window_, 639, 479) == 0x203040; }));
+    tool("windowfocus " + std::to_string(window_));
+    ASSERT_TRUE(arrives(
+        [](const InputEvent& event) { return event.kind == InputKind::focus && event.down; }));
+    events_.clear();
+  }
+
+  void tool(const std::string& arguments) {
+    ASSERT_EQ(std::system(("xdotool " + arguments).c_str()), 0) << arguments;
+  }
+
+  // Runs the display until the condition holds, at most five seconds.
+  bool happens(const std::function<bool()>& condition) {
+    const std::uint64_t end = display_->now() + 5000;
+    while (!condition()) {
+      if (display_->now() >= end) return false;
+      display_->wait(std::min(end, display_->now() + 20));
+      display_->poll(events_);
+    }
+    return true;
+  }
+  bool arrives(const Condition& condition) {
+    return happens([&] { return find(events_, condition) != nullptr; });
+  }
+
+  void present_color(Pixel color) {
+    const SIZE size = display_->size();
+    const Surface frame(size.cx, size.cy, color);
+    display_->present(frame, Region(frame.rect()));
+  }
+
+  std::string at(int x, int y) {
+    const XClient::Place place = server_.place(window_);
+    return std::to_string(place.x + x) + " " + std::to_string(place.y + y);
+  }
+
+  XClient server_;
+  std::unique_ptr<SdlDisplay> display_;
+  unsigned long window_ = 0;
+  Events events_;
+};
+
+TEST_F(SdlDisplayTest, IsHiddenUntilShown) {
+  const unsigned long hidden = server_.window_named(title_utf8);
+  ASSERT_NE(hidden, 0u);
+  EXPECT_FALSE(server_.place(hidden).shown);
+  EXPECT_FALSE(display_->warp_pointer({10, 10}));
+  show();
+  EXPECT_EQ(server_.place(window_).width, 640);
+  EXPECT_EQ(server_.place(window_).height, 480);
+}
+
+TEST_F(SdlDisplayTest, PresentsOnlyTheDamage) {
+  show();
+  Surface frame(640, 480, 0xFFFF0000);
+  for (int x = 0; x < 640; ++x) frame.row(100)[x] = 0xFF000000 | static_cast<Pixel>(x * 100);
+  Region damage({50, 90, 60, 110});
+  damage.unite(RECT{630, 470, 800, 600});
+  display_->present(frame, damage);
+  ASSERT_TRUE(happens([&] { return server_.pixel(window_, 639, 479) == 0xFF0000; }));
+  EXPECT_EQ(server_.pixel(window_, 50, 90), 0xFF0000u);
+  EXPECT_EQ(server_.pixel(window_, 59, 100), 5900u);
+  EXPECT_EQ(server_.pixel(window_, 60, 100), 0x203040u);
+  EXPECT_EQ(server_.pixel(window_, 49, 100), 0x203040u);
+  EXPECT_EQ(server_.pixel(window_, 629, 470), 0x203040u);
+}
+
+TEST_F(SdlDisplayTest, RepaintsWhatWasExposed) {
+  show();
+  server_.damage(window_, 0x777777);
+  EXPECT_EQ(server_.pixel(window_, 320, 240), 0x777777u);
+  EXPECT_TRUE(happens([&] { return server_.pixel(window_, 320, 240) == 0x203040; }));
+}
+
+TEST_F(SdlDisplayTest, BringsMouseMovesAndButtons) {
+  show();
+  tool("mousemove " + at(123, 45));
+  EXPECT_TRUE(arrives(is_at(InputKind::mouse_move, 123, 45)));
+  const struct {
+    const char* xdotool_button;
+    int virtual_key;
+  } buttons[] = {{"1", 0x01}, {"2", 0x04}, {"3", 0x02}};
+  for (const auto& [button, virtual_key] : buttons) {
+    tool(std::string("mousedown ") + button);
+    EXPECT_TRUE(arrives(is_button(virtual_key, true))) << button;
+    tool(std::string("mouseup ") + button);
+    EXPECT_TRUE(arrives(is_button(virtual_key, false))) << button;
+  }
+  const InputEvent* const press = find(events_, is_button(0x01, true));
+  ASSERT_NE(press, nullptr);
+  EXPECT_EQ(press->position.x, 123);
+  EXPECT_EQ(press->position.y, 45);
+}
+
+TEST_F(SdlDisplayTest, BringsTheWheelAndTheLeaving) {
+  show();
+  tool("mousemove " + at(300, 200));
+  tool("click 4");
+  ASSERT_TRUE(arrives(is_at(InputKind::mouse_wheel, 300, 200)));
+  EXPECT_EQ(find(events_, is(InputKind::mouse_wheel))->wheel, 120);
+  events_.clear();
+  tool("click 5");
+  ASSERT_TRUE(arrives(is(InputKind::mouse_wheel)));
+  EXPECT_EQ(find(events_, is(InputKind::mouse_wheel))->wheel, -120);
+  tool("mousemove " + at(-30, -30));
+  EXPECT_TRUE(arrives(is(InputKind::mouse_leave)));
+}
+
+TEST_F(SdlDisplayTest, KeepsTheMouseWhileCaptured) {
+  show();
+  tool("mousemove " + at(100, 100));
+  ASSERT_TRUE(arrives(is_at(InputKind::mouse_move, 100, 100)));
+  display_->set_capture(true);
+  tool("mousemove " + at(-40, 700));
+  EXPECT_TRUE(arrives(is_at(InputKind::mouse_move, -40, 700)));
+  display_->set_capture(false);
+}
+
+struct KeyCase {
+  const char* keys;  // for xdotool
+  int virtual_key;
+  bool makes_char;
+  const wchar_t* text;  // null: no text may come
+};
+
+TEST_F(SdlDisplayTest, BringsKeysAndText) {
+  show();
+  const KeyCase cases[] = {
+      {"a", 'A', false, L"a"},         {"A", 'A', false, L"A"},
+      {"7", '7', false, L"7"},         {"exclam", '1', false, L"!"},
+      {"space", 0x20, false, L" "},    {"semicolon", 0xBA, false, L";"},
+      {"KP_Add", 0x6B, false, L"+"},   {"Return", 0x0D, true, nullptr},
+      {"Tab", 0x09, true, nullptr},    {"BackSpace", 0x08, true, nullptr},
+      {"Escape", 0x1B, true, nullptr}, {"Delete", 0x2E, true, nullptr},
+      {"Left", 0x25, true, nullptr},   {"Prior", 0x21, true, nullptr},
+      {"F1", 0x70, true, nullptr},     {"F12", 0x7B, true, nullptr},
+      {"ctrl+a", 'A', true, nullptr},  {"ctrl+1", '1', true, nullptr},
+      {"alt+f", 'F', true, nullptr},   {"ctrl+shift+z", 'Z', true, nullptr},
+  };
+  for (const KeyCase& one : cases) {
+    SCOPED_TRACE(one.keys);
+    events_.clear();
+    tool(std::string("key ") + one.keys);
+    ASSERT_TRUE(arrives(is_key(one.virtual_key, false)));
+    const InputEvent* const down = find(events_, is_key(one.virtual_key, true));
+    ASSERT_NE(down, nullptr);
+    EXPECT_EQ(down->makes_char, one.makes_char);
+    EXPECT_FALSE(down->repeat);
+    const InputEvent* const text = find(events_, is(InputKind::text));
+    ASSERT_EQ(text != nullptr, one.text != nullptr);
+    if (text) {
+      EXPECT_EQ(text->text, one.text);
+    }
+  }
+}
+
+TEST_F(SdlDisplayTest, BringsModifiersAsKeys) {
+  show();
+  const struct {
+    const char* key;
+    int virtual_key;
+  } modifiers[] = {{"Shift_R", 0x10}, {"Control_L", 0x11}, {"Alt_L", 0x12}};
+  for (const auto& [key, virtual_key] : modifiers) {
+    tool(std::string("keydown ") + key);
+    EXPECT_TRUE(arrives(is_key(virtual_key, true))) << key;
+    tool(std::string("keyup ") + key);
+    EXPECT_TRUE(arrives(is_key(virtual_key, false))) << key;
+  }
+}
+
+TEST_F(SdlDisplayTest, BringsTextOfOtherScripts) {
+  show();
+  const struct {
+    const char* key;
+    unsigned long symbol;
+    const wchar_t* text;
+  } letters[] = {
+      {"eacute", 0x00E9, L"é"}, {"U4E2D", 0x01004E2D, L"中"}, {"U1F4F7", 0x0101F4F7, L"📷"}};
+  constexpr int unused_key = 220;
+  for (const auto& [key, symbol, text] : letters) {
+    server_.map_key(unused_key, symbol);
+    tool(std::string("key ") + key);
+    EXPECT_TRUE(arrives(is_text(text))) << key;
+  }
+}
+
+TEST_F(SdlDisplayTest, TellsOfAutomaticRepeats) {
+  show();
+  tool("keydown x");
+  EXPECT_TRUE(arrives([](const InputEvent& event) {
+    return event.kind == InputKind::key && event.virtual_key == 'X' && event.repeat;
+  }));
+  tool("keyup x");
+  ASSERT_TRUE(arrives(is_key('X', false)));
+  EXPECT_FALSE(find(events_, is_key('X', true))->repeat) << "the first press is none";
+}
+
+TEST_F(SdlDisplayTest, FollowsTheWindowsSize) {
+  show();
+  tool("windowsize " + std::to_string(window_) + " 800 333");
+  ASSERT_TRUE(arrives(is_at(InputKind::resize, 800, 333)));
+  EXPECT_EQ(display_->size().cx, 800);
+  EXPECT_EQ(display_->size().cy, 333);
+  present_color(0xFF010203);
+  EXPECT_TRUE(happens([&] { return server_.pixel(window_, 799, 332) == 0x010203; }));
+}
+
+TEST_F(SdlDisplayTest, DesktopIsNeverSmallerThanTheLeastWindow) {
+  show();
+  tool("windowsize " + std::to_string(window_) + " 200 400");
+  ASSERT_TRUE(arrives(is_at(InputKind::resize, 320, 400)));
+  EXPECT_EQ(display_->size().cx, 320);
+  present_color(0xFF0A0B0C);
+  EXPECT_TRUE(happens([&] { return server_.pixel(window_, 199, 399) == 0x0A0B0C; }));
+}
+
+TEST_F(SdlDisplayTest, TellsOfClosingAndLostFocus) {
+  show();
+  server_.ask_to_close(window_);
+  EXPECT_TRUE(arrives(is(InputKind::close)));
+  server_.take_focus_away();
+  EXPECT_TRUE(arrives(
+      [](const InputEvent& event) { return event.kind == InputKind::focus && !event.down; }));
+}
+
+TEST_F(SdlDisplayTest, MovesWindowAndPointer) {
+  show();
+  const XClient::Place before = server_.place(window_);
+  EXPECT_TRUE(display_->warp_pointer({77, 66}));
+  EXPECT_TRUE(arrives(is_at(InputKind::mouse_move, 77, 66)));
+  tool("mousedown 1");
+  tool("mousemove_relative -- 30 -7");
+  EXPECT_TRUE(display_->drag_native_window({77, 66}));
+  EXPECT_TRUE(happens([&] {
+    const XClient::Place now = server_.place(window_);
+    return now.x == before.x + 30 && now.y == before.y - 7;
+  })) << "also while a button is held";
+  tool("mouseup 1");
+}
+
+TEST_F(SdlDisplayTest, WakesFromAnotherThread) {
+  show();
+  display_->poll(events_);
+  std::thread other([&] { display_->wake(); });
+  EXPECT_TRUE(display_->wait(std::nullopt));
+  other.join();
+  pollfd watched{display_->event_fd(), POLLIN, 0};
+  EXPECT_EQ(poll(&watched, 1, 0), 1) << "a wake stays readable until the next poll()";
+  display_->poll(events_);
+  EXPECT_EQ(poll(&watched, 1, 0), 0);
+}
+
+TEST_F(SdlDisplayTest, DescriptorTellsOfInput) {
+  show();
+  tool("mousemove " + at(20, 20));
+  pollfd watched{display_->event_fd(), POLLIN, 0};
+  ASSERT_EQ(poll(&watched, 1, 5000), 1);
+  EXPECT_TRUE(arrives(is_at(InputKind::mouse_move, 20, 20)));
+}
+
+TEST_F(SdlDisplayTest, ShowsTheNativeCursors) {
+  show();
+  tool("mousemove " + at(200, 200));
+  ASSERT_TRUE(arrives(is_at(InputKind::mouse_move, 200, 200)));
+  std::set<std::vector<unsigned long>> seen;
+  for (const CursorShape shape : {CursorShape::arrow, CursorShape::ibeam, CursorShape::cross,
+                                  CursorShape::size_we, CursorShape::size_ns, CursorShape::hand}) {
+    display_->set_cursor(shape);
+    EXPECT_TRUE(happens([&] { return seen.insert(server_.cursor()).second; }))
+        << "looks like one of the others: " << static_cast<int>(shape);
+  }
+  display_->set_cursor(CursorShape::none);
+  EXPECT_TRUE(happens([&] {
+    const std::vector<unsigned long> pixels = server_.cursor();
+    return std::all_of(pixels.begin(), pixels.end(),
+                       [](unsigned long pixel) { return pixel == 0; });
+  }));
+}
+
+double processor_milliseconds() {
+  rusage usage{};
+  getrusage(RUSAGE_SELF, &usage);
+  const auto of = [](const timeval& time) {
+    return static_cast<double>(time.tv_sec) * 1000 + static_cast<double>(time.tv_usec) / 1000;
+  };
+  return of(usage.ru_utime) + of(usage.ru_stime);
+}
+
+TEST_F(SdlDisplayTest, SleepsWhileNothingHappens) {
+  show();
+  display_->poll(events_);
+  const std::uint64_t start = display_->now();
+  const double before = processor_milliseconds();
+  while (display_->now() < start + 3000) {
+    display_->wait(start + 3000);
+    display_->poll(events_);
+  }
+  EXPECT_LT(processor_milliseconds() - before, 3);
+}
+
+}  // namespace
+}  // namespace corvane::system

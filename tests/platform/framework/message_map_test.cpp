@@ -1,0 +1,271 @@
+#include "corvane/platform/framework/message_map.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "corvane/platform/framework/wnd.h"
+
+namespace corvane {
+namespace {
+
+constexpr UINT kDraw = WM_USER + 0x4B1;
+constexpr UINT kCommand = 7;
+
+std::string words(std::initializer_list<long long> values) {
+  std::string text;
+  for (const long long each : values) text += (text.empty() ? "" : " ") + std::to_string(each);
+  return text;
+}
+
+// Writes down the arguments of its handlers.
+class Recorder : public CWnd {
+ public:
+  const MessageMap* GetMessageMap() const override;
+
+  // What the map's handler was called with; "none" when no row was found.
+  std::string send(UINT message, WPARAM wparam, LPARAM lparam) {
+    const MessageMatch match = GetMessageMap()->Find(message);
+    if (!match) return "none";
+    seen.clear();
+    result = -99;
+    handled = match.Call(*this, wparam, lparam, result);
+    return seen;
+  }
+
+  std::string seen;
+  LRESULT result = 0;
+  bool handled = false;
+  int answer = 0;
+
+ protected:
+  void Plain() { seen = "plain"; }
+  void Mouse(UINT flags, CPoint point) { seen = words({flags, point.x, point.y}); }
+  BOOL Wheel(UINT flags, short distance, CPoint point) {
+    seen = words({flags, distance, point.x, point.y});
+    return answer;
+  }
+  int Create(LPCREATESTRUCT creation) {
+    seen = words({creation->cx, creation->cy});
+    return answer;
+  }
+  void Size(UINT kind, int width, int height) { seen = words({kind, width, height}); }
+  void Move(int x, int y) { seen = words({x, y}); }
+  BOOL Erase(CDC* dc) {
+    seen = words({reinterpret_cast<LONG_PTR>(dc->GetSafeHdc())});
+    return answer;
+  }
+  void Timer(UINT_PTR id) { seen = std::to_string(id); }
+  BOOL Cursor(CWnd* window, UINT hit, UINT message) {
+    seen = words({window == nullptr, static_cast<int>(hit), message});
+    return answer;
+  }
+  void Key(UINT key, UINT repeats, UINT flags) { seen = words({key, repeats, flags}); }
+  void Show(BOOL shown, UINT reason) { seen = words({shown, reason}); }
+  void Active(UINT state, CWnd* other, BOOL minimized) {
+    seen = words({state, other == nullptr, minimized});
+  }
+  LRESULT HitTest(CPoint point) {
+    seen = words({point.x, point.y});
+    return HTTRANSPARENT;
+  }
+  UINT DialogCode() { return DLGC_WANTARROWS; }
+  void Scroll(UINT code, UINT position, CScrollBar* bar) {
+    seen = words({code, position, bar == nullptr});
+  }
+  LRESULT Draw(WPARAM wparam, LPARAM lparam) {
+    seen = words({static_cast<long long>(wparam), lparam});
+    return 5;
+  }
+};
+
+const MessageMap* Recorder::GetMessageMap() const {
+  static constexpr auto kMessages =
+      MessageTable(On<WM_CLOSE>(&Recorder::Plain), On<WM_RBUTTONUP>(&Recorder::Mouse),
+                   On<WM_MOUSEWHEEL>(&Recorder::Wheel), On<WM_CREATE>(&Recorder::Create),
+                   On<WM_SIZE>(&Recorder::Size), On<WM_MOVE>(&Recorder::Move),
+                   On<WM_ERASEBKGND>(&Recorder::Erase), On<WM_TIMER>(&Recorder::Timer),
+                   On<WM_SETCURSOR>(&Recorder::Cursor), On<WM_CHAR>(&Recorder::Key),
+                   On<WM_SHOWWINDOW>(&Recorder::Show), On<WM_ACTIVATE>(&Recorder::Active),
+                   On<WM_NCHITTEST>(&Recorder::HitTest), On<WM_GETDLGCODE>(&Recorder::DialogCode),
+                   On<WM_VSCROLL>(&Recorder::Scroll), OnMessage<kDraw>(&Recorder::Draw));
+  static const MessageMap map = kMessages.Extending(CWnd::GetMessageMap());
+  return &map;
+}
+
+LPARAM packed(int low, int high) {
+  return MAKELPARAM(static_cast<WORD>(low), static_cast<WORD>(high));
+}
+
+TEST(FrameworkMessageMap, GivesTheHandlerTheMessagesParts) {
+  const struct {
+    UINT message;
+    WPARAM wparam;
+    LPARAM lparam;
+    const char* arguments;
+  } cases[] = {
+      {WM_CLOSE, 1, 2, "plain"},
+      {WM_RBUTTONUP, MK_SHIFT, packed(-3, 700), "4 -3 700"},
+      {WM_MOUSEWHEEL, MAKEWPARAM(MK_CONTROL, static_cast<WORD>(-240)), packed(-1, -2),
+       "8 -240 -1 -2"},
+      {WM_SIZE, SIZE_MAXIMIZED, packed(40000, 3), "2 40000 3"},
+      {WM_MOVE, 0, packed(-40, 30), "-40 30"},
+      {WM_ERASEBKGND, 0x1234, 0, "4660"},
+      {WM_TIMER, 0x100000000u, 0, "4294967296"},
+      {WM_SETCURSOR, 0, packed(HTCLIENT, WM_MOUSEMOVE), "1 1 512"},
+      {WM_SETCURSOR, 0, packed(HTERROR, WM_LBUTTONDOWN), "1 -2 513"},
+      {WM_CHAR, 0x4E2D, 0xC0010003, "20013 3 49153"},
+      {WM_SHOWWINDOW, TRUE, 3, "1 3"},
+      {WM_ACTIVATE, MAKEWPARAM(WA_CLICKACTIVE, 1), 0, "2 1 1"},
+      {WM_NCHITTEST, 0, packed(-5, 6), "-5 6"},
+      {WM_VSCROLL, MAKEWPARAM(5, 65000), 0, "5 65000 1"},
+      {kDraw, 1, -1, "1 -1"},
+      {WM_PAINT, 0, 0, "none"},
+  };
+  Recorder recorder;
+  for (const auto& each : cases)
+    EXPECT_EQ(recorder.send(each.message, each.wparam, each.lparam), each.arguments)
+        << "message " << each.message;
+}
+
+TEST(FrameworkMessageMap, GivesTheMessageTheHandlersResult) {
+  CREATESTRUCT creation{};
+  creation.cx = 30;
+  creation.cy = 40;
+  const auto record = reinterpret_cast<LPARAM>(&creation);
+  const struct {
+    UINT message;
+    LPARAM lparam;
+    int answer;
+    bool handled;
+    LRESULT result;
+  } cases[] = {
+      {WM_CREATE, record, -1, true, -1},
+      {WM_ERASEBKGND, 0, FALSE, true, FALSE},
+      {WM_ERASEBKGND, 0, TRUE, true, TRUE},
+      {WM_SETCURSOR, 0, TRUE, true, TRUE},
+      {WM_MOUSEWHEEL, 0, TRUE, true, TRUE},
+      {WM_MOUSEWHEEL, 0, FALSE, false, FALSE},
+      {WM_NCHITTEST, 0, 0, true, HTTRANSPARENT},
+      {WM_GETDLGCODE, 0, 0, true, DLGC_WANTARROWS},
+      {kDraw, 0, 0, true, 5},
+  };
+  Recorder recorder;
+  for (const auto& each : cases) {
+    recorder.answer = each.answer;
+    recorder.send(each.message, 0, each.lparam);
+    EXPECT_EQ(recorder.handled, each.handled) << "message " << each.message;
+    EXPECT_EQ(recorder.result, each.result) << "message " << each.message;
+  }
+}
+
+class Base : public CWnd {
+ public:
+  static inline UINT registered = 0;
+  const MessageMap* GetMessageMap() const override {
+    static constexpr auto kMessages =
+        MessageTable(On<WM_CLOSE>(&Base::OnClose), On<WM_DESTROY>(&Base::OnDestroy),
+                     OnRegistered(&registered, &Base::OnRegisteredMessage),
+                     OnCommandId(kCommand, &Base::OnMenu));
+    static const MessageMap map = kMessages.Extending(CWnd::GetMessageMap());
+    return &map;
+  }
+  std::vector<std::string> calls;
+
+ protected:
+  void OnClose() { calls.push_back("base close"); }
+  void OnDestroy() { calls.push_back("base destroy"); }
+  LRESULT OnRegisteredMessage(WPARAM, LPARAM) {
+    calls.push_back("base registered");
+    return 0;
+  }
+  void OnMenu() { calls.push_back("base menu"); }
+};
+
+// A class without rows of its own between two that have some.
+class Middle : public Base {};
+
+class Derived : public Middle {
+ public:
+  const MessageMap* GetMessageMap() const override {
+    static constexpr auto kMessages =
+        MessageTable(On<WM_CLOSE>(&Derived::OnClose), On<WM_TIMER>(&Derived::OnTimer),
+                     OnCommandId(kCommand, &Derived::OnButton, 3));
+    static const MessageMap map = kMessages.Extending(Middle::GetMessageMap());
+    return &map;
+  }
+
+ protected:
+  void OnClose() {
+    calls.push_back("derived close");
+    Base::OnClose();
+  }
+  void OnTimer(UINT_PTR) { calls.push_back("derived timer"); }
+  void OnButton() { calls.push_back("derived button"); }
+};
+
+std::vector<std::string> calls_of(Base& target, const MessageMatch& match) {
+  target.calls.clear();
+  LRESULT result = 0;
+  if (match) match.Call(target, 0, 0, result);
+  return target.calls;
+}
+
+using Calls = std::vector<std::string>;
+
+TEST(FrameworkMessageMap, SearchesTheClassBeforeItsBases) {
+  Derived derived;
+  Base base;
+  const MessageMap* map = derived.GetMessageMap();
+  EXPECT_EQ(calls_of(derived, map->Find(WM_CLOSE)), (Calls{"derived close", "base close"}));
+  EXPECT_EQ(calls_of(derived, map->Find(WM_DESTROY)), (Calls{"base destroy"}));
+  EXPECT_EQ(calls_of(derived, map->Find(WM_TIMER)), (Calls{"derived timer"}));
+  EXPECT_EQ(calls_of(base, base.GetMessageMap()->Find(WM_CLOSE)), (Calls{"base close"}));
+  EXPECT_FALSE(base.GetMessageMap()->Find(WM_TIMER));
+  EXPECT_FALSE(map->Find(WM_PAINT));
+}
+
+TEST(FrameworkMessageMap, KnowsARegisteredMessageFromWhenItIsRegistered) {
+  Derived derived;
+  const MessageMap* map = derived.GetMessageMap();
+  Base::registered = 0;
+  EXPECT_FALSE(map->Find(0)) << "not registered yet, and not the null message";
+  Base::registered = 0xC123;
+  EXPECT_EQ(calls_of(derived, map->Find(0xC123)), (Calls{"base registered"}));
+  EXPECT_FALSE(map->Find(0xC124));
+}
+
+TEST(FrameworkMessageMap, TellsCommandsByIdAndCode) {
+  Derived derived;
+  const MessageMap* map = derived.GetMessageMap();
+  EXPECT_EQ(calls_of(derived, map->FindCommand(kCommand, 0)), (Calls{"base menu"}));
+  EXPECT_EQ(calls_of(derived, map->FindCommand(kCommand, 3)), (Calls{"derived button"}));
+  EXPECT_FALSE(map->FindCommand(kCommand, 4));
+  EXPECT_FALSE(map->FindCommand(WM_CLOSE, 0)) << "a message's number is no command";
+  EXPECT_FALSE(map->Find(kCommand)) << "a command's id is no message";
+}
+
+// What On<message>(...) refuses to compile.
+static_assert(HandlesMessage<WM_SIZE, void (Recorder::*)(UINT, int, int)>);
+static_assert(HandlesMessage<WM_SIZE, void (Recorder::*)(UINT, int, int) const>);
+static_assert(!HandlesMessage<WM_SIZE, void (Recorder::*)(UINT, int)>, "parameter missing");
+static_assert(!HandlesMessage<WM_SIZE, BOOL (Recorder::*)(UINT, int, int)>, "other result");
+static_assert(!HandlesMessage<WM_SIZE, void (Recorder::*)(int, int, int)>, "other parameter");
+static_assert(!HandlesMessage<WM_LBUTTONDOWN, void (Recorder::*)(UINT, const CPoint&)>);
+static_assert(!HandlesMessage<WM_SIZE, void (*)(UINT, int, int)>, "not a member");
+static_assert(!HandlesMessage<kDraw, LRESULT (Recorder::*)(WPARAM, LPARAM)>, "has no traits");
+static_assert(!HandlesMessage<WM_CREATE, void (Recorder::*)(LPCREATESTRUCT)>, "must have a result");
+
+TEST(FrameworkRuntimeClass, KnowsItsBases) {
+  const CWnd window;
+  EXPECT_TRUE(window.IsKindOf(&CWnd::classCWnd));
+  EXPECT_TRUE(window.IsKindOf(&CObject::classCObject));
+  static constexpr CRuntimeClass kOther{"Other", &CWnd::classCWnd};
+  EXPECT_FALSE(window.IsKindOf(&kOther));
+  EXPECT_TRUE(kOther.IsDerivedFrom(&CObject::classCObject));
+  EXPECT_FALSE(kOther.IsDerivedFrom(nullptr));
+}
+
+}  // namespace
+}  // namespace corvane

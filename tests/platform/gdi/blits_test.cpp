@@ -1,0 +1,213 @@
+#include <random>
+#include <vector>
+
+#include "tests/platform/gdi/gdi_fixture.h"
+
+namespace corvane::system {
+namespace {
+
+class GdiBlits : public GdiTest {
+ protected:
+  // A context whose pixel at (x, y) is 0xAA00yyxx.
+  HDC numbered(const std::shared_ptr<Surface>& on) {
+    for (int y = 0; y < on->height(); ++y)
+      for (int x = 0; x < on->width(); ++x) on->row(y)[x] = number(x, y);
+    return gdi.open_dc(on, {0, 0}, Region(on->rect()));
+  }
+  static Pixel number(int x, int y) {
+    return 0xAA000000u | static_cast<Pixel>(y << 8) | static_cast<Pixel>(x);
+  }
+};
+
+TEST_F(GdiBlits, CopiesAllBitsAndClipsToBothSurfaces) {
+  auto source = std::make_shared<Surface>(20, 20);
+  HDC from = numbered(source);
+  EXPECT_TRUE(BitBlt(dc, 90, 90, 20, 20, from, 0, 0, SRCCOPY));
+  EXPECT_EQ(drawn(), "90,90,100,100 100");
+  EXPECT_EQ(surface->at(91, 92), number(1, 2));
+  wipe();
+  EXPECT_TRUE(BitBlt(dc, 10, 10, 30, 30, from, -5, 15, SRCCOPY));
+  EXPECT_EQ(drawn(), "15,10,35,15 100");
+  EXPECT_EQ(surface->at(15, 10), number(0, 15));
+  EXPECT_EQ(surface->take_marks().bounds().left, 15);
+  wipe();
+  EXPECT_TRUE(BitBlt(dc, 2147483647, -2147483647, 2147483647, 2147483647, from, 0, 0, SRCCOPY));
+  EXPECT_EQ(drawn(), "nothing");
+  gdi.close_dc(from);
+}
+
+TEST_F(GdiBlits, OverlappingCopiesReadBeforeTheyWrite) {
+  for (const POINT shift : {POINT{3, 2}, POINT{-3, 2}, POINT{3, -2}, POINT{-3, -2}, POINT{1, 0}})
+    for (const bool complex : {false, true}) {
+      auto own = std::make_shared<Surface>(40, 40);
+      HDC both = numbered(own);
+      if (complex) ExcludeClipRect(both, 18, 18, 20, 20);
+      BitBlt(both, 10 + shift.x, 10 + shift.y, 20, 20, both, 10, 10, SRCCOPY);
+      for (int y = 0; y < 40; ++y)
+        for (int x = 0; x < 40; ++x) {
+          const bool excluded = complex && x >= 18 && x < 20 && y >= 18 && y < 20;
+          const bool copied = x >= 10 + shift.x && x < 30 + shift.x && y >= 10 + shift.y &&
+                              y < 30 + shift.y && !excluded;
+          const Pixel expected = copied ? number(x - shift.x, y - shift.y) : number(x, y);
+          ASSERT_EQ(own->at(x, y), expected)
+              << x << "," << y << " shift " << shift.x << "," << shift.y;
+        }
+      gdi.close_dc(both);
+    }
+}
+
+TEST_F(GdiBlits, StretchingDoublesHalvesAndMirrors) {
+  auto source = std::make_shared<Surface>(4, 2);
+  HDC from = numbered(source);
+  SetStretchBltMode(dc, COLORONCOLOR);
+  StretchBlt(dc, 10, 10, 8, 4, from, 0, 0, 4, 2, SRCCOPY);
+  for (int y = 0; y < 4; ++y)
+    for (int x = 0; x < 8; ++x) EXPECT_EQ(surface->at(10 + x, 10 + y), number(x / 2, y / 2));
+  EXPECT_EQ(drawn(), "10,10,18,14 32");
+  StretchBlt(dc, 30, 10, 2, 1, from, 0, 0, 4, 2, SRCCOPY);
+  EXPECT_EQ(surface->at(30, 10), number(1, 1));  // the second of each pair
+  EXPECT_EQ(surface->at(31, 10), number(3, 1));
+  StretchBlt(dc, 53, 50, -4, 2, from, 0, 0, 4, 2, SRCCOPY);
+  for (int x = 0; x < 4; ++x) EXPECT_EQ(surface->at(50 + x, 50), number(3 - x, 0));
+  StretchBlt(dc, 60, 61, 4, -2, from, 0, 0, 4, 2, SRCCOPY);
+  EXPECT_EQ(surface->at(60, 60), number(0, 1));
+  EXPECT_EQ(surface->at(60, 61), number(0, 0));
+  StretchBlt(dc, 70, 70, 4, 2, from, 3, 0, -4, 2, SRCCOPY);
+  EXPECT_EQ(surface->at(70, 70), number(3, 0));
+  EXPECT_TRUE(StretchBlt(dc, 0, 0, 0, 4, from, 0, 0, 4, 2, SRCCOPY));
+  gdi.close_dc(from);
+}
+
+TEST_F(GdiBlits, SourcePixelsOutsideAreNotWritten) {
+  auto source = std::make_shared<Surface>(4, 4);
+  HDC from = numbered(source);
+  SetStretchBltMode(dc, COLORONCOLOR);
+  StretchBlt(dc, 10, 10, 16, 16, from, -2, 0, 8, 8, SRCCOPY);
+  EXPECT_EQ(drawn(), "14,10,22,18 64");
+  EXPECT_EQ(surface->at(21, 17), number(3, 3));
+  gdi.close_dc(from);
+}
+
+TEST_F(GdiBlits, CombiningModesUseAllPixelsWhenShrinking) {
+  auto source = std::make_shared<Surface>(2, 1);
+  source->row(0)[0] = 0xFF0F0000;
+  source->row(0)[1] = 0xFFFF0002;
+  HDC from = gdi.open_dc(source, {0, 0}, Region(source->rect()));
+  struct {
+    int mode;
+    Pixel result;
+  } const cases[] = {
+      {BLACKONWHITE, 0xFF0F0000}, {WHITEONBLACK, 0xFFFF0002}, {HALFTONE, 0xFF870001}};
+  for (const auto& item : cases) {
+    SetStretchBltMode(dc, item.mode);
+    StretchBlt(dc, 0, 0, 1, 1, from, 0, 0, 2, 1, SRCCOPY);
+    EXPECT_EQ(surface->at(0, 0), item.result) << item.mode;
+  }
+  gdi.close_dc(from);
+}
+
+TEST_F(GdiBlits, SmallSourceOfOneColourBecomesAFill) {
+  HDC memory = CreateCompatibleDC(dc);
+  HBITMAP bitmap = CreateCompatibleBitmap(dc, 10, 10);
+  HGDIOBJ before = SelectObject(memory, bitmap);
+  const RECT all{0, 0, 10, 10};
+  HBRUSH brush = CreateSolidBrush(RGB(10, 20, 30));
+  FillRect(memory, &all, brush);
+  MoveToEx(memory, 0, 0, nullptr);
+  LineTo(memory, 5, 0);
+  FillRect(memory, &all, brush);
+  StretchBlt(dc, 0, 0, kSize, kSize, memory, 0, 0, 10, 10, SRCCOPY);
+  EXPECT_EQ(surface->uniform(), 0x0A141Eu);
+  SelectObject(memory, before);
+  DeleteObject(brush);
+  DeleteObject(bitmap);
+  DeleteDC(memory);
+}
+
+TEST_F(GdiBlits, PatternOperations) {
+  HBRUSH brush = CreateSolidBrush(RGB(1, 2, 3));
+  HGDIOBJ before = SelectObject(dc, brush);
+  EXPECT_TRUE(PatBlt(dc, 10, 10, 5, 5, PATCOPY));
+  EXPECT_EQ(surface->at(14, 14), 0x010203u);
+  EXPECT_TRUE(BitBlt(dc, 10, 10, 5, 5, nullptr, 0, 0, BLACKNESS));
+  EXPECT_EQ(surface->at(14, 14), 0u);
+  EXPECT_TRUE(PatBlt(dc, 10, 10, 5, 5, WHITENESS));
+  EXPECT_EQ(drawn(), "nothing");
+  EXPECT_FALSE(PatBlt(dc, 10, 10, 5, 5, 0x12345678));
+  EXPECT_FALSE(BitBlt(dc, 10, 10, 5, 5, dc, 0, 0, 0x12345678));
+  EXPECT_FALSE(BitBlt(dc, 10, 10, 5, 5, nullptr, 0, 0, SRCCOPY));
+  SelectObject(dc, before);
+  DeleteObject(brush);
+}
+
+TEST_F(GdiBlits, FreshMemoryContextIsMonochrome) {
+  HDC memory = CreateCompatibleDC(nullptr);
+  BITMAP bitmap{};
+  EXPECT_EQ(GetObjectW(GetCurrentObject(memory, OBJ_BITMAP), sizeof bitmap, &bitmap),
+            static_cast<int>(sizeof bitmap));
+  EXPECT_EQ(bitmap.bmWidth, 1);
+  EXPECT_EQ(bitmap.bmBitsPixel, 1);
+  struct {
+    HDC like;
+    int width;
+    int height;
+    int got_width;
+    int bits;
+  } const cases[] = {{memory, 8, 8, 8, 1}, {dc, 8, 6, 8, 32}, {dc, 0, 0, 1, 1}, {dc, 0, 5, 1, 1}};
+  for (const auto& item : cases) {
+    HBITMAP made = CreateCompatibleBitmap(item.like, item.width, item.height);
+    EXPECT_NE(GetObjectW(made, sizeof bitmap, &bitmap), 0);
+    EXPECT_EQ(bitmap.bmWidth, item.got_width);
+    EXPECT_EQ(bitmap.bmBitsPixel, item.bits);
+    HGDIOBJ before = SelectObject(memory, made);
+    EXPECT_EQ(GetPixel(memory, 0, 0), 0u);  // new bitmaps are black
+    SelectObject(memory, before);
+    EXPECT_TRUE(DeleteObject(made));
+  }
+  DeleteDC(memory);
+}
+
+TEST_F(GdiBlits, MonochromeKeepsTwoColours) {
+  HDC memory = CreateCompatibleDC(nullptr);
+  HBITMAP mono = CreateCompatibleBitmap(memory, 4, 1);
+  HGDIOBJ before = SelectObject(memory, mono);
+  SetPixel(memory, 0, 0, RGB(200, 200, 200));
+  EXPECT_EQ(GetPixel(memory, 0, 0), static_cast<COLORREF>(RGB(255, 255, 255)));
+  SetTextColor(dc, RGB(255, 0, 0));
+  SetBkColor(dc, RGB(0, 255, 0));
+  BitBlt(dc, 10, 10, 4, 1, memory, 0, 0, SRCCOPY);
+  EXPECT_EQ(surface->at(10, 10), 0x00FF00u);
+  EXPECT_EQ(surface->at(11, 10), 0xFF0000u);
+  BitBlt(memory, 0, 0, 4, 1, dc, 10, 10, SRCCOPY);  // the background colour becomes white
+  EXPECT_EQ(GetPixel(memory, 0, 0), static_cast<COLORREF>(RGB(255, 255, 255)));
+  EXPECT_EQ(GetPixel(memory, 1, 0), 0u);
+  SelectObject(memory, before);
+  DeleteObject(mono);
+  DeleteDC(memory);
+}
+
+TEST_F(GdiBlits, DibSectionSharesItsBits) {
+  for (const LONG height : {-3, 3}) {
+    BITMAPINFO info{};
+    info.bmiHeader = {sizeof(BITMAPINFOHEADER), 4, height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    void* bits = nullptr;
+    HBITMAP bitmap = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+    ASSERT_NE(bits, nullptr);
+    HDC memory = CreateCompatibleDC(dc);
+    HGDIOBJ before = SelectObject(memory, bitmap);
+    static_cast<Pixel*>(bits)[0] = 0x80402010;
+    EXPECT_EQ(GetPixel(memory, 0, height < 0 ? 0 : 2), static_cast<COLORREF>(RGB(64, 32, 16)));
+    BitBlt(dc, 0, 0, 4, 3, memory, 0, 0, SRCCOPY);
+    EXPECT_EQ(surface->at(0, height < 0 ? 0 : 2), 0x80402010u);
+    const RECT all{0, 0, 4, 3};
+    FillRect(memory, &all, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+    EXPECT_EQ(static_cast<Pixel*>(bits)[11], 0xFFFFFFu);
+    TextOutW(memory, 0, 0, L"x", 1);  // the text library's rows run as the bitmap's
+    SelectObject(memory, before);
+    DeleteObject(bitmap);
+    DeleteDC(memory);
+  }
+}
+
+}  // namespace
+}  // namespace corvane::system

@@ -1,0 +1,435 @@
+#include <gdk-pixbuf/gdk-pixbuf.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <limits>
+#include <vector>
+
+#include "corvane/platform/system/gdi/gdiplus.h"
+#include "corvane/platform/system/gdi/reduced_image.h"
+#include "corvane/platform/system/shell/wide_path.h"
+#include "tests/platform/gdi/gdi_fixture.h"
+
+namespace corvane::system {
+namespace {
+
+using namespace Gdiplus;
+using Bytes = std::string;
+
+Bytes big_endian(std::uint32_t value) {
+  return {static_cast<char>(value >> 24), static_cast<char>(value >> 16),
+          static_cast<char>(value >> 8), static_cast<char>(value)};
+}
+
+std::uint32_t checksum(const Bytes& bytes) {
+  std::uint32_t sum = 0xFFFFFFFF;
+  for (const char byte : bytes) {
+    sum ^= static_cast<unsigned char>(byte);
+    for (int bit = 0; bit < 8; ++bit) sum = sum & 1 ? (sum >> 1) ^ 0xEDB88320u : sum >> 1;
+  }
+  return ~sum;
+}
+
+class GdiImages : public GdiTest {
+ protected:
+  GdiImages() {
+    std::string pattern = (std::filesystem::temp_directory_path() / "gdi_XXXXXX").string();
+    folder = mkdtemp(pattern.data());
+  }
+  ~GdiImages() override { std::filesystem::remove_all(folder); }
+
+  std::wstring path(const std::string& name) const { return wide_path((folder / name).string()); }
+
+  std::wstring write(const std::string& name, const Bytes& bytes) const {
+    std::ofstream(folder / name, std::ios::binary) << bytes;
+    return path(name);
+  }
+
+  // A picture of four different quadrants, or with noise so that every byte counts.
+  static Bytes encoded(const char* type, int width, int height, bool noisy) {
+    GdkPixbuf* picture = gdk_pixbuf_new(GDK_COLORSPACE_RGB, FALSE, 8, width, height);
+    guchar* pixels = gdk_pixbuf_get_pixels(picture);
+    unsigned noise = 1;
+    for (int y = 0; y < height; ++y)
+      for (int x = 0; x < width; ++x) {
+        guchar* pixel = pixels + y * gdk_pixbuf_get_rowstride(picture) + 3 * x;
+        noise = noise * 1664525u + 1013904223u;
+        pixel[0] = static_cast<guchar>(noisy ? noise >> 24 : (x < width / 2 ? 255 : 0));
+        pixel[1] = static_cast<guchar>(noisy ? noise >> 16 : (y < height / 2 ? 255 : 0));
+        pixel[2] = 0;
+      }
+    gchar* buffer = nullptr;
+    gsize size = 0;
+    gdk_pixbuf_save_to_buffer(picture, &buffer, &size, type, nullptr, nullptr);
+    Bytes bytes(buffer, size);
+    g_free(buffer);
+    g_object_unref(picture);
+    return bytes;
+  }
+
+  // A 2 x 2 GIF of one colour, first red; the second frame is green.
+  static Bytes animation() {
+    const Bytes head("GIF89a\x02\0\x02\0\x80\0\0\xFF\0\0\0\xFF\0", 19);
+    const Bytes frame("\x2C\0\0\0\0\x02\0\x02\0\0\x02\x03", 12);
+    return head + frame + Bytes("\x04\x00\x05", 3) + Bytes("\0", 1) + frame +
+           Bytes("\x4C\x92\x05", 3) + Bytes("\0\x3B", 2);
+  }
+
+  // The four quadrants, stored so that they have to be turned clockwise.
+  static Bytes lying_jpeg(int width, int height) {
+    Bytes jpeg = encoded("jpeg", width, height, false);
+    const Bytes exif =
+        Bytes("Exif\0\0MM\0*\0\0\0\x08\0\x01\x01\x12\0\x03\0\0\0\x01\0\x06\0\0\0\0\0\0", 32);
+    jpeg.insert(2, Bytes("\xFF\xE1\0", 3) + static_cast<char>(exif.size() + 2) + exif);
+    return jpeg;
+  }
+
+  // Pixels at the context's (x, y), alpha byte left out.
+  Pixel seen(int x, int y) const { return surface->at(x, y) & 0xFFFFFF; }
+
+  static std::unique_ptr<Bitmap> bitmap(int width, int height, const std::vector<Pixel>& pixels) {
+    std::vector<Pixel> copy = pixels;
+    return std::make_unique<Bitmap>(width, height, 4 * width, PixelFormat32bppARGB,
+                                    reinterpret_cast<BYTE*>(copy.data()));
+  }
+
+  std::filesystem::path folder;
+};
+
+TEST_F(GdiImages, DecodesTheUsualFormats) {
+  for (const char* type : {"png", "bmp", "tiff", "jpeg"}) {
+    Image image(write("picture", encoded(type, 64, 32, false)).c_str());
+    ASSERT_EQ(image.GetLastStatus(), Ok) << type;
+    EXPECT_EQ(image.GetWidth(), 64u);
+    EXPECT_EQ(image.GetHeight(), 32u);
+    const Pixel yellow = image.pixels()->at(2, 2);
+    EXPECT_NEAR(static_cast<int>((yellow >> 16) & 0xFF), 255, 3) << type;
+    EXPECT_NEAR(static_cast<int>((yellow >> 8) & 0xFF), 255, 3) << type;
+    EXPECT_NEAR(static_cast<int>(image.pixels()->at(60, 30) & 0xFFFFFF), 0, 3) << type;
+    EXPECT_EQ(yellow >> 24, 0xFFu);
+  }
+  Image gif(write("animation", animation()).c_str());
+  EXPECT_EQ(gif.GetLastStatus(), Ok);
+  EXPECT_EQ(gif.pixels()->at(1, 1), 0xFFFF0000u);
+}
+
+TEST_F(GdiImages, NamesOutsideUtf8Load) {
+  Image image(write("a\xFF\\b \xE5\x9B\xBE.png", encoded("png", 4, 4, false)).c_str());
+  EXPECT_EQ(image.GetWidth(), 4u);
+}
+
+TEST_F(GdiImages, MissingAndForeignFilesGiveAnEmptyImage) {
+  const auto name = [this](const char* file) { return path(file); };
+  mkfifo((folder / "pipe").c_str(), 0600);
+  std::filesystem::create_directory(folder / "folder");
+  write("text", "this is no picture, however long it is read");
+  write("empty", "");
+  for (const std::wstring& file :
+       {name("missing"), name("pipe"), name("folder"), name("text"), name("empty"), std::wstring(),
+        std::wstring(L"Q:\\no drive"), std::wstring(L"Z:\\dev\\zero")}) {
+    Image image(file.c_str());
+    EXPECT_EQ(image.GetWidth(), 0u);
+    EXPECT_EQ(image.pixels(), nullptr);
+    EXPECT_EQ(image.GetLastStatus(), InvalidParameter);
+    EXPECT_EQ(image.GetLastStatus(), Ok);  // reading resets it
+    const std::unique_ptr<Image> clone(image.Clone());
+    EXPECT_EQ(clone->GetWidth(), 0u);
+    Graphics graphics(dc);
+    EXPECT_EQ(graphics.DrawImage(&image, Rect(0, 0, 10, 10)), InvalidParameter);
+  }
+  Image null(nullptr);
+  EXPECT_EQ(null.GetLastStatus(), InvalidParameter);
+}
+
+// No cut of a file may pass for the picture unless it decodes to the very same pixels.
+TEST_F(GdiImages, CutFilesNeverPassForTheWhole) {
+  for (const char* type : {"png", "jpeg", "bmp", "tiff", "gif"}) {
+    const bool gif = std::string(type) == "gif";
+    const Bytes whole = gif ? animation() : encoded(type, 24, 24, true);
+    Image reference(write("whole", whole).c_str());
+    ASSERT_EQ(reference.GetLastStatus(), Ok) << type;
+    for (std::size_t length = 0; length < whole.size(); length += 1 + whole.size() / 150) {
+      Image cut(write("cut", whole.substr(0, length)).c_str());
+      if (cut.GetLastStatus() != Ok) {
+        EXPECT_EQ(cut.GetWidth(), 0u);
+        continue;
+      }
+      ASSERT_EQ(cut.GetHeight(), reference.GetHeight());
+      for (int y = 0; y < static_cast<int>(cut.GetHeight()); ++y)
+        for (int x = 0; x < static_cast<int>(cut.GetWidth()); ++x)
+          ASSERT_EQ(cut.pixels()->at(x, y), reference.pixels()->at(x, y))
+              << type << " cut to " << length << " of " << whole.size();
+    }
+  }
+}
+
+TEST_F(GdiImages, DamagedFilesAreHarmless) {
+  unsigned noise = 5;
+  for (const char* type : {"png", "jpeg", "bmp", "tiff", "gif"}) {
+    const Bytes whole = std::string(type) == "gif" ? animation() : encoded(type, 16, 16, true);
+    for (int round = 0; round < 40; ++round) {
+      Bytes damaged = whole;
+      for (int hit = 0; hit < 3; ++hit) {
+        noise = noise * 1664525u + 1013904223u;
+        damaged[(noise >> 8) % damaged.size()] = static_cast<char>(noise >> 24);
+      }
+      Image image(write("damaged", damaged).c_str());
+      EXPECT_EQ(image.GetLastStatus() == Ok, image.GetWidth() > 0);
+    }
+  }
+}
+
+TEST_F(GdiImages, HeadersThatClaimTooMuchAreRefusedBeforeTheMemoryIsTaken) {
+  const auto png = [](std::uint32_t width, std::uint32_t height) {
+    const Bytes head = "IHDR" + big_endian(width) + big_endian(height) + Bytes("\x08\x06\0\0\0", 5);
+    return Bytes("\x89PNG\r\n\x1A\n") + big_endian(13) + head + big_endian(checksum(head)) +
+           Bytes(2000, 'x');
+  };
+  Bytes bmp = encoded("bmp", 8, 8, false);
+  bmp.replace(18, 8, Bytes("\x30\x75\0\0\x30\x75\0\0", 8));  // 30000 x 30000
+  Bytes jpeg = encoded("jpeg", 8, 8, false);
+  const std::size_t frame = jpeg.find("\xFF\xC0");
+  ASSERT_NE(frame, Bytes::npos);
+  jpeg.replace(frame + 5, 4, Bytes("\xFF\xDC\xFF\xDC", 4));  // 65500 x 65500
+  Bytes gif = animation();
+  gif.replace(6, 4, Bytes("\xFF\xFF\xFF\xFF", 4));
+  rusage before{};
+  getrusage(RUSAGE_SELF, &before);
+  for (const Bytes& bytes : {png(30000, 30000), png(100000, 10), png(0x7FFFFFFF, 0x7FFFFFFF),
+                             png(0, 5), png(10001, 10000), bmp, jpeg, gif}) {
+    Image image(write("liar", bytes).c_str());
+    EXPECT_EQ(image.GetLastStatus(), InvalidParameter);
+    EXPECT_EQ(image.GetWidth(), 0u);
+  }
+  rusage after{};
+  getrusage(RUSAGE_SELF, &after);
+  EXPECT_LT(after.ru_maxrss - before.ru_maxrss, 64 * 1024) << "KiB";
+}
+
+TEST_F(GdiImages, JpegIsTurnedUprightByItsOrientation) {
+  Image image(write("turned", lying_jpeg(32, 16)).c_str());
+  ASSERT_EQ(image.GetLastStatus(), Ok);
+  EXPECT_EQ(image.GetWidth(), 16u);
+  EXPECT_EQ(image.GetHeight(), 32u);
+  // The bright left top quadrant of the stored picture is at the right top when turned clockwise.
+  EXPECT_GT(image.pixels()->at(14, 2) & 0xFF00, 0xF000u);
+  EXPECT_GT((image.pixels()->at(14, 2) >> 16) & 0xFF, 0xF0u);
+  EXPECT_LT((image.pixels()->at(2, 30) >> 16) & 0xFF, 0x10u);
+}
+
+TEST_F(GdiImages, ReducedPicturesFitTheirBoxAndKeepTheirLook) {
+  const struct {
+    const char* what;
+    Bytes bytes;
+    int width, height;
+    bool bright_corner_right;  // of the upper corners
+  } cases[] = {{"wide PNG", encoded("png", 640, 320, false), 100, 50, false},
+               {"wide JPEG", encoded("jpeg", 1600, 800, false), 100, 50, false},
+               {"high JPEG", encoded("jpeg", 800, 1600, false), 40, 80, false},
+               {"turned JPEG", lying_jpeg(1600, 800), 40, 80, true},
+               {"small PNG", encoded("png", 30, 20, false), 30, 20, false},
+               {"thin PNG", encoded("png", 2000, 2, false), 100, 1, false}};
+  for (const auto& each : cases) {
+    write("picture", each.bytes);
+    const auto image = decode_reduced_image(folder / "picture", {100, 80}, {});
+    ASSERT_TRUE(image) << each.what;
+    EXPECT_EQ(image->width, each.width) << each.what;
+    EXPECT_EQ(image->height, each.height) << each.what;
+    const auto at = [&image](int x, int y) {
+      return image->pixels.at(static_cast<std::size_t>(y * image->width + x));
+    };
+    const int bright = each.bright_corner_right ? image->width - 3 : 2;
+    const int dark = image->width - 1 - bright;
+    if (image->height < 20) continue;
+    EXPECT_GT(at(bright, 2) & 0xFFFF00, 0xF0F000u) << each.what;
+    EXPECT_LT((at(dark, image->height - 3) >> 16) & 0xFF, 0x10u) << each.what;
+    EXPECT_EQ(at(bright, 2) >> 24, 0xFFu) << each.what;
+  }
+}
+
+TEST_F(GdiImages, NothingIsReducedOfWhatIsNoWholePictureOrNotWantedAnyMore) {
+  const Bytes whole = encoded("jpeg", 400, 400, true);
+  write("whole", whole);
+  write("cut", whole.substr(0, whole.size() / 2));
+  write("text", "this is no picture");
+  for (const char* name : {"cut", "text", "missing", "."})
+    EXPECT_FALSE(decode_reduced_image(folder / name, {64, 64}, {})) << name;
+  EXPECT_FALSE(decode_reduced_image(folder / "whole", {64, 0}, {}));
+  std::stop_source stop;
+  EXPECT_TRUE(decode_reduced_image(folder / "whole", {64, 64}, stop.get_token()));
+  stop.request_stop();
+  EXPECT_FALSE(decode_reduced_image(folder / "whole", {64, 64}, stop.get_token()));
+}
+
+TEST_F(GdiImages, BitmapsFromMemoryArePremultiplied) {
+  const auto image = bitmap(2, 1, {0x80FF0000, 0x00FFFFFF});
+  EXPECT_EQ(image->GetLastStatus(), Ok);
+  EXPECT_EQ(image->pixels()->at(0, 0), 0x80800000u);
+  EXPECT_EQ(image->pixels()->at(1, 0), 0u);
+  std::vector<Pixel> rows = {1 | 0xFF000000, 2 | 0xFF000000};
+  const Bitmap upside_down(1, 2, -4, PixelFormat32bppARGB, reinterpret_cast<BYTE*>(&rows[1]));
+  EXPECT_EQ(upside_down.pixels()->at(0, 0), 0xFF000002u);
+  struct {
+    int width, height, stride;
+    DWORD format;
+  } const bad[] = {{0, 1, 4, PixelFormat32bppARGB},
+                   {2, 1, 4, PixelFormat32bppARGB},
+                   {1, -1, 4, PixelFormat32bppARGB},
+                   {20000, 20000, 80000, PixelFormat32bppARGB},
+                   {1, 1, 4, 0}};
+  for (const auto& item : bad) {
+    const Bitmap refused(item.width, item.height, item.stride, item.format,
+                         reinterpret_cast<BYTE*>(rows.data()));
+    EXPECT_EQ(refused.GetLastStatus(), InvalidParameter);
+  }
+}
+
+TEST_F(GdiImages, DrawsIntoExactlyTheTarget) {
+  const auto image = bitmap(8, 8, std::vector<Pixel>(64, 0xFF102030));
+  struct {
+    Rect target;
+    const char* covered;
+  } const cases[] = {
+      {{20, 20, 40, 40}, "20,20,60,60 1600"},
+      {{20, 20, 8, 8}, "20,20,28,28 64"},
+      {{20, 20, 3, 5}, "20,20,23,25 15"},
+      {{20, 20, 16, 2}, "20,20,36,22 32"},
+      {{20, 20, 0, 10}, "nothing"},
+      {{-4, 95, 8, 8}, "0,95,4,100 20"},
+      {{60, 60, -20, -20}, "40,40,60,60 400"},
+      {{500, 500, 10, 10}, "nothing"},
+      {{-1000000, -1000000, 2000000, 2000000}, "0,0,100,100 10000"},
+  };
+  for (const auto& item : cases) {
+    wipe();
+    Graphics graphics(dc);
+    EXPECT_EQ(graphics.DrawImage(image.get(), item.target), Ok);
+    EXPECT_EQ(drawn(), item.covered);
+    if (drawn() == "nothing") continue;
+    for (int y = 0; y < kSize; ++y)  // no edge fades
+      for (int x = 0; x < kSize; ++x)
+        ASSERT_TRUE(seen(x, y) == 0x102030 || seen(x, y) == kWhite) << x << "," << y;
+  }
+  Graphics graphics(dc);
+  EXPECT_EQ(graphics.DrawImage(nullptr, Rect(0, 0, 5, 5)), InvalidParameter);
+  EXPECT_EQ(graphics.DrawImage(image.get(), RectF(std::numeric_limits<REAL>::quiet_NaN(), 0, 5, 5)),
+            Ok);
+}
+
+TEST_F(GdiImages, NearestGivesExactBlocksAndShrinkingAverages) {
+  const auto image = bitmap(2, 2, {0xFFFF0000, 0xFF00FF00, 0xFF0000FF, 0xFF000000});
+  Graphics graphics(dc);
+  graphics.SetInterpolationMode(InterpolationModeNearestNeighbor);
+  graphics.SetPixelOffsetMode(PixelOffsetModeHalf);
+  graphics.DrawImage(image.get(), Rect(10, 10, 21, 20));
+  for (int y = 0; y < 20; ++y)
+    for (int x = 0; x < 21; ++x) {
+      const Pixel expected = image->pixels()->at(x * 2 / 21, y * 2 / 20) & 0xFFFFFF;
+      if (x != 10) {
+        ASSERT_EQ(seen(10 + x, 10 + y), expected) << x << "," << y;
+      }
+    }
+  Graphics smooth(dc);
+  smooth.DrawImage(image.get(), Rect(50, 50, 1, 1));
+  EXPECT_EQ(surface->at(50, 50), 0xFF404040u);
+}
+
+TEST_F(GdiImages, ShrinkingKeepsTheMeanAndTheCopy) {
+  std::vector<Pixel> pixels;
+  unsigned noise = 3;
+  double sum = 0;
+  for (int at = 0; at < 97 * 61; ++at) {
+    noise = noise * 1664525u + 1013904223u;
+    pixels.push_back(0xFF000000 | (noise >> 24));
+    sum += noise >> 24;
+  }
+  const auto image = bitmap(97, 61, pixels);
+  Graphics graphics(dc);
+  graphics.DrawImage(image.get(), Rect(0, 0, 31, 13));
+  double shrunk = 0;
+  for (int y = 0; y < 13; ++y)
+    for (int x = 0; x < 31; ++x) shrunk += surface->at(x, y) & 0xFF;
+  EXPECT_NEAR(shrunk / (31 * 13), sum / (97 * 61), 0.5);
+  const Surface first(*surface);
+  const std::unique_ptr<Image> clone(image->Clone());
+  EXPECT_EQ(clone->cache(), image->cache());
+  EXPECT_EQ(clone->pixels(), image->pixels());
+  wipe();
+  Graphics(dc).DrawImage(clone.get(), Rect(0, 0, 31, 13));
+  for (int y = 0; y < 13; ++y)
+    for (int x = 0; x < 31; ++x) ASSERT_EQ(surface->at(x, y), first.at(x, y));
+}
+
+TEST_F(GdiImages, PartsOfAPicture) {
+  std::vector<Pixel> pixels;
+  for (Pixel at = 0; at < 16; ++at) pixels.push_back(0xFF000000 | (at * 8));
+  const auto image = bitmap(4, 4, pixels);
+  Graphics graphics(dc);
+  EXPECT_EQ(graphics.DrawImage(image.get(), Rect(10, 10, 2, 2), 1, 2, 2, 2, UnitPixel), Ok);
+  EXPECT_EQ(seen(10, 10), 9u * 8);
+  EXPECT_EQ(seen(11, 11), 14u * 8);
+  EXPECT_EQ(drawn(), "10,10,12,12 4");
+  wipe();
+  graphics.DrawImage(image.get(), Rect(20, 20, 4, 4), -2, 0, 4, 4, UnitPixel);
+  EXPECT_EQ(drawn(), "22,20,24,24 8");
+  EXPECT_EQ(seen(22, 20), 0u);
+  wipe();
+  // Enlarged, a part's edges hold nothing of its neighbours.
+  graphics.DrawImage(image.get(), Rect(20, 20, 30, 30), 3, 3, 1, 1, UnitPixel);
+  EXPECT_EQ(drawn(), "20,20,50,50 900");
+  EXPECT_EQ(seen(20, 20), 15u * 8);
+  EXPECT_EQ(seen(49, 49), 15u * 8);
+  EXPECT_EQ(graphics.DrawImage(image.get(), Rect(0, 0, 5, 5), 0, 0, 0, 4, UnitPixel), Ok);
+  EXPECT_EQ(graphics.DrawImage(image.get(), Rect(0, 0, 5, 5), 0, 0, 4, 4, UnitPoint),
+            InvalidParameter);
+}
+
+TEST_F(GdiImages, TurnsClockwiseAboutTheMiddle) {
+  const auto image = bitmap(2, 2, {0xFFFF0000, 0xFF00FF00, 0xFF0000FF, 0xFF000000});
+  const Pixel clockwise[] = {0xFF0000, 0x00FF00, 0x000000, 0x0000FF};
+  const POINT quadrants[] = {{41, 41}, {58, 41}, {58, 58}, {41, 58}};
+  for (int quarter = 0; quarter < 4; ++quarter) {
+    wipe();
+    Graphics graphics(dc);
+    graphics.TranslateTransform(50, 50);
+    graphics.RotateTransform(static_cast<REAL>(90 * quarter));
+    graphics.TranslateTransform(-50, -50);
+    EXPECT_EQ(graphics.DrawImage(image.get(), Rect(40, 40, 20, 20)), Ok);
+    EXPECT_EQ(drawn(), "40,40,60,60 400");
+    for (int corner = 0; corner < 4; ++corner) {
+      const POINT at = quadrants[(corner + quarter) % 4];
+      EXPECT_EQ(seen(at.x, at.y), clockwise[corner]) << quarter << " corner " << corner;
+    }
+  }
+  wipe();
+  Graphics graphics(dc);
+  graphics.TranslateTransform(50, 50);
+  graphics.RotateTransform(45);
+  graphics.DrawImage(image.get(), Rect(-20, -20, 40, 40));
+  EXPECT_EQ(seen(50, 35), 0xFF0000u);
+  EXPECT_EQ(seen(65, 50), 0x00FF00u);
+  EXPECT_EQ(seen(25, 25), kWhite);
+}
+
+TEST_F(GdiImages, TransparencyClipAndOrigin) {
+  const auto image = bitmap(2, 1, {0x80FF0000, 0x00000000});
+  surface->fill(surface->rect(), 0xFFFFFFFF);
+  Region clip(RECT{0, 0, 31, 100});
+  clip.subtract(RECT{0, 0, 30, 5});
+  HDC shifted = gdi.open_dc(surface, {10, 0}, clip);
+  Graphics graphics(shifted);
+  graphics.DrawImage(image.get(), Rect(19, 10, 2, 1));
+  graphics.DrawImage(image.get(), Rect(20, 0, 20, 10));
+  gdi.close_dc(shifted);
+  EXPECT_EQ(surface->at(29, 10), 0xFFFF7F7Fu);
+  EXPECT_EQ(surface->at(30, 10), 0xFFFFFFFFu);
+  EXPECT_EQ(surface->at(30, 4), 0xFFFF7F7Fu);
+  EXPECT_EQ(surface->at(31, 4), 0xFFFFFFFFu);
+  EXPECT_EQ(surface->take_marks().bounds().right, 31);
+}
+
+}  // namespace
+}  // namespace corvane::system
