@@ -92,6 +92,10 @@ RECT client_on_screen(const Window& window) {
   return rect;
 }
 
+MSG make_message(const System& state, HWND window, UINT number, WPARAM wparam, LPARAM lparam) {
+  return {window, number, wparam, lparam, static_cast<DWORD>(state.now()), state.input.pointer};
+}
+
 std::wstring lower_case(std::wstring_view text) {
   std::wstring result(text);
   for (wchar_t& letter : result)

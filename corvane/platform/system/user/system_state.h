@@ -45,6 +45,8 @@ struct WindowSystem::Impl {
   std::map<std::wstring, std::shared_ptr<WindowClass>> classes;  // by lower-case name
   std::map<std::wstring, UINT> registered_messages;              // by lower-case name
   std::vector<Hook> hooks;
+  std::size_t running_hook = 0;  // how many were called before it; the newest comes first
+  int send_depth = 0;            // of the sends that have not returned
   std::map<HCURSOR, CursorShape> cursors;
 
   MessageQueue queue;
@@ -82,6 +84,8 @@ POINT client_origin(const Window& window);  // screen coordinates
 RECT frame_on_screen(const Window& window);
 RECT client_on_screen(const Window& window);
 
+// A message of now, at the pointer's present position.
+MSG make_message(const System& state, HWND window, UINT number, WPARAM wparam, LPARAM lparam);
 std::wstring lower_case(std::wstring_view text);
 
 }  // namespace corvane::system

@@ -2,7 +2,9 @@
 
 #include <vector>
 
-#include "corvane/platform/system/user/input/capture.h"
+#include "corvane/platform/system/user/input/keyboard_routing.h"
+#include "corvane/platform/system/user/input/mouse_routing.h"
+#include "corvane/platform/system/user/messages/post_message.h"
 #include "corvane/platform/system/user/messages/send_message.h"
 
 namespace corvane::system {
@@ -37,6 +39,32 @@ void route_focus(System& state, const InputEvent& event) {
   if (HWND captured = state.input.capture) send(captured, WM_CANCELMODE);
 }
 
+// A changed size of the display: windows that filled the screen fill it again.
+void resize_screen(System& state, SIZE size) {
+  if (size.cx <= 0 || size.cy <= 0) return;
+  RECT old = state.desktop->frame;
+  RECT now{0, 0, size.cx, size.cy};
+  state.frame_damage.unite(now);  // the display may have lost what it showed
+  if (EqualRect(&old, &now)) return;
+  state.desktop->frame = now;
+  state.desktop->client = now;
+  state.frame.resize(size.cx, size.cy);
+  std::vector<HWND> filling;
+  for (const Window* top : state.desktop->children) {
+    if (EqualRect(&top->frame, &old)) filling.push_back(top->handle);
+  }
+  for (HWND window : filling) MoveWindow(window, 0, 0, size.cx, size.cy, TRUE);
+}
+
+void close_requested(System& state) {
+  HWND main = state.input.active;
+  if (main == nullptr && !state.desktop->children.empty()) {
+    main = state.desktop->children.front()->handle;
+  }
+  if (main == nullptr) return;
+  post(GetAncestor(main, GA_ROOTOWNER), WM_SYSCOMMAND, SC_CLOSE, 0);
+}
+
 }  // namespace
 
 void push_input(System& state, const InputEvent& event) {
@@ -57,10 +85,7 @@ void poll_display(System& state) {
   for (const InputEvent& event : arrived) push_input(state, event);
 }
 
-bool route_next_event(System& state) {
-  if (state.input.events.empty()) return false;
-  InputEvent event = std::move(state.input.events.front());
-  state.input.events.pop_front();
+void route_event(System& state, const InputEvent& event) {
   switch (event.kind) {
     case InputKind::mouse_move:
     case InputKind::mouse_button:
@@ -88,38 +113,19 @@ bool route_next_event(System& state) {
       route_focus(state, event);
       break;
   }
+}
+
+bool route_next_event(System& state) {
+  if (state.input.events.empty()) return false;
+  const InputEvent event = std::move(state.input.events.front());
+  state.input.events.pop_front();
+  route_event(state, event);
   return true;
 }
 
 void append_routed(System& state, HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
   if (state.find(window) == nullptr) return;
-  state.input.routed.push_back(
-      MSG{window, message, wparam, lparam, static_cast<DWORD>(state.now()), state.input.pointer});
-}
-
-void resize_screen(System& state, SIZE size) {
-  if (size.cx <= 0 || size.cy <= 0) return;
-  RECT old = state.desktop->frame;
-  RECT now{0, 0, size.cx, size.cy};
-  state.frame_damage.unite(now);  // the display may have lost what it showed
-  if (EqualRect(&old, &now)) return;
-  state.desktop->frame = now;
-  state.desktop->client = now;
-  state.frame.resize(size.cx, size.cy);
-  std::vector<HWND> filling;
-  for (const Window* top : state.desktop->children) {
-    if (EqualRect(&top->frame, &old)) filling.push_back(top->handle);
-  }
-  for (HWND window : filling) MoveWindow(window, 0, 0, size.cx, size.cy, TRUE);
-}
-
-void close_requested(System& state) {
-  HWND main = state.input.active;
-  if (main == nullptr && !state.desktop->children.empty()) {
-    main = state.desktop->children.front()->handle;
-  }
-  if (main == nullptr) return;
-  post(GetAncestor(main, GA_ROOTOWNER), WM_SYSCOMMAND, SC_CLOSE, 0);
+  state.input.routed.push_back(make_message(state, window, message, wparam, lparam));
 }
 
 }  // namespace corvane::system

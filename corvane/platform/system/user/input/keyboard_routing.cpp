@@ -1,11 +1,15 @@
-// Key events: to the focus window, or to the active one as system keys.
+#include "corvane/platform/system/user/input/keyboard_routing.h"
+
 #include "corvane/platform/system/user/input/input_routing.h"
 #include "corvane/platform/system/user/input/key_characters.h"
-#include "corvane/platform/system/user/messages/send_message.h"
+#include "corvane/platform/system/user/messages/post_message.h"
 
 namespace corvane::system {
 namespace {
 
+// Set in the lParam of a key message whose character arrives as text of its own, so that
+// TranslateMessage makes none.
+constexpr LPARAM kTextFollows = LPARAM{1} << 25;
 constexpr LPARAM kWasDown = LPARAM{1} << 30;
 constexpr LPARAM kReleased = LPARAM{1} << 31;
 constexpr LPARAM kAltDown = LPARAM{1} << 29;

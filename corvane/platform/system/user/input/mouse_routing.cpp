@@ -1,9 +1,11 @@
-// Mouse events: from the display's event to the message for one window.
+#include "corvane/platform/system/user/input/mouse_routing.h"
+
 #include <cstdlib>
 
 #include "corvane/platform/system/user/input/activation.h"
 #include "corvane/platform/system/user/input/hit_test.h"
 #include "corvane/platform/system/user/input/input_routing.h"
+#include "corvane/platform/system/user/messages/post_message.h"
 #include "corvane/platform/system/user/messages/send_message.h"
 
 namespace corvane::system {
@@ -53,6 +55,24 @@ LPARAM in_client(HWND window, POINT screen_point) {
 bool takes_double_clicks(HWND window) {
   Window* found = find(window);
   return found != nullptr && (found->window_class->style & CS_DBLCLKS) != 0;
+}
+
+// MK_ flags of the buttons and keys that are down.
+WPARAM mouse_keys(const System& state) {
+  struct Flag {
+    int virtual_key;
+    WPARAM flag;
+  };
+  constexpr Flag kFlags[] = {{VK_LBUTTON, MK_LBUTTON},
+                             {VK_RBUTTON, MK_RBUTTON},
+                             {VK_MBUTTON, MK_MBUTTON},
+                             {VK_SHIFT, MK_SHIFT},
+                             {VK_CONTROL, MK_CONTROL}};
+  WPARAM keys = 0;
+  for (const Flag& row : kFlags) {
+    if (state.input.keys_retrieved[static_cast<std::size_t>(row.virtual_key)]) keys |= row.flag;
+  }
+  return keys;
 }
 
 // The second press of a double-click replaces the button-down; a third starts anew.
@@ -147,23 +167,6 @@ void route_wheel(System& state, const InputEvent& event) {
   }
   WPARAM keys = MAKEWPARAM(mouse_keys(state), static_cast<WORD>(event.wheel));
   append_routed(state, target, WM_MOUSEWHEEL, keys, packed(event.position));
-}
-
-WPARAM mouse_keys(const System& state) {
-  struct Flag {
-    int virtual_key;
-    WPARAM flag;
-  };
-  constexpr Flag kFlags[] = {{VK_LBUTTON, MK_LBUTTON},
-                             {VK_RBUTTON, MK_RBUTTON},
-                             {VK_MBUTTON, MK_MBUTTON},
-                             {VK_SHIFT, MK_SHIFT},
-                             {VK_CONTROL, MK_CONTROL}};
-  WPARAM keys = 0;
-  for (const Flag& row : kFlags) {
-    if (state.input.keys_retrieved[static_cast<std::size_t>(row.virtual_key)]) keys |= row.flag;
-  }
-  return keys;
 }
 
 void check_leave(System& state, HWND pointer_window) {

@@ -8,14 +8,6 @@
 #include "corvane/platform/system/user/scroll_bars/scroll_painting.h"
 
 namespace corvane::system {
-namespace {
-
-MSG make_message(System& state, HWND window, UINT number, WPARAM wparam, LPARAM lparam) {
-  return {window, number, wparam, lparam, static_cast<DWORD>(state.now()), state.input.pointer};
-}
-
-}  // namespace
-
 bool MessageFilter::matches(const System& state, const MSG& message) const {
   bool any_number = first == 0 && last == 0;
   if (!any_number && (message.message < first || message.message > last)) return false;
@@ -85,9 +77,11 @@ std::optional<MSG> retrieve(System& state, const MessageFilter& filter, bool rem
   return take_timer(state, filter, remove);
 }
 
-bool sleep_until_work(System& state) {
+bool sleep_until_work(System& state, std::optional<std::uint64_t> deadline) {
   present_now(state);
-  return state.display->wait(state.timers.next_due());
+  std::optional<std::uint64_t> wake_up = state.timers.next_due();
+  if (deadline) wake_up = std::min(wake_up.value_or(*deadline), *deadline);
+  return state.display->wait(wake_up);
 }
 
 }  // namespace corvane::system

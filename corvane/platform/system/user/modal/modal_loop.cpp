@@ -1,25 +1,44 @@
 #include "corvane/platform/system/user/modal/modal_loop.h"
 
+#include <utility>
+
 #include "corvane/platform/system/user/input/input_routing.h"
 #include "corvane/platform/system/user/messages/get_message.h"
-#include "corvane/platform/system/user/messages/send_message.h"
 
 namespace corvane::system {
 
-ModalWork work_in_modal_loop(System& state) {
-  if (auto message = take_posted(state, {}, true)) {
+void ModalLoop::run_turns() {
+  while (wanted() && take_turn() == Turn::more) {
+  }
+}
+
+// In the order of retrieve(), but an event comes to the loop and not to a window.
+ModalLoop::Turn ModalLoop::take_turn() {
+  if (const auto message = take_posted(state_, {}, true)) {
     TranslateMessage(&*message);
     DispatchMessageW(&*message);
-    return ModalWork::dispatched;
+    return Turn::more;
   }
-  poll_display(state);
-  if (!state.input.events.empty()) return ModalWork::input;
-  if (state.queue.take_quit(false)) return ModalWork::quit;
-  auto message = take_paint(state, {});
-  if (!message) message = take_timer(state, {}, true);
-  if (!message) return ModalWork::none;
+  poll_display(state_);
+  if (!state_.input.events.empty()) {
+    const InputEvent event = std::move(state_.input.events.front());
+    state_.input.events.pop_front();
+    return on_input(event);
+  }
+  if (state_.queue.take_quit(false)) return Turn::last;
+  auto message = take_paint(state_, {});
+  if (!message) message = take_timer(state_, {}, true);
+  if (!message) return on_idle();
   DispatchMessageW(&*message);
-  return ModalWork::dispatched;
+  return Turn::more;
+}
+
+ModalLoop::Turn ModalLoop::sleep(std::optional<std::uint64_t> deadline) {
+  return sleep_until_work(state_, deadline) ? Turn::more : Turn::last;
+}
+
+void ModalLoop::remember_button(const InputEvent& event) {
+  state_.input.keys_retrieved[static_cast<std::size_t>(event.button & 0xFF)] = event.down;
 }
 
 }  // namespace corvane::system

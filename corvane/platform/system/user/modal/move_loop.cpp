@@ -13,11 +13,9 @@ namespace {
 
 constexpr std::uint64_t kNativeDragInterval = 8;  // milliseconds
 
-enum class Step { go_on, done, cancelled };
-
-class MoveLoop {
+class MoveLoop : public ModalLoop {
  public:
-  MoveLoop(System& state, HWND window) : state_(state), window_(window) {
+  MoveLoop(System& state, HWND window) : ModalLoop(state), window_(window) {
     const Window& found = *state.find(window);
     start_frame_ = found.frame;
     // Where the press was: the pointer may be further by now.
@@ -25,61 +23,47 @@ class MoveLoop {
     fills_screen_ = is_top_level(found) && EqualRect(&found.frame, &state.desktop->frame);
   }
 
-  void run() {
-    while (true) {
-      if (state_.find(window_) == nullptr || state_.input.capture != window_) return;
-      Step step = take_step();
-      if (step == Step::cancelled) place(start_frame_);
-      if (step != Step::go_on) return;
-    }
-  }
+  void run() { run_turns(); }
 
  private:
-  Step take_step() {
-    switch (work_in_modal_loop(state_)) {
-      case ModalWork::dispatched:
-        return Step::go_on;
-      case ModalWork::input:
-        return handle_event();
-      case ModalWork::quit:
-        return Step::done;
-      case ModalWork::none:
-        break;
-    }
-    return sleep() ? Step::go_on : Step::done;
+  bool wanted() const override {
+    return state_.find(window_) != nullptr && state_.input.capture == window_;
   }
 
   // A native window that follows the pointer sees it stand still, so no input comes: look again and
   // again while it is dragged.
-  bool sleep() {
-    if (!dragging_natively_) return sleep_until_work(state_);
-    present_now(state_);
-    std::uint64_t soon = state_.now() + kNativeDragInterval;
-    state_.display->wait(std::min(state_.timers.next_due().value_or(soon), soon));
+  Turn on_idle() override {
+    if (!dragging_natively_) return sleep(std::nullopt);
+    sleep(state_.now() + kNativeDragInterval);
     dragging_natively_ = state_.display->drag_native_window(start_pointer_);
-    return true;
+    return Turn::more;
   }
 
-  Step handle_event() {
-    InputEvent event = state_.input.events.front();
-    state_.input.events.pop_front();
-    if (event.kind == InputKind::mouse_button) {
-      state_.input.keys_retrieved[static_cast<std::size_t>(event.button & 0xFF)] = event.down;
-      if (event.button == VK_LBUTTON && !event.down) {
+  Turn on_input(const InputEvent& event) override {
+    switch (event.kind) {
+      case InputKind::mouse_button:
+        remember_button(event);
+        if (event.button != VK_LBUTTON || event.down) return Turn::more;
         follow(event.position);
-        return Step::done;
-      }
-    } else if (event.kind == InputKind::mouse_move) {
-      follow(event.position);
-    } else if (event.kind == InputKind::key && event.down) {
-      if (event.virtual_key == VK_ESCAPE) return Step::cancelled;
-      if (event.virtual_key == VK_RETURN) return Step::done;
-    } else if (event.kind == InputKind::resize || event.kind == InputKind::close ||
-               event.kind == InputKind::focus) {
-      state_.input.events.push_front(event);
-      route_next_event(state_);
+        return Turn::last;
+      case InputKind::mouse_move:
+        follow(event.position);
+        return Turn::more;
+      case InputKind::key:
+        return event.down ? on_key(event.virtual_key) : Turn::more;
+      case InputKind::resize:
+      case InputKind::close:
+      case InputKind::focus:
+        route_event(state_, event);
+        return Turn::more;
+      default:
+        return Turn::more;
     }
-    return Step::go_on;
+  }
+
+  Turn on_key(int virtual_key) {
+    if (virtual_key == VK_ESCAPE) place(start_frame_);
+    return virtual_key == VK_ESCAPE || virtual_key == VK_RETURN ? Turn::last : Turn::more;
   }
 
   void follow(POINT pointer) {
@@ -87,9 +71,9 @@ class MoveLoop {
     if (dragging_natively_) return;
     RECT frame = start_frame_;
     OffsetRect(&frame, pointer.x - start_pointer_.x, pointer.y - start_pointer_.y);
-    Window* found = state_.find(window_);
+    const Window* found = state_.find(window_);
     if (found == nullptr || EqualRect(&found->frame, &frame)) return;
-    POINT base = client_origin(*found->parent);
+    const POINT base = client_origin(*found->parent);
     OffsetRect(&frame, base.x, base.y);
     send(window_, WM_MOVING, 0, reinterpret_cast<LPARAM>(&frame));
     OffsetRect(&frame, -base.x, -base.y);
@@ -102,7 +86,6 @@ class MoveLoop {
                  frame.bottom - frame.top, SWP_NOZORDER | SWP_NOACTIVATE);
   }
 
-  System& state_;
   HWND window_;
   RECT start_frame_{};
   POINT start_pointer_{};

@@ -4,10 +4,8 @@
 #include <cstdlib>
 
 #include "corvane/platform/system/user/input/input_routing.h"
-#include "corvane/platform/system/user/messages/get_message.h"
 #include "corvane/platform/system/user/messages/send_message.h"
 #include "corvane/platform/system/user/modal/modal_loop.h"
-#include "corvane/platform/system/user/painting/presenting.h"
 #include "corvane/platform/system/user/scroll_bars/scroll_bars.h"
 
 namespace corvane::system {
@@ -33,18 +31,17 @@ UINT code_of(ScrollPart part) {
   }
 }
 
-class ScrollLoop {
+class ScrollLoop : public ModalLoop {
  public:
   ScrollLoop(System& state, HWND window, ScrollAxis axis, POINT press)
-      : state_(state), window_(window), axis_(axis), press_(press), pointer_(press) {}
+      : ModalLoop(state), window_(window), axis_(axis), press_(press), pointer_(press) {}
 
   void run() {
     part_ = part_at(press_);
     if (part_ == ScrollPart::none) return;
     SetCapture(window_);
     begin();
-    bool running = true;
-    while (running && held()) running = take_step();
+    run_turns();
     finish();
   }
 
@@ -58,7 +55,7 @@ class ScrollLoop {
   }
 
   // Somebody else may have taken the button's release, or the capture.
-  bool held() const {
+  bool wanted() const override {
     return shown() != nullptr && state_.input.capture == window_ &&
            state_.input.keys_retrieved[VK_LBUTTON];
   }
@@ -111,53 +108,35 @@ class ScrollLoop {
     tell(SB_THUMBTRACK, start_.position);
   }
 
-  // False: the loop ends.
-  bool take_step() {
-    switch (work_in_modal_loop(state_)) {
-      case ModalWork::dispatched:
-        return true;
-      case ModalWork::input:
-        return handle_event();
-      case ModalWork::quit:
-        return false;
-      case ModalWork::none:
-        break;
-    }
-    return repeat() || sleep();
-  }
-
-  bool handle_event() {
-    InputEvent event = state_.input.events.front();
-    state_.input.events.pop_front();
+  Turn on_input(const InputEvent& event) override {
     switch (event.kind) {
       case InputKind::mouse_button:
-        state_.input.keys_retrieved[static_cast<std::size_t>(event.button & 0xFF)] = event.down;
+        remember_button(event);
         if (event.position.x != pointer_.x || event.position.y != pointer_.y) {
           follow(event.position);
         }
         released_ = event.button == VK_LBUTTON && !event.down;
-        return !released_;
+        return released_ ? Turn::last : Turn::more;
       case InputKind::mouse_move:
         follow(event.position);
-        return true;
+        return Turn::more;
       case InputKind::mouse_wheel:
       case InputKind::mouse_leave:
-        return true;
+        return Turn::more;
       default:
-        return handle_other(event);
+        return on_other_input(event);
     }
   }
 
   // Keys wait until the bar is let go; Escape gives up.
-  bool handle_other(const InputEvent& event) {
+  Turn on_other_input(const InputEvent& event) {
     if (event.kind == InputKind::key && event.down && event.virtual_key == VK_ESCAPE) {
       if (part_ == ScrollPart::thumb) drag_to(start_);
       released_ = true;
-      return false;
+      return Turn::last;
     }
-    state_.input.events.push_front(event);
-    route_next_event(state_);
-    return true;
+    route_event(state_, event);
+    return Turn::more;
   }
 
   void follow(POINT pointer) {
@@ -196,18 +175,12 @@ class ScrollLoop {
 
   bool repeats() const { return part_ != ScrollPart::thumb && part_at(pointer_) == part_; }
 
-  bool repeat() {
-    if (!repeats() || state_.now() < next_repeat_) return false;
+  Turn on_idle() override {
+    if (!repeats()) return sleep(std::nullopt);
+    if (state_.now() < next_repeat_) return sleep(next_repeat_);
     tell(code_of(part_), 0);
     next_repeat_ = state_.now() + kNextRepeat;
-    return true;
-  }
-
-  bool sleep() {
-    if (!repeats()) return sleep_until_work(state_);
-    present_now(state_);
-    std::uint64_t next = state_.timers.next_due().value_or(next_repeat_);
-    return state_.display->wait(std::min(next, next_repeat_));
+    return Turn::more;
   }
 
   void finish() {
@@ -224,7 +197,6 @@ class ScrollLoop {
     tell(SB_ENDSCROLL, 0);
   }
 
-  System& state_;
   HWND window_;
   ScrollAxis axis_;
   POINT press_;

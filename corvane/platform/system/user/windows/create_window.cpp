@@ -1,6 +1,7 @@
 // CreateWindowExW: the order of messages a window is born with.
 #include <algorithm>
 
+#include "corvane/platform/system/user/messages/hooks.h"
 #include "corvane/platform/system/user/messages/send_message.h"
 #include "corvane/platform/system/user/windows/destroy_window.h"
 #include "corvane/platform/system/user/windows/window_classes.h"
