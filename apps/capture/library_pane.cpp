@@ -100,11 +100,11 @@ void CLibraryPane::OnPaint() {
   FrameWith(buffer_, TreeFrame(), kPanelEdgeColor);
   CRect title(kMargin + 4, 0, client.right - kMargin - 4, kTitleHeight);
   LOGFONTW bold = UiFont(17, FW_BOLD);
-  CGdiDC().DrawTextW(buffer_, L"图库", &bold, title, 0xFFE8EEF4, DT_VCENTER | DT_SINGLELINE);
+  CGdiDC().DrawTextW(buffer_, L"图库", &bold, title, kTextArgb, DT_VCENTER | DT_SINGLELINE);
   CString count;
   count.Format(L"%d 张图片", count_);
   LOGFONTW font = UiFont(14);
-  CGdiDC().DrawTextW(buffer_, count, &font, title, 0xFF93A1B0,
+  CGdiDC().DrawTextW(buffer_, count, &font, title, kQuietTextArgb,
                      DT_RIGHT | DT_VCENTER | DT_SINGLELINE);
   buffer_.Paste(dc, client);
 }

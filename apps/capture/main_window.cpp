@@ -272,15 +272,14 @@ void CMainWindow::RecogniseFramed() {
 void CMainWindow::ShowOpenPanel() {
   EndCrop();
   recognition_.Close();
-  std::wstring folder =
-      picture_ == nullptr ? browser_.Folder() : FolderOf(wide_path_of(picture_->path()));
+  const std::wstring current =
+      picture_ == nullptr ? std::wstring() : wide_path_of(picture_->path());
   open_panel_.ShowIn(StageOnScreen(), kOpenPanelSize);
-  open_panel_.ListFolder(native_path(folder).string(),
-                         picture_ == nullptr ? std::string() : picture_->path());
+  open_panel_.ListFolder(current.empty() ? browser_.Folder() : FolderOf(current), current);
 }
 
 LRESULT CMainWindow::OnPictureChosen(WPARAM, LPARAM) {
-  OpenPath(wide_path_of(open_panel_.ChosenPath()));
+  OpenPath(open_panel_.ChosenPath());
   return 0;
 }
 

@@ -1,8 +1,7 @@
 #include "apps/capture/open_panel.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <system_error>
+#include <iterator>
 
 #include "apps/capture/capture_messages.h"
 #include "apps/capture/fill.h"
@@ -16,7 +15,6 @@ namespace capture {
 namespace {
 
 using namespace corvane;
-namespace fs = std::filesystem;
 
 constexpr int kRowHeight = 40;
 constexpr int kIconWidth = 40;
@@ -44,31 +42,23 @@ const MessageMap* COpenPanel::GetMessageMap() const {
   return &map;
 }
 
-void COpenPanel::ListFolder(const std::string& folder, const std::string& current) {
+void COpenPanel::ListFolder(const std::wstring& folder, const std::wstring& current) {
   folder_ = folder;
   entries_.clear();
-  marked_ = -1;
-  std::error_code error;
-  for (fs::directory_iterator it(folder, error), end; !error && it != end; it.increment(error)) {
-    std::error_code ignored;
-    CString name = Wide(it->path().filename());
-    bool is_folder = it->is_directory(ignored);
-    bool is_picture = HasPictureEnding(name.AsStdString()) && it->is_regular_file(ignored);
-    if (name.AsStdString().starts_with(L'.') || (!is_folder && !is_picture)) continue;
-    entries_.push_back({it->path(), name, is_folder});
+  const std::wstring above = FolderOf(folder);
+  if (!above.empty()) entries_.push_back({above, L"..", true});
+  FolderEntries found = ReadFolder(folder).value_or(FolderEntries{});
+  std::vector<std::wstring> folders;
+  std::merge(found.folders.begin(), found.folders.end(), found.links.begin(), found.links.end(),
+             std::back_inserter(folders), StandsBefore);
+  for (const std::wstring& name : folders) entries_.push_back({folder + L'\\' + name, name, true});
+  for (const std::wstring& name : found.pictures) {
+    entries_.push_back({folder + L'\\' + name, name, false});
   }
-  std::sort(entries_.begin(), entries_.end(), [](const Entry& a, const Entry& b) {
-    return a.folder != b.folder ? a.folder
-                                : StandsBefore(a.label.AsStdString(), b.label.AsStdString());
-  });
-  fs::path parent = fs::path(folder).parent_path();
-  if (!parent.empty() && parent != folder) {
-    entries_.insert(entries_.begin(), {parent, CString(L".."), true});
-  }
-  auto here = std::find_if(entries_.begin(), entries_.end(),
-                           [&](const Entry& entry) { return entry.path == current; });
-  if (here != entries_.end()) marked_ = static_cast<int>(here - entries_.begin());
-  SetTitle(Wide(fs::path(folder).filename().string()));
+  const auto here = std::find_if(entries_.begin(), entries_.end(),
+                                 [&](const Entry& entry) { return entry.path == current; });
+  marked_ = here == entries_.end() ? -1 : static_cast<int>(here - entries_.begin());
+  SetTitle(NameOf(folder).c_str());
   ScrollTo(0);
   ShowMarked();
 }
@@ -98,7 +88,7 @@ void COpenPanel::DrawEntry(HDC dc, const Entry& entry, const RECT& row, bool mar
   DrawIcon(dc, row, entry.folder);
   LOGFONTW font = UiFont(19);
   CRect text(row.left + kIconWidth, row.top, row.right - 8, row.bottom);
-  CGdiDC().DrawTextW(dc, entry.label, &font, text, 0xFFE8EEF4, DT_VCENTER | DT_SINGLELINE);
+  CGdiDC().DrawTextW(dc, entry.label.c_str(), &font, text, kTextArgb, DT_VCENTER | DT_SINGLELINE);
 }
 
 int COpenPanel::ContentHeight(int) { return static_cast<int>(entries_.size()) * kRowHeight; }
@@ -122,7 +112,7 @@ void COpenPanel::OnLButtonUp(UINT, CPoint point) { OpenEntry(EntryAt(point)); }
 
 void COpenPanel::OpenEntry(int index) {
   if (index < 0) return;
-  Entry entry = entries_[static_cast<std::size_t>(index)];
+  const Entry entry = entries_[static_cast<std::size_t>(index)];
   if (entry.folder) {
     ListFolder(entry.path, folder_);
     return;

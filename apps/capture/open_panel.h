@@ -10,9 +10,9 @@ namespace capture {
 // Posts WM_PICTURE_CHOSEN to its owner.
 class COpenPanel : public CPanel {
  public:
-  // Byte path. Lists the folder and marks `current`, when it is there.
-  void ListFolder(const std::string& folder, const std::string& current);
-  const std::string& ChosenPath() const { return chosen_; }
+  // Full wide paths. Lists the folder and marks `current`, when it is there.
+  void ListFolder(const std::wstring& folder, const std::wstring& current);
+  const std::wstring& ChosenPath() const { return chosen_; }
 
  protected:
   const corvane::MessageMap* GetMessageMap() const override;
@@ -24,8 +24,8 @@ class COpenPanel : public CPanel {
 
  private:
   struct Entry {
-    std::string path;
-    corvane::CString label;
+    std::wstring path;
+    std::wstring label;
     bool folder = false;
   };
   int EntryAt(corvane::CPoint point) const;  // -1: none
@@ -34,10 +34,10 @@ class COpenPanel : public CPanel {
   void OpenEntry(int index);
   void DrawEntry(HDC dc, const Entry& entry, const RECT& row, bool marked);
 
-  std::string folder_;
+  std::wstring folder_;
   std::vector<Entry> entries_;
   int marked_ = -1;
-  std::string chosen_;
+  std::wstring chosen_;
 };
 
 }  // namespace capture

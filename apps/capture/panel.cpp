@@ -119,7 +119,7 @@ void CPanel::DrawFrame(HDC dc) {
   FrameWith(dc, client, kPanelEdgeColor);
   CRect title(kPadding, 0, close_rect_.left, kTitleHeight);
   LOGFONTW font = UiFont(20, FW_BOLD);
-  CGdiDC().DrawTextW(dc, title_, &font, title, 0xFFE8EEF4, DT_VCENTER | DT_SINGLELINE);
+  CGdiDC().DrawTextW(dc, title_, &font, title, kTextArgb, DT_VCENTER | DT_SINGLELINE);
 }
 
 void CPanel::DrawScrollMark(HDC dc, const RECT& content) {

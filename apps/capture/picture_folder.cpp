@@ -11,11 +11,16 @@ namespace {
 constexpr wchar_t kSeparator = L'\\';
 
 void Add(FolderEntries& entries, const WIN32_FIND_DATAW& found) {
-  std::wstring_view name = found.cFileName;
-  if (!(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY)) {
+  const std::wstring_view name = found.cFileName;
+  if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) {
     if (HasPictureEnding(name)) entries.pictures.emplace_back(name);
-  } else if (!(found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) && !name.starts_with(L'.')) {
+    return;
+  }
+  if (name.starts_with(L'.')) return;
+  if ((found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) {
     entries.folders.emplace_back(name);
+  } else {
+    entries.links.emplace_back(name);
   }
 }
 
@@ -41,8 +46,9 @@ std::optional<FolderEntries> ReadFolder(const std::wstring& folder) {
     Add(entries, found);
   } while (FindNextFileW(search, &found));
   FindClose(search);
-  std::sort(entries.folders.begin(), entries.folders.end(), StandsBefore);
-  std::sort(entries.pictures.begin(), entries.pictures.end(), StandsBefore);
+  for (auto* names : {&entries.folders, &entries.links, &entries.pictures}) {
+    std::sort(names->begin(), names->end(), StandsBefore);
+  }
   return entries;
 }
 

@@ -12,8 +12,9 @@ namespace capture {
 bool HasPictureEnding(std::wstring_view name);
 
 struct FolderEntries {
-  std::vector<std::wstring>
-      folders;  // names in order (StandsBefore); no links, nothing that begins with a dot
+  // Names in order (StandsBefore); no folder whose name begins with a dot.
+  std::vector<std::wstring> folders;
+  std::vector<std::wstring> links;  // to folders
   std::vector<std::wstring> pictures;
 };
 // Nothing when the folder cannot be listed.

@@ -87,13 +87,13 @@ void CPictureView::DrawEmptyStage(HDC dc, const RECT& client) const {
   LOGFONTW font = UiFont(24);
   CRect first(client);
   first.bottom -= kEmptyLineDistance;
-  CGdiDC().DrawTextW(dc, text.substr(0, end).c_str(), &font, first, 0xFFE8EEF4,
+  CGdiDC().DrawTextW(dc, text.substr(0, end).c_str(), &font, first, kTextArgb,
                      DT_CENTER | DT_VCENTER | DT_SINGLELINE);
   if (end == text.size()) return;
   font = UiFont(17);
   CRect second(client);
   second.top += kEmptyLineDistance;
-  CGdiDC().DrawTextW(dc, text.substr(end + 1).c_str(), &font, second, 0xFF93A1B0,
+  CGdiDC().DrawTextW(dc, text.substr(end + 1).c_str(), &font, second, kQuietTextArgb,
                      DT_CENTER | DT_VCENTER | DT_SINGLELINE);
 }
 
@@ -106,7 +106,7 @@ void CPictureView::DrawNotice(HDC dc, const RECT& client) const {
   FillWith(dc, box, kPanelColor);
   FrameWith(dc, box, kPanelEdgeColor);
   FillWith(dc, CRect(box.left, box.top, box.left + 4, box.bottom), kAccentColor);
-  CGdiDC().DrawTextW(dc, notice_, &font, box, 0xFFE8EEF4, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+  CGdiDC().DrawTextW(dc, notice_, &font, box, kTextArgb, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
 }
 
 void CPictureView::OnTimer(UINT_PTR id) {
