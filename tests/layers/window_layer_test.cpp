@@ -28,7 +28,7 @@ class PlainImage {
 
  private:
   DWORD pixel_;
-  Gdiplus::Bitmap image_{1, 1, 4, Gdiplus::PixelFormat32bppARGB, reinterpret_cast<BYTE*>(&pixel_)};
+  Gdiplus::Bitmap image_{1, 1, 4, PixelFormat32bppARGB, reinterpret_cast<BYTE*>(&pixel_)};
 };
 
 class WindowLayerTest : public LayerTest {

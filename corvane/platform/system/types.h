@@ -94,36 +94,42 @@ using TIMERPROC = void (*)(HWND, UINT, UINT_PTR, DWORD);
 using HOOKPROC = LRESULT (*)(int, WPARAM, LPARAM);
 using WNDENUMPROC = BOOL (*)(HWND, LPARAM);
 
-constexpr WORD LOWORD(DWORD_PTR value) { return static_cast<WORD>(value & 0xFFFF); }
-constexpr WORD HIWORD(DWORD_PTR value) { return static_cast<WORD>((value >> 16) & 0xFFFF); }
-constexpr BYTE LOBYTE(DWORD_PTR value) { return static_cast<BYTE>(value & 0xFF); }
-constexpr BYTE HIBYTE(DWORD_PTR value) { return static_cast<BYTE>((value >> 8) & 0xFF); }
-constexpr DWORD MAKELONG(DWORD_PTR low, DWORD_PTR high) {
-  return static_cast<DWORD>(LOWORD(low)) | (static_cast<DWORD>(LOWORD(high)) << 16);
+// What the macros below do.
+constexpr WORD low_word(DWORD_PTR value) { return static_cast<WORD>(value & 0xFFFF); }
+constexpr WORD high_word(DWORD_PTR value) { return static_cast<WORD>((value >> 16) & 0xFFFF); }
+constexpr DWORD make_long(DWORD_PTR low, DWORD_PTR high) {
+  return static_cast<DWORD>(low_word(low)) | (static_cast<DWORD>(low_word(high)) << 16);
 }
-constexpr WPARAM MAKEWPARAM(DWORD_PTR low, DWORD_PTR high) { return MAKELONG(low, high); }
-constexpr LPARAM MAKELPARAM(DWORD_PTR low, DWORD_PTR high) {
-  return static_cast<LPARAM>(MAKELONG(low, high));
-}
-constexpr int GET_X_LPARAM(LPARAM value) {
-  return static_cast<SHORT>(LOWORD(static_cast<DWORD_PTR>(value)));
-}
-constexpr int GET_Y_LPARAM(LPARAM value) {
-  return static_cast<SHORT>(HIWORD(static_cast<DWORD_PTR>(value)));
-}
-constexpr SHORT GET_WHEEL_DELTA_WPARAM(WPARAM value) { return static_cast<SHORT>(HIWORD(value)); }
-constexpr COLORREF RGB(int red, int green, int blue) {
+constexpr COLORREF make_color(int red, int green, int blue) {
   return static_cast<COLORREF>((red & 0xFF) | ((green & 0xFF) << 8) | ((blue & 0xFF) << 16));
 }
-constexpr BYTE GetRValue(COLORREF color) { return LOBYTE(color); }
-constexpr BYTE GetGValue(COLORREF color) { return LOBYTE(color >> 8); }
-constexpr BYTE GetBValue(COLORREF color) { return LOBYTE(color >> 16); }
-
-// A resource identifier in place of a name.
-inline LPWSTR MAKEINTRESOURCEW(int id) {
+inline LPWSTR resource_name(int id) {
   return reinterpret_cast<LPWSTR>(static_cast<ULONG_PTR>(static_cast<WORD>(id)));
 }
-inline bool IS_INTRESOURCE(LPCWSTR name) { return (reinterpret_cast<ULONG_PTR>(name) >> 16) == 0; }
+inline bool is_resource_name(LPCWSTR name) {
+  return (reinterpret_cast<ULONG_PTR>(name) >> 16) == 0;
+}
+
+#define LOWORD(value) (::corvane_system::low_word(static_cast<::corvane_system::DWORD_PTR>(value)))
+#define HIWORD(value) (::corvane_system::high_word(static_cast<::corvane_system::DWORD_PTR>(value)))
+#define LOBYTE(value) (static_cast<::corvane_system::BYTE>((value)&0xFF))
+#define HIBYTE(value) (static_cast<::corvane_system::BYTE>((value) >> 8 & 0xFF))
+#define MAKELONG(low, high)                                                   \
+  (::corvane_system::make_long(static_cast<::corvane_system::DWORD_PTR>(low), \
+                               static_cast<::corvane_system::DWORD_PTR>(high)))
+#define MAKEWPARAM(low, high) (static_cast<::corvane_system::WPARAM>(MAKELONG(low, high)))
+#define MAKELPARAM(low, high) (static_cast<::corvane_system::LPARAM>(MAKELONG(low, high)))
+#define GET_X_LPARAM(value) (static_cast<int>(static_cast<::corvane_system::SHORT>(LOWORD(value))))
+#define GET_Y_LPARAM(value) (static_cast<int>(static_cast<::corvane_system::SHORT>(HIWORD(value))))
+#define GET_WHEEL_DELTA_WPARAM(value) (static_cast<::corvane_system::SHORT>(HIWORD(value)))
+#define RGB(red, green, blue) (::corvane_system::make_color((red), (green), (blue)))
+#define GetRValue(color) LOBYTE(color)
+#define GetGValue(color) LOBYTE((color) >> 8)
+#define GetBValue(color) LOBYTE((color) >> 16)
+
+// A resource identifier in place of a name.
+#define MAKEINTRESOURCEW(id) (::corvane_system::resource_name(id))
+#define IS_INTRESOURCE(name) (::corvane_system::is_resource_name(name))
 
 // Rectangle arithmetic. The functions that return BOOL say whether the result is not empty.
 BOOL SetRect(LPRECT rect, int left, int top, int right, int bottom);
@@ -141,17 +147,17 @@ BOOL UnionRect(LPRECT target, const RECT* first, const RECT* second);      // ig
 DWORD GetLastError();
 void SetLastError(DWORD code);
 
-constexpr DWORD ERROR_SUCCESS = 0;
-constexpr DWORD ERROR_ACCESS_DENIED = 5;
-constexpr DWORD ERROR_INVALID_HANDLE = 6;
-constexpr DWORD ERROR_INVALID_PARAMETER = 87;
-constexpr DWORD ERROR_INVALID_WINDOW_HANDLE = 1400;
-constexpr DWORD ERROR_TLW_WITH_WSCHILD = 1406;
-constexpr DWORD ERROR_CANNOT_FIND_WND_CLASS = 1407;
-constexpr DWORD ERROR_CLASS_ALREADY_EXISTS = 1410;
-constexpr DWORD ERROR_CLASS_DOES_NOT_EXIST = 1411;
-constexpr DWORD ERROR_CONTROL_ID_NOT_FOUND = 1421;
-constexpr DWORD ERROR_NO_SCROLLBARS = 1447;
+#define ERROR_SUCCESS 0u
+#define ERROR_ACCESS_DENIED 5u
+#define ERROR_INVALID_HANDLE 6u
+#define ERROR_INVALID_PARAMETER 87u
+#define ERROR_INVALID_WINDOW_HANDLE 1400u
+#define ERROR_TLW_WITH_WSCHILD 1406u
+#define ERROR_CANNOT_FIND_WND_CLASS 1407u
+#define ERROR_CLASS_ALREADY_EXISTS 1410u
+#define ERROR_CLASS_DOES_NOT_EXIST 1411u
+#define ERROR_CONTROL_ID_NOT_FOUND 1421u
+#define ERROR_NO_SCROLLBARS 1447u
 
 }  // namespace corvane_system
 using namespace corvane_system;  // NOLINT: the platform's names are global, as on Windows

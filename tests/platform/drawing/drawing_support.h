@@ -28,7 +28,7 @@ class DrawingTest : public testing::Test {
                                : (right ? 0xFF00FF00 : 0xFFFF0000));
       }
     }
-    return Gdiplus::Bitmap(size, size, size * 4, Gdiplus::PixelFormat32bppARGB,
+    return Gdiplus::Bitmap(size, size, size * 4, PixelFormat32bppARGB,
                            reinterpret_cast<BYTE*>(pixels.data()));
   }
   static CBufferDC buffer(int width, int height, COLORREF color) {

@@ -6,7 +6,7 @@
 
 namespace corvane_system {
 
-constexpr int LF_FACESIZE = 32;
+#define LF_FACESIZE 32
 struct LOGFONTW {
   LONG lfHeight;  // positive: cell height; negative: character height; pixels
   LONG lfWidth;
@@ -72,29 +72,67 @@ struct BITMAPINFO {
   RGBQUAD bmiColors[1];
 };
 
-constexpr int PS_SOLID = 0, PS_DASH = 1, PS_DOT = 2, PS_NULL = 5;
-constexpr int TRANSPARENT = 1, OPAQUE = 2;
-constexpr int WHITE_BRUSH = 0, LTGRAY_BRUSH = 1, GRAY_BRUSH = 2, DKGRAY_BRUSH = 3, BLACK_BRUSH = 4,
-              NULL_BRUSH = 5, WHITE_PEN = 6, BLACK_PEN = 7, NULL_PEN = 8, SYSTEM_FONT = 13,
-              DEFAULT_GUI_FONT = 17;
-constexpr UINT DT_TOP = 0x0, DT_LEFT = 0x0, DT_CENTER = 0x1, DT_RIGHT = 0x2, DT_VCENTER = 0x4,
-               DT_BOTTOM = 0x8, DT_WORDBREAK = 0x10, DT_SINGLELINE = 0x20, DT_NOCLIP = 0x100,
-               DT_CALCRECT = 0x400, DT_NOPREFIX = 0x800, DT_END_ELLIPSIS = 0x8000;
-constexpr DWORD SRCCOPY = 0x00CC0020, PATCOPY = 0x00F00021, BLACKNESS = 0x00000042,
-                WHITENESS = 0x00FF0062;
-constexpr int BLACKONWHITE = 1, WHITEONBLACK = 2, COLORONCOLOR = 3, HALFTONE = 4;
-constexpr UINT ETO_OPAQUE = 0x0002, ETO_CLIPPED = 0x0004;
-constexpr int FW_NORMAL = 400, FW_BOLD = 700;
-constexpr BYTE DEFAULT_CHARSET = 1, GB2312_CHARSET = 134;
-constexpr BYTE DEFAULT_QUALITY = 0, ANTIALIASED_QUALITY = 4, CLEARTYPE_QUALITY = 5;
-constexpr BYTE CLEARTYPE_NATURAL_QUALITY = 6;
-constexpr BYTE AC_SRC_OVER = 0, AC_SRC_ALPHA = 1;
-constexpr COLORREF CLR_INVALID = 0xFFFFFFFF;
-constexpr UINT DIB_RGB_COLORS = 0;
-constexpr DWORD BI_RGB = 0;
-constexpr int NULLREGION = 1, SIMPLEREGION = 2, COMPLEXREGION = 3;
-constexpr UINT OBJ_PEN = 1, OBJ_BRUSH = 2, OBJ_FONT = 6, OBJ_BITMAP = 7;
-constexpr int COLOR_WINDOW = 5, COLOR_BTNFACE = 15;
+#define PS_SOLID 0
+#define PS_DASH 1
+#define PS_DOT 2
+#define PS_NULL 5
+#define TRANSPARENT 1
+#define OPAQUE 2
+#define WHITE_BRUSH 0
+#define LTGRAY_BRUSH 1
+#define GRAY_BRUSH 2
+#define DKGRAY_BRUSH 3
+#define BLACK_BRUSH 4
+#define NULL_BRUSH 5
+#define WHITE_PEN 6
+#define BLACK_PEN 7
+#define NULL_PEN 8
+#define SYSTEM_FONT 13
+#define DEFAULT_GUI_FONT 17
+#define DT_TOP 0x0u
+#define DT_LEFT 0x0u
+#define DT_CENTER 0x1u
+#define DT_RIGHT 0x2u
+#define DT_VCENTER 0x4u
+#define DT_BOTTOM 0x8u
+#define DT_WORDBREAK 0x10u
+#define DT_SINGLELINE 0x20u
+#define DT_NOCLIP 0x100u
+#define DT_CALCRECT 0x400u
+#define DT_NOPREFIX 0x800u
+#define DT_END_ELLIPSIS 0x8000u
+#define SRCCOPY 0x00CC0020u
+#define PATCOPY 0x00F00021u
+#define BLACKNESS 0x00000042u
+#define WHITENESS 0x00FF0062u
+#define BLACKONWHITE 1
+#define WHITEONBLACK 2
+#define COLORONCOLOR 3
+#define HALFTONE 4
+#define ETO_OPAQUE 0x0002u
+#define ETO_CLIPPED 0x0004u
+#define FW_NORMAL 400
+#define FW_BOLD 700
+#define DEFAULT_CHARSET 1
+#define GB2312_CHARSET 134
+#define DEFAULT_QUALITY 0
+#define ANTIALIASED_QUALITY 4
+#define CLEARTYPE_QUALITY 5
+#define CLEARTYPE_NATURAL_QUALITY 6
+#define AC_SRC_OVER 0
+#define AC_SRC_ALPHA 1
+#define CLR_INVALID 0xFFFFFFFFu
+#define DIB_RGB_COLORS 0u
+#define BI_RGB 0u
+#define NULLREGION 1
+#define SIMPLEREGION 2
+#define COMPLEXREGION 3
+#define OBJ_PEN 1u
+#define OBJ_BRUSH 2u
+#define OBJ_FONT 6u
+#define OBJ_BITMAP 7u
+#define COLOR_WINDOW 5
+#define COLOR_BTNFACE 15
 
 // --- Objects. The caller owns what a Create function returns and frees it with DeleteObject.
 // DeleteObject of an object that is selected into a device context returns 0: the object lives on

@@ -104,7 +104,7 @@ class Bitmap : public Image {
   Bitmap(const WCHAR* path, BOOL embedded_color_management = FALSE)
       : Image(path, embedded_color_management) {}
 };
-constexpr DWORD PixelFormat32bppARGB = 0x26200A;
+#define PixelFormat32bppARGB 0x26200Au
 
 class Brush {
  public:

@@ -5,8 +5,8 @@
 
 namespace corvane_system {
 
-inline const HANDLE INVALID_HANDLE_VALUE = reinterpret_cast<HANDLE>(static_cast<LONG_PTR>(-1));
-constexpr int MAX_PATH = 260;
+#define INVALID_HANDLE_VALUE (reinterpret_cast<HANDLE>(static_cast<LONG_PTR>(-1)))
+#define MAX_PATH 260
 
 // Steps of 100 ns since the year 1601, UTC.
 struct FILETIME {
@@ -29,23 +29,23 @@ struct WIN32_FIND_DATAW {
 using WIN32_FIND_DATA = WIN32_FIND_DATAW;
 using LPWIN32_FIND_DATAW = WIN32_FIND_DATAW*;
 
-constexpr DWORD FILE_ATTRIBUTE_READONLY = 0x1;  // a file that nobody may write
-constexpr DWORD FILE_ATTRIBUTE_HIDDEN = 0x2;    // its name begins with a dot
-constexpr DWORD FILE_ATTRIBUTE_SYSTEM = 0x4;    // never set
-constexpr DWORD FILE_ATTRIBUTE_DIRECTORY = 0x10;
-constexpr DWORD FILE_ATTRIBUTE_ARCHIVE = 0x20;  // whatever is no folder
-constexpr DWORD FILE_ATTRIBUTE_NORMAL = 0x80;
-constexpr DWORD FILE_ATTRIBUTE_REPARSE_POINT = 0x400;  // a link; with DIRECTORY: to a folder
-constexpr DWORD INVALID_FILE_ATTRIBUTES = 0xFFFFFFFF;
-constexpr DWORD IO_REPARSE_TAG_SYMLINK = 0xA000000C;
+#define FILE_ATTRIBUTE_READONLY 0x1u  // a file that nobody may write
+#define FILE_ATTRIBUTE_HIDDEN 0x2u    // its name begins with a dot
+#define FILE_ATTRIBUTE_SYSTEM 0x4u    // never set
+#define FILE_ATTRIBUTE_DIRECTORY 0x10u
+#define FILE_ATTRIBUTE_ARCHIVE 0x20u  // whatever is no folder
+#define FILE_ATTRIBUTE_NORMAL 0x80u
+#define FILE_ATTRIBUTE_REPARSE_POINT 0x400u  // a link; with DIRECTORY: to a folder
+#define INVALID_FILE_ATTRIBUTES 0xFFFFFFFFu
+#define IO_REPARSE_TAG_SYMLINK 0xA000000Cu
 
-constexpr DWORD ERROR_FILE_NOT_FOUND = 2;
-constexpr DWORD ERROR_PATH_NOT_FOUND = 3;
-constexpr DWORD ERROR_TOO_MANY_OPEN_FILES = 4;
-constexpr DWORD ERROR_NOT_ENOUGH_MEMORY = 8;
-constexpr DWORD ERROR_NO_MORE_FILES = 18;
-constexpr DWORD ERROR_GEN_FAILURE = 31;
-constexpr DWORD ERROR_FILENAME_EXCED_RANGE = 206;
+#define ERROR_FILE_NOT_FOUND 2u
+#define ERROR_PATH_NOT_FOUND 3u
+#define ERROR_TOO_MANY_OPEN_FILES 4u
+#define ERROR_NOT_ENOUGH_MEMORY 8u
+#define ERROR_NO_MORE_FILES 18u
+#define ERROR_GEN_FAILURE 31u
+#define ERROR_FILENAME_EXCED_RANGE 206u
 
 // Finds the entries of one folder in the file system's order; for a pattern that allows them "."
 // and
