@@ -1,7 +1,7 @@
 #include "corvane/trees/tree_ctrl_ex2.h"
 
 #include "corvane/platform/framework/paint_dc.h"
-#include "corvane/trees/nearest_int.h"
+#include "corvane/platform/geometry.h"
 #include "corvane/trees/tree_loading.h"
 
 namespace corvane {
@@ -165,7 +165,7 @@ void CTreeCtrlEx2::OnPaint() {
 void CTreeCtrlEx2::DoDraw(HDC dc, CRect rect) {
   if (model_.empty()) return;
   const LONG total = ListSort();
-  const LONG height = nearest_int(static_cast<long long>(rect.bottom) - rect.top);
+  const LONG height = clamp_coordinate(height_of(rect));
   const bool overflows = total > height;
   const auto watch = liveness_.watch();
   OpenVscroll(overflows, overflows ? total : 0, overflows ? height : 0);
@@ -184,8 +184,8 @@ int CTreeCtrlEx2::DrawItem(HDC dc, _NODE* node) {
   ::GetClipBox(dc, clip);
   const long long top = clip.top;
   const long long bottom = clip.bottom;
-  for (const _NODE* below : layout_.rows_below(model_, *node, nearest_int(top + position),
-                                               nearest_int(bottom + position))) {
+  for (const _NODE* below : layout_.rows_below(model_, *node, clamp_coordinate(top + position),
+                                               clamp_coordinate(bottom + position))) {
     DrawRow(dc, *below, position);
   }
   return 1;
@@ -193,8 +193,8 @@ int CTreeCtrlEx2::DrawItem(HDC dc, _NODE* node) {
 
 void CTreeCtrlEx2::DrawRow(HDC dc, const _NODE& node, int position) const {
   CRect row(node.row());
-  row.top = nearest_int(static_cast<long long>(row.top) - position);
-  row.bottom = nearest_int(static_cast<long long>(row.bottom) - position);
+  row.top = clamp_coordinate(static_cast<long long>(row.top) - position);
+  row.bottom = clamp_coordinate(static_cast<long long>(row.bottom) - position);
   painter_.Draw(dc, node, row, model_.is_path_of(model_.highlight_path(), node));
 }
 

@@ -1,6 +1,6 @@
 // The tree's scroll bar, mouse and keys.
 #include "corvane/layers/frame/layer_key_filter.h"
-#include "corvane/trees/nearest_int.h"
+#include "corvane/platform/geometry.h"
 #include "corvane/trees/tree_ctrl_ex2.h"
 
 namespace corvane {
@@ -30,7 +30,7 @@ int CTreeCtrlEx2::ScrollPosition() const { return GetScrollPos(SB_VERT); }
 ScrollState CTreeCtrlEx2::GetScrollState() const {
   SCROLLINFO info{};
   if (!GetScrollInfo(SB_VERT, &info, SIF_ALL)) return {};
-  return {info.nMin, GetScrollLimit(SB_VERT), nearest_int(info.nPage), info.nPos};
+  return {info.nMin, GetScrollLimit(SB_VERT), clamp_coordinate(info.nPage), info.nPos};
 }
 
 void CTreeCtrlEx2::ScrollTo(int position) {
@@ -50,7 +50,7 @@ BOOL CTreeCtrlEx2::OnMouseWheel(UINT flags, short distance, CPoint screen_point)
 }
 
 POINT CTreeCtrlEx2::ContentPoint(CPoint point) const {
-  return {point.x, nearest_int(static_cast<long long>(point.y) + ScrollPosition())};
+  return {point.x, clamp_coordinate(static_cast<long long>(point.y) + ScrollPosition())};
 }
 
 _NODE* CTreeCtrlEx2::HitTest(CPoint point) { return layout_.node_at(model_, ContentPoint(point)); }

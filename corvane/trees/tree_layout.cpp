@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <limits>
 
-#include "corvane/trees/nearest_int.h"
+#include "corvane/platform/geometry.h"
 #include "corvane/trees/tree_walk.h"
 
 namespace corvane {
@@ -11,7 +11,7 @@ namespace {
 
 RECT row_rect(int row, int width) {
   const long long top = static_cast<long long>(row) * tree_row_height;
-  return {0, nearest_int(top), std::max(width, 0), nearest_int(top + tree_row_height)};
+  return {0, clamp_coordinate(top), std::max(width, 0), clamp_coordinate(top + tree_row_height)};
 }
 
 }  // namespace

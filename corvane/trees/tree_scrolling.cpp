@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "corvane/trees/nearest_int.h"
+#include "corvane/platform/geometry.h"
 
 namespace corvane {
 namespace {
@@ -21,10 +21,10 @@ int scrolled_by_bar(UINT code, UINT thumb, const ScrollState& state) {
     case SB_LINEDOWN:
       return can_go_down ? state.position + 1 : state.position;
     case SB_PAGEUP:
-      return can_go_up ? std::max(nearest_int(position - state.page), state.minimum)
+      return can_go_up ? std::max(clamp_coordinate(position - state.page), state.minimum)
                        : state.position;
     case SB_PAGEDOWN:
-      return can_go_down ? std::min(nearest_int(position + state.page), state.limit)
+      return can_go_down ? std::min(clamp_coordinate(position + state.page), state.limit)
                          : state.position;
     case SB_THUMBPOSITION:
     case SB_THUMBTRACK:
@@ -42,7 +42,7 @@ int scrolled_by_wheel(short distance, const ScrollState& state) {
   if (state.limit <= state.minimum) return state.position;
   const long long moved =
       state.position - static_cast<long long>(distance / wheel_units_of_a_pixel);
-  return std::clamp(nearest_int(moved), state.minimum, state.limit);
+  return std::clamp(clamp_coordinate(moved), state.minimum, state.limit);
 }
 
 }  // namespace corvane

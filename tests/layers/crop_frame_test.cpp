@@ -6,7 +6,7 @@
 #include <random>
 #include <vector>
 
-#include "corvane/layers/crop/saturating.h"
+#include "corvane/platform/geometry.h"
 #include "tests/layers/support/rect_matchers.h"
 
 namespace {

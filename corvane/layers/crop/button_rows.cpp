@@ -4,7 +4,7 @@
 #include <iterator>
 #include <span>
 
-#include "corvane/layers/crop/saturating.h"
+#include "corvane/platform/geometry.h"
 
 namespace corvane {
 namespace {
@@ -27,7 +27,7 @@ CropButtonRects lay_out_crop_buttons(const CropButtonRects& rects) {
     LONG left = 0;
     for (const int button : buttons_of(row)) {
       RECT& rect = laid[index_of(button)];
-      rect = {left, 0, saturated(left + width_of(rect)), saturated(height_of(rect))};
+      rect = {left, 0, clamp_coordinate(left + width_of(rect)), clamp_coordinate(height_of(rect))};
       left = rect.right;
     }
   }

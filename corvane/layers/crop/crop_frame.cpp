@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "corvane/layers/crop/saturating.h"
+#include "corvane/platform/geometry.h"
 
 namespace corvane {
 namespace {
@@ -33,16 +33,7 @@ constexpr std::array<HandleEdges, 8> edges_of_handle = {{{&RECT::left, &RECT::to
                                                          {&RECT::left, &RECT::bottom},
                                                          {&RECT::left, nullptr}}};
 
-LONG middle(LONG low, LONG high) {
-  return static_cast<LONG>((std::int64_t{low} + std::int64_t{high}) / 2);
-}
-
-bool contains(const RECT& rect, POINT point) {
-  return point.x >= rect.left && point.x < rect.right && point.y >= rect.top &&
-         point.y < rect.bottom;
-}
-
-LONG moved(LONG value, std::int64_t by) { return saturated(std::int64_t{value} + by); }
+LONG moved(LONG value, std::int64_t by) { return clamp_coordinate(std::int64_t{value} + by); }
 
 RECT square_around(LONG x, LONG y) {
   constexpr int reach = CropFrame::handle_reach;
@@ -66,9 +57,9 @@ int CropFrame::hit_test(POINT point) const {
   }
   const auto squares = handle_squares();
   for (std::size_t i = 0; i < squares.size(); ++i) {
-    if (contains(squares[i], point)) return static_cast<int>(i) + crop_hit::top_left;
+    if (contains(squares[i], point.x, point.y)) return static_cast<int>(i) + crop_hit::top_left;
   }
-  return contains(rectangle_, point) ? crop_hit::inside : crop_hit::outside;
+  return contains(rectangle_, point.x, point.y) ? crop_hit::inside : crop_hit::outside;
 }
 
 int CropFrame::press(POINT point) {
@@ -129,8 +120,8 @@ void CropFrame::shift(POINT point, const RECT& client) {
 
 std::array<RECT, 8> CropFrame::handle_squares() const {
   const RECT& r = rectangle_;
-  const LONG cx = middle(r.left, r.right);
-  const LONG cy = middle(r.top, r.bottom);
+  const LONG cx = middle_coordinate(r.left, r.right);
+  const LONG cy = middle_coordinate(r.top, r.bottom);
   return {square_around(r.left, r.top),     square_around(cx, r.top),
           square_around(r.right, r.top),    square_around(r.right, cy),
           square_around(r.right, r.bottom), square_around(cx, r.bottom),
@@ -155,7 +146,8 @@ RECT place_crop_bar(const RECT& rectangle, SIZE bar, const RECT& client) {
   const std::int64_t left = std::int64_t{rectangle.right} - bar.cx;
   std::int64_t top = rectangle.bottom;
   top = std::min(top, std::int64_t{client.bottom} - bar.cy);
-  return {saturated(left), saturated(top), saturated(left + bar.cx), saturated(top + bar.cy)};
+  return {clamp_coordinate(left), clamp_coordinate(top), clamp_coordinate(left + bar.cx),
+          clamp_coordinate(top + bar.cy)};
 }
 
 }  // namespace corvane

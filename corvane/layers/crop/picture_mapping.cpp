@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "corvane/layers/crop/saturating.h"
+#include "corvane/platform/geometry.h"
 
 namespace corvane {
 namespace {
@@ -36,8 +36,8 @@ RECT picture_pixels(SIZE picture, const RECT& shown, const RECT& framed) {
   const Span down =
       pixels_along(picture.cy, {shown.top, shown.bottom}, {framed.top, framed.bottom});
   if (across.first >= across.last || down.first >= down.last) return {0, 0, 0, 0};
-  return {saturated(across.first), saturated(down.first), saturated(across.last),
-          saturated(down.last)};
+  return {clamp_coordinate(across.first), clamp_coordinate(down.first),
+          clamp_coordinate(across.last), clamp_coordinate(down.last)};
 }
 
 RECT fit_picture(SIZE picture, const RECT& area) {
@@ -55,7 +55,8 @@ RECT fit_picture(SIZE picture, const RECT& area) {
   }
   const std::int64_t left = area.left + (area_width - width) / 2;
   const std::int64_t top = area.top + (area_height - height) / 2;
-  return {saturated(left), saturated(top), saturated(left + width), saturated(top + height)};
+  return {clamp_coordinate(left), clamp_coordinate(top), clamp_coordinate(left + width),
+          clamp_coordinate(top + height)};
 }
 
 }  // namespace corvane

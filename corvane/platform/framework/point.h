@@ -1,6 +1,5 @@
 #pragma once
 // A point: pixels, in the coordinates that the function it is passed to names.
-#include "corvane/platform/framework/coordinate.h"
 #include "corvane/platform/framework/size.h"
 
 namespace corvane {

@@ -29,11 +29,9 @@ class CRect : public RECT {
     return {middle_coordinate(left, right), middle_coordinate(top, bottom)};
   }
 
-  constexpr bool IsRectEmpty() const { return right <= left || bottom <= top; }
+  constexpr bool IsRectEmpty() const { return !has_area(*this); }
   constexpr bool IsRectNull() const { return !left && !top && !right && !bottom; }
-  constexpr bool PtInRect(const POINT& point) const {
-    return point.x >= left && point.x < right && point.y >= top && point.y < bottom;
-  }
+  constexpr bool PtInRect(const POINT& point) const { return contains(*this, point.x, point.y); }
   constexpr bool EqualRect(const RECT& other) const {
     return left == other.left && top == other.top && right == other.right && bottom == other.bottom;
   }
@@ -120,9 +118,7 @@ constexpr void CRect::NormalizeRect() {
 
 constexpr bool CRect::IntersectRect(LPCRECT first, LPCRECT second) {
   const CRect a(first), b(second);
-  const CRect common(a.left > b.left ? a.left : b.left, a.top > b.top ? a.top : b.top,
-                     a.right < b.right ? a.right : b.right,
-                     a.bottom < b.bottom ? a.bottom : b.bottom);
+  const CRect common = intersection(a, b);
   const bool empty = a.IsRectEmpty() || b.IsRectEmpty() || common.IsRectEmpty();
   *this = empty ? CRect() : common;
   return !empty;
@@ -138,8 +134,7 @@ constexpr bool CRect::UnionRect(LPCRECT first, LPCRECT second) {
     *this = a.IsRectEmpty() ? b : a;
     return true;
   }
-  *this = CRect(a.left < b.left ? a.left : b.left, a.top < b.top ? a.top : b.top,
-                a.right > b.right ? a.right : b.right, a.bottom > b.bottom ? a.bottom : b.bottom);
+  *this = bounding_rect(a, b);
   return true;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 // A width and height in pixels; also the distance between two points.
-#include "corvane/platform/framework/coordinate.h"
+#include "corvane/platform/geometry.h"
+#include "corvane/platform/platform.h"
 
 namespace corvane {
 

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "corvane/platform/geometry.h"
 #include "corvane/platform/system/compositor/compositor.h"
 
 namespace corvane::system {
@@ -19,15 +20,11 @@ int blended_channel(const Layer& layer, Pixel source, int below, int shift) {
   return std::min(255, scaled + weighted(0, below, coverage));
 }
 
-bool inside(const RECT& rect, std::int64_t x, std::int64_t y) {
-  return x >= rect.left && x < rect.right && y >= rect.top && y < rect.bottom;
-}
-
 Pixel over_layer(const Layer& layer, int x, int y, Pixel below) {
-  if (!layer.surface || !inside(layer.clip, x, y)) return below;
+  if (!layer.surface || !contains(layer.clip, x, y)) return below;
   const std::int64_t source_x = std::int64_t{x} - layer.origin.x;
   const std::int64_t source_y = std::int64_t{y} - layer.origin.y;
-  if (!inside(layer.surface->rect(), source_x, source_y)) return below;
+  if (!contains(layer.surface->rect(), source_x, source_y)) return below;
   const Pixel source = layer.surface->at(static_cast<int>(source_x), static_cast<int>(source_y));
   if (layer.keyed && (source & 0x00FFFFFF) == (layer.key & 0x00FFFFFF)) return below;
   Pixel result = 0;

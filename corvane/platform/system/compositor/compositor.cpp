@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "corvane/platform/geometry.h"
 #include "corvane/platform/system/compositor/row_composer.h"
 
 namespace corvane::system {
@@ -20,24 +21,14 @@ struct Span {
   std::vector<const Layer*> stack;  // bottom first, from the topmost opaque one
 };
 
-RECT common(const RECT& first, const RECT& second) {
-  return {std::max(first.left, second.left), std::max(first.top, second.top),
-          std::min(first.right, second.right), std::min(first.bottom, second.bottom)};
-}
-
-bool is_empty(const RECT& rect) { return rect.left >= rect.right || rect.top >= rect.bottom; }
-
-LONG clamped(std::int64_t value, LONG low, LONG high) {
-  return static_cast<LONG>(std::clamp<std::int64_t>(value, low, high));
-}
-
 RECT touched_area(const Layer& layer, const RECT& frame) {
   const std::int64_t left = layer.origin.x;
   const std::int64_t top = layer.origin.y;
-  const RECT placed{clamped(left, frame.left, frame.right), clamped(top, frame.top, frame.bottom),
-                    clamped(left + layer.surface->width(), frame.left, frame.right),
-                    clamped(top + layer.surface->height(), frame.top, frame.bottom)};
-  return common(placed, layer.clip);
+  const RECT placed{clamp_coordinate(left, frame.left, frame.right),
+                    clamp_coordinate(top, frame.top, frame.bottom),
+                    clamp_coordinate(left + layer.surface->width(), frame.left, frame.right),
+                    clamp_coordinate(top + layer.surface->height(), frame.top, frame.bottom)};
+  return intersection(placed, layer.clip);
 }
 
 std::vector<Placed> place(const std::vector<Layer>& layers, const RECT& rect) {
@@ -45,7 +36,7 @@ std::vector<Placed> place(const std::vector<Layer>& layers, const RECT& rect) {
   for (const Layer& layer : layers) {
     if (!layer.surface || layer.alpha == 0) continue;
     const RECT area = touched_area(layer, rect);
-    if (!is_empty(area)) placed.push_back({&layer, area});
+    if (has_area(area)) placed.push_back({&layer, area});
   }
   return placed;
 }
@@ -114,8 +105,8 @@ void compose(Surface& frame, const Region& damage, const std::vector<Layer>& lay
   RowComposer composer(background);
   const RECT bounds = frame.rect();
   for (const RECT& rect : damage.rects()) {
-    const RECT visible = common(rect, bounds);
-    if (!is_empty(visible)) compose_rect(frame, visible, layers, composer);
+    const RECT visible = intersection(rect, bounds);
+    if (has_area(visible)) compose_rect(frame, visible, layers, composer);
   }
 }
 

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <cstring>
 
+#include "corvane/platform/geometry.h"
+
 namespace corvane::system {
 
 namespace {
-
-bool is_empty(const RECT& rect) { return rect.left >= rect.right || rect.top >= rect.bottom; }
 
 RECT shifted(const RECT& rect, int dx, int dy) {
   return {offset_by(rect.left, dx), offset_by(rect.top, dy), offset_by(rect.right, dx),
@@ -52,7 +52,7 @@ void copy_pixels(DeviceContext& target, const RECT& area, const Surface& source,
 std::optional<Pixel> one_color(const Surface& surface, const RECT& part) {
   constexpr int kMostPixels = 4096;
   const RECT all = surface.rect();
-  if (is_empty(part) || part.left < 0 || part.top < 0 || part.right > all.right ||
+  if (!has_area(part) || part.left < 0 || part.top < 0 || part.right > all.right ||
       part.bottom > all.bottom)
     return std::nullopt;
   const Pixel color = surface.at(part.left, part.top);

@@ -1,15 +1,10 @@
 #include "corvane/platform/system/gdi/dc.h"
 
-#include <algorithm>
-#include <cstdint>
+#include "corvane/platform/geometry.h"
 
 namespace corvane::system {
 
-LONG offset_by(LONG value, LONG delta) {
-  constexpr std::int64_t kFarthest = (1 << 30) - 1;  // differences stay representable
-  const std::int64_t sum = std::int64_t{value} + delta;
-  return static_cast<LONG>(std::clamp(sum, -kFarthest, kFarthest));
-}
+LONG offset_by(LONG value, LONG delta) { return clamp_to_summable(std::int64_t{value} + delta); }
 
 std::optional<RECT> ordered(const RECT& rect) {
   if (rect.left == rect.right || rect.top == rect.bottom) return std::nullopt;

@@ -1,22 +1,11 @@
-#include <algorithm>
-
+#include "corvane/platform/geometry.h"
 #include "corvane/platform/system/types.h"
 
 namespace corvane_system {
 
-namespace {
-
-// Both wrap round like the platform's 32-bit arithmetic.
-LONG sum(LONG value, LONG delta) {
-  return static_cast<LONG>(static_cast<ULONG>(value) + static_cast<ULONG>(delta));
-}
-LONG difference(LONG value, LONG delta) {
-  return static_cast<LONG>(static_cast<ULONG>(value) - static_cast<ULONG>(delta));
-}
-
-bool is_empty(const RECT& rect) { return rect.left >= rect.right || rect.top >= rect.bottom; }
-
-}  // namespace
+using corvane::add_coordinates;
+using corvane::has_area;
+using corvane::subtract_coordinates;
 
 BOOL SetRect(LPRECT rect, int left, int top, int right, int bottom) {
   if (!rect) return FALSE;
@@ -32,7 +21,7 @@ BOOL CopyRect(LPRECT target, const RECT* source) {
   return TRUE;
 }
 
-BOOL IsRectEmpty(const RECT* rect) { return !rect || is_empty(*rect); }
+BOOL IsRectEmpty(const RECT* rect) { return !rect || !has_area(*rect); }
 
 BOOL EqualRect(const RECT* first, const RECT* second) {
   if (!first || !second) return FALSE;
@@ -41,42 +30,40 @@ BOOL EqualRect(const RECT* first, const RECT* second) {
 }
 
 BOOL PtInRect(const RECT* rect, POINT point) {
-  return rect && point.x >= rect->left && point.x < rect->right && point.y >= rect->top &&
-         point.y < rect->bottom;
+  return rect && corvane::contains(*rect, point.x, point.y);
 }
 
 BOOL InflateRect(LPRECT rect, int dx, int dy) {
   if (!rect) return FALSE;
-  *rect = {difference(rect->left, dx), difference(rect->top, dy), sum(rect->right, dx),
-           sum(rect->bottom, dy)};
+  *rect = {subtract_coordinates(rect->left, dx), subtract_coordinates(rect->top, dy),
+           add_coordinates(rect->right, dx), add_coordinates(rect->bottom, dy)};
   return TRUE;
 }
 
 BOOL OffsetRect(LPRECT rect, int dx, int dy) {
   if (!rect) return FALSE;
-  *rect = {sum(rect->left, dx), sum(rect->top, dy), sum(rect->right, dx), sum(rect->bottom, dy)};
+  *rect = {add_coordinates(rect->left, dx), add_coordinates(rect->top, dy),
+           add_coordinates(rect->right, dx), add_coordinates(rect->bottom, dy)};
   return TRUE;
 }
 
 BOOL IntersectRect(LPRECT target, const RECT* first, const RECT* second) {
   if (!target || !first || !second) return FALSE;
-  const RECT common{std::max(first->left, second->left), std::max(first->top, second->top),
-                    std::min(first->right, second->right), std::min(first->bottom, second->bottom)};
-  const bool nothing = is_empty(*first) || is_empty(*second) || is_empty(common);
+  const RECT common = corvane::intersection(*first, *second);
+  const bool nothing = !has_area(*first) || !has_area(*second) || !has_area(common);
   *target = nothing ? RECT{0, 0, 0, 0} : common;
   return !nothing;
 }
 
 BOOL UnionRect(LPRECT target, const RECT* first, const RECT* second) {
   if (!target || !first || !second) return FALSE;
-  if (is_empty(*first))
-    *target = is_empty(*second) ? RECT{0, 0, 0, 0} : *second;
-  else if (is_empty(*second))
+  if (!has_area(*first))
+    *target = has_area(*second) ? *second : RECT{0, 0, 0, 0};
+  else if (!has_area(*second))
     *target = *first;
   else
-    *target = {std::min(first->left, second->left), std::min(first->top, second->top),
-               std::max(first->right, second->right), std::max(first->bottom, second->bottom)};
-  return !is_empty(*target);
+    *target = corvane::bounding_rect(*first, *second);
+  return has_area(*target);
 }
 
 }  // namespace corvane_system

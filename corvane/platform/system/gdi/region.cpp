@@ -5,22 +5,17 @@
 #include <algorithm>
 #include <utility>
 
+#include "corvane/platform/geometry.h"
+
 namespace corvane::system {
 
 namespace {
 
-// Keeps widths of clamped rectangles representable.
-constexpr LONG kFarthest = (1 << 30) - 1;
-
-LONG clamped(LONG value) { return std::clamp(value, -kFarthest, kFarthest); }
-
-bool is_empty(const RECT& rect) { return rect.left >= rect.right || rect.top >= rect.bottom; }
-
 cairo_rectangle_int_t to_cairo(const RECT& rect) {
-  const LONG left = clamped(rect.left);
-  const LONG top = clamped(rect.top);
-  return {left, top, std::max(0, clamped(rect.right) - left),
-          std::max(0, clamped(rect.bottom) - top)};
+  const LONG left = clamp_to_summable(rect.left);
+  const LONG top = clamp_to_summable(rect.top);
+  return {left, top, std::max(0, clamp_to_summable(rect.right) - left),
+          std::max(0, clamp_to_summable(rect.bottom) - top)};
 }
 
 RECT from_cairo(const cairo_rectangle_int_t& rect) {
@@ -44,7 +39,7 @@ Region::Region(Region&& other) noexcept = default;
 Region& Region::operator=(Region&& other) noexcept = default;
 
 Region::Region(const RECT& rect) {
-  if (is_empty(rect)) return;
+  if (!has_area(rect)) return;
   const cairo_rectangle_int_t area = to_cairo(rect);
   impl_ = std::make_unique<Impl>(cairo_region_create_rectangle(&area));
 }
@@ -89,13 +84,13 @@ bool Region::contains(POINT point) const {
 }
 
 bool Region::intersects(const RECT& rect) const {
-  if (!impl_ || is_empty(rect)) return false;
+  if (!impl_ || !has_area(rect)) return false;
   const cairo_rectangle_int_t area = to_cairo(rect);
   return cairo_region_contains_rectangle(impl_->region, &area) != CAIRO_REGION_OVERLAP_OUT;
 }
 
 bool Region::covers(const RECT& rect) const {
-  if (is_empty(rect)) return true;
+  if (!has_area(rect)) return true;
   if (!impl_) return false;
   const cairo_rectangle_int_t area = to_cairo(rect);
   return cairo_region_contains_rectangle(impl_->region, &area) == CAIRO_REGION_OVERLAP_IN;
@@ -104,7 +99,7 @@ bool Region::covers(const RECT& rect) const {
 void Region::clear() { impl_.reset(); }
 
 void Region::unite(const RECT& rect) {
-  if (is_empty(rect)) return;
+  if (!has_area(rect)) return;
   if (!impl_) {
     *this = Region(rect);
     return;
@@ -121,7 +116,7 @@ void Region::unite(const Region& other) {
 }
 
 void Region::subtract(const RECT& rect) {
-  if (!impl_ || is_empty(rect)) return;
+  if (!impl_ || !has_area(rect)) return;
   const cairo_rectangle_int_t area = to_cairo(rect);
   cairo_region_subtract_rectangle(impl_->region, &area);
 }
@@ -135,7 +130,7 @@ void Region::subtract(const Region& other) {
 
 void Region::intersect(const RECT& rect) {
   if (!impl_) return;
-  if (is_empty(rect)) {
+  if (!has_area(rect)) {
     clear();
     return;
   }
@@ -151,7 +146,7 @@ void Region::intersect(const Region& other) {
 }
 
 void Region::translate(int dx, int dy) {
-  if (impl_) cairo_region_translate(impl_->region, clamped(dx), clamped(dy));
+  if (impl_) cairo_region_translate(impl_->region, clamp_to_summable(dx), clamp_to_summable(dy));
 }
 
 }  // namespace corvane::system

@@ -4,6 +4,8 @@
 #include <cstring>
 #include <utility>
 
+#include "corvane/platform/geometry.h"
+
 namespace corvane::system {
 
 namespace {
@@ -99,10 +101,7 @@ Pixel Surface::at(int x, int y) const {
 }
 
 void Surface::fill(const RECT& rect, Pixel color) {
-  const int left = std::max<int>(0, rect.left);
-  const int top = std::max<int>(0, rect.top);
-  const int right = std::min<int>(width_, rect.right);
-  const int bottom = std::min<int>(height_, rect.bottom);
+  const auto [left, top, right, bottom] = intersection(rect, this->rect());
   if (left >= right) return;
   const bool whole_rows = left == 0 && right == width_ && !pinned_;
   for (int y = top; y < bottom; ++y) {

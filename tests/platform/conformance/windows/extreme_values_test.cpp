@@ -1,6 +1,7 @@
 // The largest and smallest numbers in every place that takes one: refused or cut, never harmful.
 #include <climits>
 
+#include "tests/platform/conformance/support/picture.h"
 #include "tests/platform/conformance/support/window_test.h"
 
 namespace corvane::conformance {
@@ -69,6 +70,32 @@ TEST_F(ExtremeValuesTest, CreatedThere) {
     if (window != nullptr) DestroyWindow(window);
   }
   pump();
+}
+
+TEST_F(ExtremeValuesTest, LayeredContentIsPlacedWhereMoveWindowWouldAndNeverLarger) {
+  const HWND layer = create("layer", {.parent = popup_,
+                                      .style = WS_POPUP | WS_VISIBLE,
+                                      .width = 60,
+                                      .height = 40,
+                                      .ex_style = WS_EX_LAYERED});
+  const Picture picture(60, 40, 0xFF00FF00);
+  BLENDFUNCTION blend{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
+  const auto update = [&](POINT position, SIZE size, POINT source) {
+    return UpdateLayeredWindow(layer, nullptr, &position, &size, picture.dc(), &source, 0, &blend,
+                               ULW_ALPHA);
+  };
+  for (const int x : extremes) {
+    for (const int y : extremes) {
+      MoveWindow(layer, x, y, 60, 40, FALSE);
+      const std::string there = text_of(window_rect(layer));
+      EXPECT_NE(update({x, y}, picture.size(), {0, 0}), 0);
+      EXPECT_EQ(text_of(window_rect(layer)), there) << x << ' ' << y;
+      EXPECT_NE(update({200, 300}, picture.size(), {x, y}), 0);
+      EXPECT_EQ(update({0, 0}, {x, y}, {0, 0}), 0);
+      EXPECT_EQ(text_of(window_rect(layer)), "200,300,260,340");
+      pump();
+    }
+  }
 }
 
 TEST_F(ExtremeValuesTest, InvalidRectangles) {

@@ -1,6 +1,7 @@
 // SendInput, SetCursorPos and the cursor.
 #include <algorithm>
 
+#include "corvane/platform/geometry.h"
 #include "corvane/platform/system/user/input/input_routing.h"
 
 namespace corvane_system {
@@ -11,10 +12,8 @@ namespace {
 constexpr int kAbsoluteRange = 65536;
 
 POINT inside_screen(const System& state, std::int64_t x, std::int64_t y) {
-  auto limit = [](std::int64_t value, int size) {
-    return static_cast<LONG>(std::clamp<std::int64_t>(value, 0, std::max(size - 1, 0)));
-  };
-  return {limit(x, state.frame.width()), limit(y, state.frame.height())};
+  return {corvane::clamp_coordinate(x, 0, std::max(state.frame.width() - 1, 0)),
+          corvane::clamp_coordinate(y, 0, std::max(state.frame.height() - 1, 0))};
 }
 
 void push_move(System& state, POINT point) {

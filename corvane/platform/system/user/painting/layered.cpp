@@ -1,6 +1,7 @@
 // SetLayeredWindowAttributes and UpdateLayeredWindow.
 #include <algorithm>
 
+#include "corvane/platform/geometry.h"
 #include "corvane/platform/system/user/windows/window_geometry.h"
 
 namespace corvane_system {
@@ -31,7 +32,9 @@ void take_content(Window& window, const Surface& pixels, POINT from, SIZE size) 
 }
 
 void place(Window& window, const POINT* position, SIZE size) {
-  POINT corner = position == nullptr ? POINT{window.frame.left, window.frame.top} : *position;
+  const POINT corner = position == nullptr
+                           ? POINT{window.frame.left, window.frame.top}
+                           : POINT{window_coordinate(position->x), window_coordinate(position->y)};
   window.frame = {corner.x, corner.y, corner.x + size.cx, corner.y + size.cy};
   window.client = window.frame;
 }
@@ -67,8 +70,8 @@ BOOL UpdateLayeredWindow(HWND window, HDC, POINT* position, SIZE* size, HDC sour
                          POINT* source_point, COLORREF key, BLENDFUNCTION* blend, DWORD flags) {
   if (!usable(window)) return FALSE;
   Window* found = find(window);
-  bool sized =
-      size == nullptr || (size->cx > 0 && size->cy > 0 && size->cx <= 32767 && size->cy <= 32767);
+  bool sized = size == nullptr || (size->cx > 0 && size->cy > 0 && size->cx <= kLargestWindow &&
+                                   size->cy <= kLargestWindow);
   bool supplied = source == nullptr || (size != nullptr && source_point != nullptr);
   if (found->layered.attributes || !sized || !supplied) {
     SetLastError(ERROR_INVALID_PARAMETER);
@@ -85,8 +88,8 @@ BOOL UpdateLayeredWindow(HWND window, HDC, POINT* position, SIZE* size, HDC sour
   SIZE extent = size == nullptr ? SIZE{found->width(), found->height()} : *size;
   place(*found, position, extent);
   if (pixels != nullptr) {
-    auto bounded = [](LONG value) { return std::clamp<LONG>(value, -100000, 100000); };
-    POINT from{origin.x + bounded(source_point->x), origin.y + bounded(source_point->y)};
+    const POINT from{corvane::clamp_to_summable(std::int64_t{origin.x} + source_point->x),
+                     corvane::clamp_to_summable(std::int64_t{origin.y} + source_point->y)};
     take_content(*found, *pixels, from, extent);
   }
   LayeredState& layered = found->layered;

@@ -1,6 +1,4 @@
 // CreateWindowExW: the order of messages a window is born with.
-#include <algorithm>
-
 #include "corvane/platform/system/user/messages/hooks.h"
 #include "corvane/platform/system/user/messages/send_message.h"
 #include "corvane/platform/system/user/windows/destroy_window.h"
@@ -13,9 +11,6 @@ using namespace corvane::system;
 
 namespace {
 
-constexpr int kFarthest = 0x3FFFFFF;
-constexpr int kLargest = 32767;
-
 // The window that a pop-up created with this parent is owned by.
 HWND owner_for(HWND parent) {
   Window* found = find(parent);
@@ -25,10 +20,10 @@ HWND owner_for(HWND parent) {
 RECT initial_frame(const System& state, const CREATESTRUCTW& create) {
   bool default_place = create.x == CW_USEDEFAULT;
   bool default_size = create.cx == CW_USEDEFAULT;
-  int x = default_place ? 0 : std::clamp(create.x, -kFarthest, kFarthest);
-  int y = default_place ? 0 : std::clamp(create.y, -kFarthest, kFarthest);
-  int width = default_size ? state.frame.width() : std::clamp(create.cx, 0, kLargest);
-  int height = default_size ? state.frame.height() : std::clamp(create.cy, 0, kLargest);
+  int x = default_place ? 0 : window_coordinate(create.x);
+  int y = default_place ? 0 : window_coordinate(create.y);
+  int width = default_size ? state.frame.width() : window_size(create.cx);
+  int height = default_size ? state.frame.height() : window_size(create.cy);
   return {x, y, x + width, y + height};
 }
 

@@ -1,8 +1,18 @@
 #pragma once
 // Changing where windows are: frame, client area, surfaces and what must be painted after it.
+#include "corvane/platform/geometry.h"
 #include "corvane/platform/system/user/system_state.h"
 
 namespace corvane::system {
+
+inline constexpr int kLargestWindow = 32767;  // a surface can hold it
+
+// Positions and sizes that are out of bounds are cut, so that sums of them stay in 32 bits.
+constexpr int window_coordinate(int value) {
+  constexpr int kFarthest = 0x3FFFFFF;
+  return corvane::clamp_coordinate(value, -kFarthest, kFarthest);
+}
+constexpr int window_size(int value) { return corvane::clamp_coordinate(value, 0, kLargestWindow); }
 
 // Asks the window for its client area by WM_NCCALCSIZE, at creation (wParam 0).
 void calculate_first_client(HWND window);

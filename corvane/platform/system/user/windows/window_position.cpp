@@ -1,6 +1,4 @@
 // SetWindowPos and MoveWindow.
-#include <algorithm>
-
 #include "corvane/platform/system/user/input/activation.h"
 #include "corvane/platform/system/user/messages/send_message.h"
 #include "corvane/platform/system/user/painting/painting.h"
@@ -12,14 +10,6 @@ namespace corvane_system {
 using namespace corvane::system;
 
 namespace {
-
-// Coordinates beyond this are cut, so that sums of positions and sizes stay in 32 bits.
-constexpr int kFarthest = 0x3FFFFFF;
-// A window is never larger than what a surface can hold.
-constexpr int kLargest = 32767;
-
-int near_enough(int coordinate) { return std::clamp(coordinate, -kFarthest, kFarthest); }
-int possible_size(int size) { return std::clamp(size, 0, kLargest); }
 
 bool names_a_place(HWND insert_after) {
   return insert_after == HWND_TOP || insert_after == HWND_BOTTOM || insert_after == HWND_TOPMOST ||
@@ -35,10 +25,10 @@ void normalise(const Window& window, WINDOWPOS& position) {
     position.cx = window.width();
     position.cy = window.height();
   }
-  position.x = near_enough(position.x);
-  position.y = near_enough(position.y);
-  position.cx = possible_size(position.cx);
-  position.cy = possible_size(position.cy);
+  position.x = window_coordinate(position.x);
+  position.y = window_coordinate(position.y);
+  position.cx = window_size(position.cx);
+  position.cy = window_size(position.cy);
 }
 
 // Adds the flags of what stays as it is.
