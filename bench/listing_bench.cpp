@@ -14,7 +14,7 @@
 #include "bench/measure.h"
 #include "bench/scratch_folders.h"
 #include "corvane/platform/system/shell/wide_path.h"
-#include "corvane/trees/tree_loading.h"
+#include "corvane/trees/model/tree_loading.h"
 
 namespace corvane::bench {
 namespace {

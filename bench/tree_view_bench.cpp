@@ -7,7 +7,7 @@
 #include "corvane/platform/framework/framework.h"
 #include "corvane/platform/system/display/headless_display.h"
 #include "corvane/platform/system/user/window_system.h"
-#include "corvane/trees/tree_ctrl_ex2.h"
+#include "corvane/trees/owner_drawn/tree_ctrl_ex2.h"
 
 namespace corvane::bench {
 namespace {

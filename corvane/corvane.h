@@ -18,4 +18,4 @@
 #include "corvane/platform/images/gdi_image.h"
 #include "corvane/platform/platform.h"
 #include "corvane/skin/xml_list_mgr.h"
-#include "corvane/trees/tree_ctrl_ex2.h"
+#include "corvane/trees/owner_drawn/tree_ctrl_ex2.h"

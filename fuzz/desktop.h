@@ -7,7 +7,7 @@
 #include "corvane/layers/frame/window_layer.h"
 #include "corvane/platform/framework/framework.h"
 #include "corvane/skin/xml_list_mgr.h"
-#include "corvane/trees/tree_ctrl_ex2.h"
+#include "corvane/trees/owner_drawn/tree_ctrl_ex2.h"
 #include "fuzz/byte_stream.h"
 
 class PatientDisplay;

@@ -1,6 +1,6 @@
 #pragma once
 // What a host and strangers can do to a folder tree.
-#include "corvane/trees/tree_ctrl_ex2.h"
+#include "corvane/trees/owner_drawn/tree_ctrl_ex2.h"
 #include "fuzz/byte_stream.h"
 
 class TreePlay {

@@ -5,7 +5,7 @@
 
 #include "corvane/platform/drawing/buffer_dc.h"
 #include "corvane/platform/framework/framework.h"
-#include "corvane/trees/tree_ctrl_ex2.h"
+#include "corvane/trees/owner_drawn/tree_ctrl_ex2.h"
 
 namespace capture {
 

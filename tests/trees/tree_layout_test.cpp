@@ -1,14 +1,16 @@
 // Rows and what lies at a point. What is looked up has to be what a walk over the tree finds.
-#include "corvane/trees/tree_layout.h"
+#include "corvane/trees/owner_drawn/tree_layout.h"
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <random>
 
 namespace corvane_tests {
 namespace {
 
 using corvane::_NODE;
+using corvane::row_in_client;
 using corvane::tree_row_height;
 using corvane::TreeLayout;
 using corvane::TreeModel;
@@ -94,6 +96,34 @@ TEST(TreeLayout, EdgesOfARow) {
   }
   EXPECT_EQ(layout.node_below_at(model, nullptr, {0, 0}), nullptr);
   EXPECT_EQ(layout.node_below_at(model, root, {0, 0}), nullptr) << "the node itself is not below";
+}
+
+TEST(TreeLayout, PlacesRowsInTheClientAreaByTheScrollPosition) {
+  constexpr int farthest = std::numeric_limits<int>::max();
+  TreeModel model;
+  TreeLayout layout;
+  _NODE* root = model.add_child(L"root", nullptr);
+  _NODE* a = model.add_child(L"a", root);
+  layout.arrange(model, width);
+  struct Case {
+    _NODE* node;
+    int position;
+    LONG top;
+    LONG bottom;
+  };
+  const Case cases[] = {{root, 0, 0, 30},
+                        {a, 0, 30, 60},
+                        {a, 45, -15, 15},
+                        {root, 45, -45, -15},
+                        {a, farthest, 30 - farthest, 60 - farthest},
+                        {a, -farthest, farthest, farthest}};
+  for (const Case& each : cases) {
+    const RECT row = row_in_client(*each.node, each.position);
+    EXPECT_EQ(row.left, 0);
+    EXPECT_EQ(row.right, width);
+    EXPECT_EQ(row.top, each.top) << "case " << &each - cases;
+    EXPECT_EQ(row.bottom, each.bottom) << "case " << &each - cases;
+  }
 }
 
 // A tree that changes at random: every answer against the plain walk, before and after the layout.

@@ -1,5 +1,5 @@
 // Loading from folders in memory, which can fail, and from real ones.
-#include "corvane/trees/tree_loading.h"
+#include "corvane/trees/model/tree_loading.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // The rules of names and paths.
-#include "corvane/trees/tree_model.h"
+#include "corvane/trees/model/tree_model.h"
 
 #include <gtest/gtest.h>
 
@@ -88,6 +88,45 @@ TEST_F(TreeModelTest, ComposesAndRecognisesPaths) {
                               L"xD:\\Lib\\Photos\\a\\b", L"D:\\Lib\\Photos\\a\\b\\"}) {
     EXPECT_EQ(model_.is_path_of(path, *b_), model_.path_of(b_) == path) << "of " << path;
   }
+}
+
+TEST_F(TreeModelTest, RenamingTakesTheHighlightAlongAndTheCurrentPathOnlyWhenItIsTheNodes) {
+  struct Case {
+    _NODE* node;
+    const wchar_t* name;
+    const wchar_t* current;
+    const wchar_t* current_after;
+    const wchar_t* highlighted;  // "": nothing was renamed
+  };
+  const Case cases[] = {
+      {a_, L"x", L"D:\\Lib\\Photos\\a", L"D:\\Lib\\Photos\\x", L"D:\\Lib\\Photos\\x"},
+      {a_, L"y", L"D:\\Lib\\Photos\\x\\b", L"D:\\Lib\\Photos\\x\\b", L"D:\\Lib\\Photos\\y"},
+      {b_, L"c", L"D:\\Lib\\Photos\\y", L"D:\\Lib\\Photos\\y", L"D:\\Lib\\Photos\\y\\c"},
+      {root_, L"All", L"D:\\Lib\\Photos", L"D:\\Lib\\All", L"D:\\Lib\\All"},
+      {nullptr, L"x", L"D:\\Lib", L"D:\\Lib", L""},
+      {b_, nullptr, L"", L"", L""},
+      {b_, L"", L"", L"", L""}};
+  for (const Case& each : cases) {
+    SCOPED_TRACE(&each - cases);
+    model_.set_current_path(each.current);
+    model_.set_highlight_path(L"");
+    EXPECT_EQ(model_.rename(each.node, each.name), *each.highlighted != L'\0');
+    EXPECT_EQ(model_.current_path(), each.current_after);
+    EXPECT_EQ(model_.highlight_path(), each.highlighted);
+  }
+  EXPECT_EQ(tree_text(model_), "-All 0\n y 1\n  c 2\n");
+  EXPECT_EQ(model_.find(L"D:\\Lib\\All\\y\\c"), b_);
+  EXPECT_TRUE(model_.rename(b_, a_->name())) << "the name of another node";
+  EXPECT_EQ(tree_text(model_), "-All 0\n y 1\n  y 2\n");
+}
+
+TEST_F(TreeModelTest, HighlightingDoesNotChoose) {
+  model_.set_current_path(L"D:\\Lib\\Photos");
+  model_.set_highlight_path(model_.path_of(a_));
+  EXPECT_EQ(model_.highlight_path(), L"D:\\Lib\\Photos\\a");
+  EXPECT_EQ(model_.current_path(), L"D:\\Lib\\Photos");
+  model_.highlight_current();
+  EXPECT_EQ(model_.highlight_path(), L"D:\\Lib\\Photos");
 }
 
 TEST_F(TreeModelTest, RemovesANodeByItsPathAndMovesTheCurrentPath) {

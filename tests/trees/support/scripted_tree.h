@@ -2,7 +2,7 @@
 #include <functional>
 #include <vector>
 
-#include "corvane/trees/tree_ctrl_ex2.h"
+#include "corvane/trees/owner_drawn/tree_ctrl_ex2.h"
 
 namespace corvane_tests {
 

@@ -3,7 +3,7 @@
 // by the level. Names outside ASCII are written as \u.
 #include <string>
 
-#include "corvane/trees/tree_model.h"
+#include "corvane/trees/model/tree_model.h"
 
 namespace corvane_tests {
 

@@ -1,22 +1,21 @@
-#include "corvane/trees/tree_ctrl_ex2.h"
+#include "corvane/trees/owner_drawn/tree_ctrl_ex2.h"
 
+#include "corvane/layers/frame/layer_key_filter.h"
 #include "corvane/platform/framework/paint_dc.h"
 #include "corvane/platform/geometry.h"
-#include "corvane/trees/tree_loading.h"
+#include "corvane/trees/model/tree_loading.h"
+#include "corvane/trees/shared/folder_path.h"
+#include "corvane/trees/shared/tree_messages.h"
 
 namespace corvane {
 namespace {
 
-constexpr wchar_t control_file[] = L"ui_control.xml";
-constexpr int control_list = 1;
 constexpr COLORREF background = RGB(255, 255, 255);
 
 // Climbs to the nearest folder that exists, or to the first component.
 CString existing_part(CString path) {
-  while (!::PathFileExistsW(path)) {
-    const int last = path.ReverseFind(L'\\');
-    if (last < 0) break;
-    path = path.Left(last);
+  while (!::PathFileExistsW(path) && path.Find(kPathSeparator) >= 0) {
+    path = std::wstring(parent_path(path.AsStdString()));
   }
   return path;
 }
@@ -62,7 +61,7 @@ void CTreeCtrlEx2::SetCurPath(const wchar_t* path) {
   }
   Expand(model_.current_path());
   model_.highlight_current();
-  NotifyParent();
+  post_tree_select(m_hWnd);
   Repaint();
 }
 
@@ -112,9 +111,9 @@ int CTreeCtrlEx2::ListSort(_NODE* node, int width, int row) {
   return layout_.arrange_below(node, width, row);
 }
 
-void CTreeCtrlEx2::InitConfig() { skin_.LoadCtrlList(control_file, control_list); }
+void CTreeCtrlEx2::InitConfig() { FolderImages::load_controls(skin_); }
 
-void CTreeCtrlEx2::LoadResources() { painter_.LoadImages(skin_); }
+void CTreeCtrlEx2::LoadResources() { images_.load(skin_); }
 
 int CTreeCtrlEx2::OnCreate(LPCREATESTRUCT creation) {
   if (CWnd::OnCreate(creation) == -1) return -1;
@@ -137,7 +136,7 @@ void CTreeCtrlEx2::OnDestroy() {
   CWnd::OnDestroy();
   if (watch.gone()) return;
   skin_.Release();
-  painter_.DeleteImages();
+  images_.release();
 }
 
 BOOL CTreeCtrlEx2::OnEraseBkgnd(CDC* dc) {
@@ -153,13 +152,18 @@ BOOL CTreeCtrlEx2::OnEraseBkgnd(CDC* dc) {
 void CTreeCtrlEx2::OnPaint() {
   const auto watch = liveness_.watch();
   CPaintDC paint(this);
+  if (!watch.gone()) draw_now(paint);
+}
+
+void CTreeCtrlEx2::draw_now(CDC& target) {
+  if (buffer_.GetDC() == nullptr) return;
+  const auto watch = liveness_.watch();
   CRect client;
   GetClientRect(client);
-  if (watch.gone() || !buffer_.GetDC()) return;
-  OnEraseBkgnd(&paint);  // the size may have changed without anything being erased
+  OnEraseBkgnd(&target);  // the size may have changed without anything being erased
   buffer_.SetBackColor(client, background);
   DoDraw(buffer_, client);
-  if (!watch.gone() && buffer_.HasSizeOf(client)) buffer_.Paste(paint, client, SRCCOPY);
+  if (!watch.gone() && buffer_.HasSizeOf(client)) buffer_.Paste(target, client, SRCCOPY);
 }
 
 void CTreeCtrlEx2::DoDraw(HDC dc, CRect rect) {
@@ -172,8 +176,10 @@ void CTreeCtrlEx2::DoDraw(HDC dc, CRect rect) {
   if (watch.gone() || model_.empty()) return;
   CRect clip;
   ::GetClipBox(dc, clip);
-  const long long root_bottom = model_.root().row().bottom;
-  if (root_bottom - ScrollPosition() > clip.top) DrawRow(dc, model_.root(), ScrollPosition());
+  const int position = ScrollPosition();
+  if (row_in_client(model_.root(), position).bottom > clip.top) {
+    DrawRow(dc, model_.root(), position);
+  }
   DrawItem(dc, &model_.root());
 }
 
@@ -192,10 +198,93 @@ int CTreeCtrlEx2::DrawItem(HDC dc, _NODE* node) {
 }
 
 void CTreeCtrlEx2::DrawRow(HDC dc, const _NODE& node, int position) const {
-  CRect row(node.row());
-  row.top = clamp_coordinate(static_cast<long long>(row.top) - position);
-  row.bottom = clamp_coordinate(static_cast<long long>(row.bottom) - position);
-  painter_.Draw(dc, node, row, model_.is_path_of(model_.highlight_path(), node));
+  painter_.Draw(dc, node, row_in_client(node, position),
+                model_.is_path_of(model_.highlight_path(), node));
+}
+
+void CTreeCtrlEx2::OpenVscroll(int show, int maximum, int page) {
+  SCROLLINFO info{};
+  info.cbSize = sizeof(info);
+  info.fMask = SIF_RANGE | SIF_PAGE;
+  info.nMax = maximum;
+  info.nPage = static_cast<UINT>(page);
+  const auto watch = liveness_.watch();
+  SetScrollInfo(SB_VERT, &info, TRUE);
+  if (!watch.gone()) ShowScrollBar(SB_VERT, show != 0);
+}
+
+int CTreeCtrlEx2::ScrollPosition() const { return GetScrollPos(SB_VERT); }
+
+ScrollState CTreeCtrlEx2::GetScrollState() const {
+  SCROLLINFO info{};
+  if (!GetScrollInfo(SB_VERT, &info, SIF_ALL)) return {};
+  return {info.nMin, GetScrollLimit(SB_VERT), clamp_coordinate(info.nPage), info.nPos};
+}
+
+void CTreeCtrlEx2::ScrollTo(int position) {
+  SetScrollPos(SB_VERT, position, TRUE);
+  Repaint();
+}
+
+void CTreeCtrlEx2::OnVScroll(UINT code, UINT position, CScrollBar* bar) {
+  ScrollTo(scrolled_by_bar(code, position, GetScrollState()));
+  CWnd::OnVScroll(code, position, bar);
+}
+
+BOOL CTreeCtrlEx2::OnMouseWheel(UINT flags, short distance, CPoint screen_point) {
+  const ScrollState state = GetScrollState();
+  if (state.limit > state.minimum) ScrollTo(scrolled_by_wheel(distance, state));
+  return CWnd::OnMouseWheel(flags, distance, screen_point);
+}
+
+POINT CTreeCtrlEx2::ContentPoint(CPoint point) const {
+  return {point.x, clamp_coordinate(static_cast<long long>(point.y) + ScrollPosition())};
+}
+
+_NODE* CTreeCtrlEx2::HitTest(CPoint point) { return layout_.node_at(model_, ContentPoint(point)); }
+
+_NODE* CTreeCtrlEx2::HitTest(_NODE* node, CPoint point) {
+  return layout_.node_below_at(model_, node, ContentPoint(point));
+}
+
+_NODE* CTreeCtrlEx2::MakeCurrentAt(CPoint point) {
+  _NODE* node = HitTest(point);
+  if (!node) return nullptr;
+  model_.set_current_path(model_.path_of(node));
+  model_.highlight_current();
+  return node;
+}
+
+int CTreeCtrlEx2::ClickNode(CPoint point, int mode) {
+  _NODE* node = MakeCurrentAt(point);
+  if (!node) return 0;
+  if (mode == click_expands) model_.set_expanded(*node, true);
+  if (mode == click_collapses) model_.set_expanded(*node, false);
+  if (mode == click_toggles) model_.set_expanded(*node, !node->expanded());
+  return 1;
+}
+
+void CTreeCtrlEx2::OnLButtonUp(UINT flags, CPoint point) {
+  if (MakeCurrentAt(point)) {
+    post_tree_select(m_hWnd);
+    Repaint();
+  }
+  CWnd::OnLButtonUp(flags, point);
+}
+
+void CTreeCtrlEx2::OnLButtonDblClk(UINT flags, CPoint point) {
+  if (ClickNode(point, click_toggles)) Repaint();
+  CWnd::OnLButtonDblClk(flags, point);
+}
+
+BOOL CTreeCtrlEx2::PreTranslateMessage(MSG* message) {
+  if (message && is_mouse_hook_message(message->message)) return TRUE;
+  if (filter_layer_key(KeyFilter::to_parent, m_hWnd, message)) return TRUE;
+  return CWnd::PreTranslateMessage(message);
+}
+
+void CTreeCtrlEx2::Repaint() {
+  if (m_hWnd) InvalidateRect(nullptr, FALSE);
 }
 
 }  // namespace corvane

@@ -3,7 +3,7 @@
 #include <list>
 #include <vector>
 
-#include "corvane/trees/tree_node.h"
+#include "corvane/trees/model/tree_node.h"
 
 namespace corvane {
 

@@ -1,4 +1,4 @@
-#include "corvane/trees/child_names.h"
+#include "corvane/trees/model/child_names.h"
 
 namespace corvane {
 namespace {

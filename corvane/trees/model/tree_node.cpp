@@ -1,4 +1,4 @@
-#include "corvane/trees/tree_node.h"
+#include "corvane/trees/model/tree_node.h"
 
 namespace corvane {
 

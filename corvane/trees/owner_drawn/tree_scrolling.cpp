@@ -1,4 +1,4 @@
-#include "corvane/trees/tree_scrolling.h"
+#include "corvane/trees/owner_drawn/tree_scrolling.h"
 
 #include <algorithm>
 

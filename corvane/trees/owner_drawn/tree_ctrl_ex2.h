@@ -15,10 +15,11 @@
 #include "corvane/platform/drawing/buffer_dc.h"
 #include "corvane/platform/framework/wnd.h"
 #include "corvane/skin/xml_list_mgr.h"
-#include "corvane/trees/tree_layout.h"
-#include "corvane/trees/tree_model.h"
-#include "corvane/trees/tree_row_painter.h"
-#include "corvane/trees/tree_scrolling.h"
+#include "corvane/trees/model/tree_model.h"
+#include "corvane/trees/owner_drawn/tree_layout.h"
+#include "corvane/trees/owner_drawn/tree_row_painter.h"
+#include "corvane/trees/owner_drawn/tree_scrolling.h"
+#include "corvane/trees/shared/folder_images.h"
 
 namespace corvane {
 
@@ -118,7 +119,7 @@ class CTreeCtrlEx2 : public CWnd {
   void ScrollTo(int position);
   _NODE* MakeCurrentAt(CPoint point);
   void Repaint();
-  void NotifyParent() const;
+  void draw_now(CDC& target);  // everything, whether invalid or not
   void DrawRow(HDC dc, const _NODE& node, int position) const;
 
   TreeModel model_;
@@ -126,7 +127,8 @@ class CTreeCtrlEx2 : public CWnd {
   std::unique_ptr<FolderListing> listing_;
   CXmlListMgr skin_;
   CBufferDC buffer_;
-  TreeRowPainter painter_;
+  FolderImages images_;
+  TreeRowPainter painter_{images_};
   int menu_enabled_ = 0;
   Liveness liveness_;
 };

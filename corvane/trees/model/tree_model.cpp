@@ -1,31 +1,19 @@
-#include "corvane/trees/tree_model.h"
+#include "corvane/trees/model/tree_model.h"
 
 #include <algorithm>
 #include <string>
 #include <vector>
+
+#include "corvane/trees/shared/folder_path.h"
 
 namespace corvane {
 namespace {
 
 std::wstring_view view(const CString& text) { return text.AsStdString(); }
 
-// The text before the first separator; what follows the separator stays in `path`.
-std::wstring_view take_component(std::wstring_view& path) {
-  const std::size_t separator = path.find(L'\\');
-  const std::wstring_view component = path.substr(0, separator);
-  path = separator == std::wstring_view::npos ? std::wstring_view() : path.substr(separator + 1);
-  return component;
-}
-
 std::wstring_view without_base(std::wstring_view path, std::wstring_view base) {
   if (!path.starts_with(base)) return path;
   return path.substr(std::min(base.size() + 1, path.size()));
-}
-
-bool take_end(std::wstring_view& text, std::wstring_view end) {
-  if (!text.ends_with(end)) return false;
-  text.remove_suffix(end.size());
-  return true;
 }
 
 }  // namespace
@@ -67,7 +55,7 @@ _NODE* TreeModel::find(const wchar_t* path, _NODE* start) {
     const std::wstring_view first = take_component(rest);
     if (!first.empty() && first != view(node->name_)) return nullptr;
     if (rest.empty()) return node;
-    const std::wstring_view wanted = rest.substr(0, rest.find(L'\\'));
+    const std::wstring_view wanted = rest.substr(0, rest.find(kPathSeparator));
     const auto child =
         std::find_if(node->children_.begin(), node->children_.end(),
                      [wanted](const _NODE& each) { return view(each.name_) == wanted; });
@@ -86,16 +74,25 @@ CString TreeModel::path_of(const _NODE* node) const {
   std::wstring path;
   path.reserve(length);
   path += view(base_path_);
-  for (auto name = names.rbegin(); name != names.rend(); ++name) (path += L'\\') += *name;
+  for (auto name = names.rbegin(); name != names.rend(); ++name) append_component(path, *name);
   return path;
 }
 
 bool TreeModel::is_path_of(const CString& path, const _NODE& node) const {
   std::wstring_view rest = view(path);
   for (const _NODE* each = &node; each; each = each->parent_) {
-    if (!take_end(rest, view(each->name_)) || !take_end(rest, L"\\")) return false;
+    if (!take_last_component(rest, view(each->name_))) return false;
   }
   return rest == view(base_path_);
+}
+
+bool TreeModel::rename(_NODE* node, const wchar_t* name) {
+  if (node == nullptr || name == nullptr || *name == L'\0') return false;
+  const CString former_path = path_of(node);
+  node->name_ = name;
+  highlight_path_ = path_of(node);
+  if (current_path_ == former_path) current_path_ = highlight_path_;
+  return true;
 }
 
 bool TreeModel::remove(_NODE* node) {
@@ -116,13 +113,10 @@ bool TreeModel::remove(_NODE* node) {
 
 bool TreeModel::remove(const wchar_t* path) {
   if (!path) return false;
-  const std::wstring_view whole = path;
-  const std::size_t last = whole.rfind(L'\\');
   // A copy: the path may be a name of the node that goes.
-  const std::wstring parent_path{last == std::wstring_view::npos ? std::wstring_view()
-                                                                 : whole.substr(0, last)};
+  const std::wstring parent{parent_path(path)};
   if (!remove(find(path))) return false;
-  if (view(current_path_).find(parent_path) != std::wstring_view::npos) current_path_ = parent_path;
+  if (view(current_path_).find(parent) != std::wstring_view::npos) current_path_ = parent;
   highlight_current();
   return true;
 }

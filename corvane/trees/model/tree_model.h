@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "corvane/trees/tree_node.h"
+#include "corvane/trees/model/tree_node.h"
 
 namespace corvane {
 
@@ -24,7 +24,8 @@ class TreeModel {
   void set_current_path(CString path) { current_path_ = std::move(path); }
   // The node with this path is drawn selected.
   const CString& highlight_path() const { return highlight_path_; }
-  void highlight_current() { highlight_path_ = current_path_; }
+  void set_highlight_path(CString path) { highlight_path_ = std::move(path); }
+  void highlight_current() { set_highlight_path(current_path_); }
 
   // The parent's child of that name, made when there is none: the last one, collapsed. A null
   // parent: everything is removed and the root takes the name, expanded. Null: null name.
@@ -38,6 +39,11 @@ class TreeModel {
   CString path_of(const _NODE* node) const;  // null: the base path
   // The same as path_of(&node) == path, without composing the path.
   bool is_path_of(const CString& path, const _NODE& node) const;
+
+  // Gives a node another name and highlights its new path, which also becomes the current one if
+  // the former path was that; a current path below it stays. The caller sees to it that no sibling
+  // has the name. False and nothing changes: null node, null or empty name.
+  bool rename(_NODE* node, const wchar_t* name);
 
   // Remove a node with all below it; the root: everything. False: there is no such node.
   bool remove(_NODE* node);

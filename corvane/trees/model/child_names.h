@@ -4,7 +4,7 @@
 #include <string_view>
 #include <unordered_map>
 
-#include "corvane/trees/tree_model.h"
+#include "corvane/trees/model/tree_model.h"
 
 namespace corvane {
 

@@ -1,10 +1,10 @@
-#include "corvane/trees/tree_layout.h"
+#include "corvane/trees/owner_drawn/tree_layout.h"
 
 #include <algorithm>
 #include <limits>
 
 #include "corvane/platform/geometry.h"
-#include "corvane/trees/tree_walk.h"
+#include "corvane/trees/model/tree_walk.h"
 
 namespace corvane {
 namespace {
@@ -15,6 +15,13 @@ RECT row_rect(int row, int width) {
 }
 
 }  // namespace
+
+RECT row_in_client(const _NODE& node, int position) {
+  RECT row = node.row();
+  row.top = clamp_coordinate(std::int64_t{row.top} - position);
+  row.bottom = clamp_coordinate(std::int64_t{row.bottom} - position);
+  return row;
+}
 
 LONG TreeLayout::arrange(TreeModel& model, int width) {
   if (model.empty()) return 0;

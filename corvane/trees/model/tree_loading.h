@@ -1,7 +1,7 @@
 #pragma once
 // Brings the folders of a disk into the tree's model.
 #include "corvane/platform/base_services/folder_listing.h"
-#include "corvane/trees/tree_model.h"
+#include "corvane/trees/model/tree_model.h"
 
 namespace corvane {
 

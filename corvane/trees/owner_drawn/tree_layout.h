@@ -8,11 +8,15 @@
 #include <cstdint>
 #include <vector>
 
-#include "corvane/trees/tree_model.h"
+#include "corvane/trees/model/tree_model.h"
 
 namespace corvane {
 
 inline constexpr int tree_row_height = 30;  // pixels
+
+// Where the node's row, as last laid out, lies in the client area of a window that shows the
+// content from `position` on. Rows above or below the client area have such a place, too.
+RECT row_in_client(const _NODE& node, int position);
 
 class TreeLayout {
  public:
