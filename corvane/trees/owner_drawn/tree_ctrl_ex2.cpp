@@ -127,7 +127,7 @@ int CTreeCtrlEx2::OnCreate(LPCREATESTRUCT creation) {
   if (gone()) return -1;
   InitConfig();
   LoadResources();
-  painter_.Init();
+  painter_.init();
   return 0;
 }
 
@@ -174,32 +174,14 @@ void CTreeCtrlEx2::DoDraw(HDC dc, CRect rect) {
   const auto watch = liveness_.watch();
   OpenVscroll(overflows, overflows ? total : 0, overflows ? height : 0);
   if (watch.gone() || model_.empty()) return;
-  CRect clip;
-  ::GetClipBox(dc, clip);
-  const int position = ScrollPosition();
-  if (row_in_client(model_.root(), position).bottom > clip.top) {
-    DrawRow(dc, model_.root(), position);
-  }
+  painter_.draw_root(dc, model_, ScrollPosition());
   DrawItem(dc, &model_.root());
 }
 
 int CTreeCtrlEx2::DrawItem(HDC dc, _NODE* node) {
   if (!node || !node->expanded()) return 0;
-  const int position = ScrollPosition();
-  CRect clip;
-  ::GetClipBox(dc, clip);
-  const long long top = clip.top;
-  const long long bottom = clip.bottom;
-  for (const _NODE* below : layout_.rows_below(model_, *node, clamp_coordinate(top + position),
-                                               clamp_coordinate(bottom + position))) {
-    DrawRow(dc, *below, position);
-  }
+  painter_.draw_below(dc, model_, layout_, *node, ScrollPosition());
   return 1;
-}
-
-void CTreeCtrlEx2::DrawRow(HDC dc, const _NODE& node, int position) const {
-  painter_.Draw(dc, node, row_in_client(node, position),
-                model_.is_path_of(model_.highlight_path(), node));
 }
 
 void CTreeCtrlEx2::OpenVscroll(int show, int maximum, int page) {

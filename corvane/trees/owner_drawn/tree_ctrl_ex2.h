@@ -120,7 +120,6 @@ class CTreeCtrlEx2 : public CWnd {
   _NODE* MakeCurrentAt(CPoint point);
   void Repaint();
   void draw_now(CDC& target);  // everything, whether invalid or not
-  void DrawRow(HDC dc, const _NODE& node, int position) const;
 
   TreeModel model_;
   TreeLayout layout_;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cwchar>
 
+#include "corvane/platform/geometry.h"
+
 namespace corvane {
 namespace {
 
@@ -22,14 +24,38 @@ LOGFONTW row_font() {
   return font;
 }
 
+CRect clip_of(HDC dc) {
+  CRect clip;
+  ::GetClipBox(dc, clip);
+  return clip;
+}
+
 }  // namespace
 
-void TreeRowPainter::Init() {
+void TreeRowPainter::init() {
   drawing_.Init();
   font_ = row_font();
 }
 
-void TreeRowPainter::Draw(HDC dc, const _NODE& node, const CRect& row, bool highlighted) const {
+void TreeRowPainter::draw_root(HDC dc, const TreeModel& model, int position) const {
+  if (row_in_client(model.root(), position).bottom <= clip_of(dc).top) return;
+  draw_row(dc, model, model.root(), position);
+}
+
+void TreeRowPainter::draw_below(HDC dc, const TreeModel& model, const TreeLayout& layout,
+                                _NODE& node, int position) const {
+  const CRect clip = clip_of(dc);
+  const int top = clamp_coordinate(std::int64_t{clip.top} + position);
+  const int bottom = clamp_coordinate(std::int64_t{clip.bottom} + position);
+  for (const _NODE* below : layout.rows_below(model, node, top, bottom)) {
+    draw_row(dc, model, *below, position);
+  }
+}
+
+void TreeRowPainter::draw_row(HDC dc, const TreeModel& model, const _NODE& node,
+                              int position) const {
+  const CRect row = row_in_client(node, position);
+  const bool highlighted = model.is_path_of(model.highlight_path(), node);
   CRect cell = row;
   cell.left += std::min(node.level(), most_indented_level) * indentation;
   cell.right = cell.left + cell_width;
