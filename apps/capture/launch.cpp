@@ -13,7 +13,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t kMostAttempts = 20;  // at pictures that cannot be opened
+constexpr std::size_t kMaxAttempts = 20;  // at pictures that cannot be opened
 
 // A full path without a separator at its end; empty when it cannot be told.
 std::wstring FullPath(const std::string& path) {
@@ -28,7 +28,7 @@ std::wstring FullPath(const std::string& path) {
 std::unique_ptr<CPicture> FirstPictureOf(const std::wstring& folder) {
   std::optional<FolderEntries> entries = ReadFolder(folder);
   if (!entries) return nullptr;
-  std::size_t attempts = std::min(entries->pictures.size(), kMostAttempts);
+  std::size_t attempts = std::min(entries->pictures.size(), kMaxAttempts);
   for (std::size_t i = 0; i < attempts; ++i) {
     auto picture =
         CPicture::Open(corvane::native_path(folder + L'\\' + entries->pictures[i]).string());

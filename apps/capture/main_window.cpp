@@ -15,7 +15,7 @@ namespace {
 using namespace corvane;
 
 constexpr SIZE kOpenPanelSize{640, 560};
-constexpr SIZE kSmallestReadable{8, 8};  // pixels of the picture
+constexpr SIZE kMinReadableSize{8, 8};  // pixels of the picture
 
 CString NameForUser(const std::wstring& path) { return CString(NameOf(path).c_str()); }
 
@@ -261,8 +261,8 @@ void CMainWindow::SaveInCurrentFolder(const std::vector<std::uint8_t>& png) {
 void CMainWindow::RecogniseFramed() {
   RECT part = FramedPixels();
   EndCrop();
-  if (part.right - part.left < kSmallestReadable.cx ||
-      part.bottom - part.top < kSmallestReadable.cy) {
+  if (part.right - part.left < kMinReadableSize.cx ||
+      part.bottom - part.top < kMinReadableSize.cy) {
     view_.ShowNotice(L"所选区域太小，没有可识别的文字");
     return;
   }

@@ -10,7 +10,7 @@
 namespace capture {
 namespace {
 
-constexpr int kMostNumbers = 100000;
+constexpr int kMaxNumber = 100000;
 
 }  // namespace
 
@@ -19,7 +19,7 @@ SavedPart SaveNumbered(const std::wstring& folder, const std::wstring& picture_n
   using corvane::system::NewFileResult;
   std::size_t dot = picture_name.rfind(L'.');
   std::wstring stem = dot == 0 ? picture_name : picture_name.substr(0, dot);
-  for (int number = 1; number < kMostNumbers; ++number) {
+  for (int number = 1; number < kMaxNumber; ++number) {
     std::wstring name = stem + L"_" + std::to_wstring(number) + L".png";
     std::string path = corvane::system::file_system_path(folder + L'\\' + name);
     switch (corvane::system::write_new_file(path, png.data(), png.size())) {

@@ -21,7 +21,7 @@ using namespace corvane;
 namespace fs = std::filesystem;
 
 constexpr auto kPause = std::chrono::milliseconds(20);
-constexpr int kMostPauses = 3000;
+constexpr int kMaxPauses = 3000;
 constexpr int kRowHeight = 30;  // of the tree
 
 POINT At(const CRect& rect, int percent_x, int percent_y) {
@@ -110,7 +110,7 @@ class Session {
 
   template <class Condition>
   static void WaitWhile(const Condition& condition) {
-    for (int i = 0; condition() && i < kMostPauses; ++i) {
+    for (int i = 0; condition() && i < kMaxPauses; ++i) {
       std::this_thread::sleep_for(kPause);
       HandleWaitingMessages();
     }

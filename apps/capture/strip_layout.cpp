@@ -12,7 +12,7 @@ constexpr int kNameHeight = 22;
 constexpr int kTrackHeight = 6;
 constexpr int kTrackMargin = 4;  // above and below
 constexpr int kShortestMark = 36;
-constexpr int kSmallestPicture = 24;
+constexpr int kMinPictureSize = 24;
 
 }  // namespace
 
@@ -44,7 +44,7 @@ void CStripLayout::Show(int cell) {
 
 SIZE CStripLayout::PictureBox() const {
   int above_and_below = kMargin + 2 * kPadding + kNameHeight + kTrackHeight + 2 * kTrackMargin;
-  int height = std::max(static_cast<int>(area_.cy) - above_and_below, kSmallestPicture);
+  int height = std::max(static_cast<int>(area_.cy) - above_and_below, kMinPictureSize);
   return {height * 4 / 3, height};
 }
 

@@ -7,17 +7,17 @@ namespace {
 
 // Both grow with the window, but a tree's rows and a thumbnail have a size that is enough.
 constexpr int kNarrowestLibrary = 160, kWidestLibrary = 420;
-constexpr int kLowestStrip = 104, kHighestStrip = 260;
-constexpr LONG kSmallestStage = 200;  // beside and above the others
+constexpr int kMinStripHeight = 104, kMaxStripHeight = 260;
+constexpr LONG kMinStageSize = 200;  // beside and above the others
 
 int LibraryWidth(LONG width) {
-  if (width < kNarrowestLibrary + kSmallestStage) return 0;
+  if (width < kNarrowestLibrary + kMinStageSize) return 0;
   return std::clamp(static_cast<int>(width) * 13 / 64, kNarrowestLibrary, kWidestLibrary);
 }
 
 int StripHeight(LONG height) {
-  if (height < kLowestStrip + kSmallestStage) return 0;
-  return std::clamp(static_cast<int>(height) / 5, kLowestStrip, kHighestStrip);
+  if (height < kMinStripHeight + kMinStageSize) return 0;
+  return std::clamp(static_cast<int>(height) / 5, kMinStripHeight, kMaxStripHeight);
 }
 
 }  // namespace

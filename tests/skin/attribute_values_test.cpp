@@ -7,7 +7,7 @@
 namespace corvane {
 namespace {
 
-constexpr auto kSmallest = std::numeric_limits<std::int32_t>::min();
+constexpr auto kMin = std::numeric_limits<std::int32_t>::min();
 constexpr auto kLargest = std::numeric_limits<std::int32_t>::max();
 
 TEST(AttributeValues, Numbers) {
@@ -20,7 +20,7 @@ TEST(AttributeValues, Numbers) {
                         {"+7", 7},
                         {" 12\n", 12},
                         {"2147483647", kLargest},
-                        {"-2147483648", kSmallest},
+                        {"-2147483648", kMin},
                         {"2147483648", std::nullopt},
                         {"99999999999999999999999999", std::nullopt},
                         {"", std::nullopt},
@@ -34,7 +34,7 @@ TEST(AttributeValues, Numbers) {
                         {"12px", std::nullopt},
                         {"1 2", std::nullopt}};
   for (const auto& each : cases) {
-    EXPECT_EQ(parse_number(each.text, kSmallest, kLargest), each.expected) << each.text;
+    EXPECT_EQ(parse_number(each.text, kMin, kLargest), each.expected) << each.text;
   }
 }
 

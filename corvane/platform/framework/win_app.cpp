@@ -15,7 +15,7 @@ void release_temporaries() {
 
 // Most messages of one PumpMessages, so that a program that keeps posting to itself still comes
 // back to its host.
-constexpr int kMostPerTurn = 10000;
+constexpr int kMaxMessagesPerTurn = 10000;
 
 // Asks the windows from the message's own up to its top-level one, or to the main window.
 bool swallowed_on_the_way_up(MSG* message, HWND main_window) {
@@ -88,7 +88,8 @@ bool PreTranslateInput(MSG* message) {
 
 bool PumpMessages() {
   MSG message{};
-  for (int i = 0; i < kMostPerTurn && ::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE); ++i) {
+  for (int i = 0; i < kMaxMessagesPerTurn && ::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE);
+       ++i) {
     if (message.message == WM_QUIT) return false;
     handle(&message);
   }

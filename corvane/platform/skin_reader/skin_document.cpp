@@ -14,7 +14,7 @@
 namespace corvane {
 namespace {
 
-constexpr std::size_t kLargestFile = std::size_t{16} << 20;
+constexpr std::size_t kMaxFileSize = std::size_t{16} << 20;
 
 // Regular files only: a pipe would block and a device has no end.
 std::optional<std::string> read_file(const std::filesystem::path& path) {
@@ -23,7 +23,7 @@ std::optional<std::string> read_file(const std::filesystem::path& path) {
   std::ifstream file(path, std::ios::binary | std::ios::ate);
   if (!file) return std::nullopt;
   const std::streamoff length = file.tellg();
-  if (length < 0 || static_cast<std::size_t>(length) > kLargestFile) return std::nullopt;
+  if (length < 0 || static_cast<std::size_t>(length) > kMaxFileSize) return std::nullopt;
   std::string text(static_cast<std::size_t>(length), '\0');
   file.seekg(0);
   if (!file.read(text.data(), length)) return std::nullopt;

@@ -70,8 +70,9 @@ class HandleTable {
   // Calls visit(handle value, object) for each live object; visit must not insert or remove.
   template <class Visit>
   void for_each(Visit visit) {
-    for (std::uint32_t index = 0; index < slots_.size(); ++index)
+    for (std::uint32_t index = 0; index < slots_.size(); ++index) {
       if (slots_[index].object) visit(value_of(index), *slots_[index].object);
+    }
   }
 
  private:

@@ -8,9 +8,9 @@
 
 namespace corvane::system::blend {
 
-constexpr Pixel color_mask = 0x00FFFFFF;
-constexpr Pixel opaque_bits = 0xFF000000;
-constexpr Pixel no_key = 0xFFFFFFFF;  // equals no pixel's colour
+constexpr Pixel kColorMask = 0x00FFFFFF;
+constexpr Pixel kOpaqueBits = 0xFF000000;
+constexpr Pixel kNoKey = 0xFFFFFFFF;  // equals no pixel's colour
 
 void fill(Pixel* out, std::size_t count, Pixel color);
 void copy(Pixel* out, const Pixel* source, std::size_t count);

@@ -76,10 +76,11 @@ std::vector<Span> spans_of_row(const std::vector<Placed>& placed, const RECT& re
   const std::vector<int> columns = edges(placed, &RECT::left, &RECT::right, rect.left, rect.right);
   for (std::size_t i = 0; i + 1 < columns.size(); ++i) {
     std::vector<const Layer*> stack = stack_at(placed, columns[i], y);
-    if (!spans.empty() && spans.back().stack == stack)
+    if (!spans.empty() && spans.back().stack == stack) {
       spans.back().right = columns[i + 1];
-    else
+    } else {
       spans.push_back({columns[i], columns[i + 1], std::move(stack)});
+    }
   }
   return spans;
 }
@@ -92,8 +93,9 @@ void compose_rect(Surface& frame, const RECT& rect, const std::vector<Layer>& la
     const std::vector<Span> spans = spans_of_row(placed, rect, rows[band]);
     for (int y = rows[band]; y < rows[band + 1]; ++y) {
       Pixel* const row = frame.row(y);
-      for (const Span& span : spans)
+      for (const Span& span : spans) {
         composer.compose(row + span.left, {span.left, y}, span.right - span.left, span.stack);
+      }
     }
   }
 }

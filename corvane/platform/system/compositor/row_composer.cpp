@@ -8,15 +8,15 @@ namespace corvane::system {
 
 namespace {
 
-constexpr std::size_t piece_size = 768;  // pixels; stays in the first cache over all layers
-constexpr std::size_t run_unit = 64;     // pixels that are looked at together for one colour
+constexpr std::size_t kPieceSize = 768;  // pixels; stays in the first cache over all layers
+constexpr std::size_t kRunUnit = 64;     // pixels that are looked at together for one colour
 
 Pixel key_of(const Layer& layer) {
-  return layer.keyed ? layer.key & blend::color_mask : blend::no_key;
+  return layer.keyed ? layer.key & blend::kColorMask : blend::kNoKey;
 }
 
 bool is_key(const Layer& layer, Pixel color) {
-  return (color & blend::color_mask) == key_of(layer);
+  return (color & blend::kColorMask) == key_of(layer);
 }
 
 bool shows_nothing(const Layer& layer, Pixel color) {
@@ -25,7 +25,7 @@ bool shows_nothing(const Layer& layer, Pixel color) {
 
 bool hides_what_is_below(const Layer& layer, Pixel color) {
   return layer.alpha == 255 && !is_key(layer, color) &&
-         (!layer.pixel_alpha || (color & blend::opaque_bits) == blend::opaque_bits);
+         (!layer.pixel_alpha || (color & blend::kOpaqueBits) == blend::kOpaqueBits);
 }
 
 void blend_color(const Layer& layer, Pixel color, Pixel* out, const Pixel* below,
@@ -43,10 +43,11 @@ void blend_color(const Layer& layer, Pixel color, Pixel* out, const Pixel* below
 
 void blend_mixture(const Layer& layer, const Pixel* source, Pixel* out, const Pixel* below,
                    std::size_t count) {
-  if (layer.pixel_alpha)
+  if (layer.pixel_alpha) {
     blend::over(out, below, source, count, key_of(layer), layer.alpha);
-  else
+  } else {
     blend::keyed(out, below, source, count, key_of(layer), layer.alpha);
+  }
 }
 
 // A stretch of units that each have one colour, the same in all, or of units that do not.
@@ -58,12 +59,13 @@ struct Run {
 Run run_from(const Pixel* source, std::size_t begin, std::size_t count) {
   Run run{begin, true};
   while (run.end < count) {
-    const std::size_t unit = std::min(run_unit, count - run.end);
+    const std::size_t unit = std::min(kRunUnit, count - run.end);
     const bool one_color = blend::same(source + run.end, unit);
-    if (run.end == begin)
+    if (run.end == begin) {
       run.one_color = one_color;
-    else if (one_color != run.one_color || (one_color && source[run.end] != source[begin]))
+    } else if (one_color != run.one_color || (one_color && source[run.end] != source[begin])) {
       break;
+    }
     run.end += unit;
   }
   return run;
@@ -75,10 +77,11 @@ void blend_pixels(const Layer& layer, const Pixel* source, Pixel* out, const Pix
   for (std::size_t begin = 0; begin < count;) {
     const Run run = run_from(source, begin, count);
     const std::size_t length = run.end - begin;
-    if (run.one_color)
+    if (run.one_color) {
       blend_color(layer, source[begin], out + begin, below + begin, length);
-    else
+    } else {
       blend_mixture(layer, source + begin, out + begin, below + begin, length);
+    }
     begin = run.end;
   }
 }
@@ -89,16 +92,16 @@ RowComposer::Step RowComposer::step_of(const Layer& layer, POINT start) {
   const int x = static_cast<int>(std::int64_t{start.x} - layer.origin.x);
   const int y = static_cast<int>(std::int64_t{start.y} - layer.origin.y);
   const Pixel* const row = layer.surface->row_if_stored(y);
-  if (row) return {&layer, row + x, 0};
+  if (row != nullptr) return {&layer, row + x, 0};
   return {&layer, nullptr, layer.surface->uniform_row(y)};
 }
 
 bool RowComposer::shows_nothing(const Step& step) {
-  return !step.pixels && system::shows_nothing(*step.layer, step.color);
+  return step.pixels == nullptr && system::shows_nothing(*step.layer, step.color);
 }
 
 bool RowComposer::hides_what_is_below(const Step& step) {
-  if (!step.pixels) return system::hides_what_is_below(*step.layer, step.color);
+  if (step.pixels == nullptr) return system::hides_what_is_below(*step.layer, step.color);
   return step.layer->alpha == 255 && !step.layer->keyed && !step.layer->pixel_alpha;
 }
 
@@ -116,8 +119,9 @@ void RowComposer::compose(Pixel* out, POINT start, int count,
                           const std::vector<const Layer*>& stack) {
   collect_steps(start, stack);
   const auto size = static_cast<std::size_t>(count);
-  for (std::size_t offset = 0; offset < size; offset += piece_size)
-    compose_piece(out + offset, offset, std::min(piece_size, size - offset));
+  for (std::size_t offset = 0; offset < size; offset += kPieceSize) {
+    compose_piece(out + offset, offset, std::min(kPieceSize, size - offset));
+  }
 }
 
 void RowComposer::compose_piece(Pixel* out, std::size_t offset, std::size_t count) const {
@@ -126,17 +130,19 @@ void RowComposer::compose_piece(Pixel* out, std::size_t offset, std::size_t coun
   if (step == steps_.rend() || !hides_what_is_below(*step)) {
     blend::fill(out, count, background_);
   } else {
-    if (step->pixels)
+    if (step->pixels != nullptr) {
       below = step->pixels + offset;
-    else
+    } else {
       blend::fill(out, count, step->color);
+    }
     ++step;
   }
   for (; step != steps_.rend(); ++step) {
-    if (step->pixels)
+    if (step->pixels != nullptr) {
       blend_pixels(*step->layer, step->pixels + offset, out, below, count);
-    else
+    } else {
       blend_color(*step->layer, step->color, out, below, count);
+    }
     below = out;
   }
   if (below != out) blend::copy(out, below, count);

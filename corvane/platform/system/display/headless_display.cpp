@@ -20,8 +20,9 @@ void HeadlessDisplay::present(const Surface& frame, const Region& damage) {
   std::vector<Pixel> scratch;
   for (const RECT& rect : shown.rects()) {
     const auto bytes = static_cast<std::size_t>(rect.right - rect.left) * sizeof(Pixel);
-    for (int y = rect.top; y < rect.bottom; ++y)
+    for (int y = rect.top; y < rect.bottom; ++y) {
       std::memcpy(frame_.row(y) + rect.left, frame.read_row(y, scratch) + rect.left, bytes);
+    }
   }
   ++presents_;
 }

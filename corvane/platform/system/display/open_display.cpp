@@ -12,12 +12,12 @@ namespace corvane::system {
 
 namespace {
 
-constexpr SIZE default_size{1280, 800};
-constexpr LONG largest_side = 16384;
+constexpr SIZE kDefaultSize{1280, 800};
+constexpr LONG kMaxSide = 16384;
 
 std::string_view environment(const char* name) {
   const char* const value = std::getenv(name);
-  return value ? value : "";
+  return (value != nullptr) ? value : "";
 }
 
 // The whole text as a side's length; 0 when it is none.
@@ -25,15 +25,15 @@ LONG side_of(std::string_view text) {
   LONG side = 0;
   const char* const end = text.data() + text.size();
   const auto [stop, error] = std::from_chars(text.data(), end, side);
-  return error == std::errc() && stop == end && side <= largest_side ? side : 0;
+  return error == std::errc() && stop == end && side <= kMaxSide ? side : 0;
 }
 
 SIZE wanted_size() {
   const std::string_view text = environment("CORVANE_SCREEN");
   const std::size_t cross = text.find('x');
-  if (cross == std::string_view::npos) return default_size;
+  if (cross == std::string_view::npos) return kDefaultSize;
   const SIZE size{side_of(text.substr(0, cross)), side_of(text.substr(cross + 1))};
-  return size.cx > 0 && size.cy > 0 ? size : default_size;
+  return size.cx > 0 && size.cy > 0 ? size : kDefaultSize;
 }
 
 bool has_native_desktop() {

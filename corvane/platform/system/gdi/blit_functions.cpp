@@ -28,12 +28,13 @@ void draw(DeviceContext& target, const DeviceContext& source, const Stretch& str
   }
   const bool same_size = stretch.target_x.length == stretch.source_x.length &&
                          stretch.target_y.length == stretch.source_y.length;
-  if (same_size && target.monochrome == source.monochrome)
+  if (same_size && target.monochrome == source.monochrome) {
     copy_pixels(target, *area, *source.surface,
                 {offset_by(stretch.source_x.start, -stretch.target_x.start),
                  offset_by(stretch.source_y.start, -stretch.target_y.start)});
-  else
+  } else {
     stretch_pixels(target, source, stretch);
+  }
 }
 
 }  // namespace
@@ -42,8 +43,8 @@ BOOL StretchBlt(HDC target, int x, int y, int width, int height, HDC source, int
                 int source_y, int source_width, int source_height, DWORD operation) {
   if (!needs_source(operation)) return PatBlt(target, x, y, width, height, operation);
   DeviceContext* to = find_dc(target);
-  const DeviceContext* from = to ? find_dc(source) : nullptr;
-  if (!from) return FALSE;
+  const DeviceContext* from = (to != nullptr) ? find_dc(source) : nullptr;
+  if (from == nullptr) return FALSE;
   if (operation != SRCCOPY) {
     SetLastError(ERROR_INVALID_PARAMETER);
     return FALSE;

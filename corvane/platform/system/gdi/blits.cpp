@@ -16,7 +16,7 @@ RECT shifted(const RECT& rect, int dx, int dy) {
 
 void copy_row(Surface& target, const RECT& piece, int y, const Surface& source, POINT shift) {
   const Pixel* from = source.row_if_stored(y + shift.y);
-  if (!from) {
+  if (from == nullptr) {
     target.fill({piece.left, y, piece.right, y + 1}, source.uniform_row(y + shift.y));
     return;
   }
@@ -50,25 +50,27 @@ void copy_pixels(DeviceContext& target, const RECT& area, const Surface& source,
 }
 
 std::optional<Pixel> one_color(const Surface& surface, const RECT& part) {
-  constexpr int kMostPixels = 4096;
+  constexpr int kMaxPixels = 4096;
   const RECT all = surface.rect();
   if (!has_area(part) || part.left < 0 || part.top < 0 || part.right > all.right ||
-      part.bottom > all.bottom)
+      part.bottom > all.bottom) {
     return std::nullopt;
+  }
   const Pixel color = surface.at(part.left, part.top);
   const int width = part.right - part.left;
   int pixels_read = 0;
   for (int y = part.top; y < part.bottom; ++y) {
     const Pixel* row = surface.row_if_stored(y);
-    if (!row) {
+    if (row == nullptr) {
       if (surface.uniform_row(y) != color) return std::nullopt;
       continue;
     }
     pixels_read += width;
-    if (pixels_read > kMostPixels) return std::nullopt;
+    if (pixels_read > kMaxPixels) return std::nullopt;
     const Pixel* first = row + part.left;
-    if (std::any_of(first, first + width, [color](Pixel pixel) { return pixel != color; }))
+    if (std::any_of(first, first + width, [color](Pixel pixel) { return pixel != color; })) {
       return std::nullopt;
+    }
   }
   return color;
 }

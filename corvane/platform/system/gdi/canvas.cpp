@@ -14,7 +14,7 @@ unsigned char* bytes_of(const Pixel* pixels) {
 int byte_stride(const Surface& surface, int top) {
   const Pixel* first = surface.row_if_stored(top);
   const Pixel* second = surface.row_if_stored(top + 1);
-  if (!second) return surface.stride() * static_cast<int>(sizeof(Pixel));
+  if (second == nullptr) return surface.stride() * static_cast<int>(sizeof(Pixel));
   return static_cast<int>((second - first) * static_cast<std::ptrdiff_t>(sizeof(Pixel)));
 }
 
@@ -45,7 +45,7 @@ void Canvas::clip_to_area() {
 }
 
 Canvas::~Canvas() {
-  if (!cairo_) return;
+  if (cairo_ == nullptr) return;
   cairo_destroy(cairo_);
   cairo_surface_flush(image_);
   cairo_surface_destroy(image_);
@@ -54,7 +54,7 @@ Canvas::~Canvas() {
 
 cairo_surface_t* image_of(const Surface& surface, const RECT& part) {
   const Pixel* first = surface.row_if_stored(part.top);
-  if (!first || part.left >= part.right || part.top >= part.bottom) return nullptr;
+  if (first == nullptr || part.left >= part.right || part.top >= part.bottom) return nullptr;
   return cairo_image_surface_create_for_data(bytes_of(first + part.left), CAIRO_FORMAT_ARGB32,
                                              part.right - part.left, part.bottom - part.top,
                                              byte_stride(surface, part.top));

@@ -24,19 +24,20 @@ RECT upright(int left, int top, int right, int bottom) {
 
 int IntersectClipRect(HDC dc, int left, int top, int right, int bottom) {
   DeviceContext* context = find_dc(dc);
-  if (!context) return 0;
+  if (context == nullptr) return 0;
   const RECT area = context->to_surface(upright(left, top, right, bottom));
   std::optional<Region>& clip = context->state.user_clip;
-  if (clip)
+  if (clip) {
     clip->intersect(area);
-  else
+  } else {
     clip = Region(area);
+  }
   return kind_of(context->clip());
 }
 
 int ExcludeClipRect(HDC dc, int left, int top, int right, int bottom) {
   DeviceContext* context = find_dc(dc);
-  if (!context) return 0;
+  if (context == nullptr) return 0;
   std::optional<Region>& clip = context->state.user_clip;
   if (!clip) clip = context->clip();
   clip->subtract(context->to_surface(upright(left, top, right, bottom)));
@@ -45,21 +46,22 @@ int ExcludeClipRect(HDC dc, int left, int top, int right, int bottom) {
 
 int GetClipBox(HDC dc, LPRECT rect) {
   const DeviceContext* context = find_dc(dc);
-  if (!context || !rect) return 0;
+  if (context == nullptr || rect == nullptr) return 0;
   const Region clip = context->clip();
   *rect = clip.bounds();
   const POINT origin = context->origin();
-  if (!clip.empty())
+  if (!clip.empty()) {
     *rect = {offset_by(rect->left, -origin.x), offset_by(rect->top, -origin.y),
              offset_by(rect->right, -origin.x), offset_by(rect->bottom, -origin.y)};
+  }
   return kind_of(clip);
 }
 
 BOOL RectVisible(HDC dc, const RECT* rect) {
   const DeviceContext* context = find_dc(dc);
-  if (!context || !rect) return FALSE;
+  if (context == nullptr || rect == nullptr) return FALSE;
   const RECT area = upright(rect->left, rect->top, rect->right, rect->bottom);
-  return context->clip().intersects(context->to_surface(area));
+  return context->clip().intersects(context->to_surface(area)) ? TRUE : FALSE;
 }
 
 }  // namespace corvane_system

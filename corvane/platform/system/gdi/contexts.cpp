@@ -32,7 +32,7 @@ void reselect(HDC dc, Handle DcState::*object, const DcState& saved) {
 
 HDC CreateCompatibleDC(HDC dc) {
   Gdi::Impl* tables = current_tables();
-  if (!tables || (dc && !find_dc(dc))) return nullptr;
+  if (tables == nullptr || (dc != nullptr && find_dc(dc) == nullptr)) return nullptr;
   DeviceContext context;
   context.memory = true;
   context.monochrome = true;
@@ -45,7 +45,7 @@ HDC CreateCompatibleDC(HDC dc) {
 
 BOOL DeleteDC(HDC dc) {
   const DeviceContext* context = find_dc(dc);
-  if (!context || !context->memory) return FALSE;
+  if (context == nullptr || !context->memory) return FALSE;
   Gdi::Impl& tables = *current_tables();
   std::optional<DeviceContext> closed = tables.contexts.remove(dc);
   tables.release_all(*closed);
@@ -54,14 +54,14 @@ BOOL DeleteDC(HDC dc) {
 
 int SaveDC(HDC dc) {
   DeviceContext* context = find_dc(dc);
-  if (!context) return 0;
+  if (context == nullptr) return 0;
   context->saved.push_back(context->state);
   return static_cast<int>(context->saved.size());
 }
 
 BOOL RestoreDC(HDC dc, int saved) {
   DeviceContext* context = find_dc(dc);
-  if (!context) return FALSE;
+  if (context == nullptr) return FALSE;
   const int depth = static_cast<int>(context->saved.size());
   const bool known = saved < 0 ? saved >= -depth : saved >= 1 && saved <= depth;
   if (!known) {
@@ -103,9 +103,9 @@ int SetStretchBltMode(HDC dc, int mode) {
 
 BOOL SetViewportOrgEx(HDC dc, int x, int y, LPPOINT previous) {
   DeviceContext* context = find_dc(dc);
-  if (!context) return FALSE;
+  if (context == nullptr) return FALSE;
   const POINT before = std::exchange(context->state.viewport, POINT{x, y});
-  if (previous) *previous = before;
+  if (previous != nullptr) *previous = before;
   return TRUE;
 }
 

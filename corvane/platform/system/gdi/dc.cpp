@@ -9,10 +9,12 @@ LONG offset_by(LONG value, LONG delta) { return clamp_to_summable(std::int64_t{v
 std::optional<RECT> ordered(const RECT& rect) {
   if (rect.left == rect.right || rect.top == rect.bottom) return std::nullopt;
   RECT result = rect;
-  if (result.left > result.right)
+  if (result.left > result.right) {
     result = {offset_by(rect.right, 1), rect.top, offset_by(rect.left, 1), rect.bottom};
-  if (result.top > result.bottom)
+  }
+  if (result.top > result.bottom) {
     result = {result.left, offset_by(rect.bottom, 1), result.right, offset_by(rect.top, 1)};
+  }
   return result;
 }
 

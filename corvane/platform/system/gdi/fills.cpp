@@ -37,8 +37,9 @@ void outline(DeviceContext& dc, const PenObject& pen, const RECT& area) {
                            {area.left, area.bottom - 1}};
   for (int side = 0; side < 4; ++side) draw_line(dc, pen, corners[side], corners[(side + 1) % 4]);
   if (pen.width <= 1 && pen.style != PS_NULL && area.right - area.left == 1 &&
-      area.bottom - area.top == 1)
+      area.bottom - area.top == 1) {
     dc.fill(area, dc.pixel(pen.color));
+  }
 }
 
 // The colour of a pattern operation; nothing when it leaves the pixels alone.
@@ -71,10 +72,10 @@ int FrameRect(HDC dc, const RECT* rect, HBRUSH brush) {
 
 BOOL Rectangle(HDC dc, int left, int top, int right, int bottom) {
   DeviceContext* context = find_dc(dc);
-  if (!context) return FALSE;
+  if (context == nullptr) return FALSE;
   const PenObject* pen = current_tables()->get<PenObject>(context->state.pen);
   std::optional<COLORREF> color;
-  if (!pen || !current_tables()->brush_color(context->state.brush, &color)) return FALSE;
+  if (pen == nullptr || !current_tables()->brush_color(context->state.brush, &color)) return FALSE;
   return softly(FALSE, [&] {
     std::optional<RECT> area = ordered(context->to_surface({left, top, right, bottom}));
     if (!area) return TRUE;
@@ -90,7 +91,7 @@ BOOL Rectangle(HDC dc, int left, int top, int right, int bottom) {
 
 BOOL PatBlt(HDC dc, int x, int y, int width, int height, DWORD operation) {
   DeviceContext* context = find_dc(dc);
-  if (!context) return FALSE;
+  if (context == nullptr) return FALSE;
   std::optional<Pixel> color;
   if (!pattern_color(*context, operation, &color)) {
     SetLastError(ERROR_INVALID_PARAMETER);
@@ -107,14 +108,14 @@ BOOL PatBlt(HDC dc, int x, int y, int width, int height, DWORD operation) {
 
 COLORREF GetPixel(HDC dc, int x, int y) {
   const DeviceContext* context = find_dc(dc);
-  if (!context) return CLR_INVALID;
+  if (context == nullptr) return CLR_INVALID;
   const POINT at = context->to_surface(x, y);
   return context->clip().contains(at) ? color_of(context->surface->at(at.x, at.y)) : CLR_INVALID;
 }
 
 COLORREF SetPixel(HDC dc, int x, int y, COLORREF color) {
   DeviceContext* context = find_dc(dc);
-  if (!context) return CLR_INVALID;
+  if (context == nullptr) return CLR_INVALID;
   const POINT at = context->to_surface(x, y);
   if (!context->clip().contains(at)) return CLR_INVALID;
   return softly(CLR_INVALID, [&] {

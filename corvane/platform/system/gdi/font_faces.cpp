@@ -62,8 +62,9 @@ HostFaces& host_faces() {
 std::wstring normalised(std::wstring_view face) {
   if (!face.empty() && face.front() == L'@') face.remove_prefix(1);
   std::wstring lower(face);
-  for (wchar_t& letter : lower)
+  for (wchar_t& letter : lower) {
     if (letter >= L'A' && letter <= L'Z') letter = static_cast<wchar_t>(letter - L'A' + L'a');
+  }
   return lower;
 }
 
@@ -77,18 +78,20 @@ std::string font_families(std::wstring_view face) {
     const auto entry = faces.families.find(name);
     if (entry != faces.families.end()) return entry->second;
   }
-  for (const KnownFace& known : kKnownFaces)
+  for (const KnownFace& known : kKnownFaces) {
     if (known.face == name) return known.families;
+  }
   return to_utf8(face) + "," + kSans;
 }
 
 void map_font_face(std::wstring_view face, std::string families) {
   HostFaces& faces = host_faces();
   const std::lock_guard<std::mutex> guard(faces.lock);
-  if (families.empty())
+  if (families.empty()) {
     faces.families.erase(normalised(face));
-  else
+  } else {
     faces.families[normalised(face)] = std::move(families);
+  }
 }
 
 }  // namespace corvane::system

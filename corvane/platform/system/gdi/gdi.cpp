@@ -24,7 +24,7 @@ bool Gdi::Impl::brush_color(HBRUSH brush, std::optional<COLORREF>* color) {
     return true;
   }
   const BrushObject* object = get<BrushObject>(brush);
-  if (object) *color = object->color;
+  if (object != nullptr) *color = object->color;
   return object != nullptr;
 }
 
@@ -38,15 +38,16 @@ void Gdi::Impl::release(const void* object) {
 
 void Gdi::Impl::bury(const void* object) {
   const GdiObject* found = objects.find(object);
-  if (found && found->doomed && found->selections == 0) objects.remove(object);
+  if (found != nullptr && found->doomed && found->selections == 0) objects.remove(object);
 }
 
 void Gdi::Impl::select_defaults(DeviceContext& dc) {
   dc.state.pen = static_cast<HPEN>(stock[BLACK_PEN]);
   dc.state.brush = static_cast<HBRUSH>(stock[WHITE_BRUSH]);
   dc.state.font = static_cast<HFONT>(stock[SYSTEM_FONT]);
-  for (const void* object : {stock[BLACK_PEN], stock[WHITE_BRUSH], stock[SYSTEM_FONT]})
+  for (const void* object : {stock[BLACK_PEN], stock[WHITE_BRUSH], stock[SYSTEM_FONT]}) {
     hold(object);
+  }
 }
 
 void Gdi::Impl::release_all(DeviceContext& dc) {
@@ -64,15 +65,15 @@ TextEngine& Gdi::Impl::text_engine() {
 }
 
 Gdi::Impl* current_tables() {
-  if (current_gdi) return &current_gdi->impl();
+  if (current_gdi != nullptr) return &current_gdi->impl();
   SetLastError(ERROR_INVALID_HANDLE);
   return nullptr;
 }
 
 DeviceContext* find_dc(HDC dc) {
   Gdi::Impl* tables = current_tables();
-  DeviceContext* context = tables ? tables->contexts.find(dc) : nullptr;
-  if (!context) SetLastError(ERROR_INVALID_HANDLE);
+  DeviceContext* context = (tables != nullptr) ? tables->contexts.find(dc) : nullptr;
+  if (context == nullptr) SetLastError(ERROR_INVALID_HANDLE);
   return context;
 }
 
@@ -98,7 +99,7 @@ HDC Gdi::open_dc(std::shared_ptr<Surface> surface, POINT origin, const Region& c
 
 bool Gdi::close_dc(HDC dc) {
   const DeviceContext* found = impl_->contexts.find(dc);
-  if (!found || found->memory) return false;
+  if (found == nullptr || found->memory) return false;
   std::optional<DeviceContext> closed = impl_->contexts.remove(dc);
   impl_->release_all(*closed);
   return true;
@@ -106,8 +107,8 @@ bool Gdi::close_dc(HDC dc) {
 
 std::shared_ptr<Surface> Gdi::dc_surface(HDC dc, POINT* origin) {
   const DeviceContext* found = impl_->contexts.find(dc);
-  if (!found) return nullptr;
-  if (origin) *origin = found->origin();
+  if (found == nullptr) return nullptr;
+  if (origin != nullptr) *origin = found->origin();
   return found->surface;
 }
 

@@ -52,8 +52,9 @@ std::optional<Cut> cut_to_picture(const Image& image, const RectF& target, const
 template <class State>
 Status draw_part(State& state, const Image* image, const RectF& target, const RectF& part) {
   if (!image || !image->pixels()) return state.done(InvalidParameter);
-  if (target.Width == 0 || target.Height == 0 || !(part.Width > 0 && part.Height > 0))
+  if (target.Width == 0 || target.Height == 0 || !(part.Width > 0 && part.Height > 0)) {
     return state.done(Ok);
+  }
   return draw_softly(state, [&](DeviceContext& dc) {
     const std::optional<Cut> cut = cut_to_picture(*image, target, part);
     if (!cut) return;
@@ -65,7 +66,7 @@ Status draw_part(State& state, const Image* image, const RectF& target, const Re
 }
 
 RectF whole(const Image* image) {
-  if (!image) return {};
+  if (image == nullptr) return {};
   return {0, 0, static_cast<REAL>(image->GetWidth()), static_cast<REAL>(image->GetHeight())};
 }
 
@@ -81,7 +82,7 @@ Status draw_shape(State& state, const RectF& area, double margin, Draw draw) {
     const cairo_matrix_t matrix = state.to_surface(dc);
     Region reach = dc.clip();
     reach.intersect(mapped_bounds(matrix, area, margin));
-    Canvas canvas(*dc.surface, std::move(reach));
+    const Canvas canvas(*dc.surface, std::move(reach));
     if (!canvas.cairo()) return;
     cairo_transform(canvas.cairo(), &matrix);
     const bool smooth = state.smoothing == SmoothingModeAntiAlias;
@@ -103,11 +104,11 @@ void set_source(cairo_t* cairo, const Color& color) {
 }
 
 RECT mapped_bounds(const cairo_matrix_t& matrix, const RectF& area, double margin) {
-  const double kFarthest = 1 << 22;
-  double left = kFarthest;
-  double top = kFarthest;
-  double right = -kFarthest;
-  double bottom = -kFarthest;
+  const double k_farthest = 1 << 22;
+  double left = k_farthest;
+  double top = k_farthest;
+  double right = -k_farthest;
+  double bottom = -k_farthest;
   for (int corner = 0; corner < 4; ++corner) {
     double x = area.X + (corner % 2 == 1 ? area.Width : 0);
     double y = area.Y + (corner / 2 == 1 ? area.Height : 0);
@@ -117,8 +118,8 @@ RECT mapped_bounds(const cairo_matrix_t& matrix, const RectF& area, double margi
     right = std::max(right, x + margin);
     bottom = std::max(bottom, y + margin);
   }
-  const auto pixel = [kFarthest](double value) {
-    return static_cast<LONG>(std::clamp(value, -kFarthest, kFarthest));
+  const auto pixel = [k_farthest](double value) {
+    return static_cast<LONG>(std::clamp(value, -k_farthest, k_farthest));
   };
   return {pixel(std::floor(left)), pixel(std::floor(top)), pixel(std::ceil(right)),
           pixel(std::ceil(bottom))};
@@ -126,7 +127,7 @@ RECT mapped_bounds(const cairo_matrix_t& matrix, const RectF& area, double margi
 
 DeviceContext* Graphics::State::context() {
   DeviceContext* found = find_dc(dc);
-  if (!found) done(InvalidParameter);
+  if (found == nullptr) done(InvalidParameter);
   return found;
 }
 
@@ -181,8 +182,9 @@ Status Graphics::RotateTransform(REAL degrees) {
 }
 
 Status Graphics::ScaleTransform(REAL sx, REAL sy) {
-  if (!std::isfinite(sx) || !std::isfinite(sy) || sx == 0 || sy == 0)
+  if (!std::isfinite(sx) || !std::isfinite(sy) || sx == 0 || sy == 0) {
     return state_->done(InvalidParameter);
+  }
   cairo_matrix_scale(&state_->transform, sx, sy);
   return state_->done(Ok);
 }
@@ -208,7 +210,7 @@ Status Graphics::DrawImage(Image* image, const Rect& target, INT x, INT y, INT w
 
 Status Graphics::FillRectangle(const Brush* brush, INT x, INT y, INT width, INT height) {
   const auto* solid = dynamic_cast<const SolidBrush*>(brush);
-  if (!solid) return state_->done(InvalidParameter);
+  if (solid == nullptr) return state_->done(InvalidParameter);
   if (width <= 0 || height <= 0) return state_->done(Ok);
   const RectF area = to_real({x, y, width, height});
   return draw_shape(*state_, area, 1, [&](cairo_t* cairo) {
@@ -219,7 +221,7 @@ Status Graphics::FillRectangle(const Brush* brush, INT x, INT y, INT width, INT 
 }
 
 Status Graphics::DrawRectangle(const Pen* pen, INT x, INT y, INT width, INT height) {
-  if (!pen) return state_->done(InvalidParameter);
+  if (pen == nullptr) return state_->done(InvalidParameter);
   if (width < 0 || height < 0) return state_->done(Ok);
   const RectF area = to_real({x, y, width, height});
   return draw_shape(*state_, area, pen_width(*pen) + 1, [&](cairo_t* cairo) {
@@ -231,7 +233,7 @@ Status Graphics::DrawRectangle(const Pen* pen, INT x, INT y, INT width, INT heig
 }
 
 Status Graphics::DrawLine(const Pen* pen, INT x1, INT y1, INT x2, INT y2) {
-  if (!pen) return state_->done(InvalidParameter);
+  if (pen == nullptr) return state_->done(InvalidParameter);
   const RectF area{static_cast<REAL>(x1), static_cast<REAL>(y1),
                    static_cast<REAL>(x2) - static_cast<REAL>(x1),
                    static_cast<REAL>(y2) - static_cast<REAL>(y1)};

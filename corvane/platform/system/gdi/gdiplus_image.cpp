@@ -14,7 +14,7 @@ using namespace corvane::system;
 
 Image::Image(const WCHAR* path, BOOL) {
   status_ = InvalidParameter;
-  if (!path) return;
+  if (path == nullptr) return;
   softly(false, [&] {
     const std::string file = file_system_path(path);
     std::optional<DecodedImage> decoded;
@@ -50,12 +50,12 @@ Status Image::GetLastStatus() const { return std::exchange(status_, Ok); }
 
 Bitmap::Bitmap(INT width, INT height, INT stride, DWORD format, BYTE* scan0) {
   status_ = InvalidParameter;
-  const bool good_size = width > 0 && height > 0 && width <= kLargestImageSide &&
-                         height <= kLargestImageSide &&
-                         static_cast<long>(width) * height <= kLargestImagePixels;
+  const bool good_size = width > 0 && height > 0 && width <= kMaxImageSide &&
+                         height <= kMaxImageSide &&
+                         static_cast<long>(width) * height <= kMaxImagePixels;
   const std::int64_t bytes_per_row = stride < 0 ? -std::int64_t{stride} : stride;
   if (!good_size || format != PixelFormat32bppARGB) return;
-  if (scan0 && bytes_per_row < std::int64_t{width} * 4) return;
+  if (scan0 != nullptr && bytes_per_row < std::int64_t{width} * 4) return;
   softly(false, [&] {
     if (scan0) {
       DecodedImage copy = premultiplied_copy(scan0, width, height, stride);

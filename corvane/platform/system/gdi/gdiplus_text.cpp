@@ -32,7 +32,8 @@ struct TextBlock {
     return aligned(format.GetAlignment(), box.X, box.Width, layout->line_width(line));
   }
   bool is_clipped() const {
-    return !(format.GetFormatFlags() & StringFormatFlagsNoClip) && box.Width > 0 && box.Height > 0;
+    return ((format.GetFormatFlags() & StringFormatFlagsNoClip) == 0) && box.Width > 0 &&
+           box.Height > 0;
   }
   // All cells.
   RectF extent() const {
@@ -49,24 +50,25 @@ void draw_block(DeviceContext& dc, const cairo_matrix_t& matrix, const TextBlock
   Region reach = dc.clip();
   reach.intersect(mapped_bounds(matrix, block.extent(), margin));
   if (block.is_clipped()) reach.intersect(mapped_bounds(matrix, block.box, 1));
-  Canvas canvas(*dc.surface, std::move(reach));
+  const Canvas canvas(*dc.surface, std::move(reach));
   cairo_t* cairo = canvas.cairo();
-  if (!cairo) return;
+  if (cairo == nullptr) return;
   cairo_transform(cairo, &matrix);
   if (block.is_clipped()) {
     cairo_rectangle(cairo, block.box.X, block.box.Y, block.box.Width, block.box.Height);
     cairo_clip(cairo);
   }
   set_source(cairo, color);
-  for (int line = 0; line < block.layout->line_count(); ++line)
+  for (int line = 0; line < block.layout->line_count(); ++line) {
     block.layout->draw_line(cairo, line, block.left(line),
                             block.top() + line * block.layout->metrics().height);
+  }
 }
 
 }  // namespace
 
 Font::Font(HDC, const LOGFONTW* description) {
-  if (!description) return;
+  if (description == nullptr) return;
   description_ = *description;
   description_.lfFaceName[LF_FACESIZE - 1] = L'\0';
 }
@@ -89,7 +91,8 @@ Status StringFormat::SetFormatFlags(INT flags) {
 Status Graphics::DrawString(const WCHAR* text, INT length, const Font* font, const RectF& layout,
                             const StringFormat* format, const Brush* brush) {
   const auto* solid = dynamic_cast<const SolidBrush*>(brush);
-  if (!text || length < -1 || !font || !solid) return state_->done(InvalidParameter);
+  if (text == nullptr || length < -1 || font == nullptr || solid == nullptr)
+    return state_->done(InvalidParameter);
   const std::wstring_view shown(text,
                                 length < 0 ? std::wcslen(text) : static_cast<std::size_t>(length));
   if (shown.empty()) return state_->done(Ok);

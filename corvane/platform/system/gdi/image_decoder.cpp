@@ -16,14 +16,16 @@ Pixel premultiplied(Pixel red, Pixel green, Pixel blue, Pixel alpha) {
 }
 
 void convert_opaque_row(const guchar* from, Pixel* to, int width) {
-  for (int x = 0; x < width; ++x)
+  for (int x = 0; x < width; ++x) {
     to[x] =
         0xFF000000u | (Pixel{from[3 * x]} << 16) | (Pixel{from[3 * x + 1]} << 8) | from[3 * x + 2];
+  }
 }
 
 void convert_row(const guchar* from, Pixel* to, int width) {
-  for (int x = 0; x < width; ++x)
+  for (int x = 0; x < width; ++x) {
     to[x] = premultiplied(from[4 * x], from[4 * x + 1], from[4 * x + 2], from[4 * x + 3]);
+  }
 }
 
 bool is_opaque(const Pixel* row, int width) {
@@ -42,10 +44,11 @@ DecodedImage converted(const GdkPixbuf* picture) {
   bool opaque = true;
   for (int y = 0; y < height; ++y) {
     Pixel* to = pixels->row_to_overwrite(y, 0, width);
-    if (has_alpha)
+    if (has_alpha) {
       convert_row(bytes + y * stride, to, width);
-    else
+    } else {
       convert_opaque_row(bytes + y * stride, to, width);
+    }
     opaque = opaque && (!has_alpha || is_opaque(to, width));
   }
   return {std::move(pixels), opaque};
@@ -68,8 +71,9 @@ DecodedImage premultiplied_copy(const unsigned char* first_row, int width, int h
     std::memcpy(to, first_row + y * stride, sizeof(Pixel) * static_cast<std::size_t>(width));
     opaque = opaque && is_opaque(to, width);
     if (opaque) continue;
-    for (int x = 0; x < width; ++x)
+    for (int x = 0; x < width; ++x) {
       to[x] = premultiplied((to[x] >> 16) & 0xFF, (to[x] >> 8) & 0xFF, to[x] & 0xFF, to[x] >> 24);
+    }
   }
   return {std::move(pixels), opaque};
 }

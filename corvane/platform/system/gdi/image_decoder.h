@@ -14,8 +14,8 @@ struct DecodedImage {
 };
 
 // Pictures beyond these are refused before their pixels are allocated.
-constexpr int kLargestImageSide = 32767;
-constexpr long kLargestImagePixels = 100'000'000;
+constexpr int kMaxImageSide = 32767;
+constexpr long kMaxImagePixels = 100'000'000;
 
 // Decodes a file by its byte path, turned upright by the orientation it carries; of an animation
 // the first frame. Nothing for a file that is missing, no regular file, unknown, damaged, cut off

@@ -16,12 +16,12 @@ using PixbufPointer = std::unique_ptr<GdkPixbuf, Unref>;
 
 guchar straight(Pixel premultiplied, Pixel alpha) {
   if (alpha == 0 || alpha == 255) return static_cast<guchar>(premultiplied);
-  Pixel value = (premultiplied * 255 + alpha / 2) / alpha;
+  const Pixel value = (premultiplied * 255 + alpha / 2) / alpha;
   return static_cast<guchar>(value > 255 ? 255 : value);
 }
 
 void write_pixel(guchar* out, Pixel pixel, bool with_alpha) {
-  Pixel alpha = with_alpha ? pixel >> 24 : 255;
+  const Pixel alpha = with_alpha ? pixel >> 24 : 255;
   out[0] = straight((pixel >> 16) & 0xFF, alpha);
   out[1] = straight((pixel >> 8) & 0xFF, alpha);
   out[2] = straight(pixel & 0xFF, alpha);
@@ -29,7 +29,7 @@ void write_pixel(guchar* out, Pixel pixel, bool with_alpha) {
 }
 
 void copy_rows(const Surface& surface, const RECT& part, GdkPixbuf* pixbuf, bool with_alpha) {
-  int channels = with_alpha ? 4 : 3;
+  const int channels = with_alpha ? 4 : 3;
   auto stride = static_cast<std::size_t>(gdk_pixbuf_get_rowstride(pixbuf));
   guchar* base = gdk_pixbuf_get_pixels(pixbuf);
   for (int y = part.top; y < part.bottom; ++y) {
@@ -44,11 +44,12 @@ void copy_rows(const Surface& surface, const RECT& part, GdkPixbuf* pixbuf, bool
 
 std::vector<std::uint8_t> encode_png(const Surface& surface, const RECT& part, Opacity opacity) {
   RECT inside{};
-  RECT whole = surface.rect();
+  const RECT whole = surface.rect();
   if (!IntersectRect(&inside, &part, &whole)) return {};
-  bool with_alpha = opacity == Opacity::pixel_alpha;
-  PixbufPointer pixbuf(gdk_pixbuf_new(GDK_COLORSPACE_RGB, with_alpha, kBitsPerSample,
-                                      inside.right - inside.left, inside.bottom - inside.top));
+  const bool with_alpha = opacity == Opacity::pixel_alpha;
+  const PixbufPointer pixbuf(gdk_pixbuf_new(GDK_COLORSPACE_RGB, static_cast<gboolean>(with_alpha),
+                                            kBitsPerSample, inside.right - inside.left,
+                                            inside.bottom - inside.top));
   if (pixbuf == nullptr) return {};
   copy_rows(surface, inside, pixbuf.get(), with_alpha);
   gchar* bytes = nullptr;

@@ -16,7 +16,7 @@ namespace {
 
 using corvane_system::Gdiplus::Image;
 
-constexpr double kFarthest = 1 << 22;  // pixels; Cairo's coordinates end at twice this
+constexpr double kFarCoordinate = 1 << 22;  // pixels; Cairo's coordinates end at twice this
 
 // Pixels to draw: a part of a surface.
 struct Source {
@@ -41,7 +41,7 @@ Source shrunk(const Image& image, const RECT& part, int width, int height) {
 }
 
 bool is_whole(double value) {
-  return std::abs(value) < kFarthest && std::abs(value - std::round(value)) < 1e-3;
+  return std::abs(value) < kFarCoordinate && std::abs(value - std::round(value)) < 1e-3;
 }
 
 // The pixels that the placement covers exactly, when it is upright and on whole pixels.
@@ -52,8 +52,9 @@ std::optional<RECT> whole_pixels(const ImagePlacement& placement) {
   const double top = matrix.yy * placement.y + matrix.y0;
   const double right = left + matrix.xx * placement.width;
   const double bottom = top + matrix.yy * placement.height;
-  if (!is_whole(left) || !is_whole(top) || !is_whole(right) || !is_whole(bottom))
+  if (!is_whole(left) || !is_whole(top) || !is_whole(right) || !is_whole(bottom)) {
     return std::nullopt;
+  }
   if (left >= right || top >= bottom) return std::nullopt;
   return RECT{static_cast<LONG>(std::lround(left)), static_cast<LONG>(std::lround(top)),
               static_cast<LONG>(std::lround(right)), static_cast<LONG>(std::lround(bottom))};
@@ -61,11 +62,12 @@ std::optional<RECT> whole_pixels(const ImagePlacement& placement) {
 
 void put(Surface& target, int left, int y, const Pixel* from, int count, bool opaque) {
   const auto pixels = static_cast<std::size_t>(count);
-  if (opaque)
+  if (opaque) {
     std::memcpy(target.row_to_overwrite(y, left, left + count) + left, from,
                 sizeof(Pixel) * pixels);
-  else
+  } else {
     blend_over(target.row(y) + left, from, pixels);
+  }
 }
 
 // Pixel for pixel, the part's upper left corner at (x, y).
@@ -73,12 +75,13 @@ void paint_copy(DeviceContext& dc, const Source& source, int x, int y) {
   Region touched = dc.clip();
   touched.intersect(RECT{x, y, x + source.width(), y + source.height()});
   std::vector<Pixel> scratch;
-  for (const RECT& piece : touched.rects())
+  for (const RECT& piece : touched.rects()) {
     for (int row = piece.top; row < piece.bottom; ++row) {
       const Pixel* from = source.pixels->read_row(source.part.top + row - y, scratch);
       put(*dc.surface, piece.left, row, from + source.part.left + piece.left - x,
           piece.right - piece.left, source.opaque);
     }
+  }
   dc.surface->mark(touched);
 }
 
@@ -92,30 +95,32 @@ void paint_blocks(DeviceContext& dc, const Source& source, const RECT& target) {
   touched.intersect(target);
   std::vector<Pixel> scratch;
   std::vector<Pixel> line;
-  for (const RECT& piece : touched.rects())
+  for (const RECT& piece : touched.rects()) {
     for (int y = piece.top; y < piece.bottom; ++y) {
       const int row = source_at(y, target.top, target.bottom - target.top, source.height());
       const Pixel* from = source.pixels->read_row(source.part.top + row, scratch);
       line.clear();
-      for (int x = piece.left; x < piece.right; ++x)
+      for (int x = piece.left; x < piece.right; ++x) {
         line.push_back(from[source.part.left +
                             source_at(x, target.left, target.right - target.left, source.width())]);
+      }
       put(*dc.surface, piece.left, y, line.data(), piece.right - piece.left, source.opaque);
     }
+  }
   dc.surface->mark(touched);
 }
 
 // What the placement covers, in pixels; nothing when that is out of all bounds.
 std::optional<RECT> reach_of(const ImagePlacement& placement) {
-  double left = kFarthest;
-  double top = kFarthest;
-  double right = -kFarthest;
-  double bottom = -kFarthest;
+  double left = kFarCoordinate;
+  double top = kFarCoordinate;
+  double right = -kFarCoordinate;
+  double bottom = -kFarCoordinate;
   for (int corner = 0; corner < 4; ++corner) {
     double x = placement.x + (corner % 2) * placement.width;
     double y = placement.y + (corner / 2) * placement.height;
     cairo_matrix_transform_point(&placement.matrix, &x, &y);
-    if (!(std::abs(x) < kFarthest && std::abs(y) < kFarthest)) return std::nullopt;
+    if (!(std::abs(x) < kFarCoordinate && std::abs(y) < kFarCoordinate)) return std::nullopt;
     left = std::min(left, x);
     top = std::min(top, y);
     right = std::max(right, x);
@@ -127,7 +132,7 @@ std::optional<RECT> reach_of(const ImagePlacement& placement) {
 
 // How many surface pixels the part's width and height take.
 int device_length(double dx, double dy) {
-  return static_cast<int>(std::clamp(std::ceil(std::hypot(dx, dy) - 1e-3), 1.0, kFarthest));
+  return static_cast<int>(std::clamp(std::ceil(std::hypot(dx, dy) - 1e-3), 1.0, kFarCoordinate));
 }
 
 // The edges do not fade: colours go on beyond the picture, the outline cuts them off.
@@ -143,10 +148,10 @@ void paint_mapped(DeviceContext& dc, const Image& image, const ImagePlacement& p
                    device_length(matrix.xy * placement.height, matrix.yy * placement.height));
   Region area = dc.clip();
   area.intersect(*reach);
-  Canvas canvas(*dc.surface, std::move(area));
+  const Canvas canvas(*dc.surface, std::move(area));
   cairo_t* cairo = canvas.cairo();
-  cairo_surface_t* pixels = cairo ? image_of(*source.pixels, source.part) : nullptr;
-  if (!pixels) return;
+  cairo_surface_t* pixels = (cairo != nullptr) ? image_of(*source.pixels, source.part) : nullptr;
+  if (pixels == nullptr) return;
   cairo_transform(cairo, &matrix);
   cairo_rectangle(cairo, placement.x, placement.y, placement.width, placement.height);
   cairo_translate(cairo, placement.x, placement.y);
@@ -170,14 +175,15 @@ void paint_image(DeviceContext& dc, const Image& image, const ImagePlacement& pl
   const int width = target->right - target->left;
   const int height = target->bottom - target->top;
   const Source source = source_of(image, placement.part);
-  if (width == source.width() && height == source.height())
+  if (width == source.width() && height == source.height()) {
     paint_copy(dc, source, target->left, target->top);
-  else if (placement.nearest)
+  } else if (placement.nearest) {
     paint_blocks(dc, source, *target);
-  else if (width <= source.width() && height <= source.height())
+  } else if (width <= source.width() && height <= source.height()) {
     paint_copy(dc, shrunk(image, placement.part, width, height), target->left, target->top);
-  else
+  } else {
     paint_mapped(dc, image, placement);
+  }
 }
 
 }  // namespace corvane::system

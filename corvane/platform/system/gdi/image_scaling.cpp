@@ -53,8 +53,9 @@ std::vector<Cover> covers_of(int source, int target) {
 void add_row(const Pixel* row, std::size_t width, std::uint32_t weight, std::uint32_t* sums) {
   const auto* channels = reinterpret_cast<const std::uint8_t*>(row);
   const auto factor = static_cast<std::uint16_t>(weight);  // times 255 it fits 16 bits
-  for (std::size_t at = 0; at < 4 * width; ++at)
+  for (std::size_t at = 0; at < 4 * width; ++at) {
     sums[at] += static_cast<std::uint16_t>(factor * channels[at]);
+  }
 }
 
 // The weighted mean of the columns' channels.
@@ -67,8 +68,9 @@ Pixel average(const float* channels, const Cover& columns) {
   }
   const float share = 1.0f / static_cast<float>(columns.total);
   Pixel pixel = 0;
-  for (int channel = 0; channel < 4; ++channel)
+  for (int channel = 0; channel < 4; ++channel) {
     pixel |= static_cast<Pixel>(total[channel] * share + 0.5f) << (8 * channel);
+  }
   return pixel;
 }
 
@@ -91,15 +93,18 @@ std::shared_ptr<Surface> shrunk_by_area(const Surface& picture, const RECT& part
   for (int y = 0; y < height; ++y) {
     const Cover& cover = rows[static_cast<std::size_t>(y)];
     sums.assign(sums.size(), 0);
-    for (int index = 0; index < cover.count; ++index)
+    for (int index = 0; index < cover.count; ++index) {
       add_row(picture.read_row(part.top + cover.first + index, scratch) + part.left, part_width,
               weight_of(cover, index), sums.data());
+    }
     const float share = 1.0f / static_cast<float>(cover.total);
-    for (std::size_t at = 0; at < sums.size(); ++at)
+    for (std::size_t at = 0; at < sums.size(); ++at) {
       means[at] = static_cast<float>(static_cast<std::int32_t>(sums[at])) * share;
+    }
     Pixel* out = shrunk->row_to_overwrite(y, 0, width);
-    for (int x = 0; x < width; ++x)
+    for (int x = 0; x < width; ++x) {
       out[x] = average(means.data(), columns[static_cast<std::size_t>(x)]);
+    }
   }
   return shrunk;
 }
@@ -109,8 +114,9 @@ std::shared_ptr<const Surface> ImageCache::shrunk(const Surface& picture, const 
   const std::lock_guard<std::mutex> guard(lock_);
   for (auto copy = copies_.begin(); copy != copies_.end(); ++copy) {
     if (!same(copy->part, part) || copy->pixels->width() != width ||
-        copy->pixels->height() != height)
+        copy->pixels->height() != height) {
       continue;
+    }
     copies_.splice(copies_.begin(), copies_, copy);
     return copies_.front().pixels;
   }
@@ -121,8 +127,9 @@ std::shared_ptr<const Surface> ImageCache::shrunk(const Surface& picture, const 
 
 void ImageCache::drop_oldest() {
   long pixels = 0;
-  for (const Copy& copy : copies_)
+  for (const Copy& copy : copies_) {
     pixels += static_cast<long>(copy.pixels->width()) * copy.pixels->height();
+  }
   while (copies_.size() > 1 && (copies_.size() > kKeptCopies || pixels > kKeptPixels)) {
     const Surface& oldest = *copies_.back().pixels;
     pixels -= static_cast<long>(oldest.width()) * oldest.height();

@@ -56,17 +56,20 @@ class ThinLine {
     const LONG phase = first % (dashes_.on + dashes_.off);
     const bool on = phase < dashes_.on;
     LONG end = behind;
-    if (dashes_.off > 0)
+    if (dashes_.off > 0) {
       end = std::min(end, first + (on ? dashes_.on : dashes_.on + dashes_.off) - phase);
+    }
     LONG last = first;
-    if (offset_at(end - 1) == offset)
+    if (offset_at(end - 1) == offset) {
       last = end - 1;
-    else
+    } else {
       while (offset_at(last + 1) == offset) ++last;
-    if (on)
+    }
+    if (on) {
       fill(first, last, offset, color_);
-    else if (dc_.state.back_mode == OPAQUE)
+    } else if (dc_.state.back_mode == OPAQUE) {
       fill(first, last, offset, dc_.pixel(dc_.state.back_color));
+    }
     return last + 1;
   }
 
@@ -74,10 +77,11 @@ class ThinLine {
     const LONG start = along_x_ ? from_.x : from_.y;
     const LONG low = std::min(start + direction_ * first, start + direction_ * last);
     const LONG high = std::max(start + direction_ * first, start + direction_ * last) + 1;
-    if (along_x_)
+    if (along_x_) {
       painter_.fill({low, from_.y + offset, high, from_.y + offset + 1}, color);
-    else
+    } else {
       painter_.fill({from_.x + offset, low, from_.x + offset + 1, high}, color);
+    }
   }
 
   // How far the line has gone to the side after some steps, rounded to the nearest pixel.
@@ -184,10 +188,11 @@ void draw_wide_line(DeviceContext& dc, const PenObject& pen, POINT from, POINT t
 
 void draw_line(DeviceContext& dc, const PenObject& pen, POINT from, POINT to) {
   if (pen.style == PS_NULL) return;
-  if (pen.width <= 1)
+  if (pen.width <= 1) {
     ThinLine(dc, pen, from, to).draw();
-  else
+  } else {
     draw_wide_line(dc, pen, from, to);
+  }
 }
 
 }  // namespace corvane::system
@@ -198,19 +203,19 @@ using namespace corvane::system;
 
 BOOL MoveToEx(HDC dc, int x, int y, LPPOINT previous) {
   DeviceContext* context = find_dc(dc);
-  if (!context) return FALSE;
-  if (previous) *previous = context->state.position;
+  if (context == nullptr) return FALSE;
+  if (previous != nullptr) *previous = context->state.position;
   context->state.position = {x, y};
   return TRUE;
 }
 
 BOOL LineTo(HDC dc, int x, int y) {
   DeviceContext* context = find_dc(dc);
-  if (!context) return FALSE;
+  if (context == nullptr) return FALSE;
   const POINT from = context->state.position;
   context->state.position = {x, y};
   const PenObject* pen = current_tables()->get<PenObject>(context->state.pen);
-  if (!pen) return FALSE;
+  if (pen == nullptr) return FALSE;
   return softly(FALSE, [&] {
     draw_line(*context, *pen, context->to_surface(from.x, from.y), context->to_surface(x, y));
     return TRUE;

@@ -13,7 +13,7 @@ using namespace corvane::system;
 namespace {
 
 constexpr int kWidestPen = 32767;
-constexpr std::int64_t kLargestBitmap = std::int64_t{1} << 28;  // pixels; 1 GiB
+constexpr std::int64_t kMaxBitmapPixels = std::int64_t{1} << 28;  // pixels; 1 GiB
 
 template <class Handle>
 Handle add(GdiObject object) {
@@ -28,7 +28,7 @@ std::shared_ptr<Surface> make_pixels(int width, int height) {
     return nullptr;
   }
   const bool too_large = std::max(width, height) > 65535 ||
-                         std::int64_t{width} * std::int64_t{height} > kLargestBitmap;
+                         std::int64_t{width} * std::int64_t{height} > kMaxBitmapPixels;
   if (too_large) {
     SetLastError(kErrorNotEnoughMemory);
     return nullptr;
@@ -37,8 +37,10 @@ std::shared_ptr<Surface> make_pixels(int width, int height) {
 }
 
 bool is_supported(const BITMAPINFO* info, UINT usage) {
-  if (!info || info->bmiHeader.biSize < sizeof(BITMAPINFOHEADER) || usage != DIB_RGB_COLORS)
+  if (info == nullptr || info->bmiHeader.biSize < sizeof(BITMAPINFOHEADER) ||
+      usage != DIB_RGB_COLORS) {
     return false;
+  }
   const BITMAPINFOHEADER& header = info->bmiHeader;
   return header.biPlanes == 1 && header.biBitCount == 32 && header.biCompression == BI_RGB &&
          header.biWidth > 0 && header.biHeight != 0 && header.biHeight != INT32_MIN;
@@ -77,7 +79,7 @@ HBRUSH CreateSolidBrush(COLORREF color) {
 }
 
 HFONT CreateFontIndirectW(const LOGFONTW* description) {
-  if (!description) return nullptr;
+  if (description == nullptr) return nullptr;
   FontObject font{*description};
   font.description.lfFaceName[LF_FACESIZE - 1] = L'\0';
   return add<HFONT>({.kind = font});
@@ -100,13 +102,13 @@ HFONT CreateFontW(int height, int width, int escapement, int orientation, int we
                        static_cast<BYTE>(quality),
                        static_cast<BYTE>(pitch_and_family),
                        {}};
-  if (face) std::wcsncpy(description.lfFaceName, face, LF_FACESIZE - 1);
+  if (face != nullptr) std::wcsncpy(description.lfFaceName, face, LF_FACESIZE - 1);
   return CreateFontIndirectW(&description);
 }
 
 HBITMAP CreateCompatibleBitmap(HDC dc, int width, int height) {
   const DeviceContext* context = find_dc(dc);
-  if (!context) return nullptr;
+  if (context == nullptr) return nullptr;
   return softly<HBITMAP>(nullptr, [&]() -> HBITMAP {
     const bool nothing = width == 0 || height == 0;
     std::shared_ptr<Surface> pixels = nothing ? make_pixels(1, 1) : make_pixels(width, height);
@@ -118,8 +120,8 @@ HBITMAP CreateCompatibleBitmap(HDC dc, int width, int height) {
 
 HBITMAP CreateDIBSection(HDC, const BITMAPINFO* info, UINT usage, void** bits, HANDLE section,
                          DWORD) {
-  if (bits) *bits = nullptr;
-  if (!is_supported(info, usage) || section) {
+  if (bits != nullptr) *bits = nullptr;
+  if (!is_supported(info, usage) || section != nullptr) {
     SetLastError(ERROR_INVALID_PARAMETER);
     return nullptr;
   }
@@ -137,8 +139,8 @@ HBITMAP CreateDIBSection(HDC, const BITMAPINFO* info, UINT usage, void** bits, H
 
 BOOL DeleteObject(HGDIOBJ object) {
   Gdi::Impl* tables = current_tables();
-  GdiObject* found = tables ? tables->objects.find(object) : nullptr;
-  if (!found) return FALSE;
+  GdiObject* found = (tables != nullptr) ? tables->objects.find(object) : nullptr;
+  if (found == nullptr) return FALSE;
   if (found->stock) return TRUE;
   if (found->selections > 0) {
     found->doomed = true;
@@ -150,11 +152,13 @@ BOOL DeleteObject(HGDIOBJ object) {
 
 int GetObjectW(HANDLE object, int size, LPVOID out) {
   Gdi::Impl* tables = current_tables();
-  if (!tables) return 0;
-  if (const BitmapObject* bitmap = tables->get<BitmapObject>(object))
+  if (tables == nullptr) return 0;
+  if (const BitmapObject* bitmap = tables->get<BitmapObject>(object)) {
     return give(describe(*bitmap), size, out);
-  if (const FontObject* font = tables->get<FontObject>(object))
+  }
+  if (const FontObject* font = tables->get<FontObject>(object)) {
     return give(font->description, size, out);
+  }
   SetLastError(ERROR_INVALID_HANDLE);
   return 0;
 }

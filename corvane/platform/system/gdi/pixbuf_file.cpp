@@ -15,7 +15,7 @@ namespace corvane::system {
 namespace {
 
 constexpr std::size_t kChunk = 64 * 1024;
-constexpr off_t kLargestFile = off_t{1} << 30;  // bytes
+constexpr off_t kMaxFileSize = off_t{1} << 30;  // bytes
 
 struct CloseFile {
   void operator()(std::FILE* file) const { std::fclose(file); }
@@ -31,15 +31,15 @@ File open_regular_file(const std::string& path) {
   if (descriptor < 0) return nullptr;
   struct stat status {};
   const bool usable =
-      fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) && status.st_size <= kLargestFile;
+      fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) && status.st_size <= kMaxFileSize;
   File file(usable ? fdopen(descriptor, "rb") : nullptr);
   if (!file) close(descriptor);
   return file;
 }
 
 bool is_acceptable(int width, int height) {
-  return width > 0 && height > 0 && width <= kLargestImageSide && height <= kLargestImageSide &&
-         static_cast<long>(width) * height <= kLargestImagePixels;
+  return width > 0 && height > 0 && width <= kMaxImageSide && height <= kMaxImageSide &&
+         static_cast<long>(width) * height <= kMaxImagePixels;
 }
 
 // Runs the loader over a file. A size of 0 makes it give up before it allocates.
@@ -52,9 +52,9 @@ class Loader {
 
   Pixbuf load(std::FILE* file) {
     bool good = feed(file) && !refused_;
-    good = gdk_pixbuf_loader_close(loader_.get(), nullptr) && good && !refused_;
+    good = (gdk_pixbuf_loader_close(loader_.get(), nullptr) != 0) && good && !refused_;
     GdkPixbuf* picture = good ? gdk_pixbuf_loader_get_pixbuf(loader_.get()) : nullptr;
-    if (!picture) return nullptr;
+    if (picture == nullptr) return nullptr;
     return Pixbuf(gdk_pixbuf_apply_embedded_orientation(picture));
   }
 
@@ -75,7 +75,7 @@ class Loader {
     std::vector<guchar> chunk(kChunk);
     while (!refused_ && !stop_.stop_requested()) {
       const std::size_t read = std::fread(chunk.data(), 1, chunk.size(), file);
-      if (read == 0) return !std::ferror(file);
+      if (read == 0) return std::ferror(file) == 0;
       if (!gdk_pixbuf_loader_write(loader_.get(), chunk.data(), read, nullptr)) return false;
     }
     return false;
@@ -95,8 +95,9 @@ Pixbuf load_pixbuf(const std::string& path, const ChooseSize& choose_size,
   if (!file) return nullptr;
   Pixbuf picture = Loader(choose_size, stop).load(file.get());
   if (!picture) return nullptr;
-  if (!is_acceptable(gdk_pixbuf_get_width(picture.get()), gdk_pixbuf_get_height(picture.get())))
+  if (!is_acceptable(gdk_pixbuf_get_width(picture.get()), gdk_pixbuf_get_height(picture.get()))) {
     return nullptr;
+  }
   return is_complete_image(file.get()) ? std::move(picture) : nullptr;
 }
 

@@ -53,7 +53,7 @@ Region& Region::operator=(const Region& other) {
   return *this;
 }
 
-bool Region::empty() const { return !impl_ || cairo_region_is_empty(impl_->region); }
+bool Region::empty() const { return !impl_ || (cairo_region_is_empty(impl_->region) != 0); }
 
 RECT Region::bounds() const {
   if (empty()) return {0, 0, 0, 0};
@@ -80,7 +80,7 @@ std::vector<RECT> Region::rects() const {
 }
 
 bool Region::contains(POINT point) const {
-  return impl_ && cairo_region_contains_point(impl_->region, point.x, point.y);
+  return impl_ && (cairo_region_contains_point(impl_->region, point.x, point.y) != 0);
 }
 
 bool Region::intersects(const RECT& rect) const {
@@ -109,10 +109,11 @@ void Region::unite(const RECT& rect) {
 }
 
 void Region::unite(const Region& other) {
-  if (!impl_)
+  if (!impl_) {
     *this = other;
-  else if (other.impl_)
+  } else if (other.impl_) {
     cairo_region_union(impl_->region, other.impl_->region);
+  }
 }
 
 void Region::subtract(const RECT& rect) {
@@ -122,10 +123,11 @@ void Region::subtract(const RECT& rect) {
 }
 
 void Region::subtract(const Region& other) {
-  if (this == &other)
+  if (this == &other) {
     clear();
-  else if (impl_ && other.impl_)
+  } else if (impl_ && other.impl_) {
     cairo_region_subtract(impl_->region, other.impl_->region);
+  }
 }
 
 void Region::intersect(const RECT& rect) {
@@ -139,10 +141,11 @@ void Region::intersect(const RECT& rect) {
 }
 
 void Region::intersect(const Region& other) {
-  if (!other.impl_)
+  if (!other.impl_) {
     clear();
-  else if (impl_ && this != &other)
+  } else if (impl_ && this != &other) {
     cairo_region_intersect(impl_->region, other.impl_->region);
+  }
 }
 
 void Region::translate(int dx, int dy) {

@@ -37,19 +37,21 @@ HGDIOBJ select_bitmap(Gdi::Impl& tables, DeviceContext& dc, HGDIOBJ object) {
 
 HGDIOBJ SelectObject(HDC dc, HGDIOBJ object) {
   DeviceContext* context = find_dc(dc);
-  if (!context) return nullptr;
+  if (context == nullptr) return nullptr;
   Gdi::Impl& tables = *current_tables();
-  if (tables.get<PenObject>(object)) return exchange(tables, context->state.pen, object);
-  if (tables.get<BrushObject>(object)) return exchange(tables, context->state.brush, object);
-  if (tables.get<FontObject>(object)) return exchange(tables, context->state.font, object);
-  if (tables.get<BitmapObject>(object)) return select_bitmap(tables, *context, object);
+  if (tables.get<PenObject>(object) != nullptr) return exchange(tables, context->state.pen, object);
+  if (tables.get<BrushObject>(object) != nullptr)
+    return exchange(tables, context->state.brush, object);
+  if (tables.get<FontObject>(object) != nullptr)
+    return exchange(tables, context->state.font, object);
+  if (tables.get<BitmapObject>(object) != nullptr) return select_bitmap(tables, *context, object);
   SetLastError(ERROR_INVALID_HANDLE);
   return nullptr;
 }
 
 HGDIOBJ GetCurrentObject(HDC dc, UINT type) {
   const DeviceContext* context = find_dc(dc);
-  if (!context) return nullptr;
+  if (context == nullptr) return nullptr;
   switch (type) {
     case OBJ_PEN:
       return context->state.pen;

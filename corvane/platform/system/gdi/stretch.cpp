@@ -53,8 +53,9 @@ std::vector<Span> map_axis(const Extent& target, const Extent& source, int sourc
 
 Pixel averaged(const std::uint64_t (&sums)[4], std::uint64_t count) {
   Pixel pixel = 0;
-  for (int channel = 0; channel < 4; ++channel)
+  for (int channel = 0; channel < 4; ++channel) {
     pixel |= static_cast<Pixel>((sums[channel] + count / 2) / count) << (8 * channel);
+  }
   return pixel;
 }
 
@@ -66,11 +67,12 @@ Pixel combined(const Surface& source, const Span& columns, const Span& rows, int
   for (int y = rows.begin; y < rows.end; ++y) {
     const Pixel* row = source.row_if_stored(y);
     for (int x = columns.begin; x < columns.end; ++x) {
-      const Pixel pixel = row ? row[x] : source.uniform_row(y);
+      const Pixel pixel = (row != nullptr) ? row[x] : source.uniform_row(y);
       both &= pixel;
       either |= pixel;
-      for (int channel = 0; channel < 4; ++channel)
+      for (int channel = 0; channel < 4; ++channel) {
         sums[channel] += (pixel >> (8 * channel)) & 0xFF;
+      }
     }
   }
   if (mode == BLACKONWHITE) return both;
@@ -99,12 +101,13 @@ class Stretcher {
     for (std::size_t line = 0; line < rows.size(); ++line) {
       const int y = piece.top + static_cast<int>(line);
       if (rows[line].begin == rows[line].end) continue;
-      if (repeats && line > 0 && rows[line].begin == rows[line - 1].begin)
+      if (repeats && line > 0 && rows[line].begin == rows[line - 1].begin) {
         repeat_row(piece, y);
-      else if (single && !monochrome_differs())
+      } else if (single && !monochrome_differs()) {
         pick_row(piece, y, columns, rows[line].begin);
-      else
+      } else {
         draw_row(piece, y, columns, rows[line]);
+      }
     }
   }
 
@@ -122,8 +125,9 @@ class Stretcher {
   void pick_row(const RECT& piece, int y, const std::vector<Span>& columns, int source_y) {
     Pixel* out = target_.surface->row(y) + piece.left;
     const Pixel* row = pixels_.read_row(source_y, scratch_);
-    for (std::size_t at = 0; at < columns.size(); ++at)
+    for (std::size_t at = 0; at < columns.size(); ++at) {
       if (columns[at].begin < columns[at].end) out[at] = row[columns[at].begin];
+    }
   }
 
   void draw_row(const RECT& piece, int y, const std::vector<Span>& columns, const Span& rows) {

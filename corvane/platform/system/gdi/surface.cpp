@@ -10,9 +10,9 @@ namespace corvane::system {
 
 namespace {
 
-constexpr int kLargestSize = 65535;
+constexpr int kMaxSize = 65535;
 
-int checked_size(int size) { return std::clamp(size, 0, kLargestSize); }
+int checked_size(int size) { return std::clamp(size, 0, kMaxSize); }
 
 std::size_t index_of(int y) { return static_cast<std::size_t>(y); }
 
@@ -29,9 +29,11 @@ Surface::Surface(const Surface& other)
       bottom_up_(other.bottom_up_),
       rows_(other.rows_),
       marks_(other.marks_) {
-  for (int y = 0; y < height_; ++y)
-    if (rows_[index_of(y)].stored)
+  for (int y = 0; y < height_; ++y) {
+    if (rows_[index_of(y)].stored) {
       std::memcpy(allocated_row(y), other.address(y), sizeof(Pixel) * index_of(width_));
+    }
+  }
 }
 
 Surface& Surface::operator=(const Surface& other) {
@@ -42,8 +44,9 @@ Surface& Surface::operator=(const Surface& other) {
 std::optional<Pixel> Surface::uniform() const {
   if (rows_.empty()) return std::nullopt;
   const Pixel color = rows_.front().color;
-  for (const Row& row : rows_)
+  for (const Row& row : rows_) {
     if (row.stored || row.color != color) return std::nullopt;
+  }
   return color;
 }
 
@@ -53,9 +56,10 @@ Pixel* Surface::address(int y) const {
 }
 
 Pixel* Surface::allocated_row(int y) {
-  if (!pixels_)
+  if (!pixels_) {
     pixels_ = std::make_unique_for_overwrite<Pixel[]>(
         std::max<std::size_t>(1, index_of(width_) * index_of(height_)));
+  }
   return address(y);
 }
 
@@ -121,10 +125,11 @@ void Surface::resize(int width, int height) {
   for (int y = 0; y < std::min(height_, resized.height_); ++y) {
     const Row& row = rows_[index_of(y)];
     const int kept = std::min(width_, resized.width_);
-    if (!row.stored)
+    if (!row.stored) {
       resized.fill({0, y, kept, y + 1}, row.color);
-    else if (kept > 0)
+    } else if (kept > 0) {
       std::memcpy(resized.row(y), address(y), sizeof(Pixel) * index_of(kept));
+    }
   }
   resized.marks_ = std::move(marks_);
   resized.marks_.intersect(resized.rect());
@@ -135,10 +140,11 @@ Pixel* Surface::pin(RowOrder order) {
   const bool bottom_up = order == RowOrder::BottomUp;
   if (bottom_up != bottom_up_) {
     Pixel* first = pixels();
-    for (int y = 0; y < height_ / 2; ++y)
+    for (int y = 0; y < height_ / 2; ++y) {
       std::swap_ranges(first + index_of(y) * index_of(width_),
                        first + index_of(y + 1) * index_of(width_),
                        first + index_of(height_ - 1 - y) * index_of(width_));
+    }
     bottom_up_ = bottom_up;
   }
   pinned_ = true;
@@ -148,11 +154,11 @@ Pixel* Surface::pin(RowOrder order) {
 void Surface::mark(const RECT& rect) { mark(Region(rect)); }
 
 void Surface::mark(const Region& region) {
-  constexpr int kMostPieces = 64;
+  constexpr int kMaxPieces = 64;
   Region part(region);
   part.intersect(rect());
   marks_.unite(part);
-  if (marks_.count() > kMostPieces) marks_ = Region(marks_.bounds());
+  if (marks_.count() > kMaxPieces) marks_ = Region(marks_.bounds());
 }
 
 Region Surface::take_marks() { return std::exchange(marks_, Region()); }

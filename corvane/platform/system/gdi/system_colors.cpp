@@ -57,9 +57,10 @@ void add_stock_objects(Gdi::Impl& tables) {
   add(NULL_PEN, stock_pen(PS_NULL, RGB(0, 0, 0)));
   add(SYSTEM_FONT, stock_font(16));
   add(DEFAULT_GUI_FONT, stock_font(-12));
-  for (int index = 0; index < kSystemColors; ++index)
+  for (int index = 0; index < kSystemColors; ++index) {
     tables.system_brushes[static_cast<std::size_t>(index)] =
         static_cast<HBRUSH>(tables.add(stock_brush(kColors[index])));
+  }
   BitmapObject bitmap{std::make_shared<Surface>(1, 1), true, nullptr};
   tables.default_bitmap =
       static_cast<HBITMAP>(tables.add({.kind = std::move(bitmap), .stock = true}));
@@ -73,13 +74,13 @@ using corvane::system::Gdi;
 
 HGDIOBJ GetStockObject(int which) {
   Gdi* gdi = Gdi::current();
-  if (!gdi || which < 0 || which >= corvane::system::kStockObjects) return nullptr;
+  if (gdi == nullptr || which < 0 || which >= corvane::system::kStockObjects) return nullptr;
   return gdi->impl().stock[static_cast<std::size_t>(which)];
 }
 
 HBRUSH GetSysColorBrush(int index) {
   Gdi* gdi = Gdi::current();
-  if (!gdi || index < 0 || index >= corvane::system::kSystemColors) return nullptr;
+  if (gdi == nullptr || index < 0 || index >= corvane::system::kSystemColors) return nullptr;
   return gdi->impl().system_brushes[static_cast<std::size_t>(index)];
 }
 

@@ -15,8 +15,8 @@ using namespace corvane::system;
 
 namespace {
 
-constexpr std::size_t kLongestText = 65536;  // characters; what comes after is not drawn
-constexpr UINT kLongestRun = 8192;           // documented limit of ExtTextOutW
+constexpr std::size_t kMaxTextLength = 65536;  // characters; what comes after is not drawn
+constexpr UINT kMaxRun = 8192;                 // documented limit of ExtTextOutW
 
 const LOGFONTW& font_of(const DeviceContext& dc) {
   return current_tables()->get<FontObject>(dc.state.font)->description;
@@ -48,14 +48,15 @@ void draw_line(DeviceContext& dc, const TextLayout& layout, const PlacedLine& pl
   if (dc.state.back_mode == OPAQUE) {
     Region background(clip);
     background.intersect(cell);
-    for (const RECT& piece : background.rects())
+    for (const RECT& piece : background.rects()) {
       dc.surface->fill(piece, dc.pixel(dc.state.back_color));
+    }
     dc.surface->mark(background);
   }
   Region area(clip);
   area.intersect(reach_of(cell));
-  Canvas canvas(*dc.surface, std::move(area));
-  if (!canvas.cairo()) return;
+  const Canvas canvas(*dc.surface, std::move(area));
+  if (canvas.cairo() == nullptr) return;
   set_source(canvas.cairo(), dc.pixel(dc.state.text_color));
   layout.draw_line(canvas.cairo(), placed.line, placed.at.x, placed.at.y);
 }
@@ -66,10 +67,11 @@ std::wstring with_line_breaks(std::wstring_view text, bool single_line) {
   result.reserve(text.size());
   for (std::size_t at = 0; at < text.size(); ++at) {
     const bool end_of_line = text[at] == L'\r' || text[at] == L'\n';
-    if (!end_of_line)
+    if (!end_of_line) {
       result.push_back(text[at]);
-    else if (!single_line && !(text[at] == L'\n' && at > 0 && text[at - 1] == L'\r'))
+    } else if (!single_line && !(text[at] == L'\n' && at > 0 && text[at - 1] == L'\r')) {
       result.push_back(L'\n');
+    }
   }
   return result;
 }
@@ -82,23 +84,26 @@ std::shared_ptr<const TextLayout> lay_out(const DeviceContext& dc, std::wstring_
   const std::wstring shown = with_line_breaks(prefixed.text, single_line);
   TextRequest request{shown};
   if (shown.size() == prefixed.text.size()) request.underlined = prefixed.underlined;
-  request.ellipsize = (format & DT_END_ELLIPSIS) && !(format & DT_CALCRECT);
-  if (request.ellipsize || ((format & DT_WORDBREAK) && !single_line))
+  request.ellipsize = ((format & DT_END_ELLIPSIS) != 0u) && ((format & DT_CALCRECT) == 0u);
+  if (request.ellipsize || ((format & DT_WORDBREAK) && !single_line)) {
     request.wrap_width = std::max(0, offset_by(rect.right, -rect.left));
+  }
   return engine().layout(font_of(dc), request);
 }
 
 int line_left(const RECT& rect, int width, UINT format) {
-  if (format & DT_CENTER)
+  if (format & DT_CENTER) {
     return offset_by(rect.left, (offset_by(rect.right, -rect.left) - width) / 2);
+  }
   if (format & DT_RIGHT) return offset_by(rect.right, -width);
   return rect.left;
 }
 
 int first_top(const RECT& rect, int height, UINT format) {
   if (!(format & DT_SINGLELINE)) return rect.top;
-  if (format & DT_VCENTER)
+  if (format & DT_VCENTER) {
     return offset_by(rect.top, offset_by(rect.bottom, -rect.top) / 2 - height / 2);
+  }
   if (format & DT_BOTTOM) return offset_by(rect.bottom, -height);
   return rect.top;
 }
@@ -118,10 +123,11 @@ void draw_layout(DeviceContext& dc, const TextLayout& layout, const RECT& rect, 
 
 // The text that a pointer and a length name; length -1: up to the terminating zero.
 bool take_text(LPCWSTR text, int length, std::wstring_view* taken) {
-  if (length < -1 || (!text && length != 0)) return false;
-  if (length != 0)
+  if (length < -1 || (text == nullptr && length != 0)) return false;
+  if (length != 0) {
     *taken = {text, length < 0 ? std::wcslen(text) : static_cast<std::size_t>(length)};
-  *taken = taken->substr(0, kLongestText);
+  }
+  *taken = taken->substr(0, kMaxTextLength);
   return true;
 }
 
@@ -143,7 +149,7 @@ void draw_spaced(DeviceContext& dc, int x, int y, std::wstring_view text, const 
 int DrawTextW(HDC dc, LPCWSTR text, int length, LPRECT rect, UINT format) {
   DeviceContext* context = find_dc(dc);
   std::wstring_view shown;
-  if (!context || !rect || !take_text(text, length, &shown)) return 0;
+  if (context == nullptr || rect == nullptr || !take_text(text, length, &shown)) return 0;
   return softly(0, [&] {
     const auto layout = lay_out(*context, shown, *rect, format);
     const int height = layout->height();
@@ -161,21 +167,23 @@ int DrawTextW(HDC dc, LPCWSTR text, int length, LPRECT rect, UINT format) {
 BOOL ExtTextOutW(HDC dc, int x, int y, UINT options, const RECT* rect, LPCWSTR text, UINT length,
                  const INT* spacing) {
   DeviceContext* context = find_dc(dc);
-  if (!context || (!text && length > 0) || length > kLongestRun) return FALSE;
+  if (context == nullptr || (text == nullptr && length > 0) || length > kMaxRun) return FALSE;
   return softly(FALSE, [&] {
     Region clip = context->clip();
     if (rect) {
       const std::optional<RECT> area = ordered(context->to_surface(*rect));
-      if (area && (options & ETO_OPAQUE))
+      if (area && (options & ETO_OPAQUE)) {
         context->fill(*area, context->pixel(context->state.back_color));
+      }
       if (options & ETO_CLIPPED) clip.intersect(area ? *area : RECT{0, 0, 0, 0});
     }
     if (length == 0) return TRUE;
     const std::wstring_view shown(text, length);
-    if (spacing)
+    if (spacing) {
       draw_spaced(*context, x, y, shown, spacing, clip);
-    else
+    } else {
       draw_run(*context, x, y, shown, clip);
+    }
     return TRUE;
   });
 }
@@ -188,7 +196,8 @@ BOOL TextOutW(HDC dc, int x, int y, LPCWSTR text, int length) {
 BOOL GetTextExtentPoint32W(HDC dc, LPCWSTR text, int length, LPSIZE size) {
   const DeviceContext* context = find_dc(dc);
   std::wstring_view measured;
-  if (!context || !size || length < 0 || !take_text(text, length, &measured)) return FALSE;
+  if (context == nullptr || size == nullptr || length < 0 || !take_text(text, length, &measured))
+    return FALSE;
   return softly(FALSE, [&] {
     const auto layout = engine().layout(font_of(*context), {with_line_breaks(measured, true)});
     *size = {measured.empty() ? 0 : layout->width(), layout->metrics().height};
@@ -198,7 +207,7 @@ BOOL GetTextExtentPoint32W(HDC dc, LPCWSTR text, int length, LPSIZE size) {
 
 BOOL GetTextMetricsW(HDC dc, TEXTMETRICW* metrics) {
   const DeviceContext* context = find_dc(dc);
-  if (!context || !metrics) return FALSE;
+  if (context == nullptr || metrics == nullptr) return FALSE;
   const LOGFONTW& font = font_of(*context);
   const FontMetrics measured = engine().metrics(font);
   *metrics = {};

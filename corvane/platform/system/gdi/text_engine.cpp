@@ -16,11 +16,11 @@ namespace {
 constexpr std::size_t kKeptLayouts = 256;
 constexpr std::size_t kKeptFonts = 64;
 constexpr LONG kDefaultHeight = 16;
-constexpr LONG kLargestHeight = 4096;
+constexpr LONG kMaxHeight = 4096;
 // Installed faces carry line gaps of up to half an em in their ascent and descent; a cell takes
 // what letters need, so that a font of a given height is as large as the platform draws it.
-constexpr double kHighestAscent = 0.93;  // of an em
-constexpr double kDeepestDescent = 0.24;
+constexpr double kMaxAscent = 0.93;  // of an em
+constexpr double kMaxDescent = 0.24;
 
 std::wstring key_of(const LOGFONTW& font) {
   std::wstring key = std::to_wstring(font.lfHeight) + L'/' + std::to_wstring(font.lfWeight) + L'/';
@@ -48,8 +48,8 @@ PangoFontDescription* describe(const LOGFONTW& font) {
 
 // In ems.
 struct Proportions {
-  double ascent = kHighestAscent;
-  double descent = kDeepestDescent;
+  double ascent = kMaxAscent;
+  double descent = kMaxDescent;
   double average_width = 0.5;
 };
 
@@ -61,8 +61,8 @@ Proportions measure(PangoContext* context, const PangoFontDescription* descripti
   if (PangoFont* font = pango_context_load_font(context, large)) {
     constexpr double kEm = double{kMeasured} * PANGO_SCALE;
     PangoFontMetrics* metrics = pango_font_get_metrics(font, nullptr);
-    proportions.ascent = std::min(kHighestAscent, pango_font_metrics_get_ascent(metrics) / kEm);
-    proportions.descent = std::min(kDeepestDescent, pango_font_metrics_get_descent(metrics) / kEm);
+    proportions.ascent = std::min(kMaxAscent, pango_font_metrics_get_ascent(metrics) / kEm);
+    proportions.descent = std::min(kMaxDescent, pango_font_metrics_get_descent(metrics) / kEm);
     proportions.average_width = pango_font_metrics_get_approximate_char_width(metrics) / kEm;
     pango_font_metrics_unref(metrics);
     g_object_unref(font);
@@ -79,8 +79,9 @@ PangoAttribute* over(PangoAttribute* attribute, std::size_t begin, std::size_t e
 
 PangoAttrList* attributes_of(const LOGFONTW& font, const TextRequest& request) {
   PangoAttrList* list = pango_attr_list_new();
-  if (font.lfUnderline)
+  if (font.lfUnderline) {
     pango_attr_list_insert(list, pango_attr_underline_new(PANGO_UNDERLINE_SINGLE));
+  }
   if (font.lfStrikeOut) pango_attr_list_insert(list, pango_attr_strikethrough_new(TRUE));
   if (request.underlined >= 0 &&
       static_cast<std::size_t>(request.underlined) < request.text.size()) {
@@ -97,7 +98,7 @@ PangoAttrList* attributes_of(const LOGFONTW& font, const TextRequest& request) {
 
 TextLayout::TextLayout(PangoLayout* owned, const FontMetrics& metrics)
     : layout_(owned), metrics_(metrics) {
-  for (GSList* item = pango_layout_get_lines_readonly(owned); item; item = item->next) {
+  for (GSList* item = pango_layout_get_lines_readonly(owned); item != nullptr; item = item->next) {
     auto* line = static_cast<PangoLayoutLine*>(item->data);
     PangoRectangle logical;
     pango_layout_line_get_extents(line, nullptr, &logical);
@@ -149,7 +150,7 @@ TextEngine::Font TextEngine::load(const LOGFONTW& font) {
   Font loaded;
   loaded.description = describe(font);
   const Proportions proportions = measure(context_, loaded.description);
-  const LONG asked = std::clamp(font.lfHeight, -kLargestHeight, kLargestHeight);
+  const LONG asked = std::clamp(font.lfHeight, -kMaxHeight, kMaxHeight);
   const double cell = proportions.ascent + proportions.descent;
   double em = asked < 0 ? -asked : (asked == 0 ? kDefaultHeight : asked) / cell;
   em = std::max(em, 1.0);
@@ -204,8 +205,9 @@ std::shared_ptr<const TextLayout> TextEngine::make(const LOGFONTW& font,
   PangoAttrList* attributes = attributes_of(font, request);
   pango_layout_set_attributes(layout, attributes);
   pango_attr_list_unref(attributes);
-  if (request.wrap_width >= 0)
+  if (request.wrap_width >= 0) {
     pango_layout_set_width(layout, std::min(request.wrap_width, kWidest) * PANGO_SCALE);
+  }
   pango_layout_set_wrap(layout, PANGO_WRAP_WORD);
   if (request.ellipsize) pango_layout_set_ellipsize(layout, PANGO_ELLIPSIZE_END);
   return std::make_shared<const TextLayout>(layout, used.metrics);

@@ -31,8 +31,9 @@ DWORD attributes_of(mode_t mode, bool leads_to_folder) {
 FileFacts facts_of(const struct statx& status, std::string_view name, bool leads_to_folder) {
   FileFacts facts{};
   facts.attributes = attributes_of(status.stx_mode, leads_to_folder);
-  if (name.substr(0, 1) == "." && name != "." && name != "..")
+  if (name.substr(0, 1) == "." && name != "." && name != "..") {
     facts.attributes |= FILE_ATTRIBUTE_HIDDEN;
+  }
   const bool birth_known = (status.stx_mask & STATX_BTIME) != 0;
   facts.created = file_time(birth_known ? status.stx_btime : status.stx_mtime);
   facts.accessed = file_time(status.stx_atime);

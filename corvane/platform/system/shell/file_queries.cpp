@@ -32,14 +32,15 @@ std::string_view name_of(std::string_view path) {
 }
 
 DWORD why_not_found(std::string_view path, int error) {
-  if (error != ENOENT || open_path(folder_of(path), O_PATH | O_DIRECTORY))
+  if (error != ENOENT || open_path(folder_of(path), O_PATH | O_DIRECTORY)) {
     return corvane::system::file_error(error);
+  }
   return ERROR_PATH_NOT_FOUND;
 }
 
 // The file or folder behind the path; without it, the last error is set.
 FileDescriptor locate(LPCWSTR wide, std::string& path, int flags) {
-  path = wide ? corvane::system::file_system_path(wide) : std::string();
+  path = (wide != nullptr) ? corvane::system::file_system_path(wide) : std::string();
   FileDescriptor found;
   if (!path.empty()) found = open_path(path, O_PATH | flags);
   const int error = errno;
@@ -65,7 +66,7 @@ DWORD GetFileAttributesW(LPCWSTR wide) {
 
 BOOL PathFileExistsW(LPCWSTR wide) {
   std::string path;
-  return static_cast<bool>(locate(wide, path, 0));
+  return static_cast<bool>(locate(wide, path, 0)) ? TRUE : FALSE;
 }
 
 }  // namespace corvane_system

@@ -36,7 +36,7 @@ HANDLE keep(Search search) {
   Searches& all = searches();
   const std::lock_guard<std::mutex> guard(all.lock);
   const HANDLE handle = all.table.insert_as<HANDLE>(std::move(search));
-  if (handle) return handle;
+  if (handle != nullptr) return handle;
   SetLastError(ERROR_NOT_ENOUGH_MEMORY);
   return INVALID_HANDLE_VALUE;
 }
@@ -45,7 +45,7 @@ std::optional<Search> search_of(HANDLE handle) {
   Searches& all = searches();
   const std::lock_guard<std::mutex> guard(all.lock);
   const Search* const found = all.table.find(handle);
-  if (found) return *found;
+  if (found != nullptr) return *found;
   SetLastError(ERROR_INVALID_HANDLE);
   return std::nullopt;
 }
@@ -63,10 +63,11 @@ PatternParts split(std::wstring_view pattern) {
 
 bool is_drive_root(std::wstring_view folder) {
   if (folder.rfind(L"\\\\?\\", 0) == 0) folder.remove_prefix(4);
-  if (folder.size() >= 2 && folder[1] == L':')
+  if (folder.size() >= 2 && folder[1] == L':') {
     folder.remove_prefix(2);
-  else if (folder.empty())
+  } else if (folder.empty()) {
     return false;
+  }
   return folder.find_first_not_of(L"\\/") == folder.npos;
 }
 
@@ -79,8 +80,9 @@ HANDLE find_one(const FileDescriptor& folder, std::wstring_view name, WIN32_FIND
   std::string bytes;
   const bool possible = !name.empty() && corvane::system::append_bytes(bytes, name, '/');
   if (!possible) return refused(ERROR_FILE_NOT_FOUND);
-  if (!corvane::system::find_data(folder.number(), bytes.c_str(), name, data))
+  if (!corvane::system::find_data(folder.number(), bytes.c_str(), name, data)) {
     return refused(corvane::system::file_error(errno));
+  }
   return keep(nullptr);
 }
 
@@ -96,7 +98,7 @@ HANDLE find_first(FileDescriptor folder, const PatternParts& parts, WIN32_FIND_D
 }  // namespace
 
 HANDLE FindFirstFileW(LPCWSTR pattern, LPWIN32_FIND_DATAW data) {
-  if (!pattern || !data) return refused(ERROR_INVALID_PARAMETER);
+  if (pattern == nullptr || data == nullptr) return refused(ERROR_INVALID_PARAMETER);
   const PatternParts parts = split(pattern);
   const std::string path =
       parts.folder.empty() ? "." : corvane::system::file_system_path(parts.folder);
@@ -104,8 +106,9 @@ HANDLE FindFirstFileW(LPCWSTR pattern, LPWIN32_FIND_DATAW data) {
   const bool many = NamePattern(parts.name).has_wildcards();
   FileDescriptor folder =
       corvane::system::open_path(path, O_DIRECTORY | O_NONBLOCK | (many ? O_RDONLY : O_PATH));
-  if (!folder)
+  if (!folder) {
     return refused(errno == ENOENT ? ERROR_PATH_NOT_FOUND : corvane::system::file_error(errno));
+  }
   return many ? find_first(std::move(folder), parts, *data) : find_one(folder, parts.name, *data);
 }
 
@@ -113,9 +116,9 @@ BOOL FindNextFileW(HANDLE handle, LPWIN32_FIND_DATAW data) {
   const std::optional<Search> search = search_of(handle);
   if (!search) return FALSE;
   DWORD error = ERROR_INVALID_PARAMETER;
-  if (data) error = *search ? (*search)->next(*data) : ERROR_NO_MORE_FILES;
+  if (data != nullptr) error = *search ? (*search)->next(*data) : ERROR_NO_MORE_FILES;
   if (error != ERROR_SUCCESS) SetLastError(error);
-  return error == ERROR_SUCCESS;
+  return error == ERROR_SUCCESS ? TRUE : FALSE;
 }
 
 BOOL FindClose(HANDLE handle) {
@@ -126,7 +129,7 @@ BOOL FindClose(HANDLE handle) {
     closed = all.table.remove(handle);
   }
   if (!closed) SetLastError(ERROR_INVALID_HANDLE);
-  return closed.has_value();
+  return closed.has_value() ? TRUE : FALSE;
 }
 
 }  // namespace corvane_system

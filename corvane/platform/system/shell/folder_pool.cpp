@@ -12,7 +12,7 @@ namespace corvane::system {
 namespace {
 
 constexpr int kFolderFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK;
-constexpr std::size_t kMostDescriptors = 128;
+constexpr std::size_t kMaxDescriptors = 128;
 
 }  // namespace
 
@@ -76,8 +76,8 @@ bool FolderPool::list_folders(PooledFolder& folder, const FoundName& found) {
   ListingInUse listing(*this, folder);
   const int descriptor = folder.descriptor_.number();
   const dirent64* entry = listing.reader().next(descriptor);
-  if (!entry && listing.reader().error() != 0) return false;
-  for (; entry; entry = listing.reader().next(descriptor)) {
+  if (entry == nullptr && listing.reader().error() != 0) return false;
+  for (; entry != nullptr; entry = listing.reader().next(descriptor)) {
     if (is_dot_or_dot_dot(entry->d_name)) continue;
     const EntryKind kind = kind_of(descriptor, *entry);
     if (kind == EntryKind::other) continue;
@@ -130,7 +130,7 @@ void FolderPool::occupy(PooledFolder& folder, FileDescriptor descriptor) {
   by_use_.push_front(&folder);
   folder.places_ = &by_use_;
   folder.place_ = by_use_.begin();
-  if (by_use_.size() > kMostDescriptors) by_use_.back()->give_up_descriptor();
+  if (by_use_.size() > kMaxDescriptors) by_use_.back()->give_up_descriptor();
 }
 
 }  // namespace corvane::system

@@ -16,8 +16,9 @@ FolderSearch::FolderSearch(FileDescriptor folder, NamePattern pattern, Dots dots
 
 DWORD FolderSearch::next(WIN32_FIND_DATAW& data) {
   const std::lock_guard<std::mutex> guard(lock_);
-  while (const char* name = next_name())
+  while (const char* name = next_name()) {
     if (deliver(name, data)) return ERROR_SUCCESS;
+  }
   // A folder that was removed meanwhile has no more entries.
   const int error = reader_.error();
   return error == 0 || error == ENOENT ? ERROR_NO_MORE_FILES : file_error(error);
@@ -28,8 +29,8 @@ const char* FolderSearch::next_name() {
   const dirent64* entry = nullptr;
   do {
     entry = reader_.next(folder_.number());
-  } while (entry && is_dot_or_dot_dot(entry->d_name));
-  return entry ? entry->d_name : nullptr;
+  } while (entry != nullptr && is_dot_or_dot_dot(entry->d_name));
+  return (entry != nullptr) ? entry->d_name : nullptr;
 }
 
 bool FolderSearch::deliver(const char* name, WIN32_FIND_DATAW& data) {

@@ -13,7 +13,7 @@ namespace {
 wchar_t upper_case(wchar_t character) {
   static const locale_t unicode = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
   const auto code = static_cast<wint_t>(character);
-  return static_cast<wchar_t>(unicode ? towupper_l(code, unicode) : towupper(code));
+  return static_cast<wchar_t>(unicode != nullptr ? towupper_l(code, unicode) : towupper(code));
 }
 
 std::wstring upper_case(std::wstring_view text) {
@@ -49,20 +49,22 @@ bool NamePattern::fits(std::wstring_view any_case) const {
   const std::size_t last_dot = name.rfind(L'.');
   const std::size_t end = pattern_.size();
   std::vector<char> places(end + 1);
-  places[0] = true;
+  places[0] = 1;
   for (std::size_t at = 0;; ++at) {
     const std::wstring_view rest = std::wstring_view(name).substr(at);
-    for (std::size_t i = 0; i < end; ++i)
-      if (places[i] && takes_nothing(i, rest)) places[i + 1] = true;
-    if (rest.empty()) return places[end];
+    for (std::size_t i = 0; i < end; ++i) {
+      if (places[i] && takes_nothing(i, rest)) places[i + 1] = 1;
+    }
+    if (rest.empty()) return places[end] != 0;
     std::vector<char> next(end + 1);
     for (std::size_t i = 0; i < end; ++i) {
       if (!places[i]) continue;
       const bool before_dot = i + 1 < end && pattern_[i + 1] == L'.';
-      if (pattern_[i] == L'*')
-        next[i] = next[i] || !(before_dot && at == last_dot);
-      else if (pattern_[i] == L'?' ? name[at] != L'.' : pattern_[i] == name[at])
-        next[i + 1] = true;
+      if (pattern_[i] == L'*') {
+        if (!before_dot || at != last_dot) next[i] = 1;
+      } else if (pattern_[i] == L'?' ? name[at] != L'.' : pattern_[i] == name[at]) {
+        next[i + 1] = 1;
+      }
     }
     places = std::move(next);
   }

@@ -15,14 +15,14 @@ namespace {
 constexpr std::size_t kBlock = 1 << 20;
 
 std::string folder_of(const std::string& path) {
-  std::size_t slash = path.rfind('/');
+  const std::size_t slash = path.rfind('/');
   if (slash == std::string::npos) return ".";
   return slash == 0 ? "/" : path.substr(0, slash);
 }
 
 bool write_all(int file, const char* bytes, std::size_t size) {
   while (size > 0) {
-    ssize_t written = write(file, bytes, std::min(size, kBlock));
+    const ssize_t written = write(file, bytes, std::min(size, kBlock));
     if (written < 0 && errno == EINTR) continue;
     if (written <= 0) return false;
     bytes += written;
@@ -43,7 +43,7 @@ bool put_in_place(const std::string& temporary, const std::string& path) {
 }
 
 void sync_folder(const std::string& folder) {
-  int handle = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  const int handle = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   if (handle < 0) return;
   fsync(handle);
   close(handle);
@@ -52,9 +52,9 @@ void sync_folder(const std::string& folder) {
 }  // namespace
 
 NewFileResult write_new_file(const std::string& path, const void* bytes, std::size_t size) {
-  std::string folder = folder_of(path);
+  const std::string folder = folder_of(path);
   std::string temporary = folder + "/.corvane-XXXXXX";
-  int file = mkostemp(temporary.data(), O_CLOEXEC);
+  const int file = mkostemp(temporary.data(), O_CLOEXEC);
   if (file < 0) return NewFileResult::failed;
   fchmod(file, 0644);
   bool complete = write_all(file, static_cast<const char*>(bytes), size);

@@ -22,13 +22,13 @@ PooledFolder::~PooledFolder() {
 }
 
 void PooledFolder::give_up_descriptor() {
-  if (places_) places_->erase(place_);
+  if (places_ != nullptr) places_->erase(place_);
   places_ = nullptr;
   descriptor_.reset();
 }
 
 void PooledFolder::move_to(Places& places) {
-  if (!places_) return;
+  if (places_ == nullptr) return;
   places.splice(places.begin(), *places_, place_);
   places_ = &places;
 }

@@ -34,9 +34,10 @@ Decoded decode(std::string_view bytes) {
     if ((byte(at) & 0xC0) != 0x80) return {0, 0};
     character = (character << 6) | (byte(at) & 0x3Fu);
   }
-  constexpr std::uint32_t kSmallest[] = {0, 0, 0x80, 0x800, 0x10000};
-  if (character < kSmallest[length] || character > 0x10FFFF || is_surrogate(character))
+  constexpr std::uint32_t kFirstOfLength[] = {0, 0, 0x80, 0x800, 0x10000};
+  if (character < kFirstOfLength[length] || character > 0x10FFFF || is_surrogate(character)) {
     return {0, 0};
+  }
   return {character, length};
 }
 
@@ -94,8 +95,9 @@ void append_wide_name(std::wstring& wide, std::string_view bytes) {
     if (next.length > 0 && next.character != '\\' && !is_escape(next.character)) {
       wide.push_back(static_cast<wchar_t>(next.character));
     } else {
-      for (const char byte : bytes.substr(0, length))
+      for (const char byte : bytes.substr(0, length)) {
         wide.push_back(static_cast<wchar_t>(kEscapes + static_cast<std::uint8_t>(byte)));
+      }
     }
     bytes.remove_prefix(length);
   }
@@ -110,10 +112,11 @@ bool append_bytes(std::string& bytes, std::wstring_view wide, char separator) {
     }
     const std::uint32_t character = next_character(wide, at);
     if (character == 0 || character > 0x10FFFF) return false;
-    if (is_escape(character))
+    if (is_escape(character)) {
       bytes.push_back(static_cast<char>(character - kEscapes));
-    else
+    } else {
       append_utf8(bytes, character);
+    }
   }
   return true;
 }

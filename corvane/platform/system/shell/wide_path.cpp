@@ -87,8 +87,9 @@ std::wstring wide_path(std::string_view bytes) {
   const bool absolute = bytes.front() == '/';
   const std::wstring drive = absolute ? take_drive(bytes) : std::wstring();
   std::wstring wide = wide_name(bytes);
-  for (wchar_t& character : wide)
+  for (wchar_t& character : wide) {
     if (character == L'/') character = L'\\';
+  }
   if (!absolute && names_a_drive(wide)) wide[1] = kEscapedColon;
   return absolute && wide.empty() ? drive + L"\\" : drive + wide;
 }

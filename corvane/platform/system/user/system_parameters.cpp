@@ -12,7 +12,7 @@ BOOL SystemParametersInfoW(UINT action, UINT parameter, void* data, UINT) {
   SystemParameters& parameters = state->parameters;
   switch (action) {
     case SPI_SETDRAGFULLWINDOWS:
-      parameters.drag_full_windows = parameter != 0;
+      parameters.drag_full_windows = parameter != 0 ? TRUE : FALSE;
       return TRUE;
     case SPI_SETMOUSEWHEELROUTING:
       parameters.wheel_routing = static_cast<DWORD>(

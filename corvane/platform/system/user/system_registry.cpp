@@ -25,7 +25,7 @@ Registry& registry() {
 
 std::uintptr_t register_system(System* state) {
   Registry& all = registry();
-  std::lock_guard lock(all.mutex);
+  const std::lock_guard lock(all.mutex);
   do {
     all.last_tag = (all.last_tag + 1) & 0xFFFF;
   } while (all.last_tag == 0 || all.systems.count(all.last_tag) != 0);
@@ -35,13 +35,13 @@ std::uintptr_t register_system(System* state) {
 
 void unregister_system(std::uintptr_t tag) {
   Registry& all = registry();
-  std::lock_guard lock(all.mutex);
+  const std::lock_guard lock(all.mutex);
   all.systems.erase(tag >> kTagShift);
 }
 
 bool post_from_any_thread(const MSG& message) {
   Registry& all = registry();
-  std::lock_guard lock(all.mutex);
+  const std::lock_guard lock(all.mutex);
   auto it = all.systems.find(reinterpret_cast<std::uintptr_t>(message.hwnd) >> kTagShift);
   if (it == all.systems.end() || !it->second->queue.post(message)) return false;
   it->second->display->wake();

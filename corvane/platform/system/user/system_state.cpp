@@ -79,14 +79,14 @@ POINT client_origin(const Window& window) {
 }
 
 RECT frame_on_screen(const Window& window) {
-  POINT base = window.parent == nullptr ? POINT{0, 0} : client_origin(*window.parent);
+  const POINT base = window.parent == nullptr ? POINT{0, 0} : client_origin(*window.parent);
   RECT rect = window.frame;
   OffsetRect(&rect, base.x, base.y);
   return rect;
 }
 
 RECT client_on_screen(const Window& window) {
-  POINT origin = client_origin(window);
+  const POINT origin = client_origin(window);
   RECT rect = window.client_area();
   OffsetRect(&rect, origin.x, origin.y);
   return rect;
@@ -98,8 +98,9 @@ MSG make_message(const System& state, HWND window, UINT number, WPARAM wparam, L
 
 std::wstring lower_case(std::wstring_view text) {
   std::wstring result(text);
-  for (wchar_t& letter : result)
+  for (wchar_t& letter : result) {
     letter = static_cast<wchar_t>(std::towlower(static_cast<wint_t>(letter)));
+  }
   return result;
 }
 

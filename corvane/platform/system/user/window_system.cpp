@@ -16,7 +16,7 @@ thread_local std::vector<WindowSystem*> systems_of_thread;
 
 // Most messages one call of process_pending dispatches, so that a program that keeps posting to
 // itself still comes back to its host.
-constexpr int kMostPerTurn = 10000;
+constexpr int kMaxMessagesPerTurn = 10000;
 
 void add_desktop(System& state) {
   auto desktop = std::make_unique<Window>();
@@ -75,7 +75,7 @@ Gdi& WindowSystem::gdi() { return impl_->gdi; }
 std::optional<std::uint64_t> WindowSystem::process_pending(
     bool* quit, const std::function<bool(MSG*)>& filter) {
   if (quit != nullptr) *quit = false;
-  for (int i = 0; i < kMostPerTurn; ++i) {
+  for (int i = 0; i < kMaxMessagesPerTurn; ++i) {
     auto message = retrieve(*impl_, {}, true);
     if (!message) break;
     if (message->message == WM_QUIT) {
@@ -89,7 +89,7 @@ std::optional<std::uint64_t> WindowSystem::process_pending(
   present_now(*impl_);
   auto due = impl_->timers.next_due();
   if (!due) return std::nullopt;
-  std::uint64_t now = impl_->now();
+  const std::uint64_t now = impl_->now();
   return *due > now ? *due - now : 0;
 }
 

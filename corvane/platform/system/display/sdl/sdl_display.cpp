@@ -19,7 +19,7 @@ namespace {
 
 bool is_driver(const char* name) {
   const char* const driver = SDL_GetCurrentVideoDriver();
-  return driver && std::strcmp(driver, name) == 0;
+  return driver != nullptr && std::strcmp(driver, name) == 0;
 }
 
 class VideoSession {
@@ -48,7 +48,7 @@ struct Hint {
   const char* value;
 };
 
-constexpr Hint hints[] = {
+constexpr Hint kHints[] = {
     // Without a graphics processor the accelerated way is many times slower.
     {SDL_HINT_FRAMEBUFFER_ACCELERATION, "0"},
     // The process, its signals, and the desktop's habits belong to the host.
@@ -71,11 +71,12 @@ void copy_rect(SDL_Surface& target, const Surface& frame, const RECT& rect,
     const Pixel* const source = frame.read_row(y, scratch) + rect.left;
     auto* const row = static_cast<std::uint8_t*>(target.pixels) + y * target.pitch +
                       rect.left * target.format->BytesPerPixel;
-    if (target.format->format == SDL_PIXELFORMAT_RGB888)
+    if (target.format->format == SDL_PIXELFORMAT_RGB888) {
       std::memcpy(row, source, static_cast<std::size_t>(width) * sizeof(Pixel));
-    else
+    } else {
       SDL_ConvertPixels(width, 1, SDL_PIXELFORMAT_RGB888, source, width * 4, target.format->format,
                         row, target.pitch);
+    }
   }
 }
 
@@ -104,7 +105,7 @@ struct SdlDisplay::Native {
 
 void SdlDisplay::Native::present(const Surface& frame, const Region& damage) {
   SDL_Surface* const surface = SDL_GetWindowSurface(window.get());
-  if (!surface) return;
+  if (surface == nullptr) return;
   Region shown = damage;
   shown.intersect(frame.rect());
   shown.intersect(RECT{0, 0, surface->w, surface->h});
@@ -122,20 +123,21 @@ void SdlDisplay::Native::present(const Surface& frame, const Region& damage) {
 
 // The window surface still holds what was presented.
 void SdlDisplay::Native::repaint() {
-  if (has_content && SDL_GetWindowSurface(window.get())) SDL_UpdateWindowSurface(window.get());
+  if (has_content && (SDL_GetWindowSurface(window.get()) != nullptr))
+    SDL_UpdateWindowSurface(window.get());
 }
 
 std::unique_ptr<SdlDisplay> SdlDisplay::open(SIZE size) {
   use_unicode_locale();
-  for (const Hint& hint : hints) SDL_SetHint(hint.name, hint.value);
+  for (const Hint& hint : kHints) SDL_SetHint(hint.name, hint.value);
   auto native = std::make_unique<Native>();
   if (!native->session.reaches_a_desktop()) return nullptr;
-  const SIZE real{std::max(size.cx, smallest_window.cx), std::max(size.cy, smallest_window.cy)};
+  const SIZE real{std::max(size.cx, kMinWindowSize.cx), std::max(size.cy, kMinWindowSize.cy)};
   native->window.reset(SDL_CreateWindow("", SDL_WINDOWPOS_UNDEFINED, SDL_WINDOWPOS_UNDEFINED,
                                         real.cx, real.cy,
                                         SDL_WINDOW_HIDDEN | SDL_WINDOW_RESIZABLE));
   if (!native->window) return nullptr;
-  SDL_SetWindowMinimumSize(native->window.get(), smallest_window.cx, smallest_window.cy);
+  SDL_SetWindowMinimumSize(native->window.get(), kMinWindowSize.cx, kMinWindowSize.cy);
   native->waiter = std::make_unique<SdlWaiter>(native->window.get());
   return std::unique_ptr<SdlDisplay>(new SdlDisplay(std::move(native), real));
 }
@@ -163,8 +165,9 @@ void SdlDisplay::poll(std::vector<InputEvent>& events) {
   while (SDL_PollEvent(&event)) {
     const std::size_t before = events.size();
     native_->events.translate(event, events);
-    if (event.type == SDL_WINDOWEVENT && event.window.event == SDL_WINDOWEVENT_EXPOSED)
+    if (event.type == SDL_WINDOWEVENT && event.window.event == SDL_WINDOWEVENT_EXPOSED) {
       native_->repaint();
+    }
     if (events.size() > before && events.back().kind == InputKind::resize) {
       size_ = {events.back().position.x, events.back().position.y};
       native_->has_content = false;
@@ -190,11 +193,11 @@ int SdlDisplay::event_fd() const { return native_->waiter->fd(); }
 void SdlDisplay::set_cursor(CursorShape shape) { native_->cursors.show(shape); }
 
 void SdlDisplay::set_title(const wchar_t* title) {
-  const std::wstring_view text = title ? title : L"";
+  const std::wstring_view text = (title != nullptr) ? title : L"";
   char* const utf8 =
       SDL_iconv_string("UTF-8", "WCHAR_T", reinterpret_cast<const char*>(text.data()),
                        (text.size() + 1) * sizeof(wchar_t));
-  if (utf8) SDL_SetWindowTitle(native_->window.get(), utf8);
+  if (utf8 != nullptr) SDL_SetWindowTitle(native_->window.get(), utf8);
   SDL_free(utf8);
 }
 
@@ -202,11 +205,11 @@ void SdlDisplay::set_capture(bool capture) { SDL_CaptureMouse(capture ? SDL_TRUE
 
 bool SdlDisplay::drag_native_window(POINT grip) {
   if (!knows_desktop_positions()) return false;
-  POINT pointer = native_pointer_position(native_->window.get());
+  const POINT pointer = native_pointer_position(native_->window.get());
   int x = 0;
   int y = 0;
   SDL_GetWindowPosition(native_->window.get(), &x, &y);
-  POINT target{pointer.x - grip.x, pointer.y - grip.y};
+  const POINT target{pointer.x - grip.x, pointer.y - grip.y};
   if (target.x != x || target.y != y) {
     SDL_SetWindowPosition(native_->window.get(), target.x, target.y);
   }

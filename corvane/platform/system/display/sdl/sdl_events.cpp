@@ -8,7 +8,7 @@ namespace corvane::system {
 
 namespace {
 
-constexpr float wheel_notch = 120;
+constexpr float kWheelNotch = 120;
 
 InputEvent event_of(InputKind kind, POINT position = {}) {
   InputEvent event;
@@ -33,7 +33,7 @@ int virtual_button(Uint8 button) {
 
 std::wstring wide(const char* utf8) {
   char* const converted = SDL_iconv_string("WCHAR_T", "UTF-8", utf8, SDL_strlen(utf8) + 1);
-  if (!converted) return {};
+  if (converted == nullptr) return {};
   std::wstring text = reinterpret_cast<const wchar_t*>(converted);
   SDL_free(converted);
   return text;
@@ -48,8 +48,9 @@ const SdlEvents::Row SdlEvents::rows_[] = {
     {SDL_TEXTINPUT, &SdlEvents::text},       {SDL_WINDOWEVENT, &SdlEvents::window}};
 
 void SdlEvents::translate(const SDL_Event& event, std::vector<InputEvent>& events) {
-  for (const Row& row : rows_)
+  for (const Row& row : rows_) {
     if (row.type == event.type) (this->*row.handler)(event, events);
+  }
 }
 
 void SdlEvents::motion(const SDL_Event& event, std::vector<InputEvent>& events) {
@@ -65,7 +66,7 @@ void SdlEvents::button(const SDL_Event& event, std::vector<InputEvent>& events) 
 
 void SdlEvents::wheel(const SDL_Event& event, std::vector<InputEvent>& events) {
   const bool flipped = event.wheel.direction == SDL_MOUSEWHEEL_FLIPPED;
-  wheel_rest_ += event.wheel.preciseY * (flipped ? -wheel_notch : wheel_notch);
+  wheel_rest_ += event.wheel.preciseY * (flipped ? -kWheelNotch : kWheelNotch);
   InputEvent made = event_of(InputKind::mouse_wheel);
   int x = 0;
   int y = 0;
@@ -82,7 +83,7 @@ void SdlEvents::key(const SDL_Event& event, std::vector<InputEvent>& events) {
   made.virtual_key = virtual_key_of(event.key.keysym);
   made.down = event.type == SDL_KEYDOWN;
   made.repeat = event.key.repeat != 0;
-  made.makes_char = !(SDL_IsTextInputActive() && writes_text(event.key.keysym));
+  made.makes_char = !((SDL_IsTextInputActive() != 0u) && writes_text(event.key.keysym));
   if (made.virtual_key != 0) events.push_back(made);
 }
 
@@ -97,8 +98,8 @@ void SdlEvents::window(const SDL_Event& event, std::vector<InputEvent>& events) 
   InputEvent made;
   switch (event.window.event) {
     case SDL_WINDOWEVENT_SIZE_CHANGED:
-      made = event_of(InputKind::resize, {std::max(event.window.data1, smallest_window.cx),
-                                          std::max(event.window.data2, smallest_window.cy)});
+      made = event_of(InputKind::resize, {std::max(event.window.data1, kMinWindowSize.cx),
+                                          std::max(event.window.data2, kMinWindowSize.cy)});
       break;
     case SDL_WINDOWEVENT_LEAVE:
       made = event_of(InputKind::mouse_leave);

@@ -32,6 +32,6 @@ class SdlEvents {
 };
 
 // The least size that the native window and the desktop in it can get, pixels.
-constexpr SIZE smallest_window{320, 240};
+constexpr SIZE kMinWindowSize{320, 240};
 
 }  // namespace corvane::system

@@ -11,7 +11,7 @@ struct Key {
   int virtual_key;
 };
 
-constexpr Key keys[] = {
+constexpr Key kEys[] = {
     {SDLK_BACKSPACE, 0x08},    {SDLK_TAB, 0x09},          {SDLK_RETURN, 0x0D},
     {SDLK_PAUSE, 0x13},        {SDLK_CAPSLOCK, 0x14},     {SDLK_ESCAPE, 0x1B},
     {SDLK_SPACE, 0x20},        {SDLK_PAGEUP, 0x21},       {SDLK_PAGEDOWN, 0x22},
@@ -36,7 +36,7 @@ struct PadKey {
   int unlocked;
 };
 
-constexpr PadKey pad_keys[] = {
+constexpr PadKey kPadKeys[] = {
     {SDLK_KP_0, 0x60, 0x2D}, {SDLK_KP_1, 0x61, 0x23},      {SDLK_KP_2, 0x62, 0x28},
     {SDLK_KP_3, 0x63, 0x22}, {SDLK_KP_4, 0x64, 0x25},      {SDLK_KP_5, 0x65, 0x0C},
     {SDLK_KP_6, 0x66, 0x27}, {SDLK_KP_7, 0x67, 0x24},      {SDLK_KP_8, 0x68, 0x26},
@@ -44,8 +44,9 @@ constexpr PadKey pad_keys[] = {
 };
 
 const PadKey* pad_key_of(SDL_Keycode code) {
-  for (const PadKey& key : pad_keys)
+  for (const PadKey& key : kPadKeys) {
     if (key.code == code) return &key;
+  }
   return nullptr;
 }
 
@@ -57,37 +58,40 @@ struct KeyRow {
 };
 
 int in_rows(int code, const KeyRow* begin, const KeyRow* end) {
-  for (const KeyRow* row = begin; row != end; ++row)
+  for (const KeyRow* row = begin; row != end; ++row) {
     if (code >= row->first && code <= row->last) return row->virtual_key + (code - row->first);
+  }
   return 0;
 }
 
-constexpr KeyRow code_rows[] = {{SDLK_a, SDLK_z, 'A'},
+constexpr KeyRow kCodeRows[] = {{SDLK_a, SDLK_z, 'A'},
                                 {SDLK_0, SDLK_9, '0'},
                                 {SDLK_F1, SDLK_F12, 0x70},
                                 {SDLK_F13, SDLK_F24, 0x7C}};
 
 // On a layout of another script, letters and digits go by their place on the keyboard.
-constexpr KeyRow place_rows[] = {{SDL_SCANCODE_A, SDL_SCANCODE_Z, 'A'},
+constexpr KeyRow kPlaceRows[] = {{SDL_SCANCODE_A, SDL_SCANCODE_Z, 'A'},
                                  {SDL_SCANCODE_1, SDL_SCANCODE_9, '1'},
                                  {SDL_SCANCODE_0, SDL_SCANCODE_0, '0'}};
 
 }  // namespace
 
 int virtual_key_of(const SDL_Keysym& key) {
-  for (const Key& known : keys)
+  for (const Key& known : kEys) {
     if (known.code == key.sym) return known.virtual_key;
-  if (const PadKey* const pad = pad_key_of(key.sym))
+  }
+  if (const PadKey* const pad = pad_key_of(key.sym)) {
     return key.mod & KMOD_NUM ? pad->locked : pad->unlocked;
-  const int by_code = in_rows(key.sym, std::begin(code_rows), std::end(code_rows));
-  return by_code ? by_code : in_rows(key.scancode, std::begin(place_rows), std::end(place_rows));
+  }
+  const int by_code = in_rows(key.sym, std::begin(kCodeRows), std::end(kCodeRows));
+  return by_code ? by_code : in_rows(key.scancode, std::begin(kPlaceRows), std::end(kPlaceRows));
 }
 
 bool writes_text(const SDL_Keysym& key) {
   if (commands(key.mod)) return false;
-  if (pad_key_of(key.sym)) return (key.mod & KMOD_NUM) != 0;
+  if (pad_key_of(key.sym) != nullptr) return (key.mod & KMOD_NUM) != 0;
   if (key.sym >= SDLK_KP_DIVIDE && key.sym <= SDLK_KP_PLUS) return true;
-  return key.sym >= SDLK_SPACE && key.sym != SDLK_DELETE && !(key.sym & SDLK_SCANCODE_MASK);
+  return key.sym >= SDLK_SPACE && key.sym != SDLK_DELETE && ((key.sym & SDLK_SCANCODE_MASK) == 0);
 }
 
 bool commands(Uint16 modifiers) {

@@ -13,8 +13,9 @@ int connection_of(SDL_Window* window) {
 #ifdef SDL_VIDEO_DRIVER_X11
   SDL_SysWMinfo info;
   SDL_VERSION(&info.version);
-  if (SDL_GetWindowWMInfo(window, &info) && info.subsystem == SDL_SYSWM_X11)
+  if (SDL_GetWindowWMInfo(window, &info) && info.subsystem == SDL_SYSWM_X11) {
     return ConnectionNumber(info.info.x11.display);
+  }
 #endif
   (void)window;
   return -1;

@@ -126,7 +126,7 @@ BOOL SetForegroundWindow(HWND window) {
   if (found == nullptr) return FALSE;
   HWND top = top_level_of(*found)->handle;
   SetActiveWindow(top);
-  return GetActiveWindow() == top;
+  return GetActiveWindow() == top ? TRUE : FALSE;
 }
 
 HWND GetForegroundWindow() { return GetActiveWindow(); }
@@ -134,21 +134,21 @@ HWND GetForegroundWindow() { return GetActiveWindow(); }
 BOOL EnableWindow(HWND window, BOOL enable) {
   Window* found = checked(window);
   if (found == nullptr) return FALSE;
-  bool was_disabled = (found->style & WS_DISABLED) != 0;
-  if (was_disabled == (enable == FALSE)) return was_disabled;
+  const bool was_disabled = (found->style & WS_DISABLED) != 0;
+  if (was_disabled == (enable == FALSE)) return was_disabled ? TRUE : FALSE;
   if (enable != FALSE) {
     found->style &= ~WS_DISABLED;
     send(window, WM_ENABLE, TRUE, 0);
-    return was_disabled;
+    return was_disabled ? TRUE : FALSE;
   }
   send(window, WM_CANCELMODE);
   found = find(window);
-  if (found == nullptr) return was_disabled;
+  if (found == nullptr) return was_disabled ? TRUE : FALSE;
   found->style |= WS_DISABLED;
   Window* focus = find(GetFocus());
   if (focus != nullptr && (focus == found || is_descendant(*found, *focus))) change_focus(nullptr);
   send(window, WM_ENABLE, FALSE, 0);
-  return was_disabled;
+  return was_disabled ? TRUE : FALSE;
 }
 
 }  // namespace corvane_system

@@ -11,13 +11,13 @@ constexpr Pixel kColorBits = 0x00FFFFFF;
 
 bool holds(const Window& window, POINT point) {
   if ((window.style & WS_VISIBLE) == 0) return false;
-  RECT rect = frame_on_screen(window);
-  return PtInRect(&rect, point) && !lets_mouse_through(window, point);
+  const RECT rect = frame_on_screen(window);
+  return (PtInRect(&rect, point) != 0) && !lets_mouse_through(window, point);
 }
 
 // Appends the windows at the point, the deepest first, then its parents.
 void collect(const Window& window, POINT point, std::vector<HWND>& candidates) {
-  RECT client = client_on_screen(window);
+  const RECT client = client_on_screen(window);
   if (PtInRect(&client, point)) {
     for (const Window* child : window.children) {
       if (!holds(*child, point)) continue;
@@ -35,7 +35,7 @@ LPARAM packed(POINT point) {
 Hit ask(const std::vector<HWND>& candidates, POINT point) {
   for (HWND window : candidates) {
     if (find(window) == nullptr) continue;
-    int code = static_cast<int>(send(window, WM_NCHITTEST, 0, packed(point)));
+    const int code = static_cast<int>(send(window, WM_NCHITTEST, 0, packed(point)));
     if (code != HTTRANSPARENT && find(window) != nullptr) return {window, code};
   }
   return {};
@@ -49,8 +49,8 @@ bool lets_mouse_through(const Window& window, POINT screen_point) {
   if ((window.ex_style & WS_EX_TRANSPARENT) != 0) return true;
   if (!layered.attributes && !layered.content) return true;
   if (layered.alpha == 0 || window.surface == nullptr) return true;
-  RECT frame = frame_on_screen(window);
-  Pixel pixel = window.surface->at(screen_point.x - frame.left, screen_point.y - frame.top);
+  const RECT frame = frame_on_screen(window);
+  const Pixel pixel = window.surface->at(screen_point.x - frame.left, screen_point.y - frame.top);
   if (layered.keyed && (pixel & kColorBits) == pixel_of(layered.key)) return true;
   return layered.pixel_alpha && (pixel >> 24) == 0;
 }
@@ -87,7 +87,7 @@ HWND WindowFromPoint(POINT screen_point) {
 HWND ChildWindowFromPoint(HWND parent, POINT client_point) {
   Window* found = checked(parent);
   if (found == nullptr) return nullptr;
-  RECT area = found->client_area();
+  const RECT area = found->client_area();
   if (!PtInRect(&area, client_point)) return nullptr;
   for (const Window* child : found->children) {
     if (PtInRect(&child->frame, client_point)) return child->handle;

@@ -42,8 +42,8 @@ void route_focus(System& state, const InputEvent& event) {
 // A changed size of the display: windows that filled the screen fill it again.
 void resize_screen(System& state, SIZE size) {
   if (size.cx <= 0 || size.cy <= 0) return;
-  RECT old = state.desktop->frame;
-  RECT now{0, 0, size.cx, size.cy};
+  const RECT old = state.desktop->frame;
+  const RECT now{0, 0, size.cx, size.cy};
   state.frame_damage.unite(now);  // the display may have lost what it showed
   if (EqualRect(&old, &now)) return;
   state.desktop->frame = now;
@@ -70,8 +70,8 @@ void close_requested(System& state) {
 void push_input(System& state, const InputEvent& event) {
   remember_state(state, event);
   auto& events = state.input.events;
-  bool coalesces = event.kind == InputKind::mouse_move && !events.empty() &&
-                   events.back().kind == InputKind::mouse_move;
+  const bool coalesces = event.kind == InputKind::mouse_move && !events.empty() &&
+                         events.back().kind == InputKind::mouse_move;
   if (coalesces) {
     events.back() = event;
   } else {

@@ -33,8 +33,8 @@ wchar_t control_character(int virtual_key) {
 }  // namespace
 
 wchar_t key_character(int virtual_key, KeyModifiers modifiers) {
-  if (wchar_t control = control_character(virtual_key)) return control;
-  bool letter = virtual_key >= 'A' && virtual_key <= 'Z';
+  if (const wchar_t control = control_character(virtual_key)) return control;
+  const bool letter = virtual_key >= 'A' && virtual_key <= 'Z';
   if (modifiers.control) return letter ? static_cast<wchar_t>(virtual_key - 'A' + 1) : L'\0';
   if (letter) return static_cast<wchar_t>(modifiers.shift ? virtual_key : virtual_key + 32);
   if (virtual_key == VK_SPACE) return L' ';

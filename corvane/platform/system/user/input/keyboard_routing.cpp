@@ -29,21 +29,22 @@ LPARAM key_lparam(const System& state, const InputEvent& event, bool was_down) {
 
 void route_key(System& state, const InputEvent& event) {
   auto slot = static_cast<std::size_t>(event.virtual_key & 0xFF);
-  bool was_down = state.input.keys_retrieved[slot];
+  const bool was_down = state.input.keys_retrieved[slot];
   state.input.keys_retrieved[slot] = event.down;
-  bool system_key = state.input.focus == nullptr || alt_down(state) || event.virtual_key == VK_MENU;
+  const bool system_key =
+      state.input.focus == nullptr || alt_down(state) || event.virtual_key == VK_MENU;
   HWND target = state.input.focus != nullptr ? state.input.focus : state.input.active;
   if (state.find(target) == nullptr) return;
-  UINT message = event.down ? (system_key ? WM_SYSKEYDOWN : WM_KEYDOWN)
-                            : (system_key ? WM_SYSKEYUP : WM_KEYUP);
+  const UINT message = event.down ? (system_key ? WM_SYSKEYDOWN : WM_KEYDOWN)
+                                  : (system_key ? WM_SYSKEYUP : WM_KEYUP);
   append_routed(state, target, message, static_cast<WPARAM>(event.virtual_key & 0xFF),
                 key_lparam(state, event, was_down));
 }
 
 void route_text(System& state, const InputEvent& event) {
   HWND target = state.input.focus != nullptr ? state.input.focus : state.input.active;
-  UINT message = state.input.focus != nullptr ? WM_CHAR : WM_SYSCHAR;
-  for (wchar_t letter : event.text) {
+  const UINT message = state.input.focus != nullptr ? WM_CHAR : WM_SYSCHAR;
+  for (const wchar_t letter : event.text) {
     append_routed(state, target, message, static_cast<WPARAM>(letter), 1);
   }
 }
@@ -56,14 +57,14 @@ using namespace corvane::system;
 BOOL TranslateMessage(const MSG* message) {
   System* state = corvane::system::system();
   if (state == nullptr || message == nullptr) return FALSE;
-  bool system_key = message->message == WM_SYSKEYDOWN;
+  const bool system_key = message->message == WM_SYSKEYDOWN;
   if (message->message != WM_KEYDOWN && !system_key) {
-    return message->message == WM_KEYUP || message->message == WM_SYSKEYUP;
+    return message->message == WM_KEYUP || message->message == WM_SYSKEYUP ? TRUE : FALSE;
   }
   if ((message->lParam & kTextFollows) != 0) return TRUE;
   const auto& keys = state->input.keys_retrieved;
-  KeyModifiers modifiers{keys[VK_SHIFT], keys[VK_CONTROL]};
-  wchar_t letter = key_character(static_cast<int>(message->wParam), modifiers);
+  const KeyModifiers modifiers{keys[VK_SHIFT], keys[VK_CONTROL]};
+  const wchar_t letter = key_character(static_cast<int>(message->wParam), modifiers);
   if (letter != 0) {
     post(message->hwnd, system_key ? WM_SYSCHAR : WM_CHAR, static_cast<WPARAM>(letter),
          message->lParam);
@@ -74,14 +75,14 @@ BOOL TranslateMessage(const MSG* message) {
 SHORT GetKeyState(int virtual_key) {
   System* state = corvane::system::system();
   if (state == nullptr || virtual_key < 0 || virtual_key > 255) return 0;
-  bool down = state->input.keys_retrieved[static_cast<std::size_t>(virtual_key)];
+  const bool down = state->input.keys_retrieved[static_cast<std::size_t>(virtual_key)];
   return static_cast<SHORT>(down ? 0x8000 : 0);
 }
 
 SHORT GetAsyncKeyState(int virtual_key) {
   System* state = corvane::system::system();
   if (state == nullptr || virtual_key < 0 || virtual_key > 255) return 0;
-  bool down = state->input.keys_now[static_cast<std::size_t>(virtual_key)];
+  const bool down = state->input.keys_now[static_cast<std::size_t>(virtual_key)];
   return static_cast<SHORT>(down ? 0x8000 : 0);
 }
 

@@ -78,10 +78,10 @@ WPARAM mouse_keys(const System& state) {
 // The second press of a double-click replaces the button-down; a third starts anew.
 bool completes_double_click(System& state, HWND window, const InputEvent& event) {
   LastPress& last = state.input.last_press;
-  bool second = last.window == window && last.button == event.button &&
-                state.now() - last.time <= kDoubleClickTime &&
-                std::abs(event.position.x - last.position.x) <= kDoubleClickBox / 2 &&
-                std::abs(event.position.y - last.position.y) <= kDoubleClickBox / 2;
+  const bool second = last.window == window && last.button == event.button &&
+                      state.now() - last.time <= kDoubleClickTime &&
+                      std::abs(event.position.x - last.position.x) <= kDoubleClickBox / 2 &&
+                      std::abs(event.position.y - last.position.y) <= kDoubleClickBox / 2;
   if (second && takes_double_clicks(window)) {
     last = LastPress{};
     return true;
@@ -98,9 +98,9 @@ bool prepare_press(System& state, const Hit& hit, UINT message, POINT point) {
   if (found == nullptr) return false;
   HWND top = top_level_of(*found)->handle;
   if (window == top && state.input.active == top) return true;
-  LRESULT answer = send(window, WM_MOUSEACTIVATE, reinterpret_cast<WPARAM>(top),
-                        MAKELPARAM(static_cast<WORD>(hit.code), message));
-  bool activates = answer != MA_NOACTIVATE && answer != MA_NOACTIVATEANDEAT;
+  const LRESULT answer = send(window, WM_MOUSEACTIVATE, reinterpret_cast<WPARAM>(top),
+                              MAKELPARAM(static_cast<WORD>(hit.code), message));
+  const bool activates = answer != MA_NOACTIVATE && answer != MA_NOACTIVATEANDEAT;
   if (activates && state.find(top) != nullptr) activate(top, WA_CLICKACTIVE);
   return answer != MA_ACTIVATEANDEAT && answer != MA_NOACTIVATEANDEAT &&
          state.find(window) != nullptr;
@@ -130,7 +130,7 @@ void deliver(System& state, const Hit& hit, UINT message, POINT point) {
 void route_mouse(System& state, const InputEvent& event) {
   UINT message = message_of(event);
   if (message == WM_NULL) return;
-  bool press = event.kind == InputKind::mouse_button && event.down;
+  const bool press = event.kind == InputKind::mouse_button && event.down;
   state.input.routed_pointer = event.position;
   if (event.kind == InputKind::mouse_button) {
     state.input.keys_retrieved[static_cast<std::size_t>(event.button & 0xFF)] = event.down;
@@ -141,7 +141,7 @@ void route_mouse(System& state, const InputEvent& event) {
     return;
   }
   // 2. Otherwise the window at the point: z-order, enabling, colour key, alpha, its own answer.
-  Hit hit = hit_test(event.position, DisabledTops::swallow);
+  const Hit hit = hit_test(event.position, DisabledTops::swallow);
   // 3. The window that the pointer left is told.
   check_leave(state, hit.code == HTCLIENT ? hit.window : nullptr);
   if (hit.window == nullptr) return;
@@ -165,7 +165,7 @@ void route_wheel(System& state, const InputEvent& event) {
   } else if (state.parameters.wheel_routing != MOUSEWHEEL_ROUTING_FOCUS) {
     target = hit_test(event.position, DisabledTops::swallow).window;
   }
-  WPARAM keys = MAKEWPARAM(mouse_keys(state), static_cast<WORD>(event.wheel));
+  const WPARAM keys = MAKEWPARAM(mouse_keys(state), static_cast<WORD>(event.wheel));
   append_routed(state, target, WM_MOUSEWHEEL, keys, packed(event.position));
 }
 

@@ -24,13 +24,13 @@ void push_move(System& state, POINT point) {
 }
 
 void push_mouse(System& state, const MOUSEINPUT& input) {
-  POINT pointer = state.input.pointer;
+  const POINT pointer = state.input.pointer;
   if ((input.dwFlags & MOUSEEVENTF_MOVE) != 0) {
-    bool absolute = (input.dwFlags & MOUSEEVENTF_ABSOLUTE) != 0;
-    std::int64_t x = absolute ? std::int64_t{input.dx} * state.frame.width() / kAbsoluteRange
-                              : std::int64_t{pointer.x} + input.dx;
-    std::int64_t y = absolute ? std::int64_t{input.dy} * state.frame.height() / kAbsoluteRange
-                              : std::int64_t{pointer.y} + input.dy;
+    const bool absolute = (input.dwFlags & MOUSEEVENTF_ABSOLUTE) != 0;
+    const std::int64_t x = absolute ? std::int64_t{input.dx} * state.frame.width() / kAbsoluteRange
+                                    : std::int64_t{pointer.x} + input.dx;
+    const std::int64_t y = absolute ? std::int64_t{input.dy} * state.frame.height() / kAbsoluteRange
+                                    : std::int64_t{pointer.y} + input.dy;
     push_move(state, inside_screen(state, x, y));
   }
   struct Button {
@@ -92,7 +92,7 @@ UINT SendInput(UINT count, LPINPUT inputs, int size) {
 BOOL SetCursorPos(int x, int y) {
   System* state = corvane::system::system();
   if (state == nullptr) return FALSE;
-  POINT point = inside_screen(*state, x, y);
+  const POINT point = inside_screen(*state, x, y);
   state->display->warp_pointer(point);
   push_move(*state, point);
   return TRUE;

@@ -37,7 +37,7 @@ LRESULT on_set_text(HWND window, LPARAM lparam) {
   if (found == nullptr) return FALSE;
   auto* text = reinterpret_cast<LPCWSTR>(lparam);
   found->text = text == nullptr ? L"" : text;
-  bool names_the_program = is_top_level(*found) && found->owner == nullptr;
+  const bool names_the_program = is_top_level(*found) && found->owner == nullptr;
   if (names_the_program) corvane::system::system()->display->set_title(found->text.c_str());
   return TRUE;
 }
@@ -54,7 +54,7 @@ LRESULT on_get_text(HWND window, WPARAM wparam, LPARAM lparam) {
   Window* found = find(window);
   auto* buffer = reinterpret_cast<wchar_t*>(lparam);
   if (found == nullptr || buffer == nullptr || wparam == 0) return 0;
-  std::size_t length = std::min<std::size_t>(found->text.size(), wparam - 1);
+  const std::size_t length = std::min<std::size_t>(found->text.size(), wparam - 1);
   found->text.copy(buffer, length);
   buffer[length] = 0;
   return static_cast<LRESULT>(length);
@@ -71,15 +71,15 @@ LRESULT on_calculate_size(HWND window, LPARAM lparam) {
 LRESULT on_hit_test(HWND window, LPARAM lparam) {
   Window* found = find(window);
   if (found == nullptr) return HTNOWHERE;
-  POINT point{GET_X_LPARAM(lparam), GET_Y_LPARAM(lparam)};
-  RECT client = client_on_screen(*found);
+  const POINT point{GET_X_LPARAM(lparam), GET_Y_LPARAM(lparam)};
+  const RECT client = client_on_screen(*found);
   if (PtInRect(&client, point)) return HTCLIENT;
-  POINT inside{point.x - client.left, point.y - client.top};
+  const POINT inside{point.x - client.left, point.y - client.top};
   for (const BarCodes& codes : kBarCodes) {
-    RECT bar = bar_rect(*found, codes.axis);
+    const RECT bar = bar_rect(*found, codes.axis);
     if (PtInRect(&bar, inside)) return codes.hit;
   }
-  RECT frame = frame_on_screen(*found);
+  const RECT frame = frame_on_screen(*found);
   return PtInRect(&frame, point) ? HTBORDER : HTNOWHERE;
 }
 
@@ -90,18 +90,18 @@ LRESULT on_activate(HWND window, WPARAM wparam) {
 }
 
 LRESULT on_mouse_activate(HWND window, WPARAM wparam, LPARAM lparam) {
-  if (LRESULT answer = to_parent(window, WM_MOUSEACTIVATE, wparam, lparam)) return answer;
+  if (const LRESULT answer = to_parent(window, WM_MOUSEACTIVATE, wparam, lparam)) return answer;
   Window* found = find(window);
-  bool never = found != nullptr && (found->ex_style & WS_EX_NOACTIVATE) != 0;
+  const bool never = found != nullptr && (found->ex_style & WS_EX_NOACTIVATE) != 0;
   return never ? MA_NOACTIVATE : MA_ACTIVATE;
 }
 
 LRESULT on_set_cursor(HWND window, WPARAM wparam, LPARAM lparam) {
   if (to_parent(window, WM_SETCURSOR, wparam, lparam) != 0) return TRUE;
   Window* found = find(window);
-  bool own = reinterpret_cast<HWND>(wparam) == window;
+  const bool own = reinterpret_cast<HWND>(wparam) == window;
   if (found == nullptr || !own) return FALSE;
-  int code = static_cast<SHORT>(LOWORD(static_cast<DWORD_PTR>(lparam)));
+  const int code = static_cast<SHORT>(LOWORD(static_cast<DWORD_PTR>(lparam)));
   if (code == HTCLIENT && found->window_class->cursor != nullptr) {
     SetCursor(found->window_class->cursor);
   } else if (code == HTVSCROLL || code == HTHSCROLL) {
@@ -113,8 +113,9 @@ LRESULT on_set_cursor(HWND window, WPARAM wparam, LPARAM lparam) {
 LRESULT on_erase(HWND window, WPARAM wparam) {
   Window* found = find(window);
   if (found == nullptr || found->window_class->background == nullptr) return 0;
-  RECT area = found->client_area();
-  return FillRect(reinterpret_cast<HDC>(wparam), &area, found->window_class->background) != 0;
+  const RECT area = found->client_area();
+  return static_cast<LRESULT>(
+      FillRect(reinterpret_cast<HDC>(wparam), &area, found->window_class->background) != 0);
 }
 
 LRESULT on_paint(HWND window) {
@@ -127,7 +128,7 @@ LRESULT on_paint(HWND window) {
 LRESULT on_position_changed(HWND window, LPARAM lparam) {
   auto* position = reinterpret_cast<const WINDOWPOS*>(lparam);
   if (position == nullptr) return 0;
-  UINT flags = position->flags;
+  const UINT flags = position->flags;
   Window* found = find(window);
   if (found != nullptr && (flags & SWP_NOCLIENTMOVE) == 0) {
     send(window, WM_MOVE, 0, client_position_lparam(*found));
@@ -141,7 +142,7 @@ LRESULT on_position_changed(HWND window, LPARAM lparam) {
 
 LRESULT on_system_command(HWND window, WPARAM wparam, LPARAM lparam) {
   for (const BarCodes& codes : kBarCodes) {
-    POINT press{GET_X_LPARAM(lparam), GET_Y_LPARAM(lparam)};
+    const POINT press{GET_X_LPARAM(lparam), GET_Y_LPARAM(lparam)};
     if (wparam == codes.command) run_scroll_loop(window, codes.axis, press);
   }
   if (wparam == (SC_MOVE | HTCAPTION)) {

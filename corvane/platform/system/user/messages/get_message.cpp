@@ -9,7 +9,7 @@
 
 namespace corvane::system {
 bool MessageFilter::matches(const System& state, const MSG& message) const {
-  bool any_number = first == 0 && last == 0;
+  const bool any_number = first == 0 && last == 0;
   if (!any_number && (message.message < first || message.message > last)) return false;
   if (window == nullptr) return true;
   if (window == reinterpret_cast<HWND>(LONG_PTR{-1})) return message.hwnd == nullptr;
@@ -39,7 +39,7 @@ std::optional<MSG> take_input(System& state, const MessageFilter& filter, bool r
 }
 
 std::optional<MSG> take_paint(System& state, const MessageFilter& filter) {
-  bool thread_messages_only = filter.window == reinterpret_cast<HWND>(LONG_PTR{-1});
+  const bool thread_messages_only = filter.window == reinterpret_cast<HWND>(LONG_PTR{-1});
   Window* window = thread_messages_only ? nullptr : next_to_paint(state, filter.window);
   while (window != nullptr && bars_pending(*window)) {
     paint_bars(*window);
@@ -92,13 +92,13 @@ using namespace corvane::system;
 BOOL GetMessageW(LPMSG message, HWND window, UINT first, UINT last) {
   System* state = corvane::system::system();
   if (state == nullptr || message == nullptr) return -1;
-  bool thread_messages_only = window == reinterpret_cast<HWND>(LONG_PTR{-1});
-  MessageFilter filter{window, first, last};
+  const bool thread_messages_only = window == reinterpret_cast<HWND>(LONG_PTR{-1});
+  const MessageFilter filter{window, first, last};
   for (bool awake = true;; awake = sleep_until_work(*state)) {
     if (window != nullptr && !thread_messages_only && checked(window) == nullptr) return -1;
     if (auto found = retrieve(*state, filter, true)) {
       *message = *found;
-      return found->message != WM_QUIT;
+      return found->message != WM_QUIT ? TRUE : FALSE;
     }
     if (!awake) return -1;
   }

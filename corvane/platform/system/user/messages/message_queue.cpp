@@ -5,30 +5,30 @@
 namespace corvane::system {
 
 void MessageQueue::add_window(HWND window) {
-  std::lock_guard lock(mutex_);
+  const std::lock_guard lock(mutex_);
   windows_.insert(window);
 }
 
 void MessageQueue::remove_window(HWND window) {
-  std::lock_guard lock(mutex_);
+  const std::lock_guard lock(mutex_);
   windows_.erase(window);
   std::erase_if(messages_, [window](const MSG& message) { return message.hwnd == window; });
 }
 
 bool MessageQueue::post(const MSG& message) {
-  std::lock_guard lock(mutex_);
+  const std::lock_guard lock(mutex_);
   if (message.hwnd != nullptr && windows_.count(message.hwnd) == 0) return false;
   messages_.push_back(message);
   return true;
 }
 
 void MessageQueue::post_quit(int exit_code) {
-  std::lock_guard lock(mutex_);
+  const std::lock_guard lock(mutex_);
   quit_ = exit_code;
 }
 
 std::optional<int> MessageQueue::take_quit(bool remove) {
-  std::lock_guard lock(mutex_);
+  const std::lock_guard lock(mutex_);
   std::optional<int> result = quit_;
   if (remove) quit_.reset();
   return result;

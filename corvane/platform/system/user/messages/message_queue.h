@@ -22,7 +22,7 @@ class MessageQueue {
   // The first message that `matches`; erases it when `remove` is set.
   template <typename Predicate>
   std::optional<MSG> take(const Predicate& matches, bool remove) {
-    std::lock_guard lock(mutex_);
+    const std::lock_guard lock(mutex_);
     for (auto it = messages_.begin(); it != messages_.end(); ++it) {
       if (!matches(*it)) continue;
       MSG found = *it;

@@ -6,14 +6,14 @@ namespace corvane::system {
 namespace {
 
 constexpr UINT kShortestPeriod = 10;
-constexpr UINT kLongestPeriod = 0x7FFFFFFF;
+constexpr UINT kMaxPeriod = 0x7FFFFFFF;
 
 }  // namespace
 
 UINT_PTR TimerList::set(HWND window, UINT_PTR id, UINT period, TIMERPROC procedure,
                         std::uint64_t now) {
   if (window == nullptr && !contains(window, id)) id = ++next_free_id_;
-  Timer timer{window, id, std::clamp(period, kShortestPeriod, kLongestPeriod), 0, procedure};
+  Timer timer{window, id, std::clamp(period, kShortestPeriod, kMaxPeriod), 0, procedure};
   timer.due = now + timer.period;
   kill(window, id);
   timers_.push_back(timer);

@@ -20,7 +20,7 @@ class MoveLoop : public ModalLoop {
     start_frame_ = found.frame;
     // Where the press was: the pointer may be further by now.
     start_pointer_ = state.input.routed_pointer;
-    fills_screen_ = is_top_level(found) && EqualRect(&found.frame, &state.desktop->frame);
+    fills_screen_ = is_top_level(found) && (EqualRect(&found.frame, &state.desktop->frame) != 0);
   }
 
   void run() { run_turns(); }

@@ -20,13 +20,14 @@ bool usable(HWND window) {
 // Copies the program's pixels into a new surface of the window. What lies beyond them is clear.
 void take_content(Window& window, const Surface& pixels, POINT from, SIZE size) {
   auto content = std::make_shared<Surface>(size.cx, size.cy);
-  int first = std::max<int>(0, -from.x);
-  int last = std::min<int>(size.cx, pixels.width() - from.x);
+  const int first = std::max<int>(0, -from.x);
+  const int last = std::min<int>(size.cx, pixels.width() - from.x);
   std::vector<Pixel> scratch;
   for (int y = 0; y < size.cy && first < last; ++y) {
     const Pixel* row = pixels.read_row(from.y + y, scratch);
-    if (row != nullptr)
+    if (row != nullptr) {
       std::copy(row + from.x + first, row + from.x + last, content->row(y) + first);
+    }
   }
   window.surface = std::move(content);
 }
@@ -70,22 +71,22 @@ BOOL UpdateLayeredWindow(HWND window, HDC, POINT* position, SIZE* size, HDC sour
                          POINT* source_point, COLORREF key, BLENDFUNCTION* blend, DWORD flags) {
   if (!usable(window)) return FALSE;
   Window* found = find(window);
-  bool sized = size == nullptr || (size->cx > 0 && size->cy > 0 && size->cx <= kLargestWindow &&
-                                   size->cy <= kLargestWindow);
-  bool supplied = source == nullptr || (size != nullptr && source_point != nullptr);
+  const bool sized = size == nullptr || (size->cx > 0 && size->cy > 0 &&
+                                         size->cx <= kMaxWindowSize && size->cy <= kMaxWindowSize);
+  const bool supplied = source == nullptr || (size != nullptr && source_point != nullptr);
   if (found->layered.attributes || !sized || !supplied) {
     SetLastError(ERROR_INVALID_PARAMETER);
     return FALSE;
   }
   System& state = *corvane::system::system();
   POINT origin{};
-  std::shared_ptr<Surface> pixels = state.gdi.dc_surface(source, &origin);
+  const std::shared_ptr<Surface> pixels = state.gdi.dc_surface(source, &origin);
   if (source != nullptr && pixels == nullptr) {
     SetLastError(ERROR_INVALID_HANDLE);
     return FALSE;
   }
   damage_frame(state, *found);
-  SIZE extent = size == nullptr ? SIZE{found->width(), found->height()} : *size;
+  const SIZE extent = size == nullptr ? SIZE{found->width(), found->height()} : *size;
   place(*found, position, extent);
   if (pixels != nullptr) {
     const POINT from{corvane::clamp_to_summable(std::int64_t{origin.x} + source_point->x),
@@ -96,7 +97,7 @@ BOOL UpdateLayeredWindow(HWND window, HDC, POINT* position, SIZE* size, HDC sour
   layered.content = true;
   layered.keyed = (flags & ULW_COLORKEY) != 0;
   layered.key = key;
-  bool blends = (flags & ULW_ALPHA) != 0 && blend != nullptr;
+  const bool blends = (flags & ULW_ALPHA) != 0 && blend != nullptr;
   layered.alpha = blends ? blend->SourceConstantAlpha : BYTE{255};
   layered.pixel_alpha = blends && (blend->AlphaFormat & AC_SRC_ALPHA) != 0;
   damage_frame(state, *found);

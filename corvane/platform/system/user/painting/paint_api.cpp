@@ -17,14 +17,14 @@ Region region_or_client(const Window& window, const RECT* rect) {
 bool begin_update(HWND window, Region& region) {
   Window* found = find(window);
   region = found->update;
-  bool erase = found->needs_erase;
+  const bool erase = found->needs_erase;
   found->update.clear();
   found->needs_paint = false;
   found->needs_erase = false;
   if (!erase) return true;
   System& state = *corvane::system::system();
   HDC dc = open_window_dc(*found, &region, Area::client);
-  LRESULT erased = send(window, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc));
+  const LRESULT erased = send(window, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc));
   state.gdi.close_dc(dc);
   return erased != 0;
 }
@@ -35,7 +35,7 @@ HDC BeginPaint(HWND window, LPPAINTSTRUCT paint) {
   if (paint == nullptr || checked(window) == nullptr) return nullptr;
   *paint = PAINTSTRUCT{};
   Region region;
-  bool erased = begin_update(window, region);
+  const bool erased = begin_update(window, region);
   Window* found = find(window);
   if (found == nullptr) return nullptr;
   paint->hdc = open_window_dc(*found, &region, Area::client);
@@ -50,7 +50,7 @@ BOOL EndPaint(HWND window, const PAINTSTRUCT* paint) {
   if (state == nullptr || paint == nullptr) return FALSE;
   std::erase_if(state->open_paints, [&](const OpenPaint& it) { return it.dc == paint->hdc; });
   state->gdi.close_dc(paint->hdc);
-  return checked(window) != nullptr;
+  return checked(window) != nullptr ? TRUE : FALSE;
 }
 
 HDC GetDC(HWND window) {
@@ -98,10 +98,10 @@ BOOL ValidateRect(HWND window, const RECT* rect) {
 BOOL RedrawWindow(HWND window, const RECT* rect, HRGN, UINT flags) {
   Window* found = checked(window);
   if (found == nullptr) return FALSE;
-  Region region = region_or_client(*found, rect);
-  Children children = (flags & RDW_ALLCHILDREN) != 0  ? Children::always
-                      : (flags & RDW_NOCHILDREN) != 0 ? Children::never
-                                                      : Children::by_style;
+  const Region region = region_or_client(*found, rect);
+  const Children children = (flags & RDW_ALLCHILDREN) != 0  ? Children::always
+                            : (flags & RDW_NOCHILDREN) != 0 ? Children::never
+                                                            : Children::by_style;
   if ((flags & RDW_INVALIDATE) != 0) {
     invalidate(*found, region, (flags & RDW_ERASE) != 0, children);
   }
@@ -128,7 +128,7 @@ BOOL GetUpdateRect(HWND window, LPRECT rect, BOOL erase) {
   found = find(window);
   if (found == nullptr) return FALSE;
   if (rect != nullptr) *rect = found->update.bounds();
-  return !found->update.empty();
+  return !found->update.empty() ? TRUE : FALSE;
 }
 
 }  // namespace corvane_system

@@ -10,7 +10,7 @@ namespace corvane::system {
 namespace {
 
 // A region of many small pieces costs more than painting its bounds.
-constexpr int kMostPieces = 64;
+constexpr int kMaxPieces = 64;
 
 // A window whose pixels the program supplies is never asked to paint.
 bool records_updates(const Window& window) {
@@ -23,7 +23,7 @@ bool records_updates(const Window& window) {
 
 void add_to_update(Window& window, const Region& region, bool erase) {
   window.update.unite(region);
-  if (window.update.count() > kMostPieces) window.update = Region(window.update.bounds());
+  if (window.update.count() > kMaxPieces) window.update = Region(window.update.bounds());
   window.needs_paint = true;
   window.needs_erase = window.needs_erase || erase;
 }
@@ -57,8 +57,8 @@ void invalidate(Window& window, const Region& region, bool erase, Children child
   Region own = region;
   own.intersect(window.client_area());
   if (own.empty()) return;
-  bool clips_children = (window.style & WS_CLIPCHILDREN) != 0;
-  bool descend =
+  const bool clips_children = (window.style & WS_CLIPCHILDREN) != 0;
+  const bool descend =
       children == Children::always || (children == Children::by_style && !clips_children);
   if (descend) {
     for (Window* child : std::vector<Window*>(window.children)) {
@@ -85,7 +85,7 @@ void invalidate_all(Window& window, bool erase) {
 
 void invalidate_uncovered(Window& parent, const RECT& screen_rect) {
   if (parent.parent == nullptr) return;
-  POINT origin = client_origin(parent);
+  const POINT origin = client_origin(parent);
   RECT local = screen_rect;
   OffsetRect(&local, -origin.x, -origin.y);
   // Also the siblings below: whether the parent clips its children or not, somebody draws there.
@@ -104,7 +104,7 @@ void erase_now(HWND window) {
   if (found == nullptr || !found->needs_erase || found->update.empty()) return;
   System& state = *system();
   HDC dc = open_window_dc(*found, &found->update, Area::client);
-  LRESULT erased = send(window, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc));
+  const LRESULT erased = send(window, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc));
   state.gdi.close_dc(dc);
   found = find(window);
   if (found != nullptr) found->needs_erase = found->needs_erase && erased == 0;
@@ -154,7 +154,7 @@ Region visible_region(Window& window, Area area) {
       if ((child->style & WS_VISIBLE) != 0) region.subtract(frame_on_screen(*child));
     }
   }
-  RECT base = frame_on_screen(*owner);
+  const RECT base = frame_on_screen(*owner);
   region.translate(-base.left, -base.top);
   return region;
 }
@@ -163,9 +163,9 @@ HDC open_window_dc(Window& window, const Region* clip, Area area) {
   System& state = *system();
   Window* owner = surface_owner(window);
   if (owner->surface == nullptr) return nullptr;
-  RECT base = frame_on_screen(*owner);
-  RECT drawn = area == Area::frame ? frame_on_screen(window) : client_on_screen(window);
-  POINT origin{drawn.left - base.left, drawn.top - base.top};
+  const RECT base = frame_on_screen(*owner);
+  const RECT drawn = area == Area::frame ? frame_on_screen(window) : client_on_screen(window);
+  const POINT origin{drawn.left - base.left, drawn.top - base.top};
   Region visible = visible_region(window, area);
   if (clip != nullptr) {
     Region limited = *clip;

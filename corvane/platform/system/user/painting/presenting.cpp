@@ -9,10 +9,10 @@ namespace corvane::system {
 namespace {
 
 constexpr Pixel kDesktopColor = 0x00101418;
-constexpr std::uint64_t kLatestPresent = 16;  // milliseconds
+constexpr std::uint64_t kMaxPresentInterval = 16;  // milliseconds
 
 Layer layer_of(const Window& window) {
-  RECT frame = frame_on_screen(window);
+  const RECT frame = frame_on_screen(window);
   Layer layer;
   layer.surface = window.surface;
   layer.origin = {frame.left, frame.top};
@@ -39,7 +39,7 @@ void collect_layers(const Window& window, const RECT& clip, std::vector<Layer>& 
     if (!IntersectRect(&layer.clip, &layer.clip, &clip)) return;
     layers.push_back(layer);
   }
-  RECT client = client_on_screen(window);
+  const RECT client = client_on_screen(window);
   if (!IntersectRect(&inner, &inner, &client)) return;
   for (auto it = window.children.rbegin(); it != window.children.rend(); ++it) {
     collect_layers(**it, inner, layers);
@@ -50,7 +50,7 @@ void collect_marks(Window& window, Region& damage) {
   if (window.surface != nullptr) {
     Region marks = window.surface->take_marks();
     if (shows_something(window) && !marks.empty() && shown_on_screen(window)) {
-      RECT frame = frame_on_screen(window);
+      const RECT frame = frame_on_screen(window);
       marks.translate(frame.left, frame.top);
       damage.unite(marks);
     }
@@ -79,18 +79,19 @@ void present_now(System& state) {
   state.last_present = state.now();
   if (!state.display_shown) {
     const auto& tops = state.desktop->children;
-    bool any = std::any_of(tops.begin(), tops.end(),
-                           [](const Window* window) { return (window->style & WS_VISIBLE) != 0; });
+    const bool any = std::any_of(tops.begin(), tops.end(), [](const Window* window) {
+      return (window->style & WS_VISIBLE) != 0;
+    });
     if (!any) return;
     state.display_shown = true;
     state.display->show();
   }
-  Region damage = compose_damage(state);
+  const Region damage = compose_damage(state);
   if (!damage.empty()) state.display->present(state.frame, damage);
 }
 
 void present_if_late(System& state) {
-  if (state.now() - state.last_present < kLatestPresent) return;
+  if (state.now() - state.last_present < kMaxPresentInterval) return;
   if (!paints_pending(state)) present_now(state);
 }
 

@@ -48,7 +48,7 @@ const ScrollModel* model_of(const Target& target) {
 
 void change_styles(HWND window, DWORD remove, DWORD add) {
   Window* found = find(window);
-  DWORD wanted = (found->style & ~remove) | add;
+  const DWORD wanted = (found->style & ~remove) | add;
   if (wanted == found->style) return;
   found->style = wanted;
   SetWindowPos(window, nullptr, 0, 0, 0, 0,
@@ -64,13 +64,13 @@ void show_bar(HWND window, ScrollAxis axis, bool shown) {
 // Range or page have been set: the bar goes, comes, or is greyed.
 void reconsider_bar(const Target& target, bool kept_greyed) {
   ScrollBarState& bar = target.bar();
-  bool needed = bar.model->needed();
+  const bool needed = bar.model->needed();
   bar.disabled = !needed && kept_greyed;
   if (needed || !kept_greyed) show_bar(target.window->handle, target.axis, needed);
 }
 
 int bar_length(const Window& window, ScrollAxis axis) {
-  RECT bar = bar_rect(window, axis);
+  const RECT bar = bar_rect(window, axis);
   return axis == ScrollAxis::vertical ? bar.bottom - bar.top : bar.right - bar.left;
 }
 
@@ -93,19 +93,19 @@ void leave_room_for_bars(const Window& window, RECT& rect) {
 
 RECT bar_rect(const Window& window, ScrollAxis axis) {
   if (!has_bar(window, axis)) return {};
-  RECT client = window.client_area();
-  RECT bar = axis == ScrollAxis::vertical
-                 ? RECT{client.right, 0, client.right + kBarThickness, client.bottom}
-                 : RECT{0, client.bottom, client.right, client.bottom + kBarThickness};
+  const RECT client = window.client_area();
+  const RECT bar = axis == ScrollAxis::vertical
+                       ? RECT{client.right, 0, client.right + kBarThickness, client.bottom}
+                       : RECT{0, client.bottom, client.right, client.bottom + kBarThickness};
   RECT frame = window.frame;
   OffsetRect(&frame, -window.client.left, -window.client.top);
-  bool inside = bar.right <= frame.right && bar.bottom <= frame.bottom;
+  const bool inside = bar.right <= frame.right && bar.bottom <= frame.bottom;
   return inside && !IsRectEmpty(&bar) ? bar : RECT{};
 }
 
 RECT bar_corner(const Window& window) {
-  RECT vertical = bar_rect(window, ScrollAxis::vertical);
-  RECT horizontal = bar_rect(window, ScrollAxis::horizontal);
+  const RECT vertical = bar_rect(window, ScrollAxis::vertical);
+  const RECT horizontal = bar_rect(window, ScrollAxis::horizontal);
   if (IsRectEmpty(&vertical) || IsRectEmpty(&horizontal)) return {};
   return {vertical.left, horizontal.top, vertical.right, horizontal.bottom};
 }
@@ -113,12 +113,12 @@ RECT bar_corner(const Window& window) {
 ScrollLayout bar_layout(const Window& window, ScrollAxis axis) {
   const ScrollBarState& bar = window.bar(axis);
   if (bar.drag) return dragged_bar_layout(window, axis, bar.drag->begin);
-  ScrollModel model = bar.model.value_or(ScrollModel{});
+  const ScrollModel model = bar.model.value_or(ScrollModel{});
   return scroll_layout(model, bar_length(window, axis), kBarThickness);
 }
 
 ScrollLayout dragged_bar_layout(const Window& window, ScrollAxis axis, int thumb_begin) {
-  ScrollModel model = window.bar(axis).model.value_or(ScrollModel{});
+  const ScrollModel model = window.bar(axis).model.value_or(ScrollModel{});
   return scroll_layout_dragged(model, bar_length(window, axis), kBarThickness, thumb_begin);
 }
 
@@ -128,12 +128,12 @@ namespace corvane_system {
 using namespace corvane::system;
 
 int SetScrollInfo(HWND window, int bar, LPCSCROLLINFO info, BOOL redraw) {
-  Target target = target_of(window, bar);
+  const Target target = target_of(window, bar);
   if (!target || !readable(info)) return 0;
   auto& model = target.bar().model;
   if (!model) model.emplace();
   model->change(*info);
-  int position = model->position;
+  const int position = model->position;
   if (redraw != FALSE) target.window->bars_due = true;
   if ((info->fMask & (SIF_RANGE | SIF_PAGE)) != 0) {
     reconsider_bar(target, (info->fMask & SIF_DISABLENOSCROLL) != 0);
@@ -142,7 +142,7 @@ int SetScrollInfo(HWND window, int bar, LPCSCROLLINFO info, BOOL redraw) {
 }
 
 BOOL GetScrollInfo(HWND window, int bar, LPSCROLLINFO info) {
-  Target target = target_of(window, bar);
+  const Target target = target_of(window, bar);
   if (!target || !readable(info)) return FALSE;
   const ScrollModel* model = model_of(target);
   if (model == nullptr) return FALSE;
@@ -156,43 +156,43 @@ BOOL GetScrollInfo(HWND window, int bar, LPSCROLLINFO info) {
     const auto& drag = target.bar().drag;
     info->nTrackPos = drag ? drag->position : model->position;
   }
-  return (info->fMask & SIF_ALL) != 0;
+  return (info->fMask & SIF_ALL) != 0 ? TRUE : FALSE;
 }
 
 int SetScrollPos(HWND window, int bar, int position, BOOL redraw) {
-  int previous = GetScrollPos(window, bar);
-  SCROLLINFO info{sizeof(SCROLLINFO), SIF_POS, 0, 0, 0, position, 0};
+  const int previous = GetScrollPos(window, bar);
+  const SCROLLINFO info{sizeof(SCROLLINFO), SIF_POS, 0, 0, 0, position, 0};
   SetScrollInfo(window, bar, &info, redraw);
   return previous;
 }
 
 int GetScrollPos(HWND window, int bar) {
-  Target target = target_of(window, bar);
+  const Target target = target_of(window, bar);
   const ScrollModel* model = target ? model_of(target) : nullptr;
   return model == nullptr ? 0 : model->position;
 }
 
 BOOL SetScrollRange(HWND window, int bar, int minimum, int maximum, BOOL redraw) {
   if (!target_of(window, bar)) return FALSE;
-  SCROLLINFO info{sizeof(SCROLLINFO), SIF_RANGE, minimum, maximum, 0, 0, 0};
+  const SCROLLINFO info{sizeof(SCROLLINFO), SIF_RANGE, minimum, maximum, 0, 0, 0};
   SetScrollInfo(window, bar, &info, redraw);
   return TRUE;
 }
 
 BOOL GetScrollRange(HWND window, int bar, int* minimum, int* maximum) {
-  Target target = target_of(window, bar);
+  const Target target = target_of(window, bar);
   const ScrollModel* model = target ? model_of(target) : nullptr;
   if (minimum != nullptr) *minimum = model == nullptr ? 0 : model->minimum;
   if (maximum != nullptr) *maximum = model == nullptr ? 0 : model->maximum;
-  return model != nullptr;
+  return model != nullptr ? TRUE : FALSE;
 }
 
 BOOL ShowScrollBar(HWND window, int bar, BOOL show) {
-  bool both = bar == SB_BOTH;
+  const bool both = bar == SB_BOTH;
   Target target = target_of(window, both ? SB_VERT : bar);
   if (!target) return FALSE;
-  DWORD styles = both ? WS_VSCROLL | WS_HSCROLL : style_of(target.axis);
-  for (ScrollAxis axis : {ScrollAxis::horizontal, ScrollAxis::vertical}) {
+  const DWORD styles = both ? WS_VSCROLL | WS_HSCROLL : style_of(target.axis);
+  for (const ScrollAxis axis : {ScrollAxis::horizontal, ScrollAxis::vertical}) {
     auto& model = target.window->bar(axis).model;
     if ((styles & style_of(axis)) != 0 && !model) model.emplace();
   }

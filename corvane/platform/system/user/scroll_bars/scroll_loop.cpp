@@ -50,7 +50,7 @@ class ScrollLoop : public ModalLoop {
   Window* shown() const {
     Window* found = state_.find(window_);
     if (found == nullptr) return nullptr;
-    RECT bar = bar_rect(*found, axis_);
+    const RECT bar = bar_rect(*found, axis_);
     return IsRectEmpty(&bar) ? nullptr : found;
   }
 
@@ -62,7 +62,7 @@ class ScrollLoop : public ModalLoop {
 
   RECT bar_on_screen(const Window& window) const {
     RECT bar = bar_rect(window, axis_);
-    POINT origin = client_origin(window);
+    const POINT origin = client_origin(window);
     OffsetRect(&bar, origin.x, origin.y);
     return bar;
   }
@@ -74,21 +74,21 @@ class ScrollLoop : public ModalLoop {
   ScrollPart part_at(POINT point) const {
     Window* found = shown();
     if (found == nullptr || found->bar(axis_).disabled) return ScrollPart::none;
-    RECT bar = bar_on_screen(*found);
+    const RECT bar = bar_on_screen(*found);
     if (!PtInRect(&bar, point)) return ScrollPart::none;
     return bar_layout(*found, axis_).part_at(along(bar, point));
   }
 
   bool far_aside(const RECT& bar, POINT point) const {
     RECT near = bar;
-    bool vertical = axis_ == ScrollAxis::vertical;
+    const bool vertical = axis_ == ScrollAxis::vertical;
     InflateRect(&near, vertical ? kFarAside : 0, vertical ? 0 : kFarAside);
     return vertical ? point.x < near.left || point.x >= near.right
                     : point.y < near.top || point.y >= near.bottom;
   }
 
   void tell(UINT code, int position) {
-    UINT message = axis_ == ScrollAxis::vertical ? WM_VSCROLL : WM_HSCROLL;
+    const UINT message = axis_ == ScrollAxis::vertical ? WM_VSCROLL : WM_HSCROLL;
     send(window_, message, MAKEWPARAM(code, static_cast<WORD>(position)), 0);
   }
 
@@ -148,7 +148,7 @@ class ScrollLoop : public ModalLoop {
       drag_to(drag_for(*found, pointer));
       return;
     }
-    ScrollPart seen = part_at(pointer) == part_ ? part_ : ScrollPart::none;
+    const ScrollPart seen = part_at(pointer) == part_ ? part_ : ScrollPart::none;
     found->bars_due = found->bars_due || found->bar(axis_).pressed != seen;
     found->bar(axis_).pressed = seen;
   }
@@ -156,10 +156,10 @@ class ScrollLoop : public ModalLoop {
   // Where the thumb is and what it means when the pointer is there.
   ThumbDrag drag_for(const Window& window, POINT pointer) const {
     const auto& model = window.bar(axis_).model;
-    RECT bar = bar_on_screen(window);
+    const RECT bar = bar_on_screen(window);
     if (!model || far_aside(bar, pointer)) return start_;
-    int travel = along(bar, pointer) - along(bar, press_);
-    ScrollLayout layout = dragged_bar_layout(window, axis_, start_.begin + travel);
+    const int travel = along(bar, pointer) - along(bar, press_);
+    const ScrollLayout layout = dragged_bar_layout(window, axis_, start_.begin + travel);
     // Several positions may share a pixel: a thumb that is where it was means what it meant.
     if (layout.thumb.begin == start_.begin) return start_;
     return {layout.thumb.begin, position_of_thumb(*model, layout)};

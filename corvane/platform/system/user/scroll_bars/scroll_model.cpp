@@ -26,8 +26,8 @@ int thumb_length(const ScrollModel& model, int trough, int least) {
 
 ScrollLayout layout_without_thumb(int length, int thickness) {
   ScrollLayout layout;
-  int whole = std::max(length, 0);
-  int arrow = std::min(thickness, whole / 2);
+  const int whole = std::max(length, 0);
+  const int arrow = std::min(thickness, whole / 2);
   layout.line_back = {0, arrow};
   layout.trough = {arrow, whole - arrow};
   layout.line_forward = {whole - arrow, whole};
@@ -38,7 +38,7 @@ ScrollLayout layout_without_thumb(int length, int thickness) {
 
 void ScrollModel::change(const SCROLLINFO& wanted) {
   if ((wanted.fMask & SIF_RANGE) != 0) {
-    bool upside_down = wanted.nMin > wanted.nMax;
+    const bool upside_down = wanted.nMin > wanted.nMax;
     minimum = upside_down ? 0 : wanted.nMin;
     maximum = upside_down ? 0 : wanted.nMax;
   }
@@ -80,11 +80,11 @@ ScrollSpan ScrollLayout::span_of(ScrollPart part) const {
 
 ScrollLayout scroll_layout(const ScrollModel& model, int length, int thickness) {
   ScrollLayout layout = layout_without_thumb(length, thickness);
-  int thumb = thumb_length(model, layout.trough.length(), thickness);
+  const int thumb = thumb_length(model, layout.trough.length(), thickness);
   if (thumb == 0) return layout;
-  Wide room = layout.trough.length() - thumb;
-  Wide gone = scaled(Wide{model.position} - model.minimum, room, travel(model));
-  int begin = layout.trough.begin + static_cast<int>(gone);
+  const Wide room = layout.trough.length() - thumb;
+  const Wide gone = scaled(Wide{model.position} - model.minimum, room, travel(model));
+  const int begin = layout.trough.begin + static_cast<int>(gone);
   layout.thumb = {begin, begin + thumb};
   return layout;
 }
@@ -92,17 +92,17 @@ ScrollLayout scroll_layout(const ScrollModel& model, int length, int thickness) 
 ScrollLayout scroll_layout_dragged(const ScrollModel& model, int length, int thickness,
                                    int thumb_begin) {
   ScrollLayout layout = scroll_layout(model, length, thickness);
-  int thumb = layout.thumb.length();
+  const int thumb = layout.thumb.length();
   if (thumb == 0) return layout;
-  int begin = std::clamp(thumb_begin, layout.trough.begin, layout.trough.end - thumb);
+  const int begin = std::clamp(thumb_begin, layout.trough.begin, layout.trough.end - thumb);
   layout.thumb = {begin, begin + thumb};
   return layout;
 }
 
 int position_of_thumb(const ScrollModel& model, const ScrollLayout& layout) {
-  Wide room = layout.trough.length() - layout.thumb.length();
+  const Wide room = layout.trough.length() - layout.thumb.length();
   if (layout.thumb.length() == 0 || room <= 0) return model.position;
-  Wide gone = scaled(layout.thumb.begin - layout.trough.begin, travel(model), room);
+  const Wide gone = scaled(layout.thumb.begin - layout.trough.begin, travel(model), room);
   return static_cast<int>(model.minimum + gone);
 }
 

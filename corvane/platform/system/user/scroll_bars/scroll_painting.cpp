@@ -24,8 +24,8 @@ constexpr int kTriangleHeight = 4;
 
 COLORREF mixed(COLORREF under, COLORREF over, double share) {
   auto channel = [&](int shift) {
-    double low = (under >> shift) & 0xFF;
-    double high = (over >> shift) & 0xFF;
+    const double low = (under >> shift) & 0xFF;
+    const double high = (over >> shift) & 0xFF;
     return static_cast<COLORREF>(std::lround(low + (high - low) * share)) << shift;
   };
   return channel(0) | channel(8) | channel(16);
@@ -33,7 +33,7 @@ COLORREF mixed(COLORREF under, COLORREF over, double share) {
 
 // How much of a pixel lies within a circle; the pixel's middle is `distance` from the centre.
 double coverage(double distance, double radius) {
-  double share = radius - distance + 0.5;
+  const double share = radius - distance + 0.5;
   return share < 0 ? 0 : share > 1 ? 1 : share;
 }
 
@@ -55,15 +55,15 @@ class BarPainter {
   // A bar with half circles for ends.
   void fill_round(ScrollSpan along, ScrollSpan across, COLORREF color, COLORREF under) const {
     fill(along, across, color);
-    double radius = across.length() / 2.0;
-    int reach = across.length() / 2;
+    const double radius = across.length() / 2.0;
+    const int reach = across.length() / 2;
     for (int depth = 0; depth <= reach && depth < along.length(); ++depth) {
       for (int place = across.begin; place < across.end; ++place) {
-        double aside = place + 0.5 - (across.begin + radius);
-        double share = coverage(std::hypot(depth + 0.5 - radius, aside), radius);
+        const double aside = place + 0.5 - (across.begin + radius);
+        const double share = coverage(std::hypot(depth + 0.5 - radius, aside), radius);
         if (depth + 0.5 >= radius || share >= 1) continue;
-        COLORREF edge = mixed(under, color, share);
-        ScrollSpan pixel{place, place + 1};
+        const COLORREF edge = mixed(under, color, share);
+        const ScrollSpan pixel{place, place + 1};
         fill({along.begin + depth, along.begin + depth + 1}, pixel, edge);
         fill({along.end - depth - 1, along.end - depth}, pixel, edge);
       }
@@ -72,10 +72,10 @@ class BarPainter {
 
   // A triangle in the middle of an arrow's span that points back (to 0) or forward.
   void triangle(ScrollSpan arrow, bool forward, COLORREF color) const {
-    int begin = arrow.begin + (arrow.length() - kTriangleHeight) / 2;
-    int middle = kBarThickness / 2;
+    const int begin = arrow.begin + (arrow.length() - kTriangleHeight) / 2;
+    const int middle = kBarThickness / 2;
     for (int row = 0; row < kTriangleHeight; ++row) {
-      int half = forward ? kTriangleHeight - 1 - row : row;
+      const int half = forward ? kTriangleHeight - 1 - row : row;
       fill({begin + row, begin + row + 1}, {middle - half, middle + half + 1}, color);
     }
   }
@@ -89,24 +89,24 @@ class BarPainter {
 void draw_arrow(const BarPainter& painter, const ScrollBarState& bar, ScrollPart part,
                 ScrollSpan span) {
   if (span.length() < kTriangleHeight) return;
-  bool pressed = bar.pressed == part;
-  COLORREF color = bar.disabled ? kArrowDisabled : pressed ? kArrowPressed : kArrow;
+  const bool pressed = bar.pressed == part;
+  const COLORREF color = bar.disabled ? kArrowDisabled : pressed ? kArrowPressed : kArrow;
   painter.triangle(span, part == ScrollPart::line_forward, color);
 }
 
 void draw_bar(const Window& window, ScrollAxis axis, HDC dc, RECT rect) {
   const ScrollBarState& bar = window.bar(axis);
-  ScrollLayout layout = bar_layout(window, axis);
-  BarPainter painter(dc, rect, axis);
+  const ScrollLayout layout = bar_layout(window, axis);
+  const BarPainter painter(dc, rect, axis);
   painter.fill({0, layout.line_forward.end}, kTrack);
   if (bar.pressed != ScrollPart::none && bar.pressed != ScrollPart::thumb) {
     painter.fill(layout.span_of(bar.pressed), kTrackPressed);
   }
   draw_arrow(painter, bar, ScrollPart::line_back, layout.line_back);
   draw_arrow(painter, bar, ScrollPart::line_forward, layout.line_forward);
-  ScrollSpan thumb{layout.thumb.begin + kThumbGap, layout.thumb.end - kThumbGap};
+  const ScrollSpan thumb{layout.thumb.begin + kThumbGap, layout.thumb.end - kThumbGap};
   if (thumb.length() <= 0) return;
-  COLORREF color = bar.pressed == ScrollPart::thumb ? kThumbPressed : kThumb;
+  const COLORREF color = bar.pressed == ScrollPart::thumb ? kThumbPressed : kThumb;
   painter.fill_round(thumb, kThumbAcross, color, kTrack);
 }
 
@@ -122,8 +122,8 @@ void paint_bars(Window& window) {
   window.bars_due = false;
   if (window.layered.content) return;
   HDC dc = nullptr;
-  POINT client{window.client.left - window.frame.left, window.client.top - window.frame.top};
-  for (ScrollAxis axis : {ScrollAxis::horizontal, ScrollAxis::vertical}) {
+  const POINT client{window.client.left - window.frame.left, window.client.top - window.frame.top};
+  for (const ScrollAxis axis : {ScrollAxis::horizontal, ScrollAxis::vertical}) {
     RECT rect = bar_rect(window, axis);
     if (IsRectEmpty(&rect)) continue;
     if (dc == nullptr) dc = open_window_dc(window, nullptr, Area::frame);

@@ -18,12 +18,12 @@ HWND owner_for(HWND parent) {
 }
 
 RECT initial_frame(const System& state, const CREATESTRUCTW& create) {
-  bool default_place = create.x == CW_USEDEFAULT;
-  bool default_size = create.cx == CW_USEDEFAULT;
-  int x = default_place ? 0 : window_coordinate(create.x);
-  int y = default_place ? 0 : window_coordinate(create.y);
-  int width = default_size ? state.frame.width() : window_size(create.cx);
-  int height = default_size ? state.frame.height() : window_size(create.cy);
+  const bool default_place = create.x == CW_USEDEFAULT;
+  const bool default_size = create.cx == CW_USEDEFAULT;
+  const int x = default_place ? 0 : window_coordinate(create.x);
+  const int y = default_place ? 0 : window_coordinate(create.y);
+  const int width = default_size ? state.frame.width() : window_size(create.cx);
+  const int height = default_size ? state.frame.height() : window_size(create.cy);
   return {x, y, x + width, y + height};
 }
 
@@ -83,7 +83,7 @@ void discard(HWND window) {
 // WM_NCCREATE to WM_MOVE; false when the window was refused or destroyed.
 bool bring_to_life(HWND window, CREATESTRUCTW& create) {
   auto lparam = reinterpret_cast<LPARAM>(&create);
-  bool captioned = find(window)->has_caption();
+  const bool captioned = find(window)->has_caption();
   if (captioned) {
     MINMAXINFO info{};
     send(window, WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&info));
@@ -133,7 +133,7 @@ HWND CreateWindowExW(DWORD ex_style, LPCWSTR class_name, LPCWSTR window_name, DW
   }
   if (find(window) == nullptr || !bring_to_life(window, create)) return nullptr;
   if ((style & WS_CHILD) != 0) {
-    WPARAM what = MAKEWPARAM(WM_CREATE, static_cast<DWORD_PTR>(GetDlgCtrlID(window)));
+    const WPARAM what = MAKEWPARAM(WM_CREATE, static_cast<DWORD_PTR>(GetDlgCtrlID(window)));
     notify_parents(window, what, [window](HWND) { return reinterpret_cast<LPARAM>(window); });
   }
   if ((style & WS_VISIBLE) != 0 && find(window) != nullptr) ShowWindow(window, SW_SHOW);

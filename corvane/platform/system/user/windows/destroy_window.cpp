@@ -34,10 +34,10 @@ void hide_before_destruction(HWND window) {
   if (found->is_child()) send(window, WM_SHOWWINDOW, FALSE, 0);
   found = find(window);
   if (found == nullptr) return;
-  UINT flags = SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_HIDEWINDOW;
+  const UINT flags = SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_HIDEWINDOW;
   WINDOWPOS position{window,          nullptr, found->frame.left, found->frame.top, found->width(),
                      found->height(), flags};
-  bool tell = shown_on_screen(*found);
+  const bool tell = shown_on_screen(*found);
   if (tell) send(window, WM_WINDOWPOSCHANGING, 0, reinterpret_cast<LPARAM>(&position));
   make_hidden(window);
   position.flags |= SWP_NOCLIENTMOVE | SWP_NOCLIENTSIZE;
@@ -50,7 +50,7 @@ void release_focus_of(HWND window) {
   Window* focus = state.find(state.input.focus);
   if (found == nullptr || focus == nullptr) return;
   if (focus == found) {
-    bool to_parent = found->is_child() && can_take_focus(*found->parent);
+    const bool to_parent = found->is_child() && can_take_focus(*found->parent);
     change_focus(to_parent ? found->parent->handle : nullptr);
   } else if (is_descendant(*found, *focus)) {
     state.input.focus = nullptr;
@@ -111,7 +111,7 @@ BOOL DestroyWindow(HWND window) {
   }
   found->destroying = true;
   if (found->is_child()) {
-    WPARAM what = MAKEWPARAM(WM_DESTROY, static_cast<DWORD_PTR>(GetDlgCtrlID(window)));
+    const WPARAM what = MAKEWPARAM(WM_DESTROY, static_cast<DWORD_PTR>(GetDlgCtrlID(window)));
     notify_parents(window, what, [window](HWND) { return reinterpret_cast<LPARAM>(window); });
   }
   hide_before_destruction(window);
@@ -123,6 +123,6 @@ BOOL DestroyWindow(HWND window) {
   return TRUE;
 }
 
-BOOL IsWindow(HWND window) { return find(window) != nullptr; }
+BOOL IsWindow(HWND window) { return find(window) != nullptr ? TRUE : FALSE; }
 
 }  // namespace corvane_system

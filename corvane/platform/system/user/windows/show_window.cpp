@@ -106,7 +106,7 @@ void make_visible(HWND window) {
   if (!shown_on_screen(*found)) return;
   damage_frame(*system(), *found);
   invalidate_all(*found, true);
-  RECT area = found->client_area();
+  const RECT area = found->client_area();
   if (IsRectEmpty(&area)) return;
   send(window, WM_NCPAINT, 1, 0);
   erase_now(window);
@@ -115,8 +115,8 @@ void make_visible(HWND window) {
 void make_hidden(HWND window) {
   Window* found = find(window);
   if (found == nullptr || (found->style & WS_VISIBLE) == 0) return;
-  bool was_shown = shown_on_screen(*found);
-  RECT area = frame_on_screen(*found);
+  const bool was_shown = shown_on_screen(*found);
+  const RECT area = frame_on_screen(*found);
   found->style &= ~WS_VISIBLE;
   found->update.clear();
   found->needs_paint = false;
@@ -137,7 +137,7 @@ using namespace corvane::system;
 BOOL ShowWindow(HWND window, int command) {
   Window* found = checked(window);
   if (found == nullptr || found->parent == nullptr) return FALSE;
-  bool was_visible = (found->style & WS_VISIBLE) != 0;
+  const bool was_visible = (found->style & WS_VISIBLE) != 0;
   if (command == SW_HIDE) {
     if (was_visible) hide(window);
   } else if (!was_visible) {
@@ -145,12 +145,14 @@ BOOL ShowWindow(HWND window, int command) {
   } else if (activates(*found, command)) {
     activate(window, WA_ACTIVE);
   }
-  return was_visible;
+  return was_visible ? TRUE : FALSE;
 }
 
 BOOL IsWindowVisible(HWND window) {
   Window* found = checked(window);
-  return found != nullptr && found->parent != nullptr && found->redraw && shown_on_screen(*found);
+  return found != nullptr && found->parent != nullptr && found->redraw && shown_on_screen(*found)
+             ? TRUE
+             : FALSE;
 }
 
 }  // namespace corvane_system

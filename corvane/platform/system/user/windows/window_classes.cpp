@@ -16,7 +16,7 @@ constexpr ATOM kFirstAtom = 0xC000;
 std::shared_ptr<WindowClass> find_class(System& state, LPCWSTR name) {
   if (name == nullptr) return nullptr;
   if (IS_INTRESOURCE(name)) {
-    ATOM atom = static_cast<ATOM>(reinterpret_cast<ULONG_PTR>(name));
+    const ATOM atom = static_cast<ATOM>(reinterpret_cast<ULONG_PTR>(name));
     for (auto& [key, window_class] : state.classes) {
       if (window_class->atom == atom) return window_class;
     }
@@ -64,9 +64,9 @@ BOOL UnregisterClassW(LPCWSTR name, HINSTANCE) {
     SetLastError(ERROR_CLASS_DOES_NOT_EXIST);
     return FALSE;
   }
-  bool in_use = std::any_of(state->windows.begin(), state->windows.end(), [&](const auto& entry) {
-    return entry.second->window_class == record;
-  });
+  const bool in_use =
+      std::any_of(state->windows.begin(), state->windows.end(),
+                  [&](const auto& entry) { return entry.second->window_class == record; });
   if (in_use) return FALSE;
   state->classes.erase(lower_case(record->name));
   return TRUE;
@@ -89,7 +89,7 @@ int GetClassNameW(HWND window, LPWSTR buffer, int size) {
   Window* found = checked(window);
   if (found == nullptr || buffer == nullptr || size <= 0) return 0;
   const std::wstring& name = found->window_class->name;
-  std::size_t length = std::min(name.size(), static_cast<std::size_t>(size - 1));
+  const std::size_t length = std::min(name.size(), static_cast<std::size_t>(size - 1));
   name.copy(buffer, length);
   buffer[length] = 0;
   return static_cast<int>(length);

@@ -26,14 +26,14 @@ Region shown_frame(Window& window) {
   for (Window* it = &window; it != owner; it = it->parent) {
     region.intersect(client_on_screen(*it->parent));
   }
-  RECT base = frame_on_screen(*owner);
+  const RECT base = frame_on_screen(*owner);
   region.translate(-base.left, -base.top);
   return region;
 }
 
 void copy_pixels(Surface& surface, const Region& target, int dx, int dy) {
   for (const RECT& rect : target.rects()) {
-    int width = rect.right - rect.left;
+    const int width = rect.right - rect.left;
     std::vector<Pixel> block;
     for (int y = rect.top; y < rect.bottom; ++y) {
       const Pixel* from = surface.row(y - dy) + (rect.left - dx);
@@ -49,13 +49,13 @@ void copy_pixels(Surface& surface, const Region& target, int dx, int dy) {
 
 // What a changed size leaves to be painted: everything, or the strips that are new.
 Region newly_needed(const Window& window, const RECT& old_client) {
-  RECT now = window.client_area();
+  const RECT now = window.client_area();
   Region region(now);
-  int old_width = old_client.right - old_client.left;
-  int old_height = old_client.bottom - old_client.top;
-  UINT style = window.window_class->style;
-  bool all = ((style & CS_HREDRAW) != 0 && old_width != now.right) ||
-             ((style & CS_VREDRAW) != 0 && old_height != now.bottom);
+  const int old_width = old_client.right - old_client.left;
+  const int old_height = old_client.bottom - old_client.top;
+  const UINT style = window.window_class->style;
+  const bool all = ((style & CS_HREDRAW) != 0 && old_width != now.right) ||
+                   ((style & CS_VREDRAW) != 0 && old_height != now.bottom);
   if (!all) region.subtract(RECT{0, 0, old_width, old_height});
   return region;
 }
@@ -71,7 +71,7 @@ void resize_surface(Window& window) {
 
 void move_child_pixels(Window& window, const Region& old_shown, POINT travel) {
   Window* owner = surface_owner(window);
-  Region now_shown = shown_frame(window);
+  const Region now_shown = shown_frame(window);
   Region copied = old_shown;
   copied.translate(travel.x, travel.y);
   copied.intersect(now_shown);
@@ -81,8 +81,8 @@ void move_child_pixels(Window& window, const Region& old_shown, POINT travel) {
   Region exposed = now_shown;
   exposed.subtract(copied);
   if (exposed.empty()) return;
-  RECT base = frame_on_screen(*owner);
-  POINT origin = client_origin(window);
+  const RECT base = frame_on_screen(*owner);
+  const POINT origin = client_origin(window);
   exposed.translate(base.left - origin.x, base.top - origin.y);
   expose(window, exposed, true, Children::always);
 }
@@ -99,7 +99,7 @@ RECT ask_client(HWND window, const RECT& frame, WINDOWPOS* position) {
 void calculate_first_client(HWND window) {
   Window* found = find(window);
   RECT rect = frame_on_screen(*found);
-  RECT screen = rect;
+  const RECT screen = rect;
   send(window, WM_NCCALCSIZE, FALSE, reinterpret_cast<LPARAM>(&rect));
   found = find(window);
   if (found == nullptr) return;
@@ -114,10 +114,10 @@ void damage_frame(System& state, const Window& window) {
 Moved apply_move(HWND window, const Move& move, WINDOWPOS* position) {
   Window* found = find(window);
   System& state = *system();
-  RECT old_frame = found->frame;
-  RECT old_client = found->client;
-  RECT old_screen = frame_on_screen(*found);
-  bool resized = !same_size(old_frame, move.frame);
+  const RECT old_frame = found->frame;
+  const RECT old_client = found->client;
+  const RECT old_screen = frame_on_screen(*found);
+  const bool resized = !same_size(old_frame, move.frame);
   RECT client = old_client;
   if (resized || move.recalculate) {
     client = ask_client(window, move.frame, position);
@@ -126,8 +126,8 @@ Moved apply_move(HWND window, const Move& move, WINDOWPOS* position) {
   } else {
     OffsetRect(&client, move.frame.left - old_frame.left, move.frame.top - old_frame.top);
   }
-  bool own_surface = found->surface != nullptr;
-  Region old_shown = shown_frame(*found);
+  const bool own_surface = found->surface != nullptr;
+  const Region old_shown = shown_frame(*found);
   found->frame = move.frame;
   found->client = client;
   Moved moved{client.left != old_client.left || client.top != old_client.top,
@@ -141,7 +141,7 @@ Moved apply_move(HWND window, const Move& move, WINDOWPOS* position) {
   }
   if (!move.redraw) return moved;
   if (!own_surface) {
-    POINT travel{move.frame.left - old_frame.left, move.frame.top - old_frame.top};
+    const POINT travel{move.frame.left - old_frame.left, move.frame.top - old_frame.top};
     move_child_pixels(*found, old_shown, travel);
     Region uncovered(old_screen);
     uncovered.subtract(frame_on_screen(*found));
@@ -158,7 +158,7 @@ Moved apply_move(HWND window, const Move& move, WINDOWPOS* position) {
 }
 
 LPARAM client_size_lparam(const Window& window) {
-  RECT area = window.client_area();
+  const RECT area = window.client_area();
   return MAKELPARAM(static_cast<DWORD_PTR>(area.right), static_cast<DWORD_PTR>(area.bottom));
 }
 

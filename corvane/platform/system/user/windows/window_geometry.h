@@ -5,14 +5,14 @@
 
 namespace corvane::system {
 
-inline constexpr int kLargestWindow = 32767;  // a surface can hold it
+inline constexpr int kMaxWindowSize = 32767;  // a surface can hold it
 
 // Positions and sizes that are out of bounds are cut, so that sums of them stay in 32 bits.
 constexpr int window_coordinate(int value) {
-  constexpr int kFarthest = 0x3FFFFFF;
-  return corvane::clamp_coordinate(value, -kFarthest, kFarthest);
+  constexpr int kFarCoordinate = 0x3FFFFFF;
+  return corvane::clamp_coordinate(value, -kFarCoordinate, kFarCoordinate);
 }
-constexpr int window_size(int value) { return corvane::clamp_coordinate(value, 0, kLargestWindow); }
+constexpr int window_size(int value) { return corvane::clamp_coordinate(value, 0, kMaxWindowSize); }
 
 // Asks the window for its client area by WM_NCCALCSIZE, at creation (wParam 0).
 void calculate_first_client(HWND window);

@@ -19,9 +19,9 @@ void layered_style_changed(Window& window) {
 
 LONG_PTR change_style(HWND window, int index, DWORD value) {
   Window* found = find(window);
-  DWORD& slot = index == GWL_STYLE ? found->style : found->ex_style;
+  DWORD const& slot = index == GWL_STYLE ? found->style : found->ex_style;
   STYLESTRUCT styles{slot, value};
-  DWORD old = slot;
+  const DWORD old = slot;
   auto which = static_cast<WPARAM>(static_cast<LONG_PTR>(index));
   send(window, WM_STYLECHANGING, which, reinterpret_cast<LPARAM>(&styles));
   found = find(window);
@@ -31,7 +31,7 @@ LONG_PTR change_style(HWND window, int index, DWORD value) {
     constexpr DWORD kFixed = WS_CHILD;
     found->style = (styles.styleNew & ~kFixed) | (found->style & kFixed);
   } else {
-    bool was_layered = found->is_layered();
+    const bool was_layered = found->is_layered();
     found->ex_style = styles.styleNew;
     if (was_layered != found->is_layered()) layered_style_changed(*found);
   }
@@ -79,7 +79,7 @@ LONG_PTR GetWindowLongPtrW(HWND window, int index) {
 LONG_PTR SetWindowLongPtrW(HWND window, int index, LONG_PTR value) {
   Window* found = checked(window);
   if (found == nullptr) return 0;
-  LONG_PTR old = GetWindowLongPtrW(window, index);
+  const LONG_PTR old = GetWindowLongPtrW(window, index);
   switch (index) {
     case GWL_STYLE:
     case GWL_EXSTYLE:

@@ -39,7 +39,7 @@ void mark_unchanged(const Window& window, WINDOWPOS& position) {
   if (position.cx == window.width() && position.cy == window.height()) {
     position.flags |= SWP_NOSIZE;
   }
-  bool visible = (window.style & WS_VISIBLE) != 0;
+  const bool visible = (window.style & WS_VISIBLE) != 0;
   if (visible) position.flags &= ~SWP_SHOWWINDOW;
   if (!visible) position.flags &= ~SWP_HIDEWINDOW;
 }
@@ -48,7 +48,7 @@ bool reorder(HWND window, WINDOWPOS& position) {
   if ((position.flags & SWP_NOZORDER) != 0) return false;
   System& state = *corvane::system::system();
   Window* found = find(window);
-  bool changed = move_in_z_order(state, *found, position.hwndInsertAfter);
+  const bool changed = move_in_z_order(state, *found, position.hwndInsertAfter);
   if (changed && shown_on_screen(*found)) {
     damage_frame(state, *found);
     if (found->surface == nullptr) invalidate_all(*found, true);
@@ -64,12 +64,12 @@ void change_geometry(HWND window, WINDOWPOS& position) {
   move.frame = {position.x, position.y, position.x + position.cx, position.y + position.cy};
   move.redraw = (position.flags & SWP_NOREDRAW) == 0;
   move.recalculate = (position.flags & SWP_FRAMECHANGED) != 0;
-  Moved moved = apply_move(window, move, &position);
+  const Moved moved = apply_move(window, move, &position);
   position.flags |= moved.client_moved ? 0 : SWP_NOCLIENTMOVE;
   position.flags |= moved.client_resized ? 0 : SWP_NOCLIENTSIZE;
   Window* found = find(window);
   if (found == nullptr) return;
-  bool resized = (position.flags & SWP_NOSIZE) == 0;
+  const bool resized = (position.flags & SWP_NOSIZE) == 0;
   if (resized && move.redraw && !found->is_child() && shown_on_screen(*found)) {
     send(window, WM_NCPAINT, 1, 0);
     erase_now(window);
@@ -96,7 +96,7 @@ BOOL SetWindowPos(HWND window, HWND insert_after, int x, int y, int width, int h
   if (found == nullptr || found->parent == nullptr) return FALSE;
   normalise(*found, position);
   mark_unchanged(*found, position);
-  bool reordered = reorder(window, position);
+  const bool reordered = reorder(window, position);
   if (find(window) == nullptr) return FALSE;
   if (!anything_to_do(position, reordered)) return TRUE;
   if ((position.flags & (SWP_NOMOVE | SWP_NOSIZE)) != (SWP_NOMOVE | SWP_NOSIZE) ||
@@ -116,11 +116,11 @@ BOOL SetWindowPos(HWND window, HWND insert_after, int x, int y, int width, int h
   }
   if (find(window) == nullptr) return FALSE;
   send(window, WM_WINDOWPOSCHANGED, 0, reinterpret_cast<LPARAM>(&position));
-  return find(window) != nullptr;
+  return find(window) != nullptr ? TRUE : FALSE;
 }
 
 BOOL MoveWindow(HWND window, int x, int y, int width, int height, BOOL repaint) {
-  UINT flags = SWP_NOZORDER | SWP_NOACTIVATE | (repaint == FALSE ? SWP_NOREDRAW : 0);
+  const UINT flags = SWP_NOZORDER | SWP_NOACTIVATE | (repaint == FALSE ? SWP_NOREDRAW : 0);
   return SetWindowPos(window, nullptr, x, y, width, height, flags);
 }
 

@@ -33,13 +33,15 @@ void shift(LPPOINT points, UINT count, POINT by) {
 
 BOOL IsWindowEnabled(HWND window) {
   Window* found = checked(window);
-  return found != nullptr && (found->style & WS_DISABLED) == 0;
+  return found != nullptr && (found->style & WS_DISABLED) == 0 ? TRUE : FALSE;
 }
 
 BOOL IsChild(HWND parent, HWND window) {
   Window* above = find(parent);
   Window* below = find(window);
-  return above != nullptr && below != nullptr && below->is_child() && is_descendant(*above, *below);
+  return above != nullptr && below != nullptr && below->is_child() && is_descendant(*above, *below)
+             ? TRUE
+             : FALSE;
 }
 
 BOOL GetWindowRect(HWND window, LPRECT rect) {
@@ -66,7 +68,7 @@ BOOL ClientToScreen(HWND window, LPPOINT point) {
 BOOL ScreenToClient(HWND window, LPPOINT point) {
   Window* found = checked(window);
   if (found == nullptr || point == nullptr) return FALSE;
-  POINT origin = client_origin(*found);
+  const POINT origin = client_origin(*found);
   shift(point, 1, {-origin.x, -origin.y});
   return TRUE;
 }
@@ -76,9 +78,9 @@ int MapWindowPoints(HWND from, HWND to, LPPOINT points, UINT count) {
       points == nullptr) {
     return 0;
   }
-  POINT source = from == nullptr ? POINT{0, 0} : client_origin(*find(from));
-  POINT target = to == nullptr ? POINT{0, 0} : client_origin(*find(to));
-  POINT by{source.x - target.x, source.y - target.y};
+  const POINT source = from == nullptr ? POINT{0, 0} : client_origin(*find(from));
+  const POINT target = to == nullptr ? POINT{0, 0} : client_origin(*find(to));
+  const POINT by{source.x - target.x, source.y - target.y};
   shift(points, count, by);
   return static_cast<int>(MAKELONG(static_cast<WORD>(by.x), static_cast<WORD>(by.y)));
 }
@@ -98,7 +100,7 @@ HWND SetParent(HWND window, HWND parent) {
     return nullptr;
   }
   HWND old = found->parent->handle;
-  BOOL was_visible = ShowWindow(window, SW_HIDE);
+  const BOOL was_visible = ShowWindow(window, SW_HIDE);
   found = find(window);
   target = parent == nullptr ? state->desktop : find(parent);
   if (found == nullptr || target == nullptr) return nullptr;
@@ -106,7 +108,7 @@ HWND SetParent(HWND window, HWND parent) {
   found->owner = nullptr;
   target->children.insert(target->children.begin(), found);
   found->parent = target;
-  bool own = is_top_level(*found) || found->is_layered();
+  const bool own = is_top_level(*found) || found->is_layered();
   found->surface = own ? std::make_shared<Surface>(found->width(), found->height()) : nullptr;
   if (was_visible) ShowWindow(window, SW_SHOW);
   return old;
@@ -176,7 +178,7 @@ BOOL EnumChildWindows(HWND window, WNDENUMPROC callback, LPARAM parameter) {
 
 BOOL SetWindowTextW(HWND window, LPCWSTR text) {
   if (checked(window) == nullptr) return FALSE;
-  return send(window, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text)) != 0;
+  return send(window, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text)) != 0 ? TRUE : FALSE;
 }
 
 int GetWindowTextW(HWND window, LPWSTR buffer, int size) {

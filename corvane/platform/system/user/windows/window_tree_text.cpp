@@ -6,7 +6,7 @@ namespace corvane::system {
 namespace {
 
 void append_utf8(std::string& out, std::wstring_view text) {
-  for (wchar_t letter : text) {
+  for (const wchar_t letter : text) {
     auto code = static_cast<std::uint32_t>(letter);
     if (code < 0x80) {
       out += static_cast<char>(code);
@@ -27,7 +27,7 @@ void append_utf8(std::string& out, std::wstring_view text) {
 }
 
 void describe(const System& state, const Window& window, int depth, std::string& out) {
-  RECT frame = frame_on_screen(window);
+  const RECT frame = frame_on_screen(window);
   std::ostringstream line;
   line << " (" << frame.left << ',' << frame.top << ")-(" << frame.right << ',' << frame.bottom
        << ')';

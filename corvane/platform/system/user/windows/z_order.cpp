@@ -102,8 +102,8 @@ void unlink(Window& window) {
 bool move_in_z_order(System& state, Window& window, HWND after) {
   if (window.parent == nullptr || after == window.handle) return false;
   Siblings& order = window.parent->children;
-  Siblings before = order;
-  bool special =
+  const Siblings before = order;
+  const bool special =
       after == HWND_TOP || after == HWND_BOTTOM || after == HWND_TOPMOST || after == HWND_NOTOPMOST;
   if (!special) {
     Window* other = state.find(after);
