@@ -1,6 +1,7 @@
 #include "corvane/platform/controls/gdi_btn_ex.h"
 
 #include "corvane/platform/framework/paint_dc.h"
+#include "corvane/platform/framework/window_watch.h"
 
 namespace corvane {
 
@@ -87,9 +88,9 @@ void CGdiBtnEx::OnDestroy() {
 BOOL CGdiBtnEx::OnEraseBkgnd(CDC*) { return TRUE; }
 
 void CGdiBtnEx::OnPaint() {
-  const HWND window = m_hWnd;
+  const WindowWatch watch(*this);
   const CPaintDC dc(this);
-  if (FromHandlePermanent(window) != this) return;  // erasing may have ended the button
+  if (watch.window_gone()) return;  // erasing may have ended the button
   CRect client;
   GetClientRect(client);
   if (client.IsRectEmpty()) return;
@@ -145,11 +146,11 @@ void CGdiBtnEx::OnMouseLeave() {
 }
 
 void CGdiBtnEx::OnLButtonDown(UINT, CPoint point) {
-  const HWND window = m_hWnd;
+  const WindowWatch watch(*this);
   const bool inside = Holds(point);
   if (press_message_) ReportPress(point);
   Feed([this, inside] { behavior_.press(inside); });
-  if (inside && ::IsWindow(window)) ::SetFocus(window);
+  if (inside && !watch.window_gone()) ::SetFocus(m_hWnd);
 }
 
 void CGdiBtnEx::ReportPress(CPoint point) const {
@@ -160,10 +161,10 @@ void CGdiBtnEx::ReportPress(CPoint point) const {
 }
 
 void CGdiBtnEx::OnLButtonUp(UINT, CPoint point) {
-  const HWND window = m_hWnd;
+  const WindowWatch watch(*this);
   bool clicked = false;
   Feed([this, &clicked, inside = Holds(point)] { clicked = behavior_.release(inside); });
-  if (clicked && FromHandlePermanent(window) == this) Click();
+  if (clicked && !watch.window_gone()) Click();
 }
 
 // The last thing that an event does: the parent may destroy the button for an answer.
@@ -196,10 +197,10 @@ void CGdiBtnEx::OnKeyDown(UINT key, UINT repeats, UINT flags) {
 
 void CGdiBtnEx::OnKeyUp(UINT key, UINT repeats, UINT flags) {
   if (key != VK_SPACE) return CWnd::OnKeyUp(key, repeats, flags);
-  const HWND window = m_hWnd;
+  const WindowWatch watch(*this);
   bool clicked = false;
   Feed([this, &clicked] { clicked = behavior_.space_up(); });
-  if (clicked && FromHandlePermanent(window) == this) Click();
+  if (clicked && !watch.window_gone()) Click();
 }
 
 UINT CGdiBtnEx::OnGetDlgCode() { return DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON; }

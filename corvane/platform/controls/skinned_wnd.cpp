@@ -4,6 +4,7 @@
 #include "corvane/platform/drawing/buffer_dc.h"
 #include "corvane/platform/drawing/gdi_dc.h"
 #include "corvane/platform/framework/paint_dc.h"
+#include "corvane/platform/framework/window_watch.h"
 
 namespace corvane {
 
@@ -29,9 +30,9 @@ void CSkinnedWnd::SetSkin(const _MYCONTROL* control, const _MYLANGUAGE* caption)
 BOOL CSkinnedWnd::OnEraseBkgnd(CDC*) { return TRUE; }
 
 void CSkinnedWnd::OnPaint() {
-  const HWND window = m_hWnd;
+  const WindowWatch watch(*this);
   const CPaintDC dc(this);
-  if (FromHandlePermanent(window) != this) return;  // erasing may have ended the control
+  if (watch.window_gone()) return;  // erasing may have ended the control
   CRect client;
   GetClientRect(client);
   CBufferDC picture;

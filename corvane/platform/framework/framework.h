@@ -16,4 +16,5 @@
 #include "corvane/platform/framework/win_app.h"
 #include "corvane/platform/framework/window_class.h"
 #include "corvane/platform/framework/window_dc.h"
+#include "corvane/platform/framework/window_watch.h"
 #include "corvane/platform/framework/wnd.h"

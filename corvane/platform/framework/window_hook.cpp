@@ -5,6 +5,7 @@
 
 #include "corvane/platform/framework/thread_state.h"
 #include "corvane/platform/framework/win_app.h"
+#include "corvane/platform/framework/window_watch.h"
 #include "corvane/platform/framework/wnd.h"
 
 namespace corvane {
@@ -72,9 +73,10 @@ LRESULT CALLBACK WindowHook::procedure(HWND window, UINT message, WPARAM wparam,
   if (!object) return ::DefWindowProcW(window, message, wparam, lparam);
   const MSG current{window, message, wparam, lparam, 0, {}};
   const MessageScope scope(state, current);
+  const WindowWatch watch(*object);
   const LRESULT result = handle(*object, message, wparam, lparam);
   // A handler of WM_NCDESTROY may have left out the base's.
-  if (message == WM_NCDESTROY && state.handles.permanent(window) == object) finish(*object);
+  if (message == WM_NCDESTROY && !watch.window_gone()) finish(*object);
   return result;
 }
 

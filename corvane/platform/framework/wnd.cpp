@@ -4,6 +4,7 @@
 #include "corvane/platform/framework/win_app.h"
 #include "corvane/platform/framework/window_class.h"
 #include "corvane/platform/framework/window_hook.h"
+#include "corvane/platform/framework/window_watch.h"
 
 namespace corvane {
 
@@ -12,6 +13,11 @@ constinit const CRuntimeClass CWnd::classCWnd{"CWnd", &CObject::classCObject};
 const CRuntimeClass* CWnd::GetRuntimeClass() const { return &classCWnd; }
 
 CWnd::~CWnd() {
+  end_window();
+  for (WindowWatch* each = watch_; each != nullptr; each = each->outer_) each->object_ = nullptr;
+}
+
+void CWnd::end_window() {
   if (!m_hWnd || FromHandlePermanent(m_hWnd) != this) return;
   ::DestroyWindow(m_hWnd);
   // Still bound: the window is being destroyed already, or its messages never came here.
@@ -74,33 +80,33 @@ const MessageMap* CWnd::GetMessageMap() const {
 BOOL CWnd::PreTranslateMessage(MSG*) { return FALSE; }
 
 LRESULT CWnd::WindowProc(UINT message, WPARAM wparam, LPARAM lparam) {
-  const HWND window = m_hWnd;
+  const WindowWatch watch(*this);
   LRESULT result = 0;
   ThreadState::current().default_done = false;
   if (OnWndMsg(message, wparam, lparam, &result)) return result;
   // A handler that leaves the message to the default handling may have called it already.
-  if (FromHandlePermanent(window) != this || ThreadState::current().default_done) return result;
+  if (watch.window_gone() || ThreadState::current().default_done) return result;
   return DefWindowProcW(message, wparam, lparam);
 }
 
 bool CWnd::OnWndMsg(UINT message, WPARAM wparam, LPARAM lparam, LRESULT* result) {
-  const HWND window = m_hWnd;
+  const WindowWatch watch(*this);
   if (message == WM_COMMAND && OnCommand(wparam, lparam)) {
     *result = 1;
     return true;
   }
   if (message == WM_NOTIFY && OnNotify(wparam, lparam, result)) return true;
-  if (FromHandlePermanent(window) != this) return true;
+  if (watch.window_gone()) return true;
   const MessageMatch match = GetMessageMap()->Find(message);
   return match && match.Call(*this, wparam, lparam, *result);
 }
 
 BOOL CWnd::OnCommand(WPARAM wparam, LPARAM lparam) {
-  const HWND window = m_hWnd;
+  const WindowWatch watch(*this);
   CWnd* control = FromHandlePermanent(reinterpret_cast<HWND>(lparam));
   LRESULT ignored = 0;
   if (control && control->OnChildNotify(WM_COMMAND, wparam, lparam, &ignored)) return TRUE;
-  if (FromHandlePermanent(window) != this) return TRUE;
+  if (watch.window_gone()) return TRUE;
   const UINT code = lparam ? HIWORD(wparam) : 0;
   const MessageMatch match = GetMessageMap()->FindCommand(LOWORD(wparam), code);
   return match && match.Call(*this, wparam, lparam, ignored);
@@ -130,9 +136,9 @@ LRESULT CWnd::Default() {
 const MSG* CWnd::GetCurrentMessage() const { return ThreadState::current().message; }
 
 void CWnd::OnNcDestroy() {
-  const HWND window = m_hWnd;
+  const WindowWatch watch(*this);
   Default();
-  if (FromHandlePermanent(window) == this) WindowHook::finish(*this);
+  if (!watch.window_gone()) WindowHook::finish(*this);
 }
 
 }  // namespace corvane

@@ -13,6 +13,7 @@
 namespace corvane {
 
 class CFont;
+class WindowWatch;
 
 class CWnd : public CObject {
  public:
@@ -189,10 +190,14 @@ class CWnd : public CObject {
 
  private:
   friend class WindowHook;
+  friend class WindowWatch;
 
   bool OnWndMsg(UINT message, WPARAM wparam, LPARAM lparam, LRESULT* result);
 
-  WNDPROC super_procedure_ = nullptr;  // null: the platform's default procedure
+  void end_window();
+
+  WNDPROC super_procedure_ = nullptr;     // null: the platform's default procedure
+  mutable WindowWatch* watch_ = nullptr;  // the latest of those that look at the object
 };
 
 }  // namespace corvane
