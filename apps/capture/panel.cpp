@@ -58,9 +58,7 @@ void CPanel::Close() { ShowWindow(SW_HIDE); }
 
 int CPanel::OnCreate(LPCREATESTRUCT creation) {
   if (CWnd::OnCreate(creation) == -1) return -1;
-  skin_.LoadCtrlList(L"ui_control.xml", kPanelList);
-  skin_.LoadLanguageList(L"ui_language.xml", kPanelList);
-  skin_.LoadLogfontList(L"ui_logfont.xml");
+  skin_.Load({kPanelList});
   skin_.LoadGdiBtn(close_, close_rect_, this, kCloseButton);
   return 0;
 }

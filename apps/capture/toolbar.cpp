@@ -12,9 +12,7 @@ constexpr int kQuitMargin = 12;
 }  // namespace
 
 bool CToolbar::Open(CWnd* parent) {
-  skin_.LoadCtrlList(L"ui_control.xml", kList);
-  skin_.LoadLanguageList(L"ui_language.xml", kList);
-  skin_.LoadLogfontList(L"ui_logfont.xml");
+  skin_.Load({kList});
   CRect unused;
   skin_.LoadGdiImage(background_, unused, kBackground);
   layer_.SetXmlListMgr(&skin_);

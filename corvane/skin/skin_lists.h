@@ -8,13 +8,6 @@
 
 namespace corvane {
 
-// The records that make up one skinned control; each may be null. Owned by the lists.
-struct SkinnedControl {
-  _MYCONTROL* control = nullptr;
-  _MYLANGUAGE* caption = nullptr;
-  _MYFONT* font = nullptr;
-};
-
 class SkinLists {
  public:
   SkinLists() = default;

@@ -22,9 +22,20 @@ std::string narrow_config_path(const CString& file_name) {
 
 CString image_folder() { return GetImagePath() + L"\\"; }
 
+constexpr const wchar_t* kControlFile = L"ui_control.xml";
+constexpr const wchar_t* kLanguageFile = L"ui_language.xml";
+constexpr const wchar_t* kFontFile = L"ui_logfont.xml";
+
 }  // namespace
 
 CXmlListMgr::~CXmlListMgr() { Release(); }
+
+void CXmlListMgr::Load(const SkinList& list) {
+  LoadCtrlList(kControlFile, list.id);
+  if (list.reads == SkinReads::controls) return;
+  LoadLanguageList(kLanguageFile, list.id);
+  LoadLogfontList(kFontFile);
+}
 
 void CXmlListMgr::LoadCtrlList(const CString& file_name, int list_id) {
   CtrlRelease();
@@ -66,10 +77,8 @@ void CXmlListMgr::LoadDownGdiImage(CGdiImage& image, int id) const {
 template <typename Control, typename Loader>
 void CXmlListMgr::load_joined(Control& control, CRect& rect, CWnd* parent, int id,
                               Loader loader) const {
-  const auto skin = lists_.joined(id);
   CUICtrlMgr ui_loader;
-  (ui_loader.*loader)(control, rect, parent, static_cast<UINT>(id), skin.control, skin.caption,
-                      skin.font);
+  (ui_loader.*loader)(control, rect, {parent, static_cast<UINT>(id), lists_.joined(id)});
 }
 
 void CXmlListMgr::LoadGdiBtn(CGdiBtnEx& button, CRect& rect, CWnd* parent, int id) const {
@@ -99,8 +108,7 @@ void CXmlListMgr::LoadListTab(CListTab& strip, CRect& rect, CWnd* parent, int id
 }
 
 void CXmlListMgr::AddListTabBtn(CListTab& strip, int id) const {
-  const auto skin = lists_.joined(id);
-  CUICtrlMgr().LoadTabBtn(strip, id, skin.control, skin.caption, skin.font);
+  CUICtrlMgr().LoadTabBtn(strip, id, lists_.joined(id));
 }
 
 void CXmlListMgr::LoadListBar(CListBar& bar, CRect& rect, CWnd* parent, int id) const {

@@ -9,6 +9,7 @@
 #include "corvane/platform/skin_reader/language_mgr.h"
 #include "corvane/platform/skin_reader/logfont_mgr.h"
 #include "corvane/skin/skin_lists.h"
+#include "corvane/skin/window_lists.h"
 
 namespace corvane {
 
@@ -30,6 +31,8 @@ class CXmlListMgr {
   CXmlListMgr(const CXmlListMgr&) = delete;  // a copy would share the records
   CXmlListMgr& operator=(const CXmlListMgr&) = delete;
 
+  // Replaces the lists by a window's, from the skin's three files: all three, or only the controls.
+  void Load(const SkinList& list);
   // Replace a list by that of a file in the configuration folder. Fonts are read whole. A file that
   // cannot be read leaves the list empty. A path with characters outside the thread's code page
   // throws PathConversionError.

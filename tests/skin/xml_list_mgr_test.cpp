@@ -32,11 +32,7 @@ class XmlListMgr : public testing::Test {
   }
   ~XmlListMgr() override { SetSkinFolder(L""); }
 
-  void load(int list) {
-    skin_.LoadCtrlList(L"ui_control.xml", list);
-    skin_.LoadLanguageList(L"ui_language.xml", list);
-    skin_.LoadLogfontList(L"ui_logfont.xml");
-  }
+  void load(int list) { skin_.Load({list}); }
 
   test::TemporaryFolder folder_;
   CXmlListMgr skin_;
@@ -49,6 +45,13 @@ TEST_F(XmlListMgr, IsEmptyAtFirst) {
   EXPECT_EQ(skin_.GetMyFont(1), nullptr);
   EXPECT_TRUE(skin_.GetBgRect(1).IsRectNull());
   EXPECT_EQ(skin_.GetBgImgPath(1), folder_.wide() + L"\\image\\");
+}
+
+TEST_F(XmlListMgr, ReadsOnlyTheControlsOfSomeWindows) {
+  skin_.Load({4, SkinReads::controls});
+  EXPECT_NE(skin_.GetCtrl(1), nullptr);
+  EXPECT_EQ(skin_.GetLanguage(5), nullptr);
+  EXPECT_EQ(skin_.GetMyFont(1), nullptr);
 }
 
 TEST_F(XmlListMgr, AnswersFromTheLoadedList) {

@@ -14,23 +14,23 @@ namespace {
 
 // The last step of a loader: creating a window tells the parent, whose handlers may release the
 // records.
-int place_child(CWnd& window, const CString& text, const CRect& rect, CWnd* parent, UINT id) {
-  if (window.GetSafeHwnd()) {
+int place_child(CWnd& window, const CString& text, const CRect& rect, const ControlToLoad& load) {
+  if (window.GetSafeHwnd() != nullptr) {
     window.MoveWindow(rect);
     return 1;
   }
-  return window.Create(nullptr, text, WS_CHILD | WS_VISIBLE | WS_TABSTOP, rect, parent, id) ? 1 : 0;
+  constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
+  return window.Create(nullptr, text, kStyle, rect, load.parent, load.id) ? 1 : 0;
 }
 
 CRect rect_of(const _MYCONTROL* control) { return control ? CRect(control->rect) : CRect(); }
 
 CString text_of(const _MYLANGUAGE* caption) { return caption ? caption->text : CString(); }
 
-int load_skinned(CSkinnedWnd& window, CRect& rect, CWnd* parent, UINT id, const _MYCONTROL* control,
-                 const _MYLANGUAGE* caption) {
-  window.SetSkin(control, caption);
-  rect = rect_of(control);
-  return place_child(window, text_of(caption), rect, parent, id);
+int load_skinned(CSkinnedWnd& window, CRect& rect, const ControlToLoad& load) {
+  window.SetSkin(load.skin.control, load.skin.caption);
+  rect = rect_of(load.skin.control);
+  return place_child(window, text_of(load.skin.caption), rect, load);
 }
 
 }  // namespace
@@ -47,48 +47,39 @@ int CUICtrlMgr::LoadSelectImage(CGdiImage& image, const _MYCONTROL* control) {
   return load_skin_image(image, control ? control->selected_image : CString());
 }
 
-int CUICtrlMgr::LoadGdiBtn(CGdiBtnEx& button, CRect& rect, CWnd* parent, UINT id,
-                           const _MYCONTROL* control, const _MYLANGUAGE* caption,
-                           const _MYFONT* font) {
-  button.SetSkin(ButtonSkin(control, font));
-  button.SetText(text_of(caption));
-  rect = rect_of(control);
-  return place_child(button, text_of(caption), rect, parent, id);
+int CUICtrlMgr::LoadGdiBtn(CGdiBtnEx& button, CRect& rect, const ControlToLoad& load) {
+  const SkinnedControl& skin = load.skin;
+  button.SetSkin(ButtonSkin(skin.control, skin.font));
+  button.SetText(text_of(skin.caption));
+  rect = rect_of(skin.control);
+  return place_child(button, text_of(skin.caption), rect, load);
 }
 
-int CUICtrlMgr::LoadHdcBtn(CHdcBtn& button, CRect& rect, CWnd* parent, UINT id,
-                           const _MYCONTROL* control, const _MYLANGUAGE* caption, const _MYFONT*) {
-  return load_skinned(button, rect, parent, id, control, caption);
+int CUICtrlMgr::LoadHdcBtn(CHdcBtn& button, CRect& rect, const ControlToLoad& load) {
+  return load_skinned(button, rect, load);
 }
 
-int CUICtrlMgr::LoadGdiSlider(CGdiSlider& slider, CRect& rect, CWnd* parent, UINT id,
-                              const _MYCONTROL* control, const _MYLANGUAGE* caption,
-                              const _MYFONT*) {
-  return load_skinned(slider, rect, parent, id, control, caption);
+int CUICtrlMgr::LoadGdiSlider(CGdiSlider& slider, CRect& rect, const ControlToLoad& load) {
+  return load_skinned(slider, rect, load);
 }
 
-int CUICtrlMgr::LoadGdiComboBox(CGdiComboBox& box, CRect& rect, CWnd* parent, UINT id,
-                                const _MYCONTROL* control, const _MYLANGUAGE* caption,
-                                const _MYFONT*) {
-  return load_skinned(box, rect, parent, id, control, caption);
+int CUICtrlMgr::LoadGdiComboBox(CGdiComboBox& box, CRect& rect, const ControlToLoad& load) {
+  return load_skinned(box, rect, load);
 }
 
-int CUICtrlMgr::LoadGdiEditEx(CGdiEditEx& edit, CRect& rect, CWnd* parent, UINT id,
-                              const _MYCONTROL* control, const _MYLANGUAGE* caption,
-                              const _MYFONT*) {
-  return load_skinned(edit, rect, parent, id, control, caption);
+int CUICtrlMgr::LoadGdiEditEx(CGdiEditEx& edit, CRect& rect, const ControlToLoad& load) {
+  return load_skinned(edit, rect, load);
 }
 
 int CUICtrlMgr::LoadListTab(CListTab& strip, CRect& rect, CWnd* parent, const _MYCONTROL* control) {
-  const UINT id = control ? static_cast<UINT>(control->id) : 0;
-  return load_skinned(strip, rect, parent, id, control, nullptr);
+  const UINT id = control != nullptr ? static_cast<UINT>(control->id) : 0;
+  return load_skinned(strip, rect, {parent, id, {control, nullptr, nullptr}});
 }
 
-int CUICtrlMgr::LoadTabBtn(CListTab& strip, int id, const _MYCONTROL* control,
-                           const _MYLANGUAGE* caption, const _MYFONT* font) {
-  if (!strip.GetSafeHwnd()) return 0;
+int CUICtrlMgr::LoadTabBtn(CListTab& strip, int id, const SkinnedControl& skin) {
+  if (strip.GetSafeHwnd() == nullptr) return 0;
   CRect rect;
-  return LoadGdiBtn(strip.AddBtn(), rect, &strip, static_cast<UINT>(id), control, caption, font);
+  return LoadGdiBtn(strip.AddBtn(), rect, {&strip, static_cast<UINT>(id), skin});
 }
 
 }  // namespace corvane

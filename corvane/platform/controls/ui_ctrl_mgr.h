@@ -17,6 +17,13 @@ class CHdcBtn;
 class CListTab;
 class CWnd;
 
+// What a loader makes a control from.
+struct ControlToLoad {
+  CWnd* parent = nullptr;
+  UINT id = 0;  // of the control's window
+  SkinnedControl skin;
+};
+
 class CUICtrlMgr {
  public:
   // The control's normal, pressed-state or selected-state image; the object is emptied when there
@@ -25,24 +32,18 @@ class CUICtrlMgr {
   int LoadDownGdiImage(CGdiImage& image, const _MYCONTROL* control);
   int LoadSelectImage(CGdiImage& image, const _MYCONTROL* control);
 
-  // Create the control's window as a visible child of `parent` at the record's rectangle, which
+  // Create the control's window as a visible child of its parent at the record's rectangle, which
   // `rect` receives (client coordinates of the parent). A control that has a window is skinned and
   // moved instead.
-  int LoadGdiBtn(CGdiBtnEx& button, CRect& rect, CWnd* parent, UINT id, const _MYCONTROL* control,
-                 const _MYLANGUAGE* caption, const _MYFONT* font);
-  int LoadHdcBtn(CHdcBtn& button, CRect& rect, CWnd* parent, UINT id, const _MYCONTROL* control,
-                 const _MYLANGUAGE* caption, const _MYFONT* font);
-  int LoadGdiSlider(CGdiSlider& slider, CRect& rect, CWnd* parent, UINT id,
-                    const _MYCONTROL* control, const _MYLANGUAGE* caption, const _MYFONT* font);
-  int LoadGdiComboBox(CGdiComboBox& box, CRect& rect, CWnd* parent, UINT id,
-                      const _MYCONTROL* control, const _MYLANGUAGE* caption, const _MYFONT* font);
-  int LoadGdiEditEx(CGdiEditEx& edit, CRect& rect, CWnd* parent, UINT id, const _MYCONTROL* control,
-                    const _MYLANGUAGE* caption, const _MYFONT* font);
+  int LoadGdiBtn(CGdiBtnEx& button, CRect& rect, const ControlToLoad& load);
+  int LoadHdcBtn(CHdcBtn& button, CRect& rect, const ControlToLoad& load);
+  int LoadGdiSlider(CGdiSlider& slider, CRect& rect, const ControlToLoad& load);
+  int LoadGdiComboBox(CGdiComboBox& box, CRect& rect, const ControlToLoad& load);
+  int LoadGdiEditEx(CGdiEditEx& edit, CRect& rect, const ControlToLoad& load);
   // The window id is the record's.
   int LoadListTab(CListTab& strip, CRect& rect, CWnd* parent, const _MYCONTROL* control);
   // Adds a button to a strip that has a window.
-  int LoadTabBtn(CListTab& strip, int id, const _MYCONTROL* control, const _MYLANGUAGE* caption,
-                 const _MYFONT* font);
+  int LoadTabBtn(CListTab& strip, int id, const SkinnedControl& skin);
 };
 
 }  // namespace corvane

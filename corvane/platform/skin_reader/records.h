@@ -48,4 +48,11 @@ struct _MYFONT {
   std::unique_ptr<LOGFONTW> description;  // may be null
 };
 
+// The records that make up one skinned control, borrowed; each may be null.
+struct SkinnedControl {
+  const _MYCONTROL* control = nullptr;
+  const _MYLANGUAGE* caption = nullptr;
+  const _MYFONT* font = nullptr;
+};
+
 }  // namespace corvane

@@ -47,8 +47,9 @@ class GdiBtnEx : public test::ControlTest {
   void create(const wchar_t* caption = nullptr) {
     const _MYLANGUAGE language{1, caption, 0};
     CRect rect;
-    ASSERT_EQ(CUICtrlMgr().LoadGdiBtn(*button_, rect, host_.get(), kId, &control_,
-                                      caption ? &language : nullptr, nullptr),
+    ASSERT_EQ(CUICtrlMgr().LoadGdiBtn(
+                  *button_, rect,
+                  {host_.get(), kId, {&control_, caption ? &language : nullptr, nullptr}}),
               1);
     EXPECT_EQ(rect, CRect(control_.rect));
     pump();
@@ -93,7 +94,7 @@ TEST_F(GdiBtnEx, InAPanelThatWasHiddenThereIsNoClick) {
   test::ControlHost panel;
   ASSERT_TRUE(panel.Create(nullptr, L"", WS_VISIBLE, CRect(0, 0, 200, 200), host_.get(), 1));
   CRect rect;
-  CUICtrlMgr().LoadGdiBtn(*button_, rect, &panel, kId, &control_, nullptr, nullptr);
+  CUICtrlMgr().LoadGdiBtn(*button_, rect, {&panel, kId, {&control_}});
   press(kX, kY);
   panel.ShowWindow(SW_HIDE);
   release(kX, kY);
@@ -408,8 +409,7 @@ TEST_F(GdiBtnEx, ItsPressesCanReachTheParentToo) {
 
 TEST_F(GdiBtnEx, WithoutRecordsItIsThereWithoutSize) {
   CRect rect(1, 2, 3, 4);
-  EXPECT_EQ(CUICtrlMgr().LoadGdiBtn(*button_, rect, host_.get(), kId, nullptr, nullptr, nullptr),
-            1);
+  EXPECT_EQ(CUICtrlMgr().LoadGdiBtn(*button_, rect, {host_.get(), kId, {}}), 1);
   EXPECT_TRUE(rect.IsRectNull());
   EXPECT_EQ(::GetDlgItem(*host_, kId), button_->GetSafeHwnd());
   button_->GetClientRect(rect);
@@ -419,7 +419,7 @@ TEST_F(GdiBtnEx, WithoutRecordsItIsThereWithoutSize) {
 
 TEST_F(GdiBtnEx, WithoutAParentThereIsNoWindow) {
   CRect rect;
-  EXPECT_EQ(CUICtrlMgr().LoadGdiBtn(*button_, rect, nullptr, kId, &control_, nullptr, nullptr), 0);
+  EXPECT_EQ(CUICtrlMgr().LoadGdiBtn(*button_, rect, {nullptr, kId, {&control_}}), 0);
   EXPECT_EQ(button_->GetSafeHwnd(), nullptr);
   button_->EnableButton(0);
   EXPECT_EQ(button_->IsDisabled(), 1);
