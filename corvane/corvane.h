@@ -1,12 +1,12 @@
 #pragma once
 // All that a host of the library needs.
+#include "corvane/frame/layer_messages.h"
+#include "corvane/layers/buttons/window_layer.h"
 #include "corvane/layers/crop/crop_frame.h"
 #include "corvane/layers/crop/cut_bg_layer.h"
 #include "corvane/layers/crop/cut_btn_layer.h"
 #include "corvane/layers/crop/cut_rect_layer.h"
 #include "corvane/layers/crop/picture_mapping.h"
-#include "corvane/layers/frame/layer_messages.h"
-#include "corvane/layers/frame/window_layer.h"
 #include "corvane/platform/base_services/installation.h"
 #include "corvane/platform/base_services/language_text.h"
 #include "corvane/platform/base_services/paths.h"

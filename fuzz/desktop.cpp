@@ -85,9 +85,7 @@ FuzzHost::FuzzHost()
 void FuzzHost::open() {
   if (!m_hWnd) {
     CreateEx(0, class_name_, L"host", WS_POPUP | WS_VISIBLE, kHostPlace, nullptr, 0);
-    skin_.LoadCtrlList(L"ui_control.xml", kToolbarList);
-    skin_.LoadLanguageList(L"ui_language.xml", kToolbarList);
-    skin_.LoadLogfontList(L"ui_logfont.xml");
+    skin_.Load({kToolbarList});
   }
   if (!buttons_.m_hWnd) {
     buttons_.DelAllBtn();

@@ -3,8 +3,8 @@
 #include <memory>
 #include <vector>
 
+#include "corvane/layers/buttons/window_layer.h"
 #include "corvane/layers/crop/cut_bg_layer.h"
-#include "corvane/layers/frame/window_layer.h"
 #include "corvane/platform/framework/framework.h"
 #include "corvane/skin/xml_list_mgr.h"
 #include "corvane/trees/owner_drawn/tree_ctrl_ex2.h"

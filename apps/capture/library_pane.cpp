@@ -6,7 +6,7 @@
 #include "apps/capture/picture_folder.h"
 #include "apps/capture/sorted_listing.h"
 #include "apps/capture/texts.h"
-#include "corvane/layers/frame/layer_messages.h"
+#include "corvane/frame/layer_messages.h"
 #include "corvane/platform/drawing/gdi_dc.h"
 
 namespace capture {

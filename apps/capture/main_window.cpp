@@ -19,13 +19,6 @@ constexpr SIZE kMinReadableSize{8, 8};  // pixels of the picture
 
 CString NameForUser(const std::wstring& path) { return CString(NameOf(path).c_str()); }
 
-HWND FindOwned(HWND owner) {
-  for (HWND it = GetTopWindow(nullptr); it != nullptr; it = GetWindow(it, GW_HWNDNEXT)) {
-    if (GetWindow(it, GW_OWNER) == owner) return it;
-  }
-  return nullptr;
-}
-
 }  // namespace
 
 const MessageMap* CMainWindow::GetMessageMap() const {
@@ -110,8 +103,7 @@ void CMainWindow::PlaceCropLayer() {
 }
 
 CRect CMainWindow::CropButtonOnScreen(CropCommand command) const {
-  // The bar is an owned window of the crop rectangle's window, which the background owns.
-  HWND bar = FindOwned(FindOwned(crop_.GetSafeHwnd()));
+  const HWND bar = crop_.GetBarHwnd();
   CRect rect;
   if (bar != nullptr) ::GetWindowRect(::GetDlgItem(bar, static_cast<int>(command)), &rect);
   return rect;

@@ -2,8 +2,8 @@
 // clicked.
 #include <cstdio>
 
-#include "corvane/layers/frame/layer_messages.h"
-#include "corvane/layers/frame/window_layer.h"
+#include "corvane/frame/layer_messages.h"
+#include "corvane/layers/buttons/window_layer.h"
 #include "corvane/platform/framework/framework.h"
 #include "corvane/platform/images/gdi_image.h"
 #include "corvane/skin/xml_list_mgr.h"
@@ -22,9 +22,7 @@ class CHostWindow : public CWnd {
   bool Open() {
     const wchar_t* window_class = AfxRegisterWndClass(CS_DBLCLKS);
     if (!CreateEx(0, window_class, L"Minimal host", WS_POPUP, kPlace, nullptr, 0)) return false;
-    m_skin.LoadCtrlList(L"ui_control.xml", kToolbarList);
-    m_skin.LoadLanguageList(L"ui_language.xml", kToolbarList);
-    m_skin.LoadLogfontList(L"ui_logfont.xml");
+    m_skin.Load({kToolbarList});
     m_layer.SetXmlListMgr(&m_skin);
     for (const int id : kButtons) m_layer.AddBtn(id);
     CRect unused;

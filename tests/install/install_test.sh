@@ -31,7 +31,7 @@ tree() {
 
 contents() {
   local file
-  for file in include/corvane/platform/platform.h include/corvane/layers/frame/window_layer.h \
+  for file in include/corvane/platform/platform.h include/corvane/layers/buttons/window_layer.h \
     include/corvane/platform/system/user/window_system.h share/corvane/skins/default/ui_control.xml \
     share/corvane/skins/default/image/toolbar_crop_normal.png share/doc/*/LICENSE; do
     compgen -G "$prefix/$file" >/dev/null || fail "not installed: $file"

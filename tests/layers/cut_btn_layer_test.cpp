@@ -3,7 +3,7 @@
 #include <numeric>
 #include <vector>
 
-#include "corvane/layers/frame/layer_messages.h"
+#include "corvane/frame/layer_messages.h"
 #include "tests/layers/support/layer_test.h"
 
 namespace corvane_tests {

@@ -4,7 +4,7 @@
 #include <memory>
 #include <tuple>
 
-#include "corvane/layers/frame/window_layer.h"
+#include "corvane/layers/buttons/window_layer.h"
 #include "tests/layers/support/crop_scene.h"
 #include "tests/layers/support/destroy_session.h"
 

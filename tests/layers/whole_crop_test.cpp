@@ -5,7 +5,7 @@
 #include <memory>
 #include <vector>
 
-#include "corvane/layers/frame/layer_messages.h"
+#include "corvane/frame/layer_messages.h"
 #include "tests/layers/support/crop_scene.h"
 
 namespace corvane_tests {

@@ -1,8 +1,8 @@
-#include "corvane/layers/frame/window_layer.h"
+#include "corvane/layers/buttons/window_layer.h"
 
 #include <vector>
 
-#include "corvane/layers/frame/layer_messages.h"
+#include "corvane/frame/layer_messages.h"
 #include "tests/layers/support/layer_test.h"
 
 namespace corvane_tests {

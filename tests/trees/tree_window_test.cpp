@@ -4,7 +4,7 @@
 #include <fstream>
 #include <limits>
 
-#include "corvane/layers/frame/layer_messages.h"
+#include "corvane/frame/layer_messages.h"
 #include "corvane/platform/base_services/system_paths.h"
 #include "tests/layers/support/layer_test.h"
 #include "tests/support/temporary_folder.h"

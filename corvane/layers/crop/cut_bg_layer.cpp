@@ -1,7 +1,7 @@
 #include "corvane/layers/crop/cut_bg_layer.h"
 
-#include "corvane/layers/crop/overlay_class.h"
-#include "corvane/layers/frame/layer_key_filter.h"
+#include "corvane/frame/overlay_class.h"
+#include "corvane/frame/window_styles.h"
 
 namespace corvane {
 namespace {
@@ -13,25 +13,17 @@ constexpr BYTE practically_invisible = 1;  // of 255; at 0 the mouse would pass 
 
 constexpr CRuntimeClass CCutBgLayer::classCCutBgLayer{"CCutBgLayer", &CWnd::classCWnd};
 
-CCutBgLayer::CCutBgLayer() = default;
+CCutBgLayer::CCutBgLayer() : LibraryWindow(this, end_) {}
 
-CCutBgLayer::~CCutBgLayer() { DestroyWindow(); }
-
-const CRuntimeClass* CCutBgLayer::GetRuntimeClass() const { return &classCCutBgLayer; }
-
-const MessageMap* CCutBgLayer::GetMessageMap() const {
-  static constexpr auto messages = MessageTable(
+const WindowDescription& CCutBgLayer::description() const {
+  static constexpr auto kMessages = MessageTable(
       On<WM_CREATE>(&CCutBgLayer::OnCreate), On<WM_SIZE>(&CCutBgLayer::OnSize),
       On<WM_DESTROY>(&CCutBgLayer::OnDestroy), On<WM_LBUTTONDOWN>(&CCutBgLayer::OnLButtonDown),
       On<WM_LBUTTONUP>(&CCutBgLayer::OnLButtonUp), On<WM_MOUSEMOVE>(&CCutBgLayer::OnMouseMove),
       On<WM_MOVE>(&CCutBgLayer::OnMove));
-  static const MessageMap map = messages.Extending(CWnd::GetMessageMap());
-  return &map;
-}
-
-BOOL CCutBgLayer::PreTranslateMessage(MSG* message) {
-  if (filter_layer_key(KeyFilter::to_parent, m_hWnd, message)) return TRUE;
-  return CWnd::PreTranslateMessage(message);
+  static const WindowDescription description{
+      classCCutBgLayer, kMessages.Extending(CWnd::GetMessageMap()), KeyFilter::to_parent};
+  return description;
 }
 
 void CCutBgLayer::SetParentHwnd(HWND window) { rect_layer_.SetParentHwnd(window); }
@@ -42,42 +34,42 @@ void CCutBgLayer::SetOCRMode(int text_recognition) { rect_layer_.SetOCRMode(text
 
 int CCutBgLayer::ShowWindow(int command) {
   shown_ = command;
-  const auto watch = liveness_.watch();
+  const WindowWatch watch(*this);
   if (rect_layer_.GetSafeHwnd()) rect_layer_.ShowWindow(command);
-  return watch.gone() ? FALSE : CWnd::ShowWindow(command);
+  return watch.object_gone() ? FALSE : CWnd::ShowWindow(command);
 }
+
+HWND CCutBgLayer::GetBarHwnd() const { return rect_layer_.GetBarHwnd(); }
 
 CRect CCutBgLayer::GetCutRect() const { return rect_layer_.GetCutRect(); }
 
 int CCutBgLayer::OnCreate(LPCREATESTRUCT creation) {
   if (CWnd::OnCreate(creation) == -1) return -1;
-  const auto watch = liveness_.watch();
-  ModifyStyleEx(WS_EX_APPWINDOW, WS_EX_LAYERED);
-  if (watch.gone() || !m_hWnd) return -1;
+  if (!become_overlay(*this)) return -1;
   SetLayeredWindowAttributes(unused_key, practically_invisible, LWA_ALPHA);
   return CreateRectLayer() ? 0 : -1;
 }
 
 // False: this window did not outlive it.
 bool CCutBgLayer::CreateRectLayer() {
-  const auto watch = liveness_.watch();
+  const WindowWatch watch(*this);
   rect_layer_.CreateEx(WS_EX_TOOLWINDOW, overlay_class(), L"cutRectLayer", WS_POPUP, 0, 0, 0, 0,
                        m_hWnd, nullptr);
-  if (watch.gone()) return false;
+  if (watch.object_gone()) return false;
   if (rect_layer_.GetSafeHwnd()) rect_layer_.ShowWindow(SW_HIDE);
-  return !watch.gone() && m_hWnd;
+  return !watch.window_gone();
 }
 
 void CCutBgLayer::OnSize(UINT kind, int width, int height) {
-  const auto watch = liveness_.watch();
+  const WindowWatch watch(*this);
   CWnd::OnSize(kind, width, height);
-  if (!watch.gone()) CoverWithRectLayer();
+  if (!watch.object_gone()) CoverWithRectLayer();
 }
 
 void CCutBgLayer::OnMove(int x, int y) {
-  const auto watch = liveness_.watch();
+  const WindowWatch watch(*this);
   CWnd::OnMove(x, y);
-  if (!watch.gone()) CoverWithRectLayer();
+  if (!watch.object_gone()) CoverWithRectLayer();
 }
 
 void CCutBgLayer::CoverWithRectLayer() {

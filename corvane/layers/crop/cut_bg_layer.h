@@ -4,22 +4,17 @@
 // whole area behaves as one. The host creates it as a pop-up (WS_POPUP) that its own window owns,
 // hidden, over the picture in screen coordinates, and moves it when the picture moves; a mid-grey
 // brush of the window's class changes what shows through least.
+#include "corvane/frame/library_window.h"
 #include "corvane/layers/crop/cut_rect_layer.h"
-#include "corvane/layers/frame/liveness.h"
 #include "corvane/platform/framework/rect.h"
-#include "corvane/platform/framework/wnd.h"
 
 namespace corvane {
 
-class CCutBgLayer : public CWnd {
+class CCutBgLayer : public LibraryWindow<CWnd> {
  public:
   CCutBgLayer();
-  ~CCutBgLayer() override;
 
   static const CRuntimeClass classCCutBgLayer;
-  const CRuntimeClass* GetRuntimeClass() const override;
-  const MessageMap* GetMessageMap() const override;
-  BOOL PreTranslateMessage(MSG* message) override;
 
   // The window that gets WM_CUT_CMD when a button of the bar is clicked; borrowed.
   void SetParentHwnd(HWND window);
@@ -32,6 +27,9 @@ class CCutBgLayer : public CWnd {
   int ShowWindow(int command);
   // The last value given to ShowWindow; 0 before.
   int GetShowWindow() const { return shown_; }
+  // The window of the bar of buttons, whose window ids are the buttons' numbers; null while the
+  // crop's windows do not exist.
+  HWND GetBarHwnd() const;
   // The crop rectangle in client coordinates; see CCutRectLayer::GetCutRect.
   CRect GetCutRect() const;
 
@@ -44,12 +42,13 @@ class CCutBgLayer : public CWnd {
   void OnMove(int x, int y);
 
  private:
+  const WindowDescription& description() const override;
   bool CreateRectLayer();
   void CoverWithRectLayer();
 
   CCutRectLayer rect_layer_;
   int shown_ = 0;
-  Liveness liveness_;
+  WindowEnd end_{*this};  // last
 };
 
 }  // namespace corvane

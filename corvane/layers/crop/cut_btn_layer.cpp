@@ -1,12 +1,11 @@
 #include "corvane/layers/crop/cut_btn_layer.h"
 
-#include "corvane/layers/frame/layer_key_filter.h"
-#include "corvane/layers/frame/layer_messages.h"
+#include "corvane/frame/layer_messages.h"
+#include "corvane/frame/window_styles.h"
 
 namespace corvane {
 namespace {
 
-constexpr int skin_list = 4;
 constexpr COLORREF white = RGB(255, 255, 255);
 
 int number_of(std::size_t index) { return static_cast<int>(index) + 1; }
@@ -15,40 +14,23 @@ int number_of(std::size_t index) { return static_cast<int>(index) + 1; }
 
 constexpr CRuntimeClass CCutBtnLayer::classCCutBtnLayer{"CCutBtnLayer", &CWnd::classCWnd};
 
-CCutBtnLayer::CCutBtnLayer() = default;
+CCutBtnLayer::CCutBtnLayer() : LibraryWindow(this, end_) {}
 
-CCutBtnLayer::~CCutBtnLayer() { DestroyWindow(); }
-
-const CRuntimeClass* CCutBtnLayer::GetRuntimeClass() const { return &classCCutBtnLayer; }
-
-const MessageMap* CCutBtnLayer::GetMessageMap() const {
-  static constexpr auto messages =
+const WindowDescription& CCutBtnLayer::description() const {
+  static constexpr auto kMessages =
       MessageTable(On<WM_CREATE>(&CCutBtnLayer::OnCreate), On<WM_SIZE>(&CCutBtnLayer::OnSize),
                    On<WM_DESTROY>(&CCutBtnLayer::OnDestroy), On<WM_PAINT>(&CCutBtnLayer::OnPaint),
                    On<WM_ERASEBKGND>(&CCutBtnLayer::OnEraseBkgnd));
-  static const MessageMap map = messages.Extending(CWnd::GetMessageMap());
-  return &map;
-}
-
-BOOL CCutBtnLayer::PreTranslateMessage(MSG* message) {
-  if (filter_layer_key(KeyFilter::to_parent, m_hWnd, message)) return TRUE;
-  return CWnd::PreTranslateMessage(message);
+  static const WindowDescription description{
+      classCCutBtnLayer, kMessages.Extending(CWnd::GetMessageMap()), KeyFilter::to_parent};
+  return description;
 }
 
 void CCutBtnLayer::SetParentHwnd(HWND window) { parent_ = window; }
 
-void CCutBtnLayer::InitConfig() {
-  skin_.LoadCtrlList(L"ui_control.xml", skin_list);
-  skin_.LoadLanguageList(L"ui_language.xml", skin_list);
-  skin_.LoadLogfontList(L"ui_logfont.xml");
-}
+void CCutBtnLayer::InitConfig() { skin_.Load(kCropBarList); }
 
-void CCutBtnLayer::LoadResources() {
-  const auto watch = liveness_.watch();
-  for (std::size_t i = 0; !watch.gone() && i < buttons_.size(); ++i) {
-    skin_.LoadGdiBtn(buttons_[i].control, buttons_[i].rect, this, number_of(i));
-  }
-}
+void CCutBtnLayer::LoadResources() { load_buttons(skin_, buttons_, *this); }
 
 CropButtonRects CCutBtnLayer::ButtonRects() const {
   CropButtonRects rects;
@@ -59,8 +41,8 @@ CropButtonRects CCutBtnLayer::ButtonRects() const {
 void CCutBtnLayer::SetRect() {
   const CropButtonRects laid = lay_out_crop_buttons(ButtonRects());
   for (std::size_t i = 0; i < laid.size(); ++i) buttons_[i].rect = laid[i];
-  const auto watch = liveness_.watch();
-  for (std::size_t i = 0; i < laid.size() && !watch.gone(); ++i) {
+  const WindowWatch watch(*this);
+  for (std::size_t i = 0; i < laid.size() && !watch.object_gone(); ++i) {
     CGdiBtnEx& control = buttons_[i].control;
     if (control.GetSafeHwnd()) control.MoveWindow(&laid[i], TRUE);
   }
@@ -71,12 +53,12 @@ void CCutBtnLayer::SetOCRMode(int text_recognition) {
 }
 
 void CCutBtnLayer::ShowRow(CropRow row) {
-  const auto watch = liveness_.watch();
+  const WindowWatch watch(*this);
   for (std::size_t i = 0; i < buttons_.size(); ++i) {
     CGdiBtnEx& control = buttons_[i].control;
     if (!control.GetSafeHwnd()) continue;
     control.ShowWindow(row_of_crop_button(number_of(i)) == row ? SW_SHOW : SW_HIDE);
-    if (watch.gone()) return;
+    if (watch.object_gone()) return;
   }
   if (!m_hWnd) return;
   const RECT bounds = crop_row_bounds(ButtonRects(), row);
@@ -85,46 +67,42 @@ void CCutBtnLayer::ShowRow(CropRow row) {
 
 BOOL CCutBtnLayer::OnCommand(WPARAM wparam, LPARAM lparam) {
   if (!lparam) return CWnd::OnCommand(wparam, lparam);
-  const HWND sender = reinterpret_cast<HWND>(lparam);
-  for (std::size_t i = 0; i < buttons_.size(); ++i) {
-    if (buttons_[i].control.GetSafeHwnd() != sender) continue;
-    if (parent_) ::PostMessageW(parent_, WM_CUT_CMD, static_cast<WPARAM>(number_of(i)), 0);
-    break;
+  const auto clicked = find_sender(buttons_, lparam, &SkinnedButton::control);
+  if (clicked != buttons_.end() && parent_ != nullptr) {
+    const auto index = static_cast<std::size_t>(clicked - buttons_.begin());
+    ::PostMessageW(parent_, WM_CUT_CMD, static_cast<WPARAM>(number_of(index)), 0);
   }
   return TRUE;
 }
 
 int CCutBtnLayer::OnCreate(LPCREATESTRUCT creation) {
   if (CWnd::OnCreate(creation) == -1) return -1;
-  const auto watch = liveness_.watch();
-  ModifyStyle(WS_THICKFRAME, 0, SWP_FRAMECHANGED);
-  if (watch.gone()) return -1;
+  if (!lose_sizing_border(*this)) return -1;
+  const WindowWatch watch(*this);
   InitConfig();
   LoadResources();
-  if (watch.gone()) return -1;
+  if (watch.object_gone()) return -1;
   SetRect();
-  if (watch.gone()) return -1;
+  if (watch.object_gone()) return -1;
   ShowRow(CropRow::normal);
-  return watch.gone() || !m_hWnd ? -1 : 0;
+  return watch.window_gone() ? -1 : 0;
 }
 
 void CCutBtnLayer::OnDestroy() {
-  const auto watch = liveness_.watch();
+  const WindowWatch watch(*this);
   CWnd::OnDestroy();
-  if (watch.gone()) return;
-  skin_.CtrlRelease();
-  skin_.LanguageRelease();
-  skin_.LogfontRelease();
+  if (watch.object_gone()) return;
+  skin_.Release();
   background_.release();
 }
 
-void CCutBtnLayer::OnPaint() { background_.show(*this, liveness_); }
+void CCutBtnLayer::OnPaint() { background_.show(*this); }
 
 BOOL CCutBtnLayer::OnEraseBkgnd(CDC* dc) {
   if (!background_.rebuild(*this, dc, white)) return TRUE;
-  const auto watch = liveness_.watch();
+  const WindowWatch watch(*this);
   SetRect();
-  for (std::size_t i = 0; !watch.gone() && i < buttons_.size(); ++i) {
+  for (std::size_t i = 0; !watch.object_gone() && i < buttons_.size(); ++i) {
     buttons_[i].control.SetBkGnd(background_.dc(), buttons_[i].rect);
   }
   return TRUE;

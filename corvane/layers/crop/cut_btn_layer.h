@@ -5,26 +5,21 @@
 // skin's list 4, controls 1 to 6.
 #include <array>
 
+#include "corvane/frame/buffered_background.h"
+#include "corvane/frame/library_window.h"
+#include "corvane/frame/skinned_button.h"
 #include "corvane/layers/crop/button_rows.h"
-#include "corvane/layers/frame/buffered_background.h"
-#include "corvane/layers/frame/liveness.h"
-#include "corvane/platform/controls/gdi_btn_ex.h"
 #include "corvane/platform/framework/rect.h"
-#include "corvane/platform/framework/wnd.h"
 #include "corvane/skin/xml_list_mgr.h"
 
 namespace corvane {
 
-class CCutBtnLayer : public CWnd {
+class CCutBtnLayer : public LibraryWindow<CWnd> {
  public:
   CCutBtnLayer();
-  ~CCutBtnLayer() override;
 
   static const CRuntimeClass classCCutBtnLayer;
-  const CRuntimeClass* GetRuntimeClass() const override;
-  const MessageMap* GetMessageMap() const override;
   BOOL OnCommand(WPARAM wparam, LPARAM lparam) override;
-  BOOL PreTranslateMessage(MSG* message) override;
 
   // The window that gets WM_CUT_CMD; borrowed. Without one clicks post nothing.
   void SetParentHwnd(HWND window);
@@ -42,19 +37,15 @@ class CCutBtnLayer : public CWnd {
   BOOL OnEraseBkgnd(CDC* dc);
 
  private:
-  struct Button {
-    CGdiBtnEx control;
-    CRect rect;  // client coordinates of the bar
-  };
-
+  const WindowDescription& description() const override;
   CropButtonRects ButtonRects() const;
   void ShowRow(CropRow row);
 
   BufferedBackground background_;
   HWND parent_ = nullptr;
   CXmlListMgr skin_;
-  std::array<Button, 6> buttons_;  // button 1 first
-  Liveness liveness_;
+  std::array<SkinnedButton, 6> buttons_;  // button 1 first
+  WindowEnd end_{*this};                  // last
 };
 
 }  // namespace corvane

@@ -1,7 +1,7 @@
 #include "corvane/layers/crop/cut_rect_layer.h"
 
-#include "corvane/layers/crop/overlay_class.h"
-#include "corvane/layers/frame/layer_key_filter.h"
+#include "corvane/frame/overlay_class.h"
+#include "corvane/frame/window_styles.h"
 #include "corvane/platform/base_services/set_font.h"
 #include "corvane/platform/framework/client_dc.h"
 #include "corvane/platform/framework/paint_dc.h"
@@ -27,33 +27,25 @@ void show_cursor_of(int code) {
 
 constexpr CRuntimeClass CCutRectLayer::classCCutRectLayer{"CCutRectLayer", &CWnd::classCWnd};
 
-CCutRectLayer::CCutRectLayer() = default;
+CCutRectLayer::CCutRectLayer() : LibraryWindow(this, end_) {}
 
-CCutRectLayer::~CCutRectLayer() { DestroyWindow(); }
-
-const CRuntimeClass* CCutRectLayer::GetRuntimeClass() const { return &classCCutRectLayer; }
-
-const MessageMap* CCutRectLayer::GetMessageMap() const {
-  static constexpr auto messages = MessageTable(
+const WindowDescription& CCutRectLayer::description() const {
+  static constexpr auto kMessages = MessageTable(
       On<WM_CREATE>(&CCutRectLayer::OnCreate), On<WM_SIZE>(&CCutRectLayer::OnSize),
       On<WM_DESTROY>(&CCutRectLayer::OnDestroy), On<WM_PAINT>(&CCutRectLayer::OnPaint),
       On<WM_ERASEBKGND>(&CCutRectLayer::OnEraseBkgnd),
       On<WM_LBUTTONDOWN>(&CCutRectLayer::OnLButtonDown),
       On<WM_LBUTTONUP>(&CCutRectLayer::OnLButtonUp), On<WM_MOUSEMOVE>(&CCutRectLayer::OnMouseMove));
-  static const MessageMap map = messages.Extending(CWnd::GetMessageMap());
-  return &map;
-}
-
-BOOL CCutRectLayer::PreTranslateMessage(MSG* message) {
-  if (filter_layer_key(KeyFilter::to_parent, m_hWnd, message)) return TRUE;
-  return CWnd::PreTranslateMessage(message);
+  static const WindowDescription description{
+      classCCutRectLayer, kMessages.Extending(CWnd::GetMessageMap()), KeyFilter::to_parent};
+  return description;
 }
 
 int CCutRectLayer::ShowWindow(int command) {
   frame_.clear();
-  const auto watch = liveness_.watch();
+  const WindowWatch watch(*this);
   HideBar();
-  return watch.gone() ? FALSE : CWnd::ShowWindow(command);
+  return watch.object_gone() ? FALSE : CWnd::ShowWindow(command);
 }
 
 CRect CCutRectLayer::GetCutRect() const { return frame_.rectangle(); }
@@ -85,9 +77,7 @@ void CCutRectLayer::DrawGreenFrame(HDC dc) const {
 int CCutRectLayer::OnCreate(LPCREATESTRUCT creation) {
   if (CWnd::OnCreate(creation) == -1) return -1;
   CreateFillBuffers();
-  const auto watch = liveness_.watch();
-  ModifyStyleEx(WS_EX_APPWINDOW, WS_EX_LAYERED);
-  if (watch.gone() || !m_hWnd) return -1;
+  if (!become_overlay(*this)) return -1;
   SetLayeredWindowAttributes(clear, dimming, LWA_COLORKEY | LWA_ALPHA);
   return CreateBar() ? 0 : -1;
 }
@@ -102,18 +92,18 @@ void CCutRectLayer::CreateFillBuffers() {
 
 // False: the layer did not outlive it. A bar that cannot be made leaves the layer without one.
 bool CCutRectLayer::CreateBar() {
-  const auto watch = liveness_.watch();
+  const WindowWatch watch(*this);
   button_layer_.CreateEx(WS_EX_TOOLWINDOW, overlay_class(), L"cutBtnLayer", WS_POPUP, 0, 0, 0, 0,
                          m_hWnd, nullptr);
-  if (watch.gone()) return false;
+  if (watch.object_gone()) return false;
   if (button_layer_.GetSafeHwnd()) button_layer_.ShowWindow(SW_HIDE);
-  return !watch.gone() && m_hWnd;
+  return !watch.window_gone();
 }
 
 void CCutRectLayer::OnPaint() {
-  const auto watch = liveness_.watch();
+  const WindowWatch watch(*this);
   CPaintDC dc(this);
-  if (watch.gone()) return;
+  if (watch.object_gone()) return;
   CRect client;
   GetClientRect(client);
   if (dark_buffer_.GetDC()) dark_buffer_.Paste(dc, client, SRCCOPY);
@@ -135,37 +125,37 @@ void CCutRectLayer::DrawHint(HDC dc, CRect client) const {
 BOOL CCutRectLayer::OnEraseBkgnd(CDC*) { return FALSE; }
 
 void CCutRectLayer::OnLButtonDown(UINT flags, CPoint point) {
-  const auto watch = liveness_.watch();
+  const WindowWatch watch(*this);
   SetCapture();
-  if (watch.gone()) return;
+  if (watch.object_gone()) return;
   const int code = frame_.press(point);
   show_cursor_of(code);
   if (code == crop_hit::outside) HideBar();
-  if (!watch.gone()) CWnd::OnLButtonDown(flags, point);
+  if (!watch.object_gone()) CWnd::OnLButtonDown(flags, point);
 }
 
 void CCutRectLayer::OnMouseMove(UINT flags, CPoint point) {
-  const auto watch = liveness_.watch();
+  const WindowWatch watch(*this);
   CRect client;
   GetClientRect(client);
   show_cursor_of(frame_.move(point, client));
   if (frame_.dragging()) {
     if (HasBar() && button_layer_.IsWindowVisible()) PlaceBar();
-    if (watch.gone()) return;
+    if (watch.object_gone()) return;
     Invalidate(FALSE);
   }
   CWnd::OnMouseMove(flags, point);
 }
 
 void CCutRectLayer::OnLButtonUp(UINT flags, CPoint point) {
-  const auto watch = liveness_.watch();
+  const WindowWatch watch(*this);
   ::ReleaseCapture();
-  if (watch.gone()) return;
+  if (watch.object_gone()) return;
   if (frame_.release() && HasBar()) {
     PlaceBar();
-    if (!watch.gone() && HasBar()) button_layer_.ShowWindow(SW_SHOW);
+    if (!watch.object_gone() && HasBar()) button_layer_.ShowWindow(SW_SHOW);
   }
-  if (!watch.gone()) CWnd::OnLButtonUp(flags, point);
+  if (!watch.object_gone()) CWnd::OnLButtonUp(flags, point);
 }
 
 void CCutRectLayer::HideBar() {

@@ -3,24 +3,19 @@
 // except the rectangle, which is clear, outlined in green and has eight handles. Dragging draws,
 // moves and resizes it; a bar of buttons follows it. Usually part of CCutBgLayer, which feeds it
 // the mouse; a host may use it alone as a layered pop-up over its picture.
+#include "corvane/frame/library_window.h"
 #include "corvane/layers/crop/crop_frame.h"
 #include "corvane/layers/crop/cut_btn_layer.h"
-#include "corvane/layers/frame/liveness.h"
 #include "corvane/platform/drawing/buffer_dc.h"
 #include "corvane/platform/framework/rect.h"
-#include "corvane/platform/framework/wnd.h"
 
 namespace corvane {
 
-class CCutRectLayer : public CWnd {
+class CCutRectLayer : public LibraryWindow<CWnd> {
  public:
   CCutRectLayer();
-  ~CCutRectLayer() override;
 
   static const CRuntimeClass classCCutRectLayer;
-  const CRuntimeClass* GetRuntimeClass() const override;
-  const MessageMap* GetMessageMap() const override;
-  BOOL PreTranslateMessage(MSG* message) override;
 
   // Empties the rectangle, hides the bar, and shows or hides this window. Returns whether it was
   // visible before.
@@ -35,6 +30,9 @@ class CCutRectLayer : public CWnd {
   void SetOCRMode(int text_recognition);
   // The window that gets WM_CUT_CMD; borrowed.
   void SetParentHwnd(HWND window);
+  // The window of the bar of buttons, whose window ids are the buttons' numbers; null while there
+  // is none.
+  HWND GetBarHwnd() const { return button_layer_.GetSafeHwnd(); }
 
   // The crop_hit code at a point in client coordinates.
   int DragFrame(CPoint point) const;
@@ -51,6 +49,7 @@ class CCutRectLayer : public CWnd {
   void OnMouseMove(UINT flags, CPoint point);
 
  private:
+  const WindowDescription& description() const override;
   void CreateFillBuffers();
   bool CreateBar();
   bool HasBar() const { return show_buttons_ && button_layer_.GetSafeHwnd(); }
@@ -64,7 +63,7 @@ class CCutRectLayer : public CWnd {
   bool show_buttons_ = false;
   CCutBtnLayer button_layer_;
   bool text_recognition_ = false;
-  Liveness liveness_;
+  WindowEnd end_{*this};  // last
 };
 
 }  // namespace corvane

@@ -1,6 +1,6 @@
 #include "corvane/trees/owner_drawn/tree_ctrl_ex2.h"
 
-#include "corvane/layers/frame/layer_key_filter.h"
+#include "corvane/frame/layer_key_filter.h"
 #include "corvane/platform/framework/paint_dc.h"
 #include "corvane/platform/geometry.h"
 #include "corvane/trees/model/tree_loading.h"

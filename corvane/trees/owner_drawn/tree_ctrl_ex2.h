@@ -9,8 +9,8 @@
 // removed. Everything belongs to the user-interface thread.
 #include <memory>
 
-#include "corvane/layers/frame/layer_messages.h"
-#include "corvane/layers/frame/liveness.h"
+#include "corvane/frame/layer_messages.h"
+#include "corvane/frame/liveness.h"
 #include "corvane/platform/base_services/folder_listing.h"
 #include "corvane/platform/drawing/buffer_dc.h"
 #include "corvane/platform/framework/wnd.h"

@@ -1,6 +1,6 @@
 #include "corvane/trees/shared/tree_messages.h"
 
-#include "corvane/layers/frame/layer_messages.h"
+#include "corvane/frame/layer_messages.h"
 
 namespace corvane {
 

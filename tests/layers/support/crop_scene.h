@@ -22,7 +22,7 @@ class CropTest : public LayerTest {
   void drag(POINT from, POINT to);  // client coordinates
   COLORREF pixel(int x, int y);     // client coordinates
   HWND rect_layer() const { return rect_layer_of(background_); }
-  HWND bar() const { return bar_of(background_); }
+  HWND bar() const { return background_.GetBarHwnd(); }
   bool bar_is_shown() const { return ::IsWindowVisible(bar()); }
 
   corvane::CCutBgLayer background_;

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "corvane/layers/frame/layer_messages.h"
+#include "corvane/frame/layer_messages.h"
 
 namespace corvane_tests {
 namespace {

@@ -1,4 +1,4 @@
-#include "corvane/layers/frame/layer_key_filter.h"
+#include "corvane/frame/layer_key_filter.h"
 
 #include "corvane/platform/framework/win_app.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 // Carries out the key filter for a layer's window.
-#include "corvane/layers/frame/key_filter.h"
+#include "corvane/frame/key_filter.h"
 #include "corvane/platform/platform.h"
 
 namespace corvane {

@@ -1,5 +1,5 @@
 #pragma once
-// What a layer does with Enter, Escape and the wheel before they are dispatched.
+// What a window of the library does with Enter, Escape and the wheel before they are dispatched.
 #include "corvane/platform/platform.h"
 
 namespace corvane {

@@ -7,26 +7,21 @@
 #include <memory>
 #include <vector>
 
-#include "corvane/layers/frame/buffered_background.h"
-#include "corvane/layers/frame/liveness.h"
-#include "corvane/platform/controls/gdi_btn_ex.h"
+#include "corvane/frame/buffered_background.h"
+#include "corvane/frame/library_window.h"
+#include "corvane/frame/skinned_button.h"
 #include "corvane/platform/drawing/gdi_dc.h"
 #include "corvane/platform/framework/rect.h"
-#include "corvane/platform/framework/wnd.h"
 #include "corvane/skin/xml_list_mgr.h"
 
 namespace corvane {
 
-class CWindowLayer : public CWnd {
+class CWindowLayer : public LibraryWindow<CWnd> {
  public:
   CWindowLayer();
-  ~CWindowLayer() override;
 
   static const CRuntimeClass classCWindowLayer;
-  const CRuntimeClass* GetRuntimeClass() const override;
-  const MessageMap* GetMessageMap() const override;
   BOOL OnCommand(WPARAM wparam, LPARAM lparam) override;
-  BOOL PreTranslateMessage(MSG* message) override;
 
   // The host's skin lists; borrowed, must outlive the window's creation. Null: no buttons.
   void SetXmlListMgr(CXmlListMgr* skin);
@@ -52,14 +47,13 @@ class CWindowLayer : public CWnd {
   void OnDestroy();
 
  private:
-  struct Button {
-    CGdiBtnEx control;
-    CRect rect;  // client coordinates
+  struct Button : SkinnedButton {
     int id = 0;
   };
   // A handler that is busy with a button keeps it through DelAllBtn.
   using ButtonPointer = std::shared_ptr<Button>;
 
+  const WindowDescription& description() const override;
   ButtonPointer Find(int id) const;
 
   CGdiDC drawing_;
@@ -68,7 +62,7 @@ class CWindowLayer : public CWnd {
   std::vector<ButtonPointer> buttons_;
   CXmlListMgr* skin_ = nullptr;
   int show_state_ = 0;
-  Liveness liveness_;
+  WindowEnd end_{*this};  // last
 };
 
 }  // namespace corvane

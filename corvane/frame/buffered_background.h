@@ -1,7 +1,6 @@
 #pragma once
 // The background of a layer with buttons: built off screen when the layer's size has changed, shown
 // by one copy, and lent to the buttons as theirs.
-#include "corvane/layers/frame/liveness.h"
 #include "corvane/platform/drawing/buffer_dc.h"
 #include "corvane/platform/framework/dc.h"
 #include "corvane/platform/framework/wnd.h"
@@ -15,7 +14,7 @@ class BufferedBackground {
   // where the window's class keeps what was there. `like` may be null.
   bool rebuild(CWnd& layer, CDC* like, COLORREF color);
   // The whole of a WM_PAINT handler.
-  void show(CWnd& layer, const Liveness& liveness);
+  void show(CWnd& layer);
 
   void release() { buffer_.Release(); }
 

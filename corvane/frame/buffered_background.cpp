@@ -1,6 +1,7 @@
-#include "corvane/layers/frame/buffered_background.h"
+#include "corvane/frame/buffered_background.h"
 
 #include "corvane/platform/framework/paint_dc.h"
+#include "corvane/platform/framework/window_watch.h"
 
 namespace corvane {
 
@@ -15,10 +16,10 @@ bool BufferedBackground::rebuild(CWnd& layer, CDC* like, COLORREF color) {
   return true;
 }
 
-void BufferedBackground::show(CWnd& layer, const Liveness& liveness) {
-  const auto watch = liveness.watch();
+void BufferedBackground::show(CWnd& layer) {
+  const WindowWatch watch(layer);
   CPaintDC paint(&layer);
-  if (watch.gone() || !dc()) return;
+  if (watch.object_gone() || dc() == nullptr) return;
   CRect client;
   layer.GetClientRect(client);
   buffer_.Paste(paint, client, SRCCOPY);

@@ -1,4 +1,4 @@
-#include "corvane/layers/frame/key_filter.h"
+#include "corvane/frame/key_filter.h"
 
 #include <array>
 

@@ -1,11 +1,10 @@
-#include "corvane/layers/frame/window_layer.h"
+#include "corvane/layers/buttons/window_layer.h"
 
 #include <algorithm>
 #include <new>
 #include <utility>
 
-#include "corvane/layers/frame/layer_key_filter.h"
-#include "corvane/layers/frame/layer_messages.h"
+#include "corvane/frame/layer_messages.h"
 
 namespace corvane {
 namespace {
@@ -17,24 +16,16 @@ constexpr WPARAM drag_by_caption = SC_MOVE | HTCAPTION;
 
 constexpr CRuntimeClass CWindowLayer::classCWindowLayer{"CWindowLayer", &CWnd::classCWnd};
 
-CWindowLayer::CWindowLayer() = default;
+CWindowLayer::CWindowLayer() : LibraryWindow(this, end_) {}
 
-CWindowLayer::~CWindowLayer() { DestroyWindow(); }
-
-const CRuntimeClass* CWindowLayer::GetRuntimeClass() const { return &classCWindowLayer; }
-
-const MessageMap* CWindowLayer::GetMessageMap() const {
-  static constexpr auto messages = MessageTable(
+const WindowDescription& CWindowLayer::description() const {
+  static constexpr auto kMessages = MessageTable(
       On<WM_CREATE>(&CWindowLayer::OnCreate), On<WM_ERASEBKGND>(&CWindowLayer::OnEraseBkgnd),
       On<WM_PAINT>(&CWindowLayer::OnPaint), On<WM_LBUTTONDOWN>(&CWindowLayer::OnLButtonDown),
       On<WM_DESTROY>(&CWindowLayer::OnDestroy));
-  static const MessageMap map = messages.Extending(CWnd::GetMessageMap());
-  return &map;
-}
-
-BOOL CWindowLayer::PreTranslateMessage(MSG* message) {
-  if (filter_layer_key(KeyFilter::to_main_window, m_hWnd, message)) return TRUE;
-  return CWnd::PreTranslateMessage(message);
+  static const WindowDescription description{
+      classCWindowLayer, kMessages.Extending(CWnd::GetMessageMap()), KeyFilter::to_main_window};
+  return description;
 }
 
 void CWindowLayer::SetXmlListMgr(CXmlListMgr* skin) { skin_ = skin; }
@@ -84,12 +75,12 @@ int CWindowLayer::IsShowWindow() const { return show_state_ == SW_SHOW ? 1 : 0; 
 int CWindowLayer::OnCreate(LPCREATESTRUCT creation) {
   if (CWnd::OnCreate(creation) == -1) return -1;
   drawing_.Init();
-  const auto watch = liveness_.watch();
+  const WindowWatch watch(*this);
   // The loader's messages may change the list and take back the skin.
   for (std::size_t i = 0; skin_ && i < buttons_.size(); ++i) {
     const ButtonPointer button = buttons_[i];
     skin_->LoadGdiBtn(button->control, button->rect, this, button->id);
-    if (watch.gone()) return -1;
+    if (watch.object_gone()) return -1;
   }
   return 0;
 }
@@ -97,17 +88,17 @@ int CWindowLayer::OnCreate(LPCREATESTRUCT creation) {
 BOOL CWindowLayer::OnEraseBkgnd(CDC* dc) {
   if (!background_.rebuild(*this, dc, white)) return TRUE;
   drawing_.DrawImage(background_.dc(), image_, background_.rect());
-  const auto watch = liveness_.watch();
+  const WindowWatch watch(*this);
   for (std::size_t i = 0; i < buttons_.size(); ++i) {
     const ButtonPointer button = buttons_[i];
     if (button->control.GetSafeHwnd()) button->control.MoveWindow(button->rect, TRUE);
-    if (watch.gone()) return TRUE;
+    if (watch.object_gone()) return TRUE;
     button->control.SetBkGnd(background_.dc(), button->rect);
   }
   return TRUE;
 }
 
-void CWindowLayer::OnPaint() { background_.show(*this, liveness_); }
+void CWindowLayer::OnPaint() { background_.show(*this); }
 
 void CWindowLayer::OnLButtonDown(UINT, CPoint) {
   ::SystemParametersInfoW(SPI_SETDRAGFULLWINDOWS, TRUE, nullptr, 0);
@@ -117,24 +108,19 @@ void CWindowLayer::OnLButtonDown(UINT, CPoint) {
 }
 
 BOOL CWindowLayer::OnCommand(WPARAM wparam, LPARAM lparam) {
-  const HWND sender = reinterpret_cast<HWND>(lparam);
-  if (sender) {
-    for (const ButtonPointer& button : buttons_) {
-      if (button->control.GetSafeHwnd() != sender) continue;
-      const HWND parent = ::GetParent(m_hWnd);
-      if (parent) {
-        ::PostMessageW(parent, WM_LAYER_BTN_CLICK, static_cast<WPARAM>(button->id), lparam);
-      }
-      return TRUE;
-    }
+  const auto clicked = find_sender(
+      buttons_, lparam, [](const ButtonPointer& button) -> const CWnd& { return button->control; });
+  if (clicked == buttons_.end()) return CWnd::OnCommand(wparam, lparam);
+  if (const HWND parent = ::GetParent(m_hWnd); parent != nullptr) {
+    ::PostMessageW(parent, WM_LAYER_BTN_CLICK, static_cast<WPARAM>((*clicked)->id), lparam);
   }
-  return CWnd::OnCommand(wparam, lparam);
+  return TRUE;
 }
 
 void CWindowLayer::OnDestroy() {
-  const auto watch = liveness_.watch();
+  const WindowWatch watch(*this);
   CWnd::OnDestroy();
-  if (watch.gone()) return;
+  if (watch.object_gone()) return;
   background_.release();
   DelAllBtn();
 }

@@ -1,4 +1,4 @@
-#include "corvane/layers/crop/overlay_class.h"
+#include "corvane/frame/overlay_class.h"
 
 #include "corvane/platform/framework/win_app.h"
 #include "corvane/platform/platform.h"
