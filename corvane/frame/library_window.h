@@ -24,7 +24,7 @@
 
 namespace corvane {
 
-// A constant of the class; its message map extends that of the base class.
+// A constant of the class.
 struct WindowDescription {
   const CRuntimeClass& runtime_class;
   MessageMap messages;
@@ -66,6 +66,8 @@ class LibraryWindow : public Base {
   }
 
   virtual const WindowDescription& description() const = 0;
+  // What the description's messages extend.
+  const MessageMap* base_messages() const { return Base::GetMessageMap(); }
 };
 
 }  // namespace corvane

@@ -37,7 +37,7 @@ class CPlainWindow : public LibraryWindow<CWnd> {
   const WindowDescription& description() const override {
     static constexpr auto kMessages = MessageTable(On<WM_DESTROY>(&CPlainWindow::OnDestroy));
     const auto with_keys = [this](std::optional<KeyFilter> keys) {
-      return WindowDescription{classCPlainWindow, kMessages.Extending(CWnd::GetMessageMap()), keys};
+      return WindowDescription{classCPlainWindow, kMessages.Extending(base_messages()), keys};
     };
     static const WindowDescription filtered = with_keys(KeyFilter::swallow_only);
     static const WindowDescription unfiltered = with_keys(std::nullopt);

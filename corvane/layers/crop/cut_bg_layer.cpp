@@ -21,8 +21,8 @@ const WindowDescription& CCutBgLayer::description() const {
       On<WM_DESTROY>(&CCutBgLayer::OnDestroy), On<WM_LBUTTONDOWN>(&CCutBgLayer::OnLButtonDown),
       On<WM_LBUTTONUP>(&CCutBgLayer::OnLButtonUp), On<WM_MOUSEMOVE>(&CCutBgLayer::OnMouseMove),
       On<WM_MOVE>(&CCutBgLayer::OnMove));
-  static const WindowDescription description{
-      classCCutBgLayer, kMessages.Extending(CWnd::GetMessageMap()), KeyFilter::to_parent};
+  static const WindowDescription description{classCCutBgLayer, kMessages.Extending(base_messages()),
+                                             KeyFilter::to_parent};
   return description;
 }
 
