@@ -37,7 +37,11 @@ struct WindowDescription {
 class WindowEnd {
  public:
   explicit WindowEnd(CWnd& window) : window_(window) {}
-  ~WindowEnd() { window_.DestroyWindow(); }
+  ~WindowEnd() {
+    window_.DestroyWindow();
+    // A window that is being destroyed already still has messages to come.
+    window_.Detach();
+  }
   WindowEnd(const WindowEnd&) = delete;
   WindowEnd& operator=(const WindowEnd&) = delete;
 

@@ -13,11 +13,16 @@
 namespace corvane {
 namespace {
 
-// Says when it ends.
+// Says when it ends, and lets the window speak.
 class Member {
  public:
   explicit Member(std::string& log) : log_(log) {}
-  ~Member() { log_ += "member ended;"; }
+  ~Member() {
+    log_ += "member ended;";
+    ::SendMessageW(window, WM_APP, 0, 0);
+  }
+
+  HWND window = nullptr;
 
  private:
   std::string& log_;
@@ -28,6 +33,14 @@ class CPlainWindow : public LibraryWindow<CWnd> {
   CPlainWindow(std::string& log, std::optional<KeyFilter> keys)
       : LibraryWindow(this, end_), log_(log), keys_(keys) {}
   static const CRuntimeClass classCPlainWindow;
+  int OnCreate(LPCREATESTRUCT creation) {
+    member_.window = m_hWnd;
+    return CWnd::OnCreate(creation);
+  }
+  LRESULT OnSpeak(WPARAM, LPARAM) {
+    log_ += "spoke;";
+    return 0;
+  }
   void OnDestroy() {
     log_ += "OnDestroy;";
     CWnd::OnDestroy();
@@ -35,7 +48,9 @@ class CPlainWindow : public LibraryWindow<CWnd> {
 
  protected:
   const WindowDescription& description() const override {
-    static constexpr auto kMessages = MessageTable(On<WM_DESTROY>(&CPlainWindow::OnDestroy));
+    static constexpr auto kMessages = MessageTable(On<WM_CREATE>(&CPlainWindow::OnCreate),
+                                                   On<WM_DESTROY>(&CPlainWindow::OnDestroy),
+                                                   OnMessage<WM_APP>(&CPlainWindow::OnSpeak));
     const auto with_keys = [this](std::optional<KeyFilter> keys) {
       return WindowDescription{classCPlainWindow, kMessages.Extending(base_messages()), keys};
     };
@@ -71,6 +86,18 @@ class CHostWindow : public CPlainWindow {
 constexpr CRuntimeClass CHostWindow::classCHostWindow{"CHostWindow",
                                                       &CPlainWindow::classCPlainWindow};
 
+// Deletes its child when it hears that the child's window is about to be destroyed.
+class CDeletingParent : public CWnd {
+ public:
+  std::unique_ptr<CWnd> child;
+
+ protected:
+  LRESULT WindowProc(UINT message, WPARAM wparam, LPARAM lparam) override {
+    if (message == WM_PARENTNOTIFY && LOWORD(wparam) == WM_DESTROY) child.reset();
+    return CWnd::WindowProc(message, wparam, lparam);
+  }
+};
+
 class LibraryWindowTest : public testing::Test {
  protected:
   template <class Window>
@@ -88,6 +115,16 @@ TEST_F(LibraryWindowTest, TheWindowEndsBeforeTheMembers) {
   open<CPlainWindow>(std::nullopt).reset();
   EXPECT_EQ(log_, "OnDestroy;member ended;");
   EXPECT_EQ(windows_.live_windows(), 0);
+}
+
+TEST_F(LibraryWindowTest, DeletedWhileItsWindowIsBeingDestroyedItHandlesNothingMore) {
+  CDeletingParent parent;
+  ASSERT_TRUE(parent.CreateEx(0, nullptr, L"", WS_POPUP, CRect(0, 0, 9, 9), nullptr, 0));
+  parent.child = std::make_unique<CPlainWindow>(log_, std::nullopt);
+  ASSERT_TRUE(parent.child->Create(nullptr, L"", WS_CHILD, CRect(0, 0, 5, 5), &parent, 1));
+  ::DestroyWindow(*parent.child);
+  EXPECT_EQ(log_, "member ended;");
+  EXPECT_EQ(windows_.live_windows(), 1);
 }
 
 TEST_F(LibraryWindowTest, AHostsClassAddsToItsMessagesAndClass) {
