@@ -12,18 +12,13 @@ class KeyboardTest : public WindowTest {
     child_ = settled_child("child", top_, 0, 0, 50, 50);
     recorder().only({WM_KEYDOWN, WM_CHAR, WM_KEYUP, WM_SYSKEYDOWN, WM_SYSCHAR, WM_SYSKEYUP});
   }
-  void stroke(int virtual_key) {
-    send_key(virtual_key, true);
-    send_key(virtual_key, false);
-    pump();
-  }
   HWND top_ = nullptr;
   HWND child_ = nullptr;
 };
 
 TEST_F(KeyboardTest, GoToTheFocusWindow) {
   SetFocus(child_);
-  stroke('A');
+  key('A');
   EXPECT_TRUE(log_is("child (q) WM_KEYDOWN 0x41 > (q) WM_CHAR 0x61 > (q) WM_KEYUP 0x41"));
 }
 
@@ -36,7 +31,7 @@ struct KeyCharacter {
 class KeyCharacterTest : public KeyboardTest, public testing::WithParamInterface<KeyCharacter> {};
 
 TEST_P(KeyCharacterTest, OrderAndCharacter) {
-  stroke(GetParam().key);
+  key(GetParam().key);
   ASSERT_FALSE(recorder().log().empty());
   std::vector<std::string> characters;
   for (const LogLine& line : recorder().log()) {
@@ -67,10 +62,10 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(KeyboardTest, ShiftAndControlChangeTheCharacter) {
   recorder().only({WM_CHAR});
   send_key(VK_SHIFT, true);
-  stroke('A');
+  key('A');
   send_key(VK_SHIFT, false);
   send_key(VK_CONTROL, true);
-  stroke('A');
+  key('A');
   send_key(VK_CONTROL, false);
   pump();
   EXPECT_TRUE(log_is("top (q) WM_CHAR 0x41 > (q) WM_CHAR 0x1"));
@@ -118,7 +113,7 @@ TEST_F(KeyboardTest, RepeatAndReleaseAreMarkedInTheParameters) {
 
 TEST_F(KeyboardTest, WithoutFocusTheActiveWindowGetsSystemKeys) {
   SetFocus(nullptr);
-  stroke('A');
+  key('A');
   EXPECT_TRUE(log_is("top (q) WM_SYSKEYDOWN 0x41 > (q) WM_SYSCHAR 0x61 > (q) WM_SYSKEYUP 0x41"));
 }
 
@@ -126,7 +121,7 @@ TEST_F(KeyboardTest, AltMakesSystemKeys) {
   send_key(VK_MENU, true);
   pump();
   recorder().clear();
-  stroke('A');
+  key('A');
   EXPECT_TRUE(log_is("top (q) WM_SYSKEYDOWN 0x41 > (q) WM_SYSCHAR 0x61 > (q) WM_SYSKEYUP 0x41"));
   send_key(VK_MENU, false);
   pump();
@@ -147,7 +142,7 @@ TEST_F(KeyboardTest, StateIsThatOfTheRetrievedMessageAndOfNow) {
 TEST_F(KeyboardTest, KeysWithoutAnyWindowGoNowhere) {
   DestroyWindow(top_);
   recorder().clear();
-  stroke('A');
+  key('A');
   EXPECT_TRUE(log_is(""));
 }
 

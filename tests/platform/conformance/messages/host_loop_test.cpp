@@ -2,12 +2,10 @@
 #include <gtest/gtest.h>
 #include <poll.h>
 
-#include <memory>
+#include <optional>
 #include <thread>
 
-#include "corvane/platform/platform.h"
-#include "corvane/platform/system/display/headless_display.h"
-#include "corvane/platform/system/user/window_system.h"
+#include "tests/support/own_system.h"
 
 namespace corvane::conformance {
 namespace {
@@ -27,9 +25,6 @@ class HostLoopTest : public testing::Test {
  protected:
   void SetUp() override {
     timer_ticks = user_messages = paints = 0;
-    auto display = std::make_unique<system::HeadlessDisplay>(SIZE{300, 200});
-    display_ = display.get();
-    system_ = std::make_unique<system::WindowSystem>(std::move(display));
     WNDCLASSW window_class{};
     window_class.lpfnWndProc = &count_messages;
     window_class.hbrBackground = static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH));
@@ -43,8 +38,9 @@ class HostLoopTest : public testing::Test {
     pollfd poller{system_->event_fd(), POLLIN, 0};
     return poll(&poller, 1, 0) == 1;
   }
-  system::HeadlessDisplay* display_ = nullptr;
-  std::unique_ptr<system::WindowSystem> system_;
+  std::optional<test::Desktop> desktop_{SIZE{300, 200}};
+  system::HeadlessDisplay* display_ = &desktop_->own().display;
+  system::WindowSystem* system_ = &desktop_->own().windows;
   HWND window_ = nullptr;
 };
 
@@ -114,7 +110,7 @@ TEST_F(HostLoopTest, CountsWhatIsAlive) {
 }
 
 TEST_F(HostLoopTest, SystemsEndDestroysTheWindows) {
-  system_.reset();
+  desktop_.reset();
   EXPECT_EQ(IsWindow(window_), 0);
   EXPECT_EQ(system::WindowSystem::current(), nullptr);
 }

@@ -52,8 +52,8 @@ class LayeredTest : public WindowTest {
 };
 
 TEST_F(LayeredTest, WithoutAttributesNothingIsShownAndNothingPressed) {
-  EXPECT_EQ(screen_pixel(130, 130), red);
-  EXPECT_EQ(screen_pixel(220, 200), red);
+  EXPECT_EQ(pixel(130, 130), red);
+  EXPECT_EQ(pixel(220, 200), red);
   EXPECT_EQ(on_black(), "below");
   EXPECT_EQ(on_white(), "below");
 }
@@ -80,10 +80,10 @@ TEST_F(LayeredTest, StyleMayBeAddedLaterAndClearingItForgets) {
   recorder().record_everything();
   SetWindowLongW(plain, GWL_EXSTYLE, style | layered_style);
   EXPECT_TRUE(log_is("plain WM_STYLECHANGING -20 > WM_STYLECHANGED -20"));
-  EXPECT_NE(screen_pixel(410, 110), white) << "nothing shown until attributes are set";
+  EXPECT_NE(pixel(410, 110), white) << "nothing shown until attributes are set";
   EXPECT_NE(SetLayeredWindowAttributes(plain, 0, 255, LWA_ALPHA), 0);
   SetWindowLongW(plain, GWL_EXSTYLE, style);
-  EXPECT_EQ(screen_pixel(410, 110), white) << "an ordinary window again";
+  EXPECT_EQ(pixel(410, 110), white) << "an ordinary window again";
   SetWindowLongW(plain, GWL_EXSTYLE, style | layered_style);
   EXPECT_EQ(GetLayeredWindowAttributes(plain, nullptr, nullptr, nullptr), 0);
 }
@@ -159,7 +159,7 @@ TEST_F(LayeredTest, LayeredAndTransparentLetsEverythingThrough) {
   EXPECT_EQ(on_black(), "layer");
   SetWindowLongW(layer_, GWL_EXSTYLE, layered_style | static_cast<LONG>(WS_EX_TRANSPARENT));
   EXPECT_EQ(on_black(), "below");
-  EXPECT_EQ(screen_pixel(130, 130), black) << "but it is shown";
+  EXPECT_EQ(pixel(130, 130), black) << "but it is shown";
 }
 
 TEST_F(LayeredTest, TransparentAloneTakesPresses) {
@@ -189,8 +189,8 @@ TEST_P(LayeredScreenTest, KeyShowsWhatIsBelowAndAlphaBlends) {
   const LayeredScreen& expected = GetParam();
   SetLayeredWindowAttributes(layer_, expected.key, expected.alpha, expected.flags);
   pump();
-  const COLORREF dark = screen_pixel(130, 130);
-  const COLORREF light = screen_pixel(220, 200);
+  const COLORREF dark = pixel(130, 130);
+  const COLORREF light = pixel(220, 200);
   EXPECT_EQ(dark, RGB(expected.black_part[0], expected.black_part[1], expected.black_part[2]));
   EXPECT_EQ(light, RGB(expected.white_part[0], expected.white_part[1], expected.white_part[2]));
 }
@@ -218,11 +218,11 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(LayeredTest, ChangedAttributesShowWithoutAPaint) {
   SetLayeredWindowAttributes(layer_, white, 255, LWA_COLORKEY);
   settle();
-  EXPECT_EQ(screen_pixel(220, 200), red);
+  EXPECT_EQ(pixel(220, 200), red);
   recorder().only({WM_PAINT, WM_ERASEBKGND});
   SetLayeredWindowAttributes(layer_, white, 255, LWA_ALPHA);
   pump();
-  EXPECT_EQ(screen_pixel(220, 200), white);
+  EXPECT_EQ(pixel(220, 200), white);
   EXPECT_TRUE(log_is(""));
 }
 
@@ -238,8 +238,8 @@ TEST_F(LayeredTest, PaintingWorksAsUsualAndMovingDoesNotRepaint) {
   MoveWindow(layer_, 110, 105, 200, 150, TRUE);
   pump();
   EXPECT_TRUE(log_is(""));
-  EXPECT_EQ(screen_pixel(132, 127), black);
-  EXPECT_EQ(screen_pixel(125, 122), red) << "the former place of the square";
+  EXPECT_EQ(pixel(132, 127), black);
+  EXPECT_EQ(pixel(125, 122), red) << "the former place of the square";
   MoveWindow(layer_, 110, 105, 220, 150, TRUE);
   pump();
   EXPECT_EQ(recorder().count("layer", WM_PAINT), 1);
@@ -266,8 +266,8 @@ TEST_F(LayeredChildTest, KeyPixelsPassToWhatIsBelow) {
   pump();
   EXPECT_EQ(on_black(), "layer");
   EXPECT_EQ(on_white(), "below");
-  EXPECT_EQ(screen_pixel(130, 130), black);
-  EXPECT_EQ(screen_pixel(220, 200), red);
+  EXPECT_EQ(pixel(130, 130), black);
+  EXPECT_EQ(pixel(220, 200), red);
 }
 
 TEST_F(LayeredChildTest, TransparentOnePassesThrough) {

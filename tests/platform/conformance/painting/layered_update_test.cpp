@@ -60,10 +60,10 @@ TEST_F(UpdateLayeredTest, SetsContentPositionAndSizeWithoutAnyMessage) {
   pump();
   EXPECT_TRUE(log_is(""));
   EXPECT_EQ(text_of(window_rect(layer_)), "150,160,210,200");
-  EXPECT_EQ(screen_pixel(150, 160), RGB(0, 255, 0));
-  EXPECT_EQ(screen_pixel(209, 199), RGB(0, 255, 0));
-  EXPECT_EQ(screen_pixel(149, 160), red);
-  EXPECT_EQ(screen_pixel(210, 199), red);
+  EXPECT_EQ(pixel(150, 160), RGB(0, 255, 0));
+  EXPECT_EQ(pixel(209, 199), RGB(0, 255, 0));
+  EXPECT_EQ(pixel(149, 160), red);
+  EXPECT_EQ(pixel(210, 199), red);
 }
 
 TEST_F(UpdateLayeredTest, HiddenWindowStaysHiddenAndNeedsNoPaintWhenShown) {
@@ -72,12 +72,12 @@ TEST_F(UpdateLayeredTest, HiddenWindowStaysHiddenAndNeedsNoPaintWhenShown) {
   const Picture picture(60, 40, 0xFF00FF00);
   EXPECT_NE(apply(picture, {}), 0);
   EXPECT_EQ(IsWindowVisible(layer_), 0);
-  EXPECT_EQ(screen_pixel(110, 110), red);
+  EXPECT_EQ(pixel(110, 110), red);
   recorder().only({WM_PAINT, WM_ERASEBKGND});
   ShowWindow(layer_, SW_SHOW);
   pump();
   EXPECT_TRUE(log_is(""));
-  EXPECT_EQ(screen_pixel(110, 110), RGB(0, 255, 0));
+  EXPECT_EQ(pixel(110, 110), RGB(0, 255, 0));
 }
 
 struct UpdateCase {
@@ -95,7 +95,7 @@ TEST_P(UpdateCaseTest, AlphaAndKeyDecideOnPixelAndPress) {
   pump();
   EXPECT_EQ(pressed_at(120, 120), GetParam().pressed);
   const auto& [r, g, b] = GetParam().seen;
-  const COLORREF seen = screen_pixel(120, 120);
+  const COLORREF seen = pixel(120, 120);
   EXPECT_NEAR(GetRValue(seen), r, 1);
   EXPECT_NEAR(GetGValue(seen), g, 1);
   EXPECT_NEAR(GetBValue(seen), b, 1);
@@ -154,8 +154,8 @@ TEST_F(UpdateLayeredTest, LaterContentReplacesTheFormer) {
   EXPECT_NE(apply(Picture(60, 40, 0xFF00FF00), {}), 0);
   EXPECT_NE(apply(Picture(30, 30, 0xFF0000FF), {}), 0);
   EXPECT_EQ(text_of(window_rect(layer_)), "100,100,130,130");
-  EXPECT_EQ(screen_pixel(110, 110), RGB(0, 0, 255));
-  EXPECT_EQ(screen_pixel(140, 110), red);
+  EXPECT_EQ(pixel(110, 110), RGB(0, 0, 255));
+  EXPECT_EQ(pixel(140, 110), red);
 }
 
 TEST_F(UpdateLayeredTest, SourcePointChoosesThePart) {
@@ -167,7 +167,7 @@ TEST_F(UpdateLayeredTest, SourcePointChoosesThePart) {
   EXPECT_NE(UpdateLayeredWindow(layer_, nullptr, nullptr, &size, picture.dc(), &source, 0, &blend,
                                 ULW_ALPHA),
             0);
-  EXPECT_EQ(screen_pixel(105, 105), RGB(0, 0, 255));
+  EXPECT_EQ(pixel(105, 105), RGB(0, 0, 255));
 }
 
 TEST_F(UpdateLayeredTest, WithoutTheStyleItFails) {

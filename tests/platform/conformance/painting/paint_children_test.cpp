@@ -48,7 +48,7 @@ TEST_F(PaintChildrenTest, ParentsDrawingReachesTheChildrensPixels) {
   });
   invalidate_parent({0, 0, 200, 150});
   pump();
-  EXPECT_EQ(screen_pixel(160, 160), RGB(255, 0, 0));
+  EXPECT_EQ(pixel(160, 160), RGB(255, 0, 0));
 }
 
 TEST_F(PaintChildrenTest, RepaintedChildCoversTheParentsDrawing) {
@@ -57,8 +57,8 @@ TEST_F(PaintChildrenTest, RepaintedChildCoversTheParentsDrawing) {
   paint_patches("child", {{{0, 0, 60, 40}, RGB(0, 255, 0)}});
   invalidate_parent({0, 0, 200, 150});
   pump();
-  EXPECT_EQ(screen_pixel(160, 160), RGB(0, 255, 0));
-  EXPECT_EQ(screen_pixel(110, 110), RGB(255, 0, 0));
+  EXPECT_EQ(pixel(160, 160), RGB(0, 255, 0));
+  EXPECT_EQ(pixel(110, 110), RGB(255, 0, 0));
 }
 
 TEST_F(PaintChildrenTest, ClippingParentLeavesItsChildrenAlone) {
@@ -70,8 +70,8 @@ TEST_F(PaintChildrenTest, ClippingParentLeavesItsChildrenAlone) {
   invalidate_parent({0, 0, 200, 150});
   pump();
   EXPECT_EQ(recorder().count("child", WM_PAINT), 0);
-  EXPECT_EQ(screen_pixel(160, 160), RGB(0, 255, 0));
-  EXPECT_EQ(screen_pixel(110, 110), RGB(255, 0, 0));
+  EXPECT_EQ(pixel(160, 160), RGB(0, 255, 0));
+  EXPECT_EQ(pixel(110, 110), RGB(255, 0, 0));
 }
 
 TEST_F(PaintChildrenTest, ClippingParentsUpdateRegionHasTheChildCutOut) {
@@ -86,8 +86,8 @@ TEST_F(PaintChildrenTest, ClippingParentsDrawingOutsidePaintIsCutToo) {
   const HDC dc = GetDC(parent_);
   fill(dc, {0, 0, 200, 150}, RGB(255, 0, 0));
   ReleaseDC(parent_, dc);
-  EXPECT_EQ(screen_pixel(160, 160), RGB(255, 255, 255));
-  EXPECT_EQ(screen_pixel(110, 110), RGB(255, 0, 0));
+  EXPECT_EQ(pixel(160, 160), RGB(255, 255, 255));
+  EXPECT_EQ(pixel(110, 110), RGB(255, 0, 0));
 }
 
 TEST_F(PaintChildrenTest, ObservedThatARegionUnderAChildStillGivesAnEmptyPaint) {
@@ -158,7 +158,7 @@ TEST_F(PaintChildrenTest, SiblingsDoNotClipEachOther) {
   const HDC dc = GetDC(sibling);
   fill(dc, {0, 0, 60, 40}, RGB(255, 0, 0));
   ReleaseDC(sibling, dc);
-  EXPECT_EQ(screen_pixel(165, 165), RGB(255, 0, 0)) << "under the upper sibling";
+  EXPECT_EQ(pixel(165, 165), RGB(255, 0, 0)) << "under the upper sibling";
 }
 
 TEST_F(PaintChildrenTest, ClippingSiblingsAreCutByThoseAbove) {
@@ -167,8 +167,8 @@ TEST_F(PaintChildrenTest, ClippingSiblingsAreCutByThoseAbove) {
   const HDC dc = GetDC(sibling);
   fill(dc, {0, 0, 60, 40}, RGB(255, 0, 0));
   ReleaseDC(sibling, dc);
-  EXPECT_EQ(screen_pixel(165, 165), RGB(255, 255, 255));
-  EXPECT_EQ(screen_pixel(215, 195), RGB(255, 0, 0));
+  EXPECT_EQ(pixel(165, 165), RGB(255, 255, 255));
+  EXPECT_EQ(pixel(215, 195), RGB(255, 0, 0));
 }
 
 TEST_F(PaintChildrenTest, HidingAChildInvalidatesTheParentsPartWithErase) {
@@ -187,9 +187,9 @@ TEST_F(PaintChildrenTest, ChildrenAreClippedToTheirParent) {
   const HDC dc = GetDC(wide);
   fill(dc, {0, 0, 500, 500}, RGB(255, 0, 0));
   ReleaseDC(wide, dc);
-  EXPECT_EQ(screen_pixel(299, 249), RGB(255, 0, 0));
-  EXPECT_NE(screen_pixel(300, 249), RGB(255, 0, 0));
-  EXPECT_NE(screen_pixel(299, 250), RGB(255, 0, 0));
+  EXPECT_EQ(pixel(299, 249), RGB(255, 0, 0));
+  EXPECT_NE(pixel(300, 249), RGB(255, 0, 0));
+  EXPECT_NE(pixel(299, 250), RGB(255, 0, 0));
 }
 
 TEST_F(PaintChildrenTest, HiddenChildrenAreNeitherInvalidatedNorCutOut) {

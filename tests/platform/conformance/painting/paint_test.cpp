@@ -172,9 +172,9 @@ TEST_F(PaintTest, ClipIsTheExactRegion) {
   invalidate({100, 100, 120, 120}, FALSE);
   pump();
   EXPECT_EQ(visible, (std::vector<BOOL>{1, 1, 0}));
-  EXPECT_EQ(screen_pixel(105, 105), RGB(255, 0, 0));
-  EXPECT_EQ(screen_pixel(205, 205), RGB(255, 0, 0));
-  EXPECT_EQ(screen_pixel(150, 150), RGB(255, 255, 255));
+  EXPECT_EQ(pixel(105, 105), RGB(255, 0, 0));
+  EXPECT_EQ(pixel(205, 205), RGB(255, 0, 0));
+  EXPECT_EQ(pixel(150, 150), RGB(255, 255, 255));
 }
 
 TEST_F(PaintTest, UpdateWindowSendsThePaintWhenThereIsSomething) {
@@ -299,10 +299,10 @@ TEST_F(PaintTest, DrawingOutsidePaintIsShownAndClippedToTheWindow) {
   ASSERT_NE(dc, nullptr);
   fill(dc, {-50, -50, 500, 500}, RGB(0, 0, 255));
   EXPECT_EQ(ReleaseDC(popup_, dc), 1);
-  EXPECT_EQ(screen_pixel(100, 100), RGB(0, 0, 255));
-  EXPECT_EQ(screen_pixel(299, 249), RGB(0, 0, 255));
-  EXPECT_NE(screen_pixel(99, 100), RGB(0, 0, 255));
-  EXPECT_NE(screen_pixel(300, 249), RGB(0, 0, 255));
+  EXPECT_EQ(pixel(100, 100), RGB(0, 0, 255));
+  EXPECT_EQ(pixel(299, 249), RGB(0, 0, 255));
+  EXPECT_NE(pixel(99, 100), RGB(0, 0, 255));
+  EXPECT_NE(pixel(300, 249), RGB(0, 0, 255));
 }
 
 }  // namespace

@@ -27,37 +27,35 @@ class ScrollPaintTest : public WindowTest {
   // The part of a column of the bar that is neither track nor arrow: the thumb, from..to.
   std::string thumb_at(int x, int top, int bottom) {
     pump();
-    const COLORREF track = screen_pixel(x - 7, top + 20);
-    int begin = top, end = top;
-    for (int y = top + 17; y < bottom - 17; ++y) {
-      if (screen_pixel(x, y) == track) continue;
-      if (begin == top) begin = y;
-      end = y + 1;
-    }
-    return std::to_string(begin - top) + ".." + std::to_string(end - top);
+    const test::Frame screen = frame();
+    const COLORREF track = screen.at(x - 7, top + 20);
+    RECT found{};
+    if (screen.count_other_than({x, top + 17, x + 1, bottom - 17}, track, &found) == 0)
+      found.top = found.bottom = top;
+    return std::to_string(found.top - top) + ".." + std::to_string(found.bottom - top);
   }
   std::string thumb() { return thumb_at(bar_x, 100, 400); }
   bool bar_is_whole() {
     pump();
-    for (int y = 100; y < 400; ++y)
-      for (const int x : {283, 299})
-        if (screen_pixel(x, y) == red || screen_pixel(x, y) == white) return false;
-    return true;
+    const test::Frame screen = frame();
+    const auto of_client = [](COLORREF color) { return color == red || color == white; };
+    return screen.count({283, 100, 284, 400}, of_client) == 0 &&
+           screen.count({299, 100, 300, 400}, of_client) == 0;
   }
   HWND window_ = nullptr;
 };
 
 TEST_F(ScrollPaintTest, StandsRightOfTheClientOverTheWholeHeight) {
-  EXPECT_EQ(screen_pixel(282, 250), white);
+  EXPECT_EQ(pixel(282, 250), white);
   EXPECT_TRUE(bar_is_whole());
-  EXPECT_NE(screen_pixel(300, 250), screen_pixel(299, 250));
+  EXPECT_NE(pixel(300, 250), pixel(299, 250));
 }
 
 TEST_F(ScrollPaintTest, HasAnArrowAtEachEnd) {
-  const COLORREF track = screen_pixel(284, 250);
-  EXPECT_NE(screen_pixel(bar_x, 108), track);
-  EXPECT_NE(screen_pixel(bar_x, 391), track);
-  EXPECT_EQ(screen_pixel(bar_x, 101), track);
+  const COLORREF track = pixel(284, 250);
+  EXPECT_NE(pixel(bar_x, 108), track);
+  EXPECT_NE(pixel(bar_x, 391), track);
+  EXPECT_EQ(pixel(bar_x, 101), track);
 }
 
 // A pixel of track is left at each end of the thumb.
@@ -85,10 +83,10 @@ TEST_F(ScrollPaintTest, WithWmSetredrawOffItWaits) {
 }
 
 TEST_F(ScrollPaintTest, UpdateWindowDrawsItAtOnce) {
-  const COLORREF track = screen_pixel(bar_x, 350);
+  const COLORREF track = pixel(bar_x, 350);
   SetScrollPos(window_, SB_VERT, 301, TRUE);
   UpdateWindow(window_);
-  EXPECT_NE(screen_pixel(bar_x, 350), track);
+  EXPECT_NE(pixel(bar_x, 350), track);
 }
 
 TEST_F(ScrollPaintTest, NewPositionPaintsNothingButTheBar) {
@@ -103,7 +101,7 @@ TEST_F(ScrollPaintTest, DraggedThumbMovesAndGoesBackWhenLetGo) {
   std::vector<COLORREF> colors;
   recorder().before_default("pop", WM_TIMER, [&] {
     seen.push_back(thumb());
-    colors.push_back(screen_pixel(bar_x, 350));
+    colors.push_back(pixel(bar_x, 350));
     KillTimer(window_, 1);
     send_mouse(MOUSEEVENTF_LEFTUP);
   });
@@ -114,14 +112,14 @@ TEST_F(ScrollPaintTest, DraggedThumbMovesAndGoesBackWhenLetGo) {
   pump();
   EXPECT_EQ(seen, (std::vector<std::string>{"151..282"}));
   EXPECT_EQ(thumb(), "18..149") << "the program has not set the position";
-  EXPECT_NE(colors.at(0), screen_pixel(bar_x, 200)) << "darker while held";
+  EXPECT_NE(colors.at(0), pixel(bar_x, 200)) << "darker while held";
 }
 
 TEST_F(ScrollPaintTest, PressedArrowIsShownPressed) {
-  const COLORREF before = screen_pixel(284, 390);
+  const COLORREF before = pixel(284, 390);
   COLORREF held = before;
   recorder().before_default("pop", WM_TIMER, [&] {
-    held = screen_pixel(284, 390);
+    held = pixel(284, 390);
     send_mouse(MOUSEEVENTF_LEFTUP);
   });
   SetTimer(window_, 1, 100, nullptr);
@@ -129,21 +127,21 @@ TEST_F(ScrollPaintTest, PressedArrowIsShownPressed) {
   send_mouse(MOUSEEVENTF_LEFTDOWN);
   pump();
   EXPECT_NE(held, before);
-  EXPECT_EQ(screen_pixel(284, 390), before);
+  EXPECT_EQ(pixel(284, 390), before);
 }
 
 TEST_F(ScrollPaintTest, GreyedBarHasNoThumbAndPalerArrows) {
-  const COLORREF arrow = screen_pixel(bar_x, 108);
+  const COLORREF arrow = pixel(bar_x, 108);
   set(window_, SIF_PAGE | SIF_DISABLENOSCROLL, 0, 601, 0);
   EXPECT_EQ(thumb(), "0..0");
-  EXPECT_GT(screen_pixel(bar_x, 108) & 0xFF, arrow & 0xFF);
+  EXPECT_GT(pixel(bar_x, 108) & 0xFF, arrow & 0xFF);
 }
 
 TEST_F(ScrollPaintTest, HiddenBarLeavesWhiteClient) {
   ShowScrollBar(window_, SB_VERT, FALSE);
   pump();
-  EXPECT_EQ(screen_pixel(bar_x, 250), white);
-  EXPECT_EQ(screen_pixel(bar_x, 108), white);
+  EXPECT_EQ(pixel(bar_x, 250), white);
+  EXPECT_EQ(pixel(bar_x, 108), white);
 }
 
 TEST_F(ScrollPaintTest, ClientDrawingNeverReachesIt) {
@@ -156,13 +154,13 @@ TEST_F(ScrollPaintTest, ClientDrawingNeverReachesIt) {
   ReleaseDC(window_, dc);
   EXPECT_TRUE(bar_is_whole());
   EXPECT_EQ(thumb(), before);
-  EXPECT_EQ(screen_pixel(282, 250), red);
+  EXPECT_EQ(pixel(282, 250), red);
 }
 
 TEST_F(ScrollPaintTest, FollowsEverySize) {
   MoveWindow(window_, 100, 100, 250, 200, TRUE);
   EXPECT_EQ(thumb_at(341, 100, 300).substr(0, 3), "18.");
-  EXPECT_EQ(screen_pixel(bar_x, 250), white) << "where the bar was";
+  EXPECT_EQ(pixel(bar_x, 250), white) << "where the bar was";
   MoveWindow(window_, 100, 100, 150, 300, TRUE);
   EXPECT_EQ(thumb_at(241, 100, 400), "18..149");
 }
@@ -213,40 +211,40 @@ TEST_P(ChildScrollPaintTest, ParentPaintsBelowIt) {
   InvalidateRect(parent_, &only_the_bar, TRUE);
   EXPECT_EQ(childs_thumb(), "18..149");
   UpdateWindow(parent_);
-  EXPECT_EQ(screen_pixel(610, 200), red);
+  EXPECT_EQ(pixel(610, 200), red);
 }
 
 TEST_P(ChildScrollPaintTest, MovesWithTheChild) {
   MoveWindow(child_, 40, 40, 200, 300, TRUE);
   EXPECT_EQ(thumb_at(631, 140, 440), "18..149");
-  EXPECT_EQ(screen_pixel(601, 130), red);
+  EXPECT_EQ(pixel(601, 130), red);
 }
 
 TEST_P(ChildScrollPaintTest, IsClippedByTheParent) {
   MoveWindow(child_, 108, 20, 200, 300, TRUE);  // the bar from 291 to 307 of 300
   pump();
-  EXPECT_NE(screen_pixel(699, 200), red);
-  EXPECT_NE(screen_pixel(699, 200), screen_pixel(700, 200));
+  EXPECT_NE(pixel(699, 200), red);
+  EXPECT_NE(pixel(699, 200), pixel(700, 200));
   MoveWindow(child_, 10, 20, 200, 300, TRUE);
   EXPECT_EQ(childs_thumb(), "18..149");
-  EXPECT_EQ(screen_pixel(608, 300), screen_pixel(594, 300)) << "what was outside is drawn";
+  EXPECT_EQ(pixel(608, 300), pixel(594, 300)) << "what was outside is drawn";
 }
 
 TEST_P(ChildScrollPaintTest, FollowsTheChildsSize) {
   MoveWindow(child_, 10, 20, 150, 300, TRUE);
   EXPECT_EQ(thumb_at(551, 120, 420), "18..149") << "narrower";
-  EXPECT_EQ(screen_pixel(601, 200), red);
+  EXPECT_EQ(pixel(601, 200), red);
   MoveWindow(child_, 10, 20, 150, 167, TRUE);
   EXPECT_EQ(thumb_at(551, 120, 287), "18..82") << "lower";
   MoveWindow(child_, 10, 20, 200, 300, TRUE);
   EXPECT_EQ(childs_thumb(), "18..149") << "larger";
-  EXPECT_EQ(screen_pixel(551, 200), white);
+  EXPECT_EQ(pixel(551, 200), white);
 }
 
 TEST_P(ChildScrollPaintTest, ComesAndGoes) {
   ShowScrollBar(child_, SB_VERT, FALSE);
   pump();
-  EXPECT_EQ(screen_pixel(601, 200), white);
+  EXPECT_EQ(pixel(601, 200), white);
   ShowScrollBar(child_, SB_VERT, TRUE);
   EXPECT_EQ(childs_thumb(), "18..149");
 }
@@ -256,12 +254,12 @@ TEST_P(ChildScrollPaintTest, IsUncoveredByASibling) {
   paint_patches("above", {{{0, 0, 100, 100}, red}});
   SetWindowPos(above, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
   pump();
-  EXPECT_EQ(screen_pixel(601, 200), red);
+  EXPECT_EQ(pixel(601, 200), red);
   DestroyWindow(above);
   EXPECT_EQ(childs_thumb(), "18..149");
-  EXPECT_NE(screen_pixel(601, 200), red);
-  EXPECT_EQ(screen_pixel(594, 200), screen_pixel(594, 400)) << "the track beside the thumb";
-  EXPECT_EQ(screen_pixel(580, 200), white) << "the client area";
+  EXPECT_NE(pixel(601, 200), red);
+  EXPECT_EQ(pixel(594, 200), pixel(594, 400)) << "the track beside the thumb";
+  EXPECT_EQ(pixel(580, 200), white) << "the client area";
 }
 
 INSTANTIATE_TEST_SUITE_P(, ChildScrollPaintTest,
@@ -277,8 +275,8 @@ TEST_F(ScrollPaintTest, SiblingAboveIsNotDrawnOver) {
   SetScrollPos(below, SB_VERT, 301, TRUE);
   pump();
   EXPECT_NE(above, nullptr);
-  EXPECT_EQ(screen_pixel(601, 200), white);
-  EXPECT_NE(screen_pixel(601, 370), white);
+  EXPECT_EQ(pixel(601, 200), white);
+  EXPECT_NE(pixel(601, 370), white);
 }
 
 }  // namespace

@@ -5,6 +5,8 @@
 #include <sstream>
 #include <vector>
 
+#include "tests/support/rects.h"
+
 namespace corvane::conformance {
 
 namespace {
@@ -201,17 +203,13 @@ std::string mouse_details(UINT message, WPARAM wparam, LPARAM lparam, const Wind
     case WM_NCLBUTTONDBLCLK:
       return std::to_string(wparam) + " " + point_text(lparam);
     case WM_MOVING:
-      return rectangle_text(*reinterpret_cast<const RECT*>(lparam));
+      return test::text_of(*reinterpret_cast<const RECT*>(lparam));
     default:
       return key_or_command_details(message, wparam, lparam, name_of);
   }
 }
 
 }  // namespace
-
-std::string rectangle_text(const RECT& rect) {
-  return point_text(rect.left, rect.top) + "," + point_text(rect.right, rect.bottom);
-}
 
 std::string message_name(UINT message) {
   const auto found = names().find(message);

@@ -15,6 +15,4 @@ std::string message_name(UINT message);
 // The parameters, decoded: sizes as 40x30, points as 10,20, windows by name, flags joined by |.
 std::string message_details(UINT message, WPARAM wparam, LPARAM lparam, const WindowNamer& name_of);
 
-std::string rectangle_text(const RECT& rect);  // left,top,right,bottom
-
 }  // namespace corvane::conformance

@@ -4,6 +4,7 @@
 
 #include "tests/platform/conformance/support/log_pattern.h"
 #include "tests/platform/conformance/support/message_names.h"
+#include "tests/support/rects.h"
 
 namespace corvane::conformance {
 
@@ -168,7 +169,7 @@ LRESULT MessageRecorder::paint(const Message& message, std::optional<std::size_t
   BeginPaint(message.window, &paint);
   if (line && *line < log_.size()) {
     log_[*line].text +=
-        " " + rectangle_text(paint.rcPaint) + " fErase=" + std::to_string(paint.fErase);
+        " " + test::text_of(paint.rcPaint) + " fErase=" + std::to_string(paint.fErase);
   }
   EndPaint(message.window, &paint);
   return 0;

@@ -1,38 +1,28 @@
 #pragma once
-// One window system per case, driven by input and by a clock that moves when told.
+// A desktop for each case, whose windows record their messages.
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "tests/platform/conformance/support/message_recorder.h"
+#include "tests/support/desktop.h"
+#include "tests/support/rects.h"
 
 namespace corvane::conformance {
 
-class WindowTest : public testing::Test {
+using test::client_rect;
+using test::fill;
+using test::text_of;
+using test::window_rect;
+
+class WindowTest : public testing::Test, protected test::Desktop {
  protected:
-  WindowTest();
-  ~WindowTest() override;
   void SetUp() override;
   void TearDown() override;
 
-  // Retrieves, translates and dispatches until the queue is empty.
-  void pump();
-  void advance(unsigned milliseconds);
-  // What the screen shows; composes first.
-  COLORREF screen_pixel(int x, int y);
-
-  void move_to(int x, int y);  // and pumps
-  void press(DWORD flag = MOUSEEVENTF_LEFTDOWN);
-  void release(DWORD flag = MOUSEEVENTF_LEFTUP);
+  // The platform's bare click: nothing passes after it.
   void click(int x, int y);
-  void press_at(int x, int y);
-  void wheel(int delta);
-  void key_down(int virtual_key);
-  void key_up(int virtual_key);
-  static void send_mouse(DWORD flags, int data = 0);
-  static void send_key(int virtual_key, bool down);
-
   HWND create(const std::string& name, const WindowPlan& plan) {
     return recorder().create(name, plan);
   }
@@ -58,15 +48,9 @@ class WindowTest : public testing::Test {
   void paint_patches(const std::string& window, std::vector<Patch> patches);
 
  private:
-  struct System;
-  std::unique_ptr<System> system_;
   std::unique_ptr<MessageRecorder> recorder_;
 };
 
-RECT window_rect(HWND window);
-RECT client_rect(HWND window);
 RECT update_rect(HWND window);
-std::string text_of(const RECT& rect);
-void fill(HDC dc, const RECT& rect, COLORREF color);
 
 }  // namespace corvane::conformance

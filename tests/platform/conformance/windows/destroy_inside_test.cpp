@@ -63,7 +63,7 @@ class DestroyInsideTest : public WindowTest, public testing::WithParamInterface<
     InvalidateRect(fresh, nullptr, TRUE);
     pump();
     EXPECT_TRUE(log_is("fresh (q) WM_LBUTTONDOWN 10,20 > (q) WM_KEYDOWN > (q) WM_PAINT 0,0,60,60"));
-    EXPECT_EQ(screen_pixel(630, 640), RGB(255, 255, 255));
+    EXPECT_EQ(pixel(630, 640), RGB(255, 255, 255));
   }
 };
 

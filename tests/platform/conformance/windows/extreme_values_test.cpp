@@ -43,7 +43,7 @@ TEST_F(ExtremeValuesTest, PositionsOfWindows) {
     }
     MoveWindow(window, 20, 20, 60, 60, TRUE);
   }
-  EXPECT_EQ(screen_pixel(50, 50), RGB(255, 255, 255));
+  EXPECT_EQ(pixel(50, 50), RGB(255, 255, 255));
 }
 
 TEST_F(ExtremeValuesTest, SizesOfWindows) {

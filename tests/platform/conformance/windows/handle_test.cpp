@@ -230,7 +230,7 @@ TEST_F(HandleArgumentTest, ReleasedDeviceContextsCannotBeUsedAgain) {
   EXPECT_EQ(ReleaseDC(live, dc), 0);
   const RECT rect{0, 0, 50, 50};
   FillRect(dc, &rect, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
-  EXPECT_EQ(screen_pixel(10, 10), RGB(255, 255, 255));
+  EXPECT_EQ(pixel(10, 10), RGB(255, 255, 255));
 }
 
 TEST_F(HandleArgumentTest, DrawingIntoAWindowDestroyedMeanwhileIsHarmless) {
@@ -240,7 +240,7 @@ TEST_F(HandleArgumentTest, DrawingIntoAWindowDestroyedMeanwhileIsHarmless) {
   const RECT rect{0, 0, 50, 50};
   FillRect(dc, &rect, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
   ReleaseDC(live, dc);
-  EXPECT_NE(screen_pixel(10, 10), RGB(255, 255, 255));
+  EXPECT_NE(pixel(10, 10), RGB(255, 255, 255));
 }
 
 }  // namespace

@@ -105,8 +105,8 @@ TEST_F(MoveWindowTest, MovedChildKeepsItsPixelsAndTheParentPaintsTheGap) {
   EXPECT_EQ(recorder().count("child", WM_ERASEBKGND), 0);
   EXPECT_EQ(recorder().count("parent", WM_PAINT), 1);
   EXPECT_EQ(recorder().count("parent", WM_ERASEBKGND), 1);
-  EXPECT_EQ(screen_pixel(205, 125), RGB(200, 0, 0));
-  EXPECT_EQ(screen_pixel(115, 125), RGB(255, 255, 255));
+  EXPECT_EQ(pixel(205, 125), RGB(200, 0, 0));
+  EXPECT_EQ(pixel(115, 125), RGB(255, 255, 255));
 }
 
 TEST_F(MoveWindowTest, ParentPaintsExactlyWhatWasUncovered) {

@@ -99,7 +99,7 @@ TEST_F(OverlayStackTest, LayerStaysAboveTheBackgroundThatTakesTheActivation) {
              "layer WM_ACTIVATE 0 background > background WM_ACTIVATE 1 layer"));
   EXPECT_EQ(GetWindow(layer_, GW_HWNDNEXT), background_);
   pump();
-  EXPECT_EQ(screen_pixel(130, 130), RGB(40, 40, 40));
+  EXPECT_EQ(pixel(130, 130), RGB(40, 40, 40));
 }
 
 TEST_F(OverlayStackTest, PressOnTheDarkPartIsTheLayers) {

@@ -246,13 +246,13 @@ TEST_F(ObservedShowOrder, OwnersDoNotTakeTheirPopupsAlong) {
 TEST_F(ShowWindowTest, ContentsAppearAndDisappearOnTheScreen) {
   const HWND popup =
       create("pop", {.style = WS_POPUP, .x = 10, .y = 10, .width = 50, .height = 50});
-  const COLORREF desktop = screen_pixel(20, 20);
+  const COLORREF desktop = pixel(20, 20);
   ShowWindow(popup, SW_SHOW);
   pump();
-  EXPECT_EQ(screen_pixel(20, 20), RGB(255, 255, 255));
+  EXPECT_EQ(pixel(20, 20), RGB(255, 255, 255));
   ShowWindow(popup, SW_HIDE);
   pump();
-  EXPECT_EQ(screen_pixel(20, 20), desktop);
+  EXPECT_EQ(pixel(20, 20), desktop);
 }
 
 }  // namespace

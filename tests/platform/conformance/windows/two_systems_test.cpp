@@ -2,13 +2,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <memory>
 #include <thread>
 #include <vector>
 
-#include "corvane/platform/platform.h"
-#include "corvane/platform/system/display/headless_display.h"
-#include "corvane/platform/system/user/window_system.h"
+#include "tests/support/own_system.h"
 
 namespace corvane::conformance {
 namespace {
@@ -22,31 +19,10 @@ LRESULT CALLBACK collect(HWND window, UINT message, WPARAM wparam, LPARAM lparam
   return DefWindowProcW(window, message, wparam, lparam);
 }
 
-// One system with one visible window that collects its messages.
-class Desk {
+// A desktop with one visible window that collects its messages.
+class Desk : public test::Desktop {
  public:
-  Desk() : Desk(std::make_unique<system::HeadlessDisplay>(SIZE{200, 100})) {}
-  Desk(const Desk&) = delete;
-  Desk& operator=(const Desk&) = delete;
-
-  void pump() {
-    MSG message{};
-    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != 0) {
-      TranslateMessage(&message);
-      DispatchMessageW(&message);
-    }
-  }
-  int count(UINT message) const {
-    return static_cast<int>(std::count(messages_.begin(), messages_.end(), message));
-  }
-  void make_current() { windows_.make_current(); }
-  system::WindowSystem& windows() { return windows_; }
-  HWND window() const { return window_; }
-  void advance(unsigned milliseconds) { display_.advance(milliseconds); }
-
- private:
-  explicit Desk(std::unique_ptr<system::HeadlessDisplay> display)
-      : display_(*display), windows_(std::move(display)) {
+  Desk() : Desktop({200, 100}) {
     WNDCLASSW window_class{};
     window_class.lpfnWndProc = &collect;
     window_class.hbrBackground = static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH));
@@ -58,22 +34,28 @@ class Desk {
     pump();
     SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&messages_));
   }
+  ~Desk() { SetWindowLongPtrW(window_, GWLP_USERDATA, 0); }
 
-  std::vector<UINT> messages_;  // outlives the windows
-  system::HeadlessDisplay& display_;
-  system::WindowSystem windows_;
+  int count(UINT message) const {
+    return static_cast<int>(std::count(messages_.begin(), messages_.end(), message));
+  }
+  void make_current() { own().windows.make_current(); }
+  HWND window() const { return window_; }
+
+ private:
+  std::vector<UINT> messages_;
   HWND window_ = nullptr;
 };
 
 TEST(TwoSystemsTest, TheLatestIsCurrentAndItsEndRestoresTheFormer) {
   EXPECT_EQ(system::WindowSystem::current(), nullptr);
   Desk first;
-  EXPECT_EQ(system::WindowSystem::current(), &first.windows());
+  EXPECT_EQ(system::WindowSystem::current(), &first.own().windows);
   {
     Desk second;
-    EXPECT_EQ(system::WindowSystem::current(), &second.windows());
+    EXPECT_EQ(system::WindowSystem::current(), &second.own().windows);
   }
-  EXPECT_EQ(system::WindowSystem::current(), &first.windows());
+  EXPECT_EQ(system::WindowSystem::current(), &first.own().windows);
   EXPECT_NE(IsWindow(first.window()), 0);
 }
 
@@ -118,7 +100,7 @@ TEST(TwoSystemsTest, ClassesOfOneAreUnknownToTheOther) {
   window_class.lpfnWndProc = &DefWindowProcW;
   window_class.lpszClassName = L"OnlyHere";
   EXPECT_NE(RegisterClassW(&window_class), 0);
-  system::WindowSystem second(std::make_unique<system::HeadlessDisplay>());
+  const test::Desktop second;
   EXPECT_EQ(CreateWindowExW(0, L"OnlyHere", L"", WS_POPUP, 0, 0, 5, 5, nullptr, nullptr, nullptr,
                             nullptr),
             nullptr);

@@ -1,0 +1,40 @@
+#include "tests/support/frame.h"
+
+#include <algorithm>
+
+namespace corvane::test {
+
+COLORREF Frame::at(int x, int y) const {
+  if (x < 0 || y < 0 || x >= size_.cx || y >= size_.cy) return CLR_INVALID;
+  const std::uint32_t pixel = pixels_[static_cast<std::size_t>(y * size_.cx + x)];
+  return ((pixel & 0xFF) << 16) | (pixel & 0xFF00) | ((pixel >> 16) & 0xFF);
+}
+
+bool Frame::is_all(const RECT& rect, COLORREF color) const {
+  return count_other_than(rect, color) == 0;
+}
+
+int Frame::count(const RECT& rect, const std::function<bool(COLORREF)>& condition) const {
+  int number = 0;
+  for (int y = rect.top; y < rect.bottom; ++y) {
+    for (int x = rect.left; x < rect.right; ++x) number += condition(at(x, y)) ? 1 : 0;
+  }
+  return number;
+}
+
+int Frame::count_other_than(const RECT& rect, COLORREF color, RECT* bounds) const {
+  int number = 0;
+  RECT around{rect.right, rect.bottom, rect.left, rect.top};
+  for (int y = rect.top; y < rect.bottom; ++y) {
+    for (int x = rect.left; x < rect.right; ++x) {
+      if (at(x, y) == color) continue;
+      ++number;
+      around = {std::min<LONG>(around.left, x), std::min<LONG>(around.top, y),
+                std::max<LONG>(around.right, x + 1), std::max<LONG>(around.bottom, y + 1)};
+    }
+  }
+  if (bounds != nullptr) *bounds = number > 0 ? around : RECT{};
+  return number;
+}
+
+}  // namespace corvane::test

@@ -1,0 +1,43 @@
+#pragma once
+// Rectangles in tests: of windows, as text, as matchers, in one colour.
+#include <gmock/gmock.h>
+
+#include <string>
+
+#include "corvane/platform/platform.h"
+
+namespace corvane::test {
+
+inline RECT window_rect(HWND window) {
+  RECT rect{};
+  EXPECT_NE(::GetWindowRect(window, &rect), 0);
+  return rect;
+}
+
+inline RECT client_rect(HWND window) {
+  RECT rect{};
+  EXPECT_NE(::GetClientRect(window, &rect), 0);
+  return rect;
+}
+
+inline std::string text_of(const RECT& rect) {
+  return std::to_string(rect.left) + "," + std::to_string(rect.top) + "," +
+         std::to_string(rect.right) + "," + std::to_string(rect.bottom);
+}
+
+MATCHER_P4(is_rect, left, top, right, bottom, "") {
+  *result_listener << text_of(arg);
+  return arg.left == left && arg.top == top && arg.right == right && arg.bottom == bottom;
+}
+
+inline auto same_rect(const RECT& rect) {
+  return is_rect(rect.left, rect.top, rect.right, rect.bottom);
+}
+
+inline void fill(HDC dc, const RECT& rect, COLORREF color) {
+  const HBRUSH brush = ::CreateSolidBrush(color);
+  ::FillRect(dc, &rect, brush);
+  ::DeleteObject(brush);
+}
+
+}  // namespace corvane::test
