@@ -5,8 +5,8 @@
 #include "bench/measure.h"
 #include "corvane/layers/crop/cut_bg_layer.h"
 #include "corvane/platform/framework/framework.h"
-#include "corvane/platform/system/display/headless_display.h"
-#include "corvane/platform/system/user/window_system.h"
+#include "tests/support/app_desktop.h"
+#include "tests/support/own_system.h"
 
 namespace corvane::bench {
 namespace {
@@ -15,7 +15,6 @@ using system::HeadlessDisplay;
 using system::Pixel;
 using system::Region;
 using system::Surface;
-using system::WindowSystem;
 
 // Counts frames but keeps none, so that the time is that of making them.
 class CountingDisplay : public HeadlessDisplay {
@@ -68,15 +67,11 @@ class Drag {
 
   bool begin() {
     if (!picture_.open(size_) || !create_layers()) return false;
-    app_.m_pMainWnd = &picture_;
+    desktop_.app().m_pMainWnd = &picture_;
     background_.ShowWindow(SW_SHOW);
     move_to(size_.cx / 4, size_.cy / 4);
-    INPUT press{};
-    press.type = INPUT_MOUSE;
-    press.mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
-    ::SendInput(1, &press, sizeof press);
-    PumpMessages();
-    windows_.present();
+    desktop_.press();
+    windows().present();
     move_to(size_.cx * 3 / 4, size_.cy * 3 / 4);
     const CRect rectangle = background_.GetCutRect();
     return rectangle.Width() == size_.cx / 2 && rectangle.Height() == size_.cy / 2;
@@ -90,11 +85,15 @@ class Drag {
   }
 
   int frames() const { return display_.frames(); }
-  const Surface& frame() { return windows_.frame(); }
+  const Surface& frame() { return windows().frame(); }
 
  private:
   Drag(SIZE size, std::unique_ptr<CountingDisplay> display)
-      : size_(size), display_(*display), windows_(std::move(display)) {}
+      : size_(size),
+        display_(*display),
+        desktop_(std::make_unique<test::OwnSystem>(std::move(display))) {}
+
+  system::WindowSystem& windows() { return desktop_.own().windows; }
 
   bool create_layers() {
     const wchar_t* const window_class =
@@ -105,15 +104,13 @@ class Drag {
   }
 
   void move_to(int x, int y) {
-    ::SetCursorPos(x, y);
-    PumpMessages();
-    windows_.present();
+    desktop_.move_to(x, y);
+    windows().present();
   }
 
   SIZE size_;
   CountingDisplay& display_;
-  WindowSystem windows_;
-  CWinApp app_;
+  test::AppDesktop desktop_;
   PictureWindow picture_;
   CCutBgLayer background_;
   int steps_ = 0;

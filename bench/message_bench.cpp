@@ -3,9 +3,7 @@
 #include <cstdio>
 
 #include "bench/measure.h"
-#include "corvane/platform/system/display/headless_display.h"
-#include "corvane/platform/system/user/constants.h"
-#include "corvane/platform/system/user/window_system.h"
+#include "tests/support/own_system.h"
 
 namespace corvane::bench {
 namespace {
@@ -50,7 +48,8 @@ void post_and_dispatch(HWND window, int batches) {
 }
 
 int run(const Options& options) {
-  system::WindowSystem windows(std::make_unique<ClockedDisplay>());
+  const test::Desktop desktop(
+      std::make_unique<test::OwnSystem>(std::make_unique<ClockedDisplay>()));
   const HWND window = create_window();
   const int batches = options.smoke ? 1 : 20;
   const int rounds = options.smoke ? 2 : 20;

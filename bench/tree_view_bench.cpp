@@ -5,15 +5,12 @@
 
 #include "bench/measure.h"
 #include "corvane/platform/framework/framework.h"
-#include "corvane/platform/system/display/headless_display.h"
-#include "corvane/platform/system/user/window_system.h"
 #include "corvane/trees/owner_drawn/tree_ctrl_ex2.h"
+#include "tests/support/app_desktop.h"
+#include "tests/support/own_system.h"
 
 namespace corvane::bench {
 namespace {
-
-using system::HeadlessDisplay;
-using system::WindowSystem;
 
 constexpr SIZE tree_size{300, 900};
 constexpr int folders_in_a_year = 100;
@@ -28,17 +25,10 @@ class ParentWindow : public CWnd {
   }
 };
 
-void send_mouse(DWORD flags, int distance = 0) {
-  INPUT input{};
-  input.type = INPUT_MOUSE;
-  input.mi.dwFlags = flags;
-  input.mi.mouseData = static_cast<DWORD>(distance);
-  ::SendInput(1, &input, sizeof input);
-}
-
 // A tree of years with folders, all expanded, scrolled to its middle.
 class Tree {
  public:
+  explicit Tree(test::Desktop& desktop) : desktop_(desktop) {}
   bool open(ParentWindow& parent, int left, int folders) {
     left_ = left;
     const CRect place(left, 0, left + tree_size.cx, tree_size.cy);
@@ -68,15 +58,15 @@ class Tree {
   void click() {
     next_row_ = (next_row_ + 1) % 25;
     ::SetCursorPos(left_ + 100, 15 + next_row_ * tree_row_height);
-    send_mouse(MOUSEEVENTF_LEFTDOWN);
-    send_mouse(MOUSEEVENTF_LEFTUP);
-    finish();
+    desktop_.send_mouse(MOUSEEVENTF_LEFTDOWN);
+    desktop_.release();
+    desktop_.own().windows.present();
   }
   void turn_wheel() {
     down_ = !down_;
     ::SetCursorPos(left_ + 100, 100);
-    send_mouse(MOUSEEVENTF_WHEEL, down_ ? -wheel_notch : wheel_notch);
-    finish();
+    desktop_.wheel(down_ ? -wheel_notch : wheel_notch);
+    desktop_.own().windows.present();
   }
   // The rows are laid out anew after such a change.
   void collapse_or_expand() {
@@ -91,11 +81,8 @@ class Tree {
   static std::wstring name(const wchar_t* text, int number) {
     return text + std::to_wstring(number);
   }
-  static void finish() {
-    PumpMessages();
-    WindowSystem::current()->present();
-  }
 
+  test::Desktop& desktop_;
   CTreeCtrlEx2 tree_;
   int left_ = 0;
   int next_row_ = 0;
@@ -112,11 +99,10 @@ bool reacts(Tree& tree) {
 
 int run(const Options& options) {
   Report report(options);
-  WindowSystem windows(std::make_unique<HeadlessDisplay>(SIZE{2 * tree_size.cx, tree_size.cy}));
-  CWinApp app;
+  test::AppDesktop desktop(SIZE{2 * tree_size.cx, tree_size.cy});
   ParentWindow parent;
-  Tree few;
-  Tree many;
+  Tree few(desktop);
+  Tree many(desktop);
   const int many_folders = options.smoke ? 2000 : 100000;
   if (!parent.open() || !few.open(parent, 0, 1000) ||
       !many.open(parent, tree_size.cx, many_folders) || !reacts(few) || !reacts(many)) {

@@ -3,10 +3,9 @@
 #include <algorithm>
 #include <iterator>
 
-#include "corvane/platform/system/user/window_system.h"
 #include "fuzz/made_up_folders.h"
-#include "fuzz/patient_display.h"
 #include "fuzz/tree_play.h"
+#include "tests/support/own_system.h"
 
 namespace {
 
@@ -47,14 +46,6 @@ RECT place(ByteStream& stream) {
   const int left = stream.coordinate();
   const int top = stream.coordinate();
   return {left, top, left + stream.coordinate(), top + stream.coordinate()};
-}
-
-void send_mouse(DWORD flags, DWORD data = 0) {
-  INPUT input{};
-  input.type = INPUT_MOUSE;
-  input.mi.dwFlags = flags;
-  input.mi.mouseData = data;
-  SendInput(1, &input, sizeof(INPUT));
 }
 
 UINT message_number(ByteStream& stream) {
@@ -120,8 +111,7 @@ const Desktop::Operation Desktop::kOperations[] = {
     &Desktop::play_tree,      &Desktop::play_tree,
     &Desktop::play_tree};
 
-Desktop::Desktop(corvane::system::WindowSystem& system, PatientDisplay& display)
-    : system_(system), display_(display) {
+Desktop::Desktop(corvane::test::Desktop& desktop) : desktop_(desktop) {
   host_.open();
   app_.m_pMainWnd = &host_;
 }
@@ -138,7 +128,7 @@ void Desktop::play(ByteStream& stream) {
 void Desktop::close() {
   for (const HWND window : all_windows())
     if (IsWindow(window)) DestroyWindow(window);
-  system_.process_pending();
+  desktop_.own().windows.process_pending();
 }
 
 HWND Desktop::window(ByteStream& stream) const {
@@ -154,33 +144,32 @@ void Desktop::move_pointer(ByteStream& stream) {
   SetCursorPos(x, stream.coordinate());
 }
 
-void Desktop::press_or_release_button(ByteStream& stream) { send_mouse(one_of(kPresses, stream)); }
+void Desktop::press_or_release_button(ByteStream& stream) {
+  desktop_.send_mouse(one_of(kPresses, stream));
+}
 
 void Desktop::click(ByteStream& stream) {
   move_pointer(stream);
-  send_mouse(MOUSEEVENTF_LEFTDOWN);
-  send_mouse(MOUSEEVENTF_LEFTUP);
+  desktop_.send_mouse(MOUSEEVENTF_LEFTDOWN);
+  desktop_.send_mouse(MOUSEEVENTF_LEFTUP);
 }
 
 void Desktop::drag(ByteStream& stream) {
   move_pointer(stream);
-  send_mouse(MOUSEEVENTF_LEFTDOWN);
+  desktop_.send_mouse(MOUSEEVENTF_LEFTDOWN);
   turn_loop(stream);
   move_pointer(stream);
   turn_loop(stream);
-  if (stream.flag()) send_mouse(MOUSEEVENTF_LEFTUP);
+  if (stream.flag()) desktop_.send_mouse(MOUSEEVENTF_LEFTUP);
 }
 
 void Desktop::turn_wheel(ByteStream& stream) {
-  send_mouse(MOUSEEVENTF_WHEEL, static_cast<DWORD>(stream.flag() ? WHEEL_DELTA : -2 * WHEEL_DELTA));
+  desktop_.send_mouse(MOUSEEVENTF_WHEEL, stream.flag() ? WHEEL_DELTA : -2 * WHEEL_DELTA);
 }
 
 void Desktop::press_key(ByteStream& stream) {
-  INPUT input{};
-  input.type = INPUT_KEYBOARD;
-  input.ki.wVk = static_cast<WORD>(one_of(kKeys, stream));
-  input.ki.dwFlags = stream.flag() ? KEYEVENTF_KEYUP : 0;
-  SendInput(1, &input, sizeof(INPUT));
+  const int key = one_of(kKeys, stream);
+  desktop_.send_key(key, !stream.flag());
 }
 
 void Desktop::post_message(ByteStream& stream) {
@@ -303,12 +292,12 @@ void Desktop::play_tree(ByteStream& stream) { TreePlay(host_.tree()).play_one(st
 
 void Desktop::reopen(ByteStream&) { host_.open(); }
 
-void Desktop::advance_clock(ByteStream& stream) { display_.advance(stream.word() % 3000u); }
+void Desktop::advance_clock(ByteStream& stream) { desktop_.advance(stream.word() % 3000u); }
 
 void Desktop::resize_screen(ByteStream& stream) {
-  display_.resize({stream.coordinate(), stream.coordinate()});
+  desktop_.own().display.resize({stream.coordinate(), stream.coordinate()});
 }
 
-void Desktop::turn_loop(ByteStream&) { system_.process_pending(); }
+void Desktop::turn_loop(ByteStream&) { desktop_.own().windows.process_pending(); }
 
-void Desktop::take_frame(ByteStream&) { system_.frame(); }
+void Desktop::take_frame(ByteStream&) { desktop_.frame(); }

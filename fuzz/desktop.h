@@ -9,12 +9,7 @@
 #include "corvane/skin/xml_list_mgr.h"
 #include "corvane/trees/owner_drawn/tree_ctrl_ex2.h"
 #include "fuzz/byte_stream.h"
-
-class PatientDisplay;
-
-namespace corvane::system {
-class WindowSystem;
-}
+#include "tests/support/desktop.h"
 
 // Its window and layers may be destroyed by any operation; open() brings back what is missing.
 class FuzzHost : public corvane::CWnd {
@@ -37,7 +32,7 @@ class FuzzHost : public corvane::CWnd {
 
 class Desktop {
  public:
-  Desktop(corvane::system::WindowSystem& system, PatientDisplay& display);
+  explicit Desktop(corvane::test::Desktop& desktop);
   void play(ByteStream& stream);
   void close();  // destroys all windows
 
@@ -76,8 +71,7 @@ class Desktop {
   // A live window, the null handle, or (seldom) a handle that was never given out.
   HWND window(ByteStream& stream) const;
 
-  corvane::system::WindowSystem& system_;
-  PatientDisplay& display_;
+  corvane::test::Desktop& desktop_;
   corvane::CWinApp app_;
   FuzzHost host_;
 };

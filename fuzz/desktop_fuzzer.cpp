@@ -2,11 +2,10 @@
 #include <cstdlib>
 #include <memory>
 
-#include "corvane/platform/system/gdi/gdi.h"
-#include "corvane/platform/system/user/window_system.h"
 #include "fuzz/desktop.h"
 #include "fuzz/patient_display.h"
 #include "fuzz/require.h"
+#include "tests/support/own_system.h"
 
 namespace {
 
@@ -15,17 +14,17 @@ constexpr SIZE kScreen{320, 240};
 // Plays the stream and destroys all windows. The drawing objects that are left then: window
 // classes own some for as long as the window system lives.
 int objects_left_by(ByteStream stream) {
-  auto owned = std::make_unique<PatientDisplay>(kScreen);
-  auto& display = *owned;
-  corvane::system::WindowSystem system(std::move(owned));
+  using corvane::test::OwnSystem;
+  corvane::test::Desktop screen(
+      std::make_unique<OwnSystem>(std::make_unique<PatientDisplay>(kScreen)));
   {
-    Desktop desktop(system, display);
+    Desktop desktop(screen);
     desktop.play(stream);
     desktop.close();
-    require(system.live_windows() == 0, "no window is left when all were destroyed");
-    require(system.live_timers() == 0, "no timer is left without its window");
+    require(screen.living_windows() == 0, "no window is left when all were destroyed");
+    require(screen.own().windows.live_timers() == 0, "no timer is left without its window");
   }
-  return system.gdi().live_objects();
+  return screen.living_drawing_objects();
 }
 
 }  // namespace

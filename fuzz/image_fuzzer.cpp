@@ -2,12 +2,11 @@
 #include <memory>
 
 #include "corvane/platform/platform.h"
-#include "corvane/platform/system/display/headless_display.h"
 #include "corvane/platform/system/gdi/gdi.h"
 #include "corvane/platform/system/gdi/surface.h"
-#include "corvane/platform/system/user/window_system.h"
 #include "fuzz/input_file.h"
 #include "fuzz/require.h"
+#include "tests/support/own_system.h"
 
 namespace {
 
@@ -53,10 +52,9 @@ void read_cursor(const std::wstring& path) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  corvane::system::WindowSystem system(
-      std::make_unique<corvane::system::HeadlessDisplay>(SIZE{kSide, kSide}));
+  corvane::test::Desktop desktop({kSide, kSide});
   const InputFile file(data, size);
-  read_picture(file.wide_path(), system.gdi());
+  read_picture(file.wide_path(), desktop.own().windows.gdi());
   read_cursor(file.wide_path());
   return 0;
 }

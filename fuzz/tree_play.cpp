@@ -3,6 +3,7 @@
 #include <climits>
 
 #include "fuzz/require.h"
+#include "tests/support/desktop.h"
 
 namespace {
 
@@ -166,8 +167,5 @@ void TreePlay::press_bar(ByteStream& stream) {
   tree_.GetWindowRect(frame);
   constexpr int kMiddleOfBar = 8;  // pixels from its side
   ::SetCursorPos(frame.right - kMiddleOfBar, frame.top + stream.coordinate());
-  INPUT input{};
-  input.type = INPUT_MOUSE;
-  input.mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
-  ::SendInput(1, &input, sizeof(INPUT));
+  corvane::test::Desktop::send_mouse(MOUSEEVENTF_LEFTDOWN);
 }

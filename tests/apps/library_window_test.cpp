@@ -3,17 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <thread>
 
 #include "apps/capture/launch.h"
 #include "apps/capture/main_window.h"
-#include "apps/capture/synthetic_user.h"
 #include "corvane/platform/base_services/installation.h"
 #include "corvane/platform/base_services/system_paths.h"
-#include "corvane/platform/system/display/headless_display.h"
 #include "corvane/platform/system/shell/wide_path.h"
-#include "corvane/platform/system/user/window_system.h"
 #include "tests/apps/test_pictures.h"
+#include "tests/support/app_desktop.h"
 #include "tests/support/source_folder.h"
 #include "tests/support/temporary_folder.h"
 
@@ -44,9 +41,9 @@ class LibraryWindow : public testing::Test {
   void Start(const std::string& picture = {}) {
     Launch launch = PrepareLaunch({library_, picture, {}, true});
     ASSERT_EQ(launch.error, "");
-    app_.m_pMainWnd = &window_;
+    desktop_.app().m_pMainWnd = &window_;
     ASSERT_TRUE(window_.Open(std::move(launch.beginning)));
-    HandleWaitingMessages();
+    desktop_.pump();
   }
 
   std::wstring Path(const wchar_t* below) const { return wide_path_of(library_) + below; }
@@ -68,23 +65,22 @@ class LibraryWindow : public testing::Test {
     return rect.CenterPoint();
   }
   void ClickButton(ToolbarButton button) {
-    Click(window_.toolbar().ButtonOnScreen(button).CenterPoint());
+    desktop_.click(window_.toolbar().ButtonOnScreen(button).CenterPoint());
   }
   // Crops the middle of the picture.
   void CropAndSave() {
     ClickButton(ToolbarButton::crop);
     CRect picture(window_.view().ShownRect());
     window_.view().ClientToScreen(picture);
-    Drag({picture.left + 100, picture.top + 100}, {picture.left + 300, picture.top + 250});
-    Click(window_.CropButtonOnScreen(CropCommand::save).CenterPoint());
+    desktop_.drag({picture.left + 100, picture.top + 100}, {picture.left + 300, picture.top + 250});
+    desktop_.click(window_.CropButtonOnScreen(CropCommand::save).CenterPoint());
   }
   // Null when it is no picture or never comes.
   Thumbnail WaitForThumbnail(const std::wstring& name) {
-    for (int i = 0; i < 2000; ++i) {
-      HandleWaitingMessages();
-      if (const Thumbnail* found = Strip().thumbnails().Find(name)) return *found;
-      std::this_thread::sleep_for(std::chrono::milliseconds(5));
-    }
+    do {
+      desktop_.pump();
+      if (const Thumbnail* const found = Strip().thumbnails().Find(name)) return *found;
+    } while (desktop_.wait_for_post(10000));
     return nullptr;
   }
   std::string Notice() const { return native_path(window_.view().notice().AsStdString()).string(); }
@@ -92,8 +88,7 @@ class LibraryWindow : public testing::Test {
 
   TemporaryFolder folder_;
   std::filesystem::path library_ = folder_ / "图库";
-  system::WindowSystem windows_{std::make_unique<system::HeadlessDisplay>()};
-  CWinApp app_;
+  corvane::test::AppDesktop desktop_{SIZE{1280, 800}};
   CMainWindow window_;
 };
 
@@ -114,11 +109,11 @@ TEST_F(LibraryWindow, APictureGivenBesideTheLibrarySelectsItsFolder) {
 
 TEST_F(LibraryWindow, AClickOnAFolderShowsItsPicturesAndOneOnAPictureOpensIt) {
   Start();
-  Click(RowOf(L"\\一月"));
+  desktop_.click(RowOf(L"\\一月"));
   EXPECT_EQ(window_.browser().Folder(), Path(L"\\一月"));
   EXPECT_THAT(Strip().names(), ElementsAre(L"a.png", L"b.png"));
   EXPECT_EQ(Opened(), "page.png") << "a folder opens no picture";
-  Click(CellInStrip(1));
+  desktop_.click(CellInStrip(1));
   EXPECT_EQ(Opened(), "b.png");
   EXPECT_EQ(window_.browser().Folder(), Path(L"\\一月"));
 }
@@ -126,9 +121,9 @@ TEST_F(LibraryWindow, AClickOnAFolderShowsItsPicturesAndOneOnAPictureOpensIt) {
 TEST_F(LibraryWindow, ADoubleClickOpensAFolderInTheTree) {
   Start();
   EXPECT_EQ(Tree().ListSort(), 3 * kRow);
-  DoubleClick(RowOf(L"\\一月"));
+  desktop_.double_click(RowOf(L"\\一月"));
   EXPECT_EQ(Tree().ListSort(), 4 * kRow);
-  Click(RowOf(L"\\一月\\上旬"));
+  desktop_.click(RowOf(L"\\一月\\上旬"));
   EXPECT_EQ(window_.browser().Folder(), Path(L"\\一月\\上旬"));
   EXPECT_TRUE(Strip().names().empty());
 }
@@ -139,19 +134,19 @@ TEST_F(LibraryWindow, TheTreeShowsFoldersByName) {
     std::filesystem::create_directories(library_ / "二月" / name / "a");
   }
   Start();
-  DoubleClick(RowOf(L"\\二月"));
+  desktop_.double_click(RowOf(L"\\二月"));
   POINT previous = RowOf(L"\\二月");
   for (const wchar_t* name : {L"\\二月\\01", L"\\二月\\02", L"\\二月\\03", L"\\二月\\10"}) {
     EXPECT_EQ(RowOf(name).y, previous.y + kRow);
     previous = RowOf(name);
   }
-  DoubleClick(previous);
+  desktop_.double_click(previous);
   EXPECT_EQ(RowOf(L"\\二月\\10\\b").y, previous.y + 2 * kRow) << "a comes first";
 }
 
 TEST_F(LibraryWindow, ACropGoesIntoTheCurrentFolderAndTheStrip) {
   Start();
-  Click(RowOf(L"\\二月"));
+  desktop_.click(RowOf(L"\\二月"));
   CropAndSave();
   EXPECT_EQ(window_.last_saved(), Path(L"\\二月\\page_1.png"));
   auto saved = CPicture::Open(library_ / "二月" / "page_1.png");
@@ -177,7 +172,7 @@ TEST_F(LibraryWindow, APictureThatCannotBeOpenedIsPassed) {
   std::filesystem::create_symlink("nowhere", library_ / "二月" / "2.png");
   WriteTestPicture(library_ / "二月" / "3.png", 100, 100);
   Start();
-  Click(RowOf(L"\\二月"));
+  desktop_.click(RowOf(L"\\二月"));
   for (const char* unreadable : {"1.png", "2.png"}) {
     ClickButton(ToolbarButton::next);
     EXPECT_THAT(Notice(), HasSubstr(unreadable));
@@ -195,7 +190,7 @@ TEST_F(LibraryWindow, ADriveIsALibrary) {
   EXPECT_EQ(window_.browser().Folder(), L"Q:\\一月");
   CPoint last(120, 2 * kRow + kRow / 2);
   Tree().ClientToScreen(&last);
-  Click({last.x, last.y + kRow});
+  desktop_.click({last.x, last.y + kRow});
   EXPECT_EQ(window_.browser().Folder(), L"Q:\\二月") << "below the folder in the first one";
   std::filesystem::remove_all(library_ / "二月");
   CropAndSave();
@@ -209,15 +204,15 @@ TEST_F(LibraryWindow, TheTreesBarFollowsTheWindowsHeight) {
   Start();
   for (int height : {200, 800, 200}) {
     window_.MoveWindow(0, 0, 1280, height);
-    HandleWaitingMessages();
+    desktop_.pump();
     EXPECT_EQ((Tree().GetStyle() & WS_VSCROLL) != 0, height == 200);
   }
 }
 
 TEST_F(LibraryWindow, AFolderThatVanishedIsLeftForTheNearestOneAbove) {
   Start();
-  DoubleClick(RowOf(L"\\一月"));
-  Click(RowOf(L"\\一月\\上旬"));
+  desktop_.double_click(RowOf(L"\\一月"));
+  desktop_.click(RowOf(L"\\一月\\上旬"));
   std::filesystem::remove_all(library_ / "一月");
   CropAndSave();
   EXPECT_EQ(window_.browser().Folder(), Path(L""));
@@ -245,7 +240,7 @@ TEST_F(LibraryWindow, WithoutPicturesItSaysSoAndEveryButtonIsHarmless) {
                                ToolbarButton::next, ToolbarButton::open}) {
     ClickButton(button);
   }
-  PressKey(VK_ESCAPE);
+  desktop_.key(VK_ESCAPE);
   EXPECT_FALSE(window_.crop().IsWindowVisible());
   WriteTestPicture(library_ / "new.png", 100, 100);
   ClickButton(ToolbarButton::next);
@@ -259,19 +254,20 @@ TEST_F(LibraryWindow, ManyPicturesScrollAndOnlyTheNeighbourhoodIsKept) {
     std::filesystem::create_hard_link(library_ / "二月" / "0000.png", library_ / "二月" / name);
   }
   Start();
-  Click(RowOf(L"\\二月"));
+  desktop_.click(RowOf(L"\\二月"));
   ASSERT_EQ(Strip().layout().count(), 3000);
   CRect strip;
   Strip().GetWindowRect(strip);
-  TurnWheel(strip.CenterPoint(), -1);
+  desktop_.move_to(strip.CenterPoint());
+  desktop_.wheel(-WHEEL_DELTA);
   EXPECT_EQ(Strip().layout().scroll(), Strip().layout().CellWidth());
   EXPECT_GE(Strip().hovered(), 0);
-  for (int i = 0; i < 30; ++i) TurnWheel(strip.CenterPoint(), -40);
+  for (int i = 0; i < 30; ++i) desktop_.wheel(-40 * WHEEL_DELTA);
   int visible = Strip().layout().Visible().last - Strip().layout().Visible().first;
   int last = Strip().layout().Visible().last - 1;
   EXPECT_NE(WaitForThumbnail(std::to_wstring(10000 + last) + L".png"), nullptr);
   EXPECT_LE(Strip().thumbnails().size(), 3u * static_cast<unsigned>(visible));
-  MoveTo({640, 300});
+  desktop_.move_to(640, 300);
   EXPECT_EQ(Strip().hovered(), -1) << "the pointer has left";
 }
 

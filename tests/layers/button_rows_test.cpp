@@ -4,13 +4,13 @@
 
 #include <limits>
 
-#include "tests/layers/support/rect_matchers.h"
+#include "tests/support/rects.h"
 
 namespace {
 
 using corvane::CropButtonRects;
 using corvane::CropRow;
-using corvane_tests::is_rect;
+using corvane::test::is_rect;
 
 // Widths 10, 20, 30, 40, 50, 60; each of its own height, standing anywhere.
 constexpr CropButtonRects skin_rects = {{{5, 7, 15, 27},
@@ -31,7 +31,7 @@ TEST(ButtonRows, LayingOutAgainChangesNothing) {
   const auto once = corvane::lay_out_crop_buttons(skin_rects);
   const auto twice = corvane::lay_out_crop_buttons(once);
   for (std::size_t i = 0; i < once.size(); ++i) {
-    EXPECT_THAT(twice[i], corvane_tests::same_rect(once[i]));
+    EXPECT_THAT(twice[i], corvane::test::same_rect(once[i]));
   }
 }
 

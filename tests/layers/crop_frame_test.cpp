@@ -7,14 +7,14 @@
 #include <vector>
 
 #include "corvane/platform/geometry.h"
-#include "tests/layers/support/rect_matchers.h"
+#include "tests/support/rects.h"
 
 namespace {
 
 using corvane::CropFrame;
 using corvane::place_crop_bar;
-using corvane_tests::is_rect;
-using corvane_tests::same_rect;
+using corvane::test::is_rect;
+using corvane::test::same_rect;
 
 constexpr RECT client = {0, 0, 800, 600};
 constexpr LONG lowest = std::numeric_limits<LONG>::min();

@@ -4,15 +4,15 @@
 #include <vector>
 
 #include "corvane/frame/layer_messages.h"
-#include "tests/layers/support/layer_test.h"
+#include "tests/support/host_test.h"
 
-namespace corvane_tests {
+namespace corvane::test {
 namespace {
 
 using corvane::CCutBtnLayer;
 using corvane::WM_CUT_CMD;
 
-class CutBtnLayerTest : public LayerTest {
+class CutBtnLayerTest : public HostTest {
  protected:
   void create() {
     ASSERT_TRUE(bar_.CreateEx(WS_EX_TOOLWINDOW, nullptr, L"bar", WS_POPUP | WS_THICKFRAME, 0, 0, 0,
@@ -138,4 +138,4 @@ TEST_F(CutBtnLayerTest, DestroyedAndCreatedAgain) {
 }
 
 }  // namespace
-}  // namespace corvane_tests
+}  // namespace corvane::test

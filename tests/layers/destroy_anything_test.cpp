@@ -6,9 +6,9 @@
 
 #include "corvane/layers/buttons/window_layer.h"
 #include "tests/layers/support/crop_scene.h"
-#include "tests/layers/support/destroy_session.h"
+#include "tests/support/destroy_session.h"
 
-namespace corvane_tests {
+namespace corvane::test {
 namespace {
 
 class CropSession : public Scene {
@@ -72,7 +72,8 @@ class CropSession : public Scene {
   }
   void click_button(int number) {
     const HWND bar = bar_of(handle());
-    const RECT place = window_rect(bar ? ::GetDlgItem(bar, number) : nullptr);
+    RECT place{};
+    ::GetWindowRect(bar ? ::GetDlgItem(bar, number) : nullptr, &place);
     desktop_.click(place.left + 5, place.top + 5);
   }
   void finish() {
@@ -106,10 +107,10 @@ class ButtonLayerSession : public Scene {
     desktop_.key(VK_ESCAPE);
     host_.on_drag_begin = [this] {
       ::SetCursorPos(100, 110);
-      desktop_.queue_release();
+      desktop_.send_mouse(MOUSEEVENTF_LEFTUP);
     };
     trap_.begin_phase();
-    desktop_.press(40, 90);
+    desktop_.press_at(40, 90);
     desktop_.release();
     trap_.begin_phase();
     if (layer_) layer_->SetBtnRect(11, corvane::CRect(5, 5, 45, 25));
@@ -175,4 +176,4 @@ INSTANTIATE_TEST_SUITE_P(Sessions, DestroyAnythingTest,
                          case_name);
 
 }  // namespace
-}  // namespace corvane_tests
+}  // namespace corvane::test

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "corvane/platform/geometry.h"
-#include "tests/layers/support/rect_matchers.h"
+#include "tests/support/rects.h"
 
 namespace {
 
@@ -16,8 +16,8 @@ using corvane::has_area;
 using corvane::height_of;
 using corvane::picture_pixels;
 using corvane::width_of;
-using corvane_tests::is_rect;
-using corvane_tests::same_rect;
+using corvane::test::is_rect;
+using corvane::test::same_rect;
 
 constexpr LONG lowest = std::numeric_limits<LONG>::min();
 constexpr LONG highest = std::numeric_limits<LONG>::max();

@@ -7,8 +7,9 @@
 
 #include "corvane/frame/layer_messages.h"
 #include "tests/layers/support/crop_scene.h"
+#include "tests/support/own_system.h"
 
-namespace corvane_tests {
+namespace corvane::test {
 namespace {
 
 using corvane::CRect;
@@ -24,11 +25,14 @@ int under_layer(int channel, int layer_channel) {
 }
 
 // Where the overlay has this colour; the background at alpha 1 changes a channel by one at most.
+bool is_near(COLORREF seen, COLORREF expected) {
+  return std::max({std::abs(GetRValue(seen) - GetRValue(expected)),
+                   std::abs(GetGValue(seen) - GetGValue(expected)),
+                   std::abs(GetBValue(seen) - GetBValue(expected))}) <= 1;
+}
+
 testing::AssertionResult shows(COLORREF seen, COLORREF expected) {
-  const int off = std::max({std::abs(GetRValue(seen) - GetRValue(expected)),
-                            std::abs(GetGValue(seen) - GetGValue(expected)),
-                            std::abs(GetBValue(seen) - GetBValue(expected))});
-  if (off <= 1) return testing::AssertionSuccess();
+  if (is_near(seen, expected)) return testing::AssertionSuccess();
   return testing::AssertionFailure() << std::hex << "shows " << seen << ", not " << expected;
 }
 
@@ -53,12 +57,20 @@ class WholeCropTest : public CropTest {
   testing::AssertionResult is_clear(int x, int y) {
     return shows(pixel(x, y), picture_color(x, y));
   }
-  int count_green(const CRect& area) {
-    int found = 0;
+  // `ink` becomes the smallest rectangle around them.
+  int count_green(const CRect& area, CRect* ink = nullptr) {
+    const Frame screen = desktop_.frame();
+    int count = 0;
+    CRect found;
     for (int y = area.top; y < area.bottom; ++y) {
-      for (int x = area.left; x < area.right; ++x) found += is_green(x, y) ? 1 : 0;
+      for (int x = area.left; x < area.right; ++x) {
+        if (!is_near(screen.at(on_screen(x, y)), picture_under(x, y, green))) continue;
+        ++count;
+        found |= CRect(x, y, x + 1, y + 1);
+      }
     }
-    return found;
+    if (ink != nullptr) *ink = found;
+    return count;
   }
   void click_button(int number) {
     const RECT place = window_rect(::GetDlgItem(bar(), number));
@@ -117,14 +129,8 @@ TEST_F(WholeCropTest, TextRecognitionFromStartToEnd) {
 
 TEST_F(WholeCropTest, HintStandsInTheMiddle) {
   start(true, true);
-  CRect ink(client_width, client_height, 0, 0);
-  for (int y = 0; y < client_height; ++y) {
-    for (int x = 0; x < client_width; ++x) {
-      if (!is_green(x, y)) continue;
-      ink = CRect(std::min<int>(ink.left, x), std::min<int>(ink.top, y),
-                  std::max<int>(ink.right, x + 1), std::max<int>(ink.bottom, y + 1));
-    }
-  }
+  CRect ink;
+  count_green(CRect(0, 0, client_width, client_height), &ink);
   EXPECT_NEAR(ink.left, client_width - ink.right, 8);
   EXPECT_NEAR(ink.top, client_height - ink.bottom, 8);
   EXPECT_GT(ink.Width(), 12 * ink.Height()) << "one line of thirteen characters";
@@ -238,16 +244,16 @@ TEST_F(WholeCropTest, BarFollowsMovesAndIsHiddenWhileANewFrameIsDrawn) {
   start();
   drag({100, 80}, {400, 280});
   ASSERT_TRUE(bar_is_shown());
-  desktop_.press(on_screen(300, 150).x, on_screen(300, 150).y);
-  desktop_.move_to(on_screen(310, 160).x, on_screen(310, 160).y);
+  desktop_.press_at(on_screen(300, 150));
+  desktop_.move_to(on_screen(310, 160));
   const POINT corner = on_screen(410 - 180, 290);
   EXPECT_THAT(window_rect(bar()), is_rect(corner.x, corner.y, corner.x + 180, corner.y + 32));
   EXPECT_TRUE(bar_is_shown());
   desktop_.release();
   EXPECT_TRUE(bar_is_shown());
-  desktop_.press(on_screen(600, 450).x, on_screen(600, 450).y);
+  desktop_.press_at(on_screen(600, 450));
   EXPECT_FALSE(bar_is_shown());
-  desktop_.move_to(on_screen(500, 490).x, on_screen(500, 490).y);
+  desktop_.move_to(on_screen(500, 490));
   EXPECT_FALSE(bar_is_shown());
   desktop_.release();
   EXPECT_TRUE(bar_is_shown());
@@ -283,8 +289,8 @@ TEST_F(WholeCropTest, CursorTellsWhatADragWouldDo) {
       {{250, 280}, CursorShape::size_ns}, {{100, 280}, CursorShape::size_nesw},
       {{100, 180}, CursorShape::size_we}, {{300, 150}, CursorShape::size_all}};
   for (const auto& [point, shape] : cases) {
-    desktop_.move_to(on_screen(point.x, point.y).x, on_screen(point.x, point.y).y);
-    EXPECT_EQ(desktop_.cursor(), shape) << point.x << ", " << point.y;
+    desktop_.move_to(on_screen(point.x, point.y));
+    EXPECT_EQ(desktop_.own().display.cursor(), shape) << point.x << ", " << point.y;
   }
 }
 
@@ -298,7 +304,7 @@ TEST_F(WholeCropTest, DragGoesOnOutsideTheArea) {
 
 TEST_F(WholeCropTest, ClickAloneFramesNothingAndShowsNoBar) {
   start();
-  desktop_.click(on_screen(300, 200).x, on_screen(300, 200).y);
+  desktop_.click(on_screen(300, 200));
   EXPECT_THAT(background_.GetCutRect(), is_rect(300, 200, 300, 200));
   EXPECT_FALSE(bar_is_shown());
 }
@@ -388,7 +394,7 @@ TEST_F(WholeCropTest, BearsPointsFarOutsideTheScreen) {
       background_.OnLButtonDown(MK_LBUTTON, from);
       background_.OnMouseMove(MK_LBUTTON, to);
       desktop_.pump();
-      desktop_.windows().present();
+      desktop_.frame();
       background_.OnLButtonUp(0, to);
       background_.OnMouseMove(0, {60, 60});
       desktop_.pump();
@@ -409,7 +415,7 @@ TEST_F(WholeCropTest, BackgroundDeletedWhileItTakesTheCapture) {
 }
 
 TEST_F(WholeCropTest, ManyCropsOneAfterTheOther) {
-  const int windows = desktop_.windows().live_windows();
+  const int windows = desktop_.living_windows();
   for (int round = 0; round < 20; ++round) {
     background_.DestroyWindow();
     ASSERT_TRUE(create_over(background_, host_));
@@ -417,8 +423,8 @@ TEST_F(WholeCropTest, ManyCropsOneAfterTheOther) {
     drag({100, 80}, {400, 280});
     ASSERT_TRUE(bar_is_shown());
   }
-  EXPECT_EQ(desktop_.windows().live_windows(), windows);
+  EXPECT_EQ(desktop_.living_windows(), windows);
 }
 
 }  // namespace
-}  // namespace corvane_tests
+}  // namespace corvane::test

@@ -3,9 +3,9 @@
 #include <vector>
 
 #include "corvane/frame/layer_messages.h"
-#include "tests/layers/support/layer_test.h"
+#include "tests/support/host_test.h"
 
-namespace corvane_tests {
+namespace corvane::test {
 namespace {
 
 using corvane::CRect;
@@ -31,10 +31,10 @@ class PlainImage {
   Gdiplus::Bitmap image_{1, 1, 4, PixelFormat32bppARGB, reinterpret_cast<BYTE*>(&pixel_)};
 };
 
-class WindowLayerTest : public LayerTest {
+class WindowLayerTest : public HostTest {
  protected:
   void SetUp() override {
-    LayerTest::SetUp();
+    HostTest::SetUp();
     lists_.LoadCtrlList(L"ui_control.xml", TestSkin::button_list);
     lists_.LoadLanguageList(L"ui_language.xml", TestSkin::button_list);
     lists_.LoadLogfontList(L"ui_logfont.xml");
@@ -57,9 +57,9 @@ class WindowLayerTest : public LayerTest {
   void drag_by_layer(POINT from, POINT to) {
     host_.on_drag_begin = [this, to] {
       ::SetCursorPos(to.x, to.y);
-      desktop_.queue_release();
+      desktop_.send_mouse(MOUSEEVENTF_LEFTUP);
     };
-    desktop_.press(from.x, from.y);
+    desktop_.press_at(from);
   }
 
   void resize_layer(int width, int height) {
@@ -67,10 +67,7 @@ class WindowLayerTest : public LayerTest {
     desktop_.pump();
   }
 
-  COLORREF background_pixel() {
-    const POINT point = on_screen(200, 80);
-    return desktop_.pixel(point.x, point.y);
-  }
+  COLORREF background_pixel() { return desktop_.pixel(on_screen(200, 80)); }
 
   CXmlListMgr lists_;
   CWindowLayer layer_;
@@ -117,7 +114,7 @@ TEST_F(WindowLayerTest, SetBtnRectMovesTheFirstButtonOfThatId) {
   EXPECT_THAT(window_rect(first), is_rect(corner.x, corner.y, corner.x + 40, corner.y + 20));
   desktop_.pump();
   desktop_.click(corner.x + 5, corner.y + 5);
-  desktop_.click(on_screen(20, 20).x, on_screen(20, 20).y);  // the second stands where it stood
+  desktop_.click(on_screen(20, 20));  // the second stands where it stood
   const auto clicks = host_.of(WM_LAYER_BTN_CLICK);
   ASSERT_EQ(clicks.size(), 2U);
   EXPECT_EQ(clicks[0].wparam, 11U);
@@ -176,8 +173,7 @@ TEST_F(WindowLayerTest, ImageSetBeforeCreationIsShownAtOnce) {
   layer_.SetBgImage(image.get(), CRect(0, 0, 1, 1));
   create({11});
   EXPECT_EQ(background_pixel(), blue);
-  EXPECT_EQ(desktop_.pixel(on_screen(2, 95).x, on_screen(2, 95).y), blue)
-      << "the rectangle has no effect";
+  EXPECT_EQ(desktop_.pixel(on_screen(2, 95)), blue) << "the rectangle has no effect";
 }
 
 TEST_F(WindowLayerTest, BackgroundShowsThroughItsButtons) {
@@ -185,7 +181,7 @@ TEST_F(WindowLayerTest, BackgroundShowsThroughItsButtons) {
   layer_.SetBgImage(image.get(), CRect());
   create({13});
   ASSERT_NE(::GetDlgItem(layer_, 13), nullptr);
-  EXPECT_EQ(desktop_.pixel(on_screen(30, 75).x, on_screen(30, 75).y), blue);
+  EXPECT_EQ(desktop_.pixel(on_screen(30, 75)), blue);
 }
 
 TEST_F(WindowLayerTest, BackgroundIsBuiltAnewOnlyWhenTheSizeChanges) {
@@ -299,4 +295,4 @@ TEST_F(WindowLayerTest, HostInterferesWhileButtonsAreCreated) {
 }
 
 }  // namespace
-}  // namespace corvane_tests
+}  // namespace corvane::test

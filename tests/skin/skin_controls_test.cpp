@@ -127,7 +127,7 @@ TEST_F(SkinControls, OtherControlsAreCreatedAndShowTheirImage) {
     EXPECT_EQ(place_of(control), rect_);
     EXPECT_TRUE(is_child(control, 1));
     pump();
-    EXPECT_EQ(count_other_than(rect_, kMain), 0);
+    EXPECT_EQ(frame().count_other_than(rect_, kMain), 0);
     (skin_.*load)(unknown, rect_, host_.get(), kUnknown);
     EXPECT_TRUE(rect_.IsRectNull());
     EXPECT_TRUE(is_child(unknown, kUnknown));
@@ -195,7 +195,7 @@ TEST_F(SkinControls, AnAnimatedPictureIsShownWhenThereIsARecord) {
   EXPECT_TRUE(picture.IsWindowVisible());
   picture.MoveWindow(rect_);
   pump();
-  EXPECT_EQ(count_other_than(rect_, kMain), 0);
+  EXPECT_EQ(frame().count_other_than(rect_, kMain), 0);
   click(20, 30);
   EXPECT_EQ(host_->presses.size(), 1u) << "the picture lets the mouse through";
 

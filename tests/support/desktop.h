@@ -28,10 +28,13 @@ class Desktop {
   // after thousands of messages with an exception. False: WM_QUIT was among them.
   bool pump();
   void advance(unsigned milliseconds);  // the clock, which stands still otherwise
+  // Until another thread has posted something; false when that takes longer. Real time.
+  bool wait_for_post(int milliseconds);
 
   // The screen.
   Frame frame();
   COLORREF pixel(int x, int y);  // for several of them take a frame
+  COLORREF pixel(POINT point) { return pixel(point.x, point.y); }
   int living_windows() const;
   int living_drawing_objects() const;
 
@@ -41,9 +44,11 @@ class Desktop {
 
   // Input and a pump.
   void move_to(int x, int y);
+  void move_to(POINT point) { move_to(point.x, point.y); }
   void press(DWORD flag = MOUSEEVENTF_LEFTDOWN);
   void release(DWORD flag = MOUSEEVENTF_LEFTUP);
   void press_at(int x, int y);
+  void press_at(POINT point) { press_at(point.x, point.y); }
   void release_at(int x, int y);
   void wheel(int distance);  // positive: away from the user
   void wheel_at(int x, int y, int distance);
@@ -52,7 +57,9 @@ class Desktop {
   void key(int virtual_key);  // down and up before the pump
   // Gestures, each followed by a pause: the next press begins no double click.
   void click(int x, int y);
+  void click(POINT point) { click(point.x, point.y); }
   void double_click(int x, int y);
+  void double_click(POINT point) { double_click(point.x, point.y); }
   void drag(POINT from, POINT to, int steps = 2);
 
   OwnSystem& own() { return *system_; }

@@ -15,6 +15,7 @@ class Frame {
 
   SIZE size() const { return size_; }
   COLORREF at(int x, int y) const;  // screen coordinates; CLR_INVALID outside
+  COLORREF at(POINT point) const { return at(point.x, point.y); }
   // Of the rectangle's pixels, which may lie outside of the screen.
   bool is_all(const RECT& rect, COLORREF color) const;
   int count(const RECT& rect, const std::function<bool(COLORREF)>& condition) const;

@@ -1,4 +1,6 @@
 // The tests' desktop on our own window system.
+#include <poll.h>
+
 #include "tests/support/own_system.h"
 
 namespace corvane::test {
@@ -11,6 +13,11 @@ Desktop::Desktop(std::unique_ptr<OwnSystem> system) : system_(std::move(system))
 Desktop::~Desktop() = default;
 
 void Desktop::advance(unsigned milliseconds) { system_->display.advance(milliseconds); }
+
+bool Desktop::wait_for_post(int milliseconds) {
+  pollfd work{system_->windows.event_fd(), POLLIN, 0};
+  return poll(&work, 1, milliseconds) == 1;
+}
 
 Frame Desktop::frame() {
   const system::Surface& shown = system_->windows.frame();

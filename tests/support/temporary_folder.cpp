@@ -1,7 +1,9 @@
 #include "tests/support/temporary_folder.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <stdlib.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <filesystem>
@@ -78,6 +80,17 @@ std::string TemporaryFolder::file(const std::string& name, std::string_view cont
   file << content;
   EXPECT_TRUE(file.flush().good()) << name;
   return path;
+}
+
+void TemporaryFolder::chain(const std::string& name, int levels) const {
+  int at = open(path_.c_str(), O_PATH | O_DIRECTORY);
+  for (int level = 0; level < levels; ++level) {
+    EXPECT_EQ(mkdirat(at, name.c_str(), 0700), 0) << level;
+    const int inner = openat(at, name.c_str(), O_PATH | O_DIRECTORY);
+    close(at);
+    at = inner;
+  }
+  close(at);
 }
 
 void TemporaryFolder::link(const std::string& name, const std::string& target) const {

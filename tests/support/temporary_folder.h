@@ -25,6 +25,8 @@ class TemporaryFolder {
   // and returns its path.
   void folder(const std::string& name) const;
   std::string file(const std::string& name, std::string_view content = {}) const;
+  // So many folders of that name inside each other; no path reaches the innermost ones.
+  void chain(const std::string& name, int levels) const;
   void link(const std::string& name, const std::string& target) const;
 
  private:

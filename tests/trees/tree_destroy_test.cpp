@@ -1,9 +1,11 @@
 // Whatever message a window gets while a user works with the tree, the host may destroy the tree or
 // change its folders right then.
-#include "tests/layers/support/destroy_session.h"
+#include <gtest/gtest.h>
+
+#include "tests/support/destroy_session.h"
 #include "tests/trees/support/scripted_tree.h"
 
-namespace corvane_tests {
+namespace corvane::test {
 namespace {
 
 class TreeSession : public Scene {
@@ -18,7 +20,7 @@ class TreeSession : public Scene {
     desktop_.click(100, 30);
     desktop_.double_click(100, 60);
     trap_.begin_phase();
-    desktop_.wheel(100, 60, -120);
+    desktop_.wheel_at(100, 60, -120);
     trap_.begin_phase();
     drag_thumb();
     trap_.begin_phase();
@@ -62,9 +64,10 @@ class TreeSession : public Scene {
   }
   void drag_thumb() {
     if (tree_) {
-      tree_->steps = {[] { ::SetCursorPos(206, 80); }, [this] { desktop_.queue_release(); }};
+      tree_->steps = {[] { ::SetCursorPos(206, 80); },
+                      [this] { desktop_.send_mouse(MOUSEEVENTF_LEFTUP); }};
     }
-    desktop_.press(206, 40);
+    desktop_.press_at(206, 40);
     desktop_.release();
   }
 
@@ -88,4 +91,4 @@ INSTANTIATE_TEST_SUITE_P(Deeds, TreeDestroyTest, testing::ValuesIn(destroy_cases
                          [](const auto& each) { return name_of(each.param); });
 
 }  // namespace
-}  // namespace corvane_tests
+}  // namespace corvane::test

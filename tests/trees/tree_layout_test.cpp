@@ -6,7 +6,7 @@
 #include <limits>
 #include <random>
 
-namespace corvane_tests {
+namespace corvane::test {
 namespace {
 
 using corvane::_NODE;
@@ -180,4 +180,4 @@ TEST(TreeLayout, AChainOfAnyDepth) {
 }
 
 }  // namespace
-}  // namespace corvane_tests
+}  // namespace corvane::test

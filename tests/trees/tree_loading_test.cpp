@@ -1,10 +1,7 @@
 // Loading from folders in memory, which can fail, and from real ones.
 #include "corvane/trees/model/tree_loading.h"
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -14,7 +11,7 @@
 #include "tests/trees/support/fake_listing.h"
 #include "tests/trees/support/tree_text.h"
 
-namespace corvane_tests {
+namespace corvane::test {
 namespace {
 
 using corvane::_NODE;
@@ -168,7 +165,7 @@ class RealLoadingTest : public testing::Test {
     return text.substr(text.find('\n') + 1);
   }
 
-  corvane::test::TemporaryFolder folder_;
+  TemporaryFolder folder_{TemporaryFolder::Place::memory};
   TreeModel model_;
 };
 
@@ -192,14 +189,7 @@ TEST_F(RealLoadingTest, OddNamesLinksAndFiles) {
 
 TEST_F(RealLoadingTest, AChainOfFiveThousandFolders) {
   constexpr int depth = 5000;
-  int folder = ::open(folder_.path().c_str(), O_RDONLY | O_DIRECTORY);
-  for (int level = 0; level < depth; ++level) {
-    ASSERT_EQ(::mkdirat(folder, "chain", 0700), 0);
-    const int inner = ::openat(folder, "chain", O_RDONLY | O_DIRECTORY);
-    ::close(folder);
-    folder = inner;
-  }
-  ::close(folder);
+  folder_.chain("chain", depth);
   EXPECT_TRUE(load());
   const _NODE* node = &model_.root();
   while (!node->children().empty()) node = &node->children().front();
@@ -208,4 +198,4 @@ TEST_F(RealLoadingTest, AChainOfFiveThousandFolders) {
 }
 
 }  // namespace
-}  // namespace corvane_tests
+}  // namespace corvane::test

@@ -5,7 +5,7 @@
 
 #include "tests/trees/support/tree_text.h"
 
-namespace corvane_tests {
+namespace corvane::test {
 namespace {
 
 using corvane::_NODE;
@@ -170,4 +170,4 @@ TEST_F(TreeModelTest, RemovingANodeLeavesThePaths) {
 }
 
 }  // namespace
-}  // namespace corvane_tests
+}  // namespace corvane::test

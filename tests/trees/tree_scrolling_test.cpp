@@ -4,7 +4,7 @@
 
 #include <limits>
 
-namespace corvane_tests {
+namespace corvane::test {
 namespace {
 
 using corvane::ScrollState;
@@ -57,4 +57,4 @@ TEST(TreeScrolling, EndsOfTheNumbers) {
 }
 
 }  // namespace
-}  // namespace corvane_tests
+}  // namespace corvane::test

@@ -6,11 +6,11 @@
 
 #include "corvane/frame/layer_messages.h"
 #include "corvane/platform/base_services/system_paths.h"
-#include "tests/layers/support/layer_test.h"
+#include "tests/support/host_test.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/trees/support/scripted_tree.h"
 
-namespace corvane_tests {
+namespace corvane::test {
 namespace {
 
 using corvane::_NODE;
@@ -25,13 +25,13 @@ constexpr COLORREF white = RGB(255, 255, 255);
 constexpr COLORREF frame = RGB(106, 144, 226);
 
 // The tree takes a part of the host that is 240 wide and 300 high.
-class TreeWindowTest : public LayerTest {
+class TreeWindowTest : public HostTest {
  protected:
   static constexpr POINT corner = {host_place.left + 10, host_place.top + 20};
   static constexpr SIZE size = {240, 300};
 
   void SetUp() override {
-    LayerTest::SetUp();
+    HostTest::SetUp();
     const CRect place(10, 20, 10 + size.cx, 20 + size.cy);
     ASSERT_TRUE(tree_.Create(nullptr, L"tree", WS_CHILD | WS_VISIBLE, place, &host_, 7));
     desktop_.pump();
@@ -56,19 +56,16 @@ class TreeWindowTest : public LayerTest {
 
   void click(int x, int y) { desktop_.click(corner.x + x, corner.y + y); }
   void double_click(int x, int y) { desktop_.double_click(corner.x + x, corner.y + y); }
-  void wheel(int distance) { desktop_.wheel(corner.x + 50, corner.y + 50, distance); }
+  void wheel(int distance) { desktop_.wheel_at(corner.x + 50, corner.y + 50, distance); }
+  static CRect on_screen(const CRect& rect) { return rect + corvane::CPoint(corner); }
   COLORREF pixel(int x, int y) { return desktop_.pixel(corner.x + x, corner.y + y); }
   std::size_t selections() const { return host_.count(WM_TREE_SELECT); }
   int position() const { return tree_.GetScrollPos(SB_VERT); }
   bool bar_is_shown() const { return tree_.GetStyle() & WS_VSCROLL; }
   int client_width() const { return client_rect(tree_).right; }
   bool has_text(int left, int row) {
-    for (int y = row * 30; y < row * 30 + 30; ++y) {
-      for (int x = left; x < left + 40; ++x) {
-        if (GetGValue(pixel(x, y)) < 100) return true;
-      }
-    }
-    return false;
+    const RECT cell = on_screen(CRect(left, row * 30, left + 40, row * 30 + 30));
+    return desktop_.frame().count(cell, [](COLORREF color) { return GetGValue(color) < 100; }) > 0;
   }
 
   ScriptedTree tree_;
@@ -236,8 +233,9 @@ TEST_F(TreeWindowTest, DraggingTheThumbMovesTheRows) {
   load(18);
   const int x = corner.x + size.cx - 8;
   // The bar keeps the loop from the press to the release.
-  tree_.steps = {[&] { ::SetCursorPos(x, corner.y + 160); }, [&] { desktop_.queue_release(); }};
-  desktop_.press(x, corner.y + 60);
+  tree_.steps = {[&] { ::SetCursorPos(x, corner.y + 160); },
+                 [&] { desktop_.send_mouse(MOUSEEVENTF_LEFTUP); }};
+  desktop_.press_at(x, corner.y + 60);
   EXPECT_NEAR(position(), 226, 3) << "the thumb has gone 100 of the 133 pixels that it can";
   const int row = (position() + 10) / tree_row_height;
   click(100, 10);
@@ -262,9 +260,11 @@ TEST_F(TreeWindowTest, OnlyTheRowsInViewAreDrawnAndLookTheSame) {
     tree_.SetScrollPos(SB_VERT, at);
     repaint();
     int different = 0;
+    const Frame screen = desktop_.frame();
     for (int y = 0; y < size.cy; ++y) {
       for (int x = 0; x < width; ++x) {
-        different += pixel(x, y) != (::GetPixel(whole, x, y + at) & 0xFFFFFF);
+        different +=
+            screen.at(corner.x + x, corner.y + y) != (::GetPixel(whole, x, y + at) & 0xFFFFFF);
       }
     }
     EXPECT_EQ(different, 0) << "scrolled by " << at;
@@ -432,4 +432,4 @@ TEST_F(TreeOnDiskTest, DestroyedAndCreatedAgainKeepsItsFolders) {
 }
 
 }  // namespace
-}  // namespace corvane_tests
+}  // namespace corvane::test

@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace corvane_tests {
+namespace corvane::test {
 namespace {
 
 // The first window after `first` in z-order, upwards, that the owner owns.
@@ -19,7 +19,8 @@ bool create_over(corvane::CCutBgLayer& background, HWND host) {
   const wchar_t* window_class =
       corvane::AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursorW(nullptr, IDC_ARROW),
                                    static_cast<HBRUSH>(::GetStockObject(GRAY_BRUSH)));
-  const RECT place = window_rect(host);
+  RECT place{};
+  ::GetWindowRect(host, &place);
   return background.CreateEx(WS_EX_TOOLWINDOW, window_class, L"cutBgLayer", WS_POPUP, place.left,
                              place.top, place.right - place.left, place.bottom - place.top, host,
                              nullptr);
@@ -33,7 +34,7 @@ HWND bar_of(HWND background) {
 }
 
 void CropTest::SetUp() {
-  LayerTest::SetUp();
+  HostTest::SetUp();
   background_.SetParentHwnd(host_);
   ASSERT_TRUE(create_over(background_, host_));
 }
@@ -50,9 +51,6 @@ void CropTest::drag(POINT from, POINT to) {
   desktop_.drag(on_screen(from.x, from.y), on_screen(to.x, to.y));
 }
 
-COLORREF CropTest::pixel(int x, int y) {
-  const POINT point = on_screen(x, y);
-  return desktop_.pixel(point.x, point.y);
-}
+COLORREF CropTest::pixel(int x, int y) { return desktop_.pixel(on_screen(x, y)); }
 
-}  // namespace corvane_tests
+}  // namespace corvane::test

@@ -1,9 +1,9 @@
 #pragma once
 // A crop over the whole client area of the host, as a host sets it up.
 #include "corvane/layers/crop/cut_bg_layer.h"
-#include "tests/layers/support/layer_test.h"
+#include "tests/support/host_test.h"
 
-namespace corvane_tests {
+namespace corvane::test {
 
 // Creates the background's window over the client area of `host`. The brush that changes what shows
 // through least is mid-grey.
@@ -12,7 +12,7 @@ bool create_over(corvane::CCutBgLayer& background, HWND host);
 HWND rect_layer_of(HWND background);
 HWND bar_of(HWND background);
 
-class CropTest : public LayerTest {
+class CropTest : public HostTest {
  protected:
   void SetUp() override;
   void start(bool with_bar = true, bool text_recognition = false);
@@ -28,4 +28,4 @@ class CropTest : public LayerTest {
   corvane::CCutBgLayer background_;
 };
 
-}  // namespace corvane_tests
+}  // namespace corvane::test

@@ -1,10 +1,7 @@
 #include "corvane/platform/base_services/folder_listing.h"
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -55,18 +52,6 @@ class FewDescriptors {
  private:
   rlimit before_{};
 };
-
-// Folders "deep" inside each other.
-void make_chain(const TemporaryFolder& folder, int levels) {
-  int at = open(folder.path().c_str(), O_PATH | O_DIRECTORY);
-  for (int level = 0; level < levels; ++level) {
-    ASSERT_EQ(mkdirat(at, "deep", 0700), 0);
-    const int below = openat(at, "deep", O_PATH | O_DIRECTORY);
-    close(at);
-    at = below;
-  }
-  close(at);
-}
 
 constexpr int kMany = 300;
 
@@ -236,7 +221,7 @@ TEST(FolderListing, ListingThatThrowsLeavesTheFolderUsable) {
 TEST(FolderListing, DeeperThanAnyPath) {
   constexpr int levels = 5000;
   const TemporaryFolder folder(TemporaryFolder::Place::memory);
-  make_chain(folder, levels);
+  folder.chain("deep", levels);
   const FewDescriptors few(256);
   std::vector<std::unique_ptr<OpenFolder>> all;  // every one of them stays open
   all.push_back(opened(folder.path().native()));

@@ -1,26 +1,9 @@
 #include "tests/platform/controls/control_test.h"
 
-#include <array>
-
 #include "corvane/platform/base_services/installation.h"
 
 namespace corvane::test {
 namespace {
-
-void send_mouse(DWORD flags) {
-  INPUT input{};
-  input.type = INPUT_MOUSE;
-  input.mi.dwFlags = flags;
-  ::SendInput(1, &input, sizeof(input));
-}
-
-void send_key(int key, DWORD flags) {
-  INPUT input{};
-  input.type = INPUT_KEYBOARD;
-  input.ki.wVk = static_cast<WORD>(key);
-  input.ki.dwFlags = flags;
-  ::SendInput(1, &input, sizeof(input));
-}
 
 void append_number(std::string& bytes, std::uint32_t number, int length) {
   for (int i = 0; i < length; ++i) bytes.push_back(static_cast<char>(number >> (8 * i)));
@@ -79,85 +62,17 @@ void ControlHost::OnPaint() {
   dc.FillSolidRect(client, RGB(200, 180, 160));
 }
 
-ControlTest::ControlTest() {
-  auto display = std::make_unique<system::HeadlessDisplay>(SIZE{400, 300});
-  display_ = display.get();
-  windows_ = std::make_unique<system::WindowSystem>(std::move(display));
-  app_ = std::make_unique<CWinApp>();
-  host_ = std::make_unique<ControlHost>();
+ControlTest::ControlTest() : Desktop({400, 300}) {
   SetSkinFolder(folder_.wide());
   EXPECT_TRUE(host_->CreateEx(0, nullptr, L"host", WS_POPUP | WS_VISIBLE, CRect(0, 0, 400, 300),
                               nullptr, 0));
   pump();
 }
 
-ControlTest::~ControlTest() {
-  SetSkinFolder(L"");
-  host_.reset();
-}
-
-void ControlTest::pump() {
-  MSG message{};
-  while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-    ::TranslateMessage(&message);
-    ::DispatchMessageW(&message);
-  }
-}
-
-void ControlTest::advance(std::uint64_t milliseconds) { display_->advance(milliseconds); }
-
-void ControlTest::move_to(int x, int y) {
-  ::SetCursorPos(x, y);
-  pump();
-}
-
-void ControlTest::press(int x, int y) {
-  move_to(x, y);
-  send_mouse(MOUSEEVENTF_LEFTDOWN);
-  pump();
-}
-
-void ControlTest::release(int x, int y) {
-  move_to(x, y);
-  send_mouse(MOUSEEVENTF_LEFTUP);
-  pump();
-}
-
-void ControlTest::click(int x, int y) {
-  press(x, y);
-  release(x, y);
-}
-
-void ControlTest::key_down(int key) {
-  send_key(key, 0);
-  pump();
-}
-
-void ControlTest::key_up(int key) {
-  send_key(key, KEYEVENTF_KEYUP);
-  pump();
-}
-
-COLORREF ControlTest::pixel(int x, int y) {
-  return system::color_of(windows_->frame().at(x, y)) & 0xFFFFFF;
-}
+ControlTest::~ControlTest() { SetSkinFolder(L""); }
 
 void ControlTest::write_picture(const std::string& name, int width, int height, COLORREF color) {
   folder_.file("image/" + name, bitmap_file(width, height, color));
-}
-
-int ControlTest::count_other_than(const CRect& rect, COLORREF color, CRect* bounds) {
-  int count = 0;
-  CRect around;
-  for (int y = rect.top; y < rect.bottom; ++y) {
-    for (int x = rect.left; x < rect.right; ++x) {
-      if (pixel(x, y) == color) continue;
-      ++count;
-      around |= CRect(x, y, x + 1, y + 1);
-    }
-  }
-  if (bounds) *bounds = around;
-  return count;
 }
 
 }  // namespace corvane::test

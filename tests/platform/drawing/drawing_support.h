@@ -1,15 +1,13 @@
 #pragma once
-// A window system in memory, buffers of one colour and a small picture.
+// A desktop, buffers of one colour and a small picture.
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <memory>
 #include <vector>
 
 #include "corvane/platform/drawing/buffer_dc.h"
 #include "corvane/platform/drawing/gdi_dc.h"
-#include "corvane/platform/system/display/headless_display.h"
-#include "corvane/platform/system/user/window_system.h"
+#include "tests/support/desktop.h"
 
 namespace corvane::test {
 
@@ -38,9 +36,9 @@ class DrawingTest : public testing::Test {
     result.SetBackColor(rect, color);
     return result;
   }
-  int live_objects() { return windows_.gdi().live_objects(); }
+  int live_objects() const { return desktop_.living_drawing_objects(); }
 
-  system::WindowSystem windows_{std::make_unique<system::HeadlessDisplay>(SIZE{200, 100})};
+  Desktop desktop_{SIZE{200, 100}};
   CGdiDC drawing_;
 };
 

@@ -1,6 +1,7 @@
 // Pictures and texts drawn into buffers and put on layered windows.
 #include "corvane/platform/base_services/set_font.h"
 #include "tests/platform/drawing/drawing_support.h"
+#include "tests/support/rects.h"
 
 namespace corvane {
 namespace {
@@ -130,27 +131,22 @@ TEST_F(GdiDC, PutsABufferOnALayeredWindow) {
   CBufferDC picture = buffer(60, 40, kBlack);
   auto image = quarters(20);
   drawing_.DrawImage(picture, &image, CRect(0, 0, 20, 20));
-  const auto screen = [this](int x, int y) {
-    return system::color_of(windows_.frame().at(x, y)) & 0xFFFFFF;
-  };
   EXPECT_FALSE(drawing_.Paste(below, picture, 255));
   ASSERT_TRUE(drawing_.Paste(above, picture, 255));
-  EXPECT_EQ(screen(5, 5), kRed);
-  EXPECT_EQ(screen(15, 15), kWhite) << "clear in the image";
-  EXPECT_EQ(screen(40, 30), kWhite) << "the black of the buffer is clear";
-  RECT rect{};
-  ::GetWindowRect(above, &rect);
-  EXPECT_EQ(CRect(rect), CRect(0, 0, 60, 40));
+  EXPECT_EQ(desktop_.pixel(5, 5), kRed);
+  EXPECT_EQ(desktop_.pixel(15, 15), kWhite) << "clear in the image";
+  EXPECT_EQ(desktop_.pixel(40, 30), kWhite) << "the black of the buffer is clear";
+  EXPECT_THAT(window_rect(above), is_rect(0, 0, 60, 40));
   ASSERT_TRUE(drawing_.Paste(above, picture, 128));
-  EXPECT_NEAR(GetGValue(screen(5, 5)), 127, 2);
-  EXPECT_EQ(GetRValue(screen(5, 5)), 255);
+  EXPECT_NEAR(GetGValue(desktop_.pixel(5, 5)), 127, 2);
+  EXPECT_EQ(GetRValue(desktop_.pixel(5, 5)), 255);
 }
 
 TEST(SetFont, IsSelectedForAsLongAsItLives) {
-  system::WindowSystem windows{std::make_unique<system::HeadlessDisplay>(SIZE{20, 20})};
+  const Desktop desktop({20, 20});
   const HDC dc = ::CreateCompatibleDC(nullptr);
   const HGDIOBJ before = ::GetCurrentObject(dc, OBJ_FONT);
-  const int objects = windows.gdi().live_objects();
+  const int objects = desktop.living_drawing_objects();
   {
     const CSetFont font(dc, 32, 0, FW_BOLD, L"宋体");
     LOGFONTW description{};
@@ -160,7 +156,7 @@ TEST(SetFont, IsSelectedForAsLongAsItLives) {
     EXPECT_STREQ(description.lfFaceName, L"宋体");
   }
   EXPECT_EQ(::GetCurrentObject(dc, OBJ_FONT), before);
-  EXPECT_EQ(windows.gdi().live_objects(), objects);
+  EXPECT_EQ(desktop.living_drawing_objects(), objects);
   ::DeleteDC(dc);
   const CSetFont on_nothing(nullptr, 32, 0, FW_BOLD, nullptr);
 }

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "tests/platform/framework/desktop.h"
+#include "tests/platform/framework/watched_wnd.h"
+#include "tests/support/own_system.h"
 
 namespace corvane {
 namespace {
@@ -37,18 +38,18 @@ class FrameworkApp : public testing::Test {
     ASSERT_TRUE(grandchild_.create(child_, WS_CHILD | WS_VISIBLE));
     ASSERT_TRUE(popup_.create(main_));
     ASSERT_TRUE(button_.create(popup_, WS_CHILD | WS_VISIBLE));
-    PumpMessages();
+    desktop_.filter_messages(&PreTranslateInput);
+    desktop_.pump();
     log_.clear();
   }
   std::string press(HWND window) {
     log_.clear();
     ::SetFocus(window);
-    desktop_.press_key(VK_SPACE);
-    EXPECT_TRUE(PumpMessages());
+    desktop_.key(VK_SPACE);
     return log_;
   }
 
-  FrameworkDesktop desktop_;
+  test::Desktop desktop_;
   CWinApp app_;
   std::string log_;
   FilterWnd main_{"main", &log_}, child_{"child", &log_}, grandchild_{"grandchild", &log_},
@@ -92,9 +93,9 @@ TEST_F(FrameworkApp, AFilterMayDestroyWhatItGuards) {
   Fatal fatal(main_);
   ASSERT_TRUE(fatal.create(child_, WS_CHILD | WS_VISIBLE));
   ::SetFocus(fatal);
-  desktop_.press_key(VK_SPACE);
-  EXPECT_FALSE(PumpMessages()) << "the main window's end quits";
-  EXPECT_EQ(desktop_.windows.live_windows(), 0);
+  desktop_.send_key(VK_SPACE, true);
+  EXPECT_FALSE(desktop_.pump()) << "the main window's end quits";
+  EXPECT_EQ(desktop_.living_windows(), 0);
   EXPECT_EQ(AfxGetMainWnd(), nullptr);
 }
 
@@ -109,7 +110,7 @@ TEST_F(FrameworkApp, TheApplicationMayFilterItself) {
 }
 
 TEST(FrameworkAppLife, TheLastOneMadeIsTheThreadsOne) {
-  const FrameworkDesktop desktop;
+  const test::Desktop desktop;
   EXPECT_EQ(AfxGetApp(), nullptr);
   EXPECT_EQ(AfxGetMainWnd(), nullptr);
   {
@@ -156,7 +157,7 @@ class TestApp : public CWinApp {
 };
 
 TEST(FrameworkAppRun, EndsWithTheCodeOfTheQuitMessage) {
-  const FrameworkDesktop desktop;
+  const test::Desktop desktop;
   TestApp app(true);
   app.at_third_tick = [] { ::PostQuitMessage(42); };
   EXPECT_EQ(RunApp(app), 42);
@@ -166,7 +167,7 @@ TEST(FrameworkAppRun, EndsWithTheCodeOfTheQuitMessage) {
 }
 
 TEST(FrameworkAppRun, EndsWithTheMainWindow) {
-  const FrameworkDesktop desktop;
+  const test::Desktop desktop;
   TestApp app(true);
   app.at_third_tick = [&app] { app.window.DestroyWindow(); };
   EXPECT_EQ(RunApp(app), 0);
@@ -174,7 +175,7 @@ TEST(FrameworkAppRun, EndsWithTheMainWindow) {
 }
 
 TEST(FrameworkAppRun, DoesNotRunWhatDidNotStart) {
-  const FrameworkDesktop desktop;
+  const test::Desktop desktop;
   TestApp app(false);
   EXPECT_EQ(RunApp(app), 0);
   EXPECT_EQ(app.calls, "init exit ");
@@ -193,12 +194,12 @@ TEST(FrameworkAppSession, MakesAWindowSystemWhereThereIsNone) {
 }
 
 TEST(FrameworkAppSession, UsesTheOneThatThereIs) {
-  FrameworkDesktop desktop;
+  test::Desktop desktop;
   {
     const CWinApp app;
-    EXPECT_EQ(system::WindowSystem::current(), &desktop.windows);
+    EXPECT_EQ(system::WindowSystem::current(), &desktop.own().windows);
   }
-  EXPECT_EQ(system::WindowSystem::current(), &desktop.windows);
+  EXPECT_EQ(system::WindowSystem::current(), &desktop.own().windows);
 }
 
 }  // namespace

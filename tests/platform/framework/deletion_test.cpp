@@ -2,7 +2,8 @@
 // address sanitizer these fail on any touch of what is gone.
 #include <gtest/gtest.h>
 
-#include "tests/platform/framework/desktop.h"
+#include "tests/platform/framework/watched_wnd.h"
+#include "tests/support/desktop.h"
 
 namespace corvane {
 namespace {
@@ -135,27 +136,31 @@ constexpr UINT kTriggers[] = {
 
 // Makes the window system send or post every message above to the window; stops caring when it is
 // gone. WM_NCCREATE to WM_MOVE come with the creation.
-void go_through_everything(FrameworkDesktop& desktop, HWND window) {
+void go_through_everything(test::Desktop& desktop, HWND window) {
   NMHDR header{window, 0, 0};
-  const auto turn = [&desktop] { desktop.windows.process_pending(); };
+  const auto turn = [&desktop] {
+    desktop.pump();
+    desktop.pixel(0, 0);  // composes
+  };
   ::ShowWindow(window, SW_SHOW);
   turn();
   ::SetFocus(window);
   ::SetTimer(window, 3, 20, nullptr);
-  desktop.display.advance(25);
+  desktop.advance(25);
   turn();
-  desktop.move_to(150, 150);
+  ::SetCursorPos(150, 150);
   turn();
-  desktop.button(MOUSEEVENTF_LEFTDOWN);
+  desktop.send_mouse(MOUSEEVENTF_LEFTDOWN);
   turn();
-  desktop.button(MOUSEEVENTF_LEFTUP);
-  desktop.button(MOUSEEVENTF_LEFTDOWN);
-  desktop.button(MOUSEEVENTF_LEFTUP);
-  desktop.button(MOUSEEVENTF_RIGHTDOWN);
-  desktop.button(MOUSEEVENTF_RIGHTUP);
-  desktop.wheel(120);
+  desktop.send_mouse(MOUSEEVENTF_LEFTUP);
+  desktop.send_mouse(MOUSEEVENTF_LEFTDOWN);
+  desktop.send_mouse(MOUSEEVENTF_LEFTUP);
+  desktop.send_mouse(MOUSEEVENTF_RIGHTDOWN);
+  desktop.send_mouse(MOUSEEVENTF_RIGHTUP);
+  desktop.send_mouse(MOUSEEVENTF_WHEEL, 120);
   turn();
-  desktop.press_key('A');
+  desktop.send_key('A', true);
+  desktop.send_key('A', false);
   turn();
   ::SetCapture(window);
   ::ReleaseCapture();
@@ -179,7 +184,7 @@ class FrameworkDeletion : public testing::TestWithParam<std::tuple<UINT, Deed>> 
 TEST_P(FrameworkDeletion, LeavesNoTraceBehind) {
   const auto [trigger, deed] = GetParam();
   Count count;
-  FrameworkDesktop desktop;
+  test::Desktop desktop;
   {
     WatchedWnd main;
     ASSERT_TRUE(main.create(nullptr, WS_POPUP | WS_VISIBLE, CRect(0, 0, 600, 500)));
@@ -200,9 +205,9 @@ TEST_P(FrameworkDeletion, LeavesNoTraceBehind) {
       delete fragile;
     }
     if (deed != Deed::delete_parent) delete parent;
-    EXPECT_EQ(desktop.windows.live_windows(), 1);
+    EXPECT_EQ(desktop.living_windows(), 1);
   }
-  EXPECT_EQ(desktop.windows.live_windows(), 0);
+  EXPECT_EQ(desktop.living_windows(), 0);
 }
 
 std::string name_of(const testing::TestParamInfo<std::tuple<UINT, Deed>>& info) {
@@ -221,7 +226,7 @@ INSTANTIATE_TEST_SUITE_P(EveryMessage, FrameworkDeletion,
 
 TEST(FrameworkDeletionAtTheEnd, PostNcDestroyMayDeleteTheObject) {
   Count count;
-  FrameworkDesktop desktop;
+  test::Desktop desktop;
   auto* window = new FragileWnd(WM_NULL, Deed::delete_self, nullptr, &count);
   ASSERT_TRUE(window->create());
   window->DestroyWindow();

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "tests/platform/framework/desktop.h"
+#include "tests/platform/framework/watched_wnd.h"
+#include "tests/support/desktop.h"
 
 namespace corvane {
 namespace {
@@ -8,9 +9,9 @@ namespace {
 class FrameworkDrawing : public testing::Test {
  protected:
   void SetUp() override { ASSERT_TRUE(window_.create()); }
-  int objects() { return desktop_.windows.gdi().live_objects(); }
+  int objects() { return desktop_.living_drawing_objects(); }
 
-  FrameworkDesktop desktop_;
+  test::Desktop desktop_;
   WatchedWnd window_;
 };
 
@@ -99,7 +100,7 @@ TEST_F(FrameworkDrawing, PaintingSurvivesTheEndOfTheWindow) {
     window_.DestroyWindow();
     dc.FillSolidRect(CRect(0, 0, 9, 9), RGB(1, 1, 1));
   }
-  EXPECT_EQ(desktop_.windows.live_windows(), 0);
+  EXPECT_EQ(desktop_.living_windows(), 0);
   const CDC none;
   EXPECT_EQ(none.GetTextExtent(L"text"), CSize(0, 0));
 }

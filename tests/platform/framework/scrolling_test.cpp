@@ -1,7 +1,8 @@
 // The standard scroll bars of a window object.
 #include <gtest/gtest.h>
 
-#include "tests/platform/framework/desktop.h"
+#include "tests/platform/framework/watched_wnd.h"
+#include "tests/support/desktop.h"
 
 namespace corvane {
 namespace {
@@ -14,7 +15,7 @@ class FrameworkScrolling : public testing::Test {
     SCROLLINFO info{0, SIF_ALL, minimum, maximum, page, position, 0};
     EXPECT_TRUE(window_.SetScrollInfo(SB_VERT, &info));
   }
-  FrameworkDesktop desktop_;
+  test::Desktop desktop_;
   WatchedWnd window_;
 };
 

@@ -4,7 +4,8 @@
 #include <stdexcept>
 
 #include "corvane/platform/framework/thread_state.h"
-#include "tests/platform/framework/desktop.h"
+#include "tests/platform/framework/watched_wnd.h"
+#include "tests/support/desktop.h"
 
 namespace corvane {
 namespace {
@@ -13,7 +14,7 @@ using Messages = std::vector<UINT>;
 
 class FrameworkWnd : public testing::Test {
  protected:
-  FrameworkDesktop desktop_;
+  test::Desktop desktop_;
 };
 
 TEST_F(FrameworkWnd, IsBoundBeforeItsFirstMessage) {
@@ -38,7 +39,7 @@ TEST_F(FrameworkWnd, RefusesASecondWindow) {
   const HWND first = window;
   EXPECT_FALSE(window.create());
   EXPECT_EQ(window.GetSafeHwnd(), first);
-  EXPECT_EQ(desktop_.windows.live_windows(), 1);
+  EXPECT_EQ(desktop_.living_windows(), 1);
   window.DestroyWindow();
   EXPECT_TRUE(window.create()) << "after the first is gone";
 }
@@ -71,7 +72,7 @@ TEST_F(FrameworkWnd, FailedCreationLeavesNothingAndEndsOnce) {
     EXPECT_EQ(each->ends, 1);
     EXPECT_EQ(each->GetSafeHwnd(), nullptr);
   }
-  EXPECT_EQ(desktop_.windows.live_windows(), 0);
+  EXPECT_EQ(desktop_.living_windows(), 0);
   WatchedWnd next;
   EXPECT_TRUE(next.create()) << "the failures leave no hook behind";
 }
@@ -84,7 +85,7 @@ TEST_F(FrameworkWnd, AnExceptionMakesTheCreationFailCleanly) {
     });
     EXPECT_FALSE(window.create());
     EXPECT_EQ(window.GetSafeHwnd(), nullptr);
-    EXPECT_EQ(desktop_.windows.live_windows(), 0);
+    EXPECT_EQ(desktop_.living_windows(), 0);
     throws = false;
     EXPECT_TRUE(window.create());
   }
@@ -359,7 +360,7 @@ TEST_F(FrameworkWnd, ClassNamesStandForTheirParts) {
   ASSERT_TRUE(::GetClassInfoW(nullptr, first.c_str(), &known));
   EXPECT_EQ(known.style, CS_DBLCLKS);
   EXPECT_EQ(known.hCursor, arrow);
-  FrameworkDesktop second;
+  test::Desktop second;
   EXPECT_EQ(AfxRegisterWndClass(CS_DBLCLKS, arrow), first);
   EXPECT_TRUE(::GetClassInfoW(nullptr, first.c_str(), &known)) << "in the second system too";
 }
@@ -368,7 +369,7 @@ TEST_F(FrameworkWnd, ObjectsOfTwoSystemsStayApart) {
   WatchedWnd here, there;
   ASSERT_TRUE(here.create());
   {
-    FrameworkDesktop second;
+    test::Desktop second;
     ASSERT_TRUE(there.create());
     EXPECT_EQ(CWnd::FromHandlePermanent(here), &here);
     EXPECT_EQ(CWnd::FromHandlePermanent(there), &there);
@@ -465,12 +466,12 @@ class PaintedWnd : public WatchedWnd {
 TEST_F(FrameworkWnd, PaintsWhatIsInvalidOnce) {
   PaintedWnd window;
   ASSERT_TRUE(window.create());
-  desktop_.windows.process_pending();
+  desktop_.pump();
   EXPECT_EQ(window.paints, 1);
-  desktop_.windows.process_pending();
+  desktop_.pump();
   EXPECT_EQ(window.paints, 1) << "CPaintDC has validated";
   window.Invalidate();
-  desktop_.windows.process_pending();
+  desktop_.pump();
   EXPECT_EQ(window.paints, 2);
   CClientDC dc(&window);
   EXPECT_EQ(::GetPixel(dc, 5, 5), RGB(10, 20, 30));
@@ -480,20 +481,15 @@ TEST_F(FrameworkWnd, InputReachesTheHandlers) {
   PaintedWnd parent, child;
   ASSERT_TRUE(parent.create());
   ASSERT_TRUE(child.create(parent, WS_CHILD | WS_VISIBLE, CRect(20, 30, 80, 90)));
-  desktop_.windows.process_pending();
-  desktop_.move_to(125, 137);
-  desktop_.button(MOUSEEVENTF_LEFTDOWN);
-  desktop_.button(MOUSEEVENTF_LEFTUP);
-  desktop_.windows.process_pending();
+  desktop_.pump();
+  desktop_.click(125, 137);
   EXPECT_TRUE(child.pressed == CPoint(5, 7));
   EXPECT_TRUE(parent.pressed == CPoint(-1, -1));
   desktop_.wheel(-120);
-  desktop_.windows.process_pending();
   EXPECT_EQ(child.turned, -120);
   EXPECT_EQ(parent.turned, 0);
   child.takes_wheel = FALSE;
   desktop_.wheel(240);
-  desktop_.windows.process_pending();
   EXPECT_EQ(child.turned, 120);
   EXPECT_EQ(parent.turned, 240) << "passed on by the default handling";
 }
@@ -519,9 +515,7 @@ TEST_F(FrameworkWnd, WheelThatIsPassedOnReachesEveryParentOnce) {
   ASSERT_TRUE(top.create());
   ASSERT_TRUE(parent.create(top, WS_CHILD | WS_VISIBLE, CRect(10, 10, 140, 140)));
   ASSERT_TRUE(child.create(parent, WS_CHILD | WS_VISIBLE, CRect(10, 10, 80, 90)));
-  desktop_.move_to(140, 140);
-  desktop_.wheel(-120);
-  desktop_.windows.process_pending();
+  desktop_.wheel_at(140, 140, -120);
   EXPECT_EQ(seen, 1);
 }
 

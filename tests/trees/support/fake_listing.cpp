@@ -1,6 +1,6 @@
 #include "tests/trees/support/fake_listing.h"
 
-namespace corvane_tests {
+namespace corvane::test {
 
 using corvane::FolderIdentity;
 using corvane::OpenFolder;
@@ -80,4 +80,4 @@ bool FakeListing::fails(const std::wstring& folder, std::size_t names) {
   return true;
 }
 
-}  // namespace corvane_tests
+}  // namespace corvane::test

@@ -8,7 +8,7 @@
 
 #include "corvane/platform/base_services/folder_listing.h"
 
-namespace corvane_tests {
+namespace corvane::test {
 
 class FakeListing : public corvane::FolderListing {
  public:
@@ -49,4 +49,4 @@ class FakeListing : public corvane::FolderListing {
   int open_ = 0;
 };
 
-}  // namespace corvane_tests
+}  // namespace corvane::test

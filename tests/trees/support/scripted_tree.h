@@ -4,7 +4,7 @@
 
 #include "corvane/trees/owner_drawn/tree_ctrl_ex2.h"
 
-namespace corvane_tests {
+namespace corvane::test {
 
 // Its scroll bar keeps the loop while the mouse button is held; a step follows each message of it.
 class ScriptedTree : public corvane::CTreeCtrlEx2 {
@@ -22,4 +22,4 @@ class ScriptedTree : public corvane::CTreeCtrlEx2 {
   std::size_t next_ = 0;
 };
 
-}  // namespace corvane_tests
+}  // namespace corvane::test

@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <vector>
 
-namespace corvane_tests {
+namespace corvane::test {
 namespace {
 
 std::string printable(const corvane::CString& name) {
@@ -38,4 +38,4 @@ std::string tree_text(const corvane::_NODE& node) {
   return text;
 }
 
-}  // namespace corvane_tests
+}  // namespace corvane::test

@@ -5,9 +5,9 @@
 
 #include "corvane/trees/model/tree_model.h"
 
-namespace corvane_tests {
+namespace corvane::test {
 
 std::string tree_text(const corvane::_NODE& node);
 inline std::string tree_text(const corvane::TreeModel& model) { return tree_text(model.root()); }
 
-}  // namespace corvane_tests
+}  // namespace corvane::test

@@ -6,10 +6,12 @@
 #include <string>
 #include <vector>
 
-#include "tests/layers/support/layer_test.h"
-#include "tests/layers/support/message_trap.h"
+#include "tests/support/app_desktop.h"
+#include "tests/support/host_window.h"
+#include "tests/support/message_trap.h"
+#include "tests/support/test_skin.h"
 
-namespace corvane_tests {
+namespace corvane::test {
 
 // A host with layers, what a user does to them, and what may go wrong.
 class Scene {
@@ -46,4 +48,4 @@ inline constexpr RECT session_host = {10, 10, 230, 170};
 using SceneMaker = std::function<std::unique_ptr<Scene>(Desktop& desktop, MessageTrap& trap)>;
 void destroy_at_every_message(const SceneMaker& make_scene, const DestroyCase& destroy_case);
 
-}  // namespace corvane_tests
+}  // namespace corvane::test

@@ -1,4 +1,4 @@
-#include "tests/layers/support/test_skin.h"
+#include "tests/support/test_skin.h"
 
 #include <filesystem>
 #include <iterator>
@@ -7,7 +7,7 @@
 #include "corvane/platform/base_services/installation.h"
 #include "corvane/platform/system/gdi/image_encoder.h"
 
-namespace corvane_tests {
+namespace corvane::test {
 namespace {
 
 // A PNG picture of one pixel that is clear.
@@ -71,4 +71,4 @@ void TestSkin::write_image(const char* name, COLORREF color) const {
   folder_.file(name, std::string(bytes.begin(), bytes.end()));
 }
 
-}  // namespace corvane_tests
+}  // namespace corvane::test

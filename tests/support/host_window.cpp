@@ -1,11 +1,11 @@
-#include "tests/layers/support/host_window.h"
+#include "tests/support/host_window.h"
 
 #include <algorithm>
 #include <iterator>
 
 #include "corvane/frame/layer_messages.h"
 
-namespace corvane_tests {
+namespace corvane::test {
 namespace {
 
 constexpr int square = 16;
@@ -61,4 +61,4 @@ void HostWindow::paint() {
   }
 }
 
-}  // namespace corvane_tests
+}  // namespace corvane::test

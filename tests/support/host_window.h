@@ -6,7 +6,7 @@
 
 #include "corvane/platform/framework/framework.h"
 
-namespace corvane_tests {
+namespace corvane::test {
 
 // What the picture shows at a point of the host's client area: squares of 16 pixels, each of its
 // own colour.
@@ -39,4 +39,4 @@ class HostWindow : public corvane::CWnd {
   std::vector<Received> received_;
 };
 
-}  // namespace corvane_tests
+}  // namespace corvane::test

@@ -1,8 +1,12 @@
-#include "tests/layers/support/destroy_session.h"
+#include "tests/support/destroy_session.h"
+
+#include <gtest/gtest.h>
 
 #include <map>
 
-namespace corvane_tests {
+#include "tests/support/own_system.h"
+
+namespace corvane::test {
 namespace {
 
 void do_worst(Scene& scene, Deed deed) {
@@ -22,7 +26,7 @@ void do_worst(Scene& scene, Deed deed) {
 
 // The messages of an undisturbed session, each at its first time in every phase.
 std::map<TrapPoint, std::vector<int>> listen(const SceneMaker& make_scene) {
-  Desktop desktop(session_screen);
+  AppDesktop desktop(session_screen);
   MessageTrap trap;
   make_scene(desktop, trap)->play();
   return trap.firsts();
@@ -31,8 +35,8 @@ std::map<TrapPoint, std::vector<int>> listen(const SceneMaker& make_scene) {
 // False: the message did not come.
 bool play(const SceneMaker& make_scene, const DestroyCase& destroy_case, const TrapPoint& point,
           int occurrence) {
-  Desktop desktop(session_screen);
-  const int windows = desktop.windows().live_windows();
+  AppDesktop desktop(session_screen);
+  const int windows = desktop.living_windows();
   bool sprung = false;
   {
     MessageTrap trap;
@@ -43,8 +47,8 @@ bool play(const SceneMaker& make_scene, const DestroyCase& destroy_case, const T
     sprung = trap.sprung();
     played->delete_layer();
   }
-  EXPECT_EQ(desktop.windows().live_windows(), windows);
-  EXPECT_EQ(desktop.windows().live_timers(), 0);
+  EXPECT_EQ(desktop.living_windows(), windows);
+  EXPECT_EQ(desktop.own().windows.live_timers(), 0);
   return sprung;
 }
 
@@ -80,4 +84,4 @@ std::string name_of(const DestroyCase& destroy_case) {
          (destroy_case.side == TrapSide::before_handling ? "Before" : "After");
 }
 
-}  // namespace corvane_tests
+}  // namespace corvane::test

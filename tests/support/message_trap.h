@@ -10,7 +10,7 @@
 
 #include "corvane/platform/platform.h"
 
-namespace corvane_tests {
+namespace corvane::test {
 
 // A message of a kind of window: a window is known by its text, a button of a skin as "button".
 struct TrapPoint {
@@ -61,4 +61,4 @@ class MessageTrap {
   bool sprung_ = false;
 };
 
-}  // namespace corvane_tests
+}  // namespace corvane::test

@@ -1,8 +1,8 @@
-#include "tests/layers/support/message_trap.h"
+#include "tests/support/message_trap.h"
 
 #include <utility>
 
-namespace corvane_tests {
+namespace corvane::test {
 namespace {
 
 WNDPROC replace_procedure(HWND window, WNDPROC procedure) {
@@ -79,4 +79,4 @@ void MessageTrap::spring() {
   std::exchange(action_, nullptr)();
 }
 
-}  // namespace corvane_tests
+}  // namespace corvane::test

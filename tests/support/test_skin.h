@@ -6,7 +6,7 @@
 #include "corvane/platform/platform.h"
 #include "tests/support/temporary_folder.h"
 
-namespace corvane_tests {
+namespace corvane::test {
 
 class TestSkin {
  public:
@@ -38,4 +38,4 @@ class TestSkin {
   corvane::test::TemporaryFolder folder_;
 };
 
-}  // namespace corvane_tests
+}  // namespace corvane::test
