@@ -5,7 +5,7 @@
 #include <sstream>
 
 #include "corvane/platform/base_services/installation.h"
-#include "corvane/platform/system/gdi/image_encoder.h"
+#include "tests/support/bitmap_file.h"
 
 namespace corvane::test {
 namespace {
@@ -44,15 +44,15 @@ TestSkin::TestSkin() {
                "<controls><list id=\"4\">" + crop_controls() + "</list><list id=\"100\">" +
                    control(11, button_11) + control(12, button_12) +
                    control(13, button_13, "clear.png") +
-                   "</list><list id=\"1\"><control id=\"1\" images=\"glyph_{state}.png\"/>"
-                   "<control id=\"2\" images=\"folder_{state}.png\"/></list></controls>");
+                   "</list><list id=\"1\"><control id=\"1\" images=\"glyph_{state}.bmp\"/>"
+                   "<control id=\"2\" images=\"folder_{state}.bmp\"/></list></controls>");
   folder_.file("ui_language.xml", "<captions/>");
   folder_.file("ui_logfont.xml", "<fonts/>");
   folder_.file("image/clear.png", std::string(std::begin(clear_picture), std::end(clear_picture)));
-  write_image("image/glyph_normal.png", collapsed_glyph);
-  write_image("image/glyph_selected.png", expanded_glyph);
-  write_image("image/folder_normal.png", folder);
-  write_image("image/folder_selected.png", highlighted_folder);
+  folder_.file("image/glyph_normal.bmp", bitmap_file({30, 30}, collapsed_glyph));
+  folder_.file("image/glyph_selected.bmp", bitmap_file({30, 30}, expanded_glyph));
+  folder_.file("image/folder_normal.bmp", bitmap_file({30, 30}, folder));
+  folder_.file("image/folder_selected.bmp", bitmap_file({30, 30}, highlighted_folder));
   corvane::SetSkinFolder(folder_.wide().c_str());
 }
 
@@ -62,13 +62,6 @@ void TestSkin::remove_files() {
   for (const auto& entry : std::filesystem::directory_iterator(folder_.path())) {
     std::filesystem::remove_all(entry.path());
   }
-}
-
-void TestSkin::write_image(const char* name, COLORREF color) const {
-  using namespace corvane::system;
-  const Surface surface(30, 30, 0xFF000000 | pixel_of(color));
-  const auto bytes = encode_png(surface, surface.rect());
-  folder_.file(name, std::string(bytes.begin(), bytes.end()));
 }
 
 }  // namespace corvane::test

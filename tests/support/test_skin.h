@@ -33,9 +33,7 @@ class TestSkin {
   static constexpr COLORREF highlighted_folder = RGB(200, 0, 200);
 
  private:
-  void write_image(const char* name, COLORREF color) const;
-
-  corvane::test::TemporaryFolder folder_;
+  TemporaryFolder folder_;
 };
 
 }  // namespace corvane::test

@@ -9,13 +9,9 @@ class CommandTest : public WindowTest {
   void SetUp() override {
     WindowTest::SetUp();
     parent_ = settled_popup("parent", 100, 100, 200, 200);
-    button_ = create("button", {.parent = parent_,
-                                .style = WS_CHILD | WS_VISIBLE,
-                                .x = 50,
-                                .y = 50,
-                                .width = 60,
-                                .height = 20,
-                                .id = 33});
+    button_ = create(
+        "button",
+        {.parent = parent_, .style = WS_CHILD | WS_VISIBLE, .place = {50, 50, 60, 20}, .id = 33});
     recorder().before_default("button", WM_LBUTTONDOWN, [this] {
       SetFocus(button_);
       SetCapture(button_);

@@ -10,18 +10,11 @@ class CursorTest : public WindowTest {
     WindowTest::SetUp();
     cross_ = LoadCursorW(nullptr, IDC_CROSS);
     hand_ = LoadCursorW(nullptr, IDC_HAND);
-    top_ = create("top", {.style = WS_POPUP | WS_VISIBLE,
-                          .x = 100,
-                          .y = 100,
-                          .width = 200,
-                          .height = 200,
-                          .cursor = cross_});
+    top_ = create(
+        "top", {.style = WS_POPUP | WS_VISIBLE, .place = {100, 100, 200, 200}, .cursor = cross_});
     child_ = create("child", {.parent = top_,
                               .style = WS_CHILD | WS_VISIBLE,
-                              .x = 50,
-                              .y = 50,
-                              .width = 50,
-                              .height = 50,
+                              .place = {50, 50, 50, 50},
                               .cursor = hand_});
     move_to(105, 105);
     recorder().only({WM_SETCURSOR});

@@ -8,10 +8,7 @@ class DoubleClickTest : public WindowTest {
  protected:
   void make(UINT class_style) {
     create("pop", {.style = WS_POPUP | WS_VISIBLE,
-                   .x = 100,
-                   .y = 100,
-                   .width = 200,
-                   .height = 100,
+                   .place = {100, 100, 200, 100},
                    .class_style = class_style});
     move_to(150, 150);
     settle();
@@ -96,12 +93,9 @@ TEST_F(DoubleClickTest, MustBeTheSameButton) {
 TEST_F(DoubleClickTest, MustBeTheSameWindow) {
   make(CS_DBLCLKS);
   click_here();
-  create("cover", {.style = WS_POPUP | WS_VISIBLE,
-                   .x = 100,
-                   .y = 100,
-                   .width = 200,
-                   .height = 100,
-                   .class_style = CS_DBLCLKS});
+  create(
+      "cover",
+      {.style = WS_POPUP | WS_VISIBLE, .place = {100, 100, 200, 100}, .class_style = CS_DBLCLKS});
   settle();
   click_here();
   EXPECT_TRUE(log_is("cover (q) WM_LBUTTONDOWN > (q) WM_LBUTTONUP"));

@@ -18,15 +18,11 @@ class LayeredTest : public WindowTest {
  protected:
   void SetUp() override {
     WindowTest::SetUp();
-    create("below",
-           {.style = WS_POPUP | WS_VISIBLE, .x = 100, .y = 100, .width = 200, .height = 150});
+    create("below", {.style = WS_POPUP | WS_VISIBLE, .place = {100, 100, 200, 150}});
     paint_patches("below", {{{0, 0, 200, 150}, red}});
     layer_ = create("layer", {.parent = window("below"),
                               .style = WS_POPUP | WS_VISIBLE,
-                              .x = 100,
-                              .y = 100,
-                              .width = 200,
-                              .height = 150,
+                              .place = {100, 100, 200, 150},
                               .ex_style = WS_EX_LAYERED});
     paint_patches("layer", {{{20, 20, 60, 60}, black}});
     settle();
@@ -165,10 +161,7 @@ TEST_F(LayeredTest, LayeredAndTransparentLetsEverythingThrough) {
 TEST_F(LayeredTest, TransparentAloneTakesPresses) {
   create("glass", {.parent = window("below"),
                    .style = WS_POPUP | WS_VISIBLE,
-                   .x = 100,
-                   .y = 100,
-                   .width = 200,
-                   .height = 150,
+                   .place = {100, 100, 200, 150},
                    .ex_style = WS_EX_TRANSPARENT});
   settle();
   EXPECT_EQ(on_black(), "glass");
@@ -252,8 +245,7 @@ class LayeredChildTest : public LayeredTest {
     DestroyWindow(layer_);
     child_ = create("layer", {.parent = window("below"),
                               .style = WS_CHILD | WS_VISIBLE,
-                              .width = 200,
-                              .height = 150,
+                              .place = {.width = 200, .height = 150},
                               .ex_style = WS_EX_LAYERED});
     EXPECT_NE(child_, nullptr);
     settle();

@@ -19,15 +19,11 @@ class UpdateLayeredTest : public WindowTest {
  protected:
   void SetUp() override {
     WindowTest::SetUp();
-    create("below",
-           {.style = WS_POPUP | WS_VISIBLE, .x = 100, .y = 100, .width = 200, .height = 150});
+    create("below", {.style = WS_POPUP | WS_VISIBLE, .place = {100, 100, 200, 150}});
     paint_patches("below", {{{0, 0, 200, 150}, red}});
     layer_ = create("layer", {.parent = window("below"),
                               .style = WS_POPUP | WS_VISIBLE,
-                              .x = 100,
-                              .y = 100,
-                              .width = 100,
-                              .height = 100,
+                              .place = {100, 100, 100, 100},
                               .ex_style = WS_EX_LAYERED});
     settle();
   }

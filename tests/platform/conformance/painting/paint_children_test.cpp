@@ -8,11 +8,8 @@ class PaintChildrenTest : public WindowTest {
  protected:
   // A parent at 100,100 with a child at 50,50 (60 x 40) in it, all painted.
   void make(DWORD parent_style) {
-    parent_ = create("parent", {.style = WS_POPUP | WS_VISIBLE | parent_style,
-                                .x = 100,
-                                .y = 100,
-                                .width = 200,
-                                .height = 150});
+    parent_ = create(
+        "parent", {.style = WS_POPUP | WS_VISIBLE | parent_style, .place = {100, 100, 200, 150}});
     child_ = settled_child("child", parent_, 50, 50, 60, 40);
     recorder().only({WM_PAINT, WM_ERASEBKGND});
   }

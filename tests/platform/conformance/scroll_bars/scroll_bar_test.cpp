@@ -17,11 +17,8 @@ class ScrollBarTest : public WindowTest {
  protected:
   void SetUp() override {
     WindowTest::SetUp();
-    window_ = create("pop", {.style = WS_POPUP | WS_VISIBLE | WS_VSCROLL,
-                             .x = 100,
-                             .y = bar_top,
-                             .width = 200,
-                             .height = 300});
+    window_ = create(
+        "pop", {.style = WS_POPUP | WS_VISIBLE | WS_VSCROLL, .place = {100, bar_top, 200, 300}});
     set(SIF_ALL, 600, 300, 0);
     step_after_each("pop");
     recorder().only({WM_NCLBUTTONDOWN, WM_SYSCOMMAND, WM_VSCROLL, WM_HSCROLL, WM_CAPTURECHANGED,
@@ -129,10 +126,7 @@ TEST_F(ScrollBarTest, QuickClickActsOnce) {
 
 TEST_F(ScrollBarTest, SecondOfTwoQuickClicksActsToo) {
   const HWND clicked = create("clicked", {.style = WS_POPUP | WS_VISIBLE | WS_VSCROLL,
-                                          .x = 400,
-                                          .y = 100,
-                                          .width = 200,
-                                          .height = 300,
+                                          .place = {400, 100, 200, 300},
                                           .class_style = CS_DBLCLKS});
   ASSERT_NE(clicked, nullptr);
   move_to(590, down_arrow);
@@ -352,11 +346,8 @@ TEST_F(ScrollBarTest, ChildsBarWorksInItsOwnPlace) {
 }
 
 TEST_F(ScrollBarTest, HorizontalBarIsTheSameLyingDown) {
-  const HWND wide = create("wide", {.style = WS_POPUP | WS_VISIBLE | WS_HSCROLL,
-                                    .x = 400,
-                                    .y = 100,
-                                    .width = 300,
-                                    .height = 200});
+  const HWND wide =
+      create("wide", {.style = WS_POPUP | WS_VISIBLE | WS_HSCROLL, .place = {400, 100, 300, 200}});
   step_after_each("wide");
   SCROLLINFO info{sizeof(SCROLLINFO), SIF_ALL, 0, 600, 300, 0, 0};
   SetScrollInfo(wide, SB_HORZ, &info, TRUE);

@@ -22,8 +22,7 @@ class ScrollFrameTest : public WindowTest {
     settle();
   }
   static WindowPlan plan(DWORD style) {
-    return {
-        .style = WS_POPUP | WS_VISIBLE | style, .x = 100, .y = 100, .width = 200, .height = 300};
+    return {.style = WS_POPUP | WS_VISIBLE | style, .place = {100, 100, 200, 300}};
   }
   int set(UINT mask, int maximum, UINT page, int position = 0) {
     SCROLLINFO info{sizeof(SCROLLINFO), mask, 0, maximum, page, position, 0};

@@ -8,11 +8,8 @@ class ScrollInfoTest : public WindowTest {
  protected:
   void SetUp() override {
     WindowTest::SetUp();
-    window_ = create("pop", {.style = WS_POPUP | WS_VISIBLE | WS_VSCROLL,
-                             .x = 100,
-                             .y = 100,
-                             .width = 200,
-                             .height = 300});
+    window_ =
+        create("pop", {.style = WS_POPUP | WS_VISIBLE | WS_VSCROLL, .place = {100, 100, 200, 300}});
     plain_ = settled_popup("plain", 500, 100, 200, 300);
   }
   int set(UINT mask, int minimum, int maximum, UINT page, int position) {

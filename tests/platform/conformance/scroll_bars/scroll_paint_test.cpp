@@ -12,11 +12,8 @@ class ScrollPaintTest : public WindowTest {
  protected:
   void SetUp() override {
     WindowTest::SetUp();
-    window_ = create("pop", {.style = WS_POPUP | WS_VISIBLE | WS_VSCROLL,
-                             .x = 100,
-                             .y = 100,
-                             .width = 200,
-                             .height = 300});
+    window_ =
+        create("pop", {.style = WS_POPUP | WS_VISIBLE | WS_VSCROLL, .place = {100, 100, 200, 300}});
     set(window_, SIF_ALL, 600, 300, 0);
     settle();
   }
@@ -187,11 +184,8 @@ class ChildScrollPaintTest : public ScrollPaintTest,
   void SetUp() override {
     ScrollPaintTest::SetUp();
     const auto [parent_style, child_style] = GetParam();
-    parent_ = create("parent", {.style = WS_POPUP | WS_VISIBLE | parent_style,
-                                .x = 400,
-                                .y = 100,
-                                .width = 300,
-                                .height = 350});
+    parent_ = create(
+        "parent", {.style = WS_POPUP | WS_VISIBLE | parent_style, .place = {400, 100, 300, 350}});
     paint_patches("parent", {{{0, 0, 300, 350}, red}});
     child_ = settled_child("child", parent_, 10, 20, 200, 300, WS_VSCROLL | child_style);
     set(child_, SIF_ALL, 600, 300, 0);

@@ -45,11 +45,11 @@ HWND MessageRecorder::create(const std::string& name, const WindowPlan& plan) {
   const std::wstring class_name = class_for(plan);
   being_created_.push_back(name);
   const std::size_t pending = being_created_.size();
-  const HWND window = CreateWindowExW(plan.ex_style, class_name.c_str(),
-                                      std::wstring(name.begin(), name.end()).c_str(), plan.style,
-                                      plan.x, plan.y, plan.width, plan.height, plan.parent,
-                                      reinterpret_cast<HMENU>(static_cast<UINT_PTR>(plan.id)),
-                                      GetModuleHandleW(nullptr), plan.parameter);
+  const HWND window = CreateWindowExW(
+      plan.ex_style, class_name.c_str(), std::wstring(name.begin(), name.end()).c_str(), plan.style,
+      plan.place.x, plan.place.y, plan.place.width, plan.place.height, plan.parent,
+      reinterpret_cast<HMENU>(static_cast<UINT_PTR>(plan.id)), GetModuleHandleW(nullptr),
+      plan.parameter);
   // A refused creation may never have sent a message.
   if (being_created_.size() == pending) being_created_.pop_back();
   return window;

@@ -30,13 +30,17 @@ struct Message {
   LPARAM lparam;
 };
 
-struct WindowPlan {
-  HWND parent = nullptr;  // parent or owner
-  DWORD style = WS_POPUP;
+struct WindowPlace {
   int x = 0;
   int y = 0;
   int width = 100;
   int height = 100;
+};
+
+struct WindowPlan {
+  HWND parent = nullptr;  // parent or owner
+  DWORD style = WS_POPUP;
+  WindowPlace place = {};
   DWORD ex_style = 0;
   int id = 0;
   UINT class_style = 0;

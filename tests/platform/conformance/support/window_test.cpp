@@ -25,12 +25,8 @@ void WindowTest::click(int x, int y) {
 
 HWND WindowTest::settled_popup(const std::string& name, int x, int y, int width, int height,
                                HWND owner) {
-  const HWND result = create(name, {.parent = owner,
-                                    .style = WS_POPUP | WS_VISIBLE,
-                                    .x = x,
-                                    .y = y,
-                                    .width = width,
-                                    .height = height});
+  const HWND result = create(
+      name, {.parent = owner, .style = WS_POPUP | WS_VISIBLE, .place = {x, y, width, height}});
   EXPECT_NE(result, nullptr);
   settle();
   return result;
@@ -40,10 +36,7 @@ HWND WindowTest::settled_child(const std::string& name, HWND parent, int x, int 
                                int height, DWORD extra_style) {
   const HWND result = create(name, {.parent = parent,
                                     .style = WS_CHILD | WS_VISIBLE | extra_style,
-                                    .x = x,
-                                    .y = y,
-                                    .width = width,
-                                    .height = height});
+                                    .place = {x, y, width, height}});
   EXPECT_NE(result, nullptr);
   settle();
   return result;

@@ -9,13 +9,7 @@ namespace {
 class ObservedCreateOrder : public WindowTest {
  protected:
   static WindowPlan child_of(HWND parent, DWORD extra_style) {
-    return {.parent = parent,
-            .style = WS_CHILD | extra_style,
-            .x = 10,
-            .y = 20,
-            .width = 40,
-            .height = 30,
-            .id = 7};
+    return {.parent = parent, .style = WS_CHILD | extra_style, .place = {10, 20, 40, 30}, .id = 7};
   }
 };
 
@@ -43,7 +37,7 @@ TEST_F(ObservedCreateOrder, HiddenChild) {
 }
 
 TEST_F(ObservedCreateOrder, VisibleChildInHiddenParent) {
-  const HWND parent = create("parent", {.width = 200, .height = 150});
+  const HWND parent = create("parent", {.place = {.width = 200, .height = 150}});
   recorder().clear();
   create("child", child_of(parent, WS_VISIBLE));
   pump();
@@ -65,7 +59,7 @@ TEST_F(ObservedCreateOrder, ChildsCalculationRectangleIsInScreenCoordinates) {
 
 TEST_F(ObservedCreateOrder, HiddenOwnedPopupOfNoSize) {
   const HWND owner = settled_popup("owner", 100, 100, 200, 150);
-  create("pop", {.parent = owner, .x = 5, .y = 6, .width = 0, .height = 0});
+  create("pop", {.parent = owner, .place = {5, 6, 0, 0}});
   pump();
   EXPECT_TRUE(
       log_is("pop WM_NCCREATE > WM_NCCALCSIZE 0 > WM_CREATE > WM_SIZE 0 0x0 > WM_MOVE 5,6"));
@@ -73,14 +67,14 @@ TEST_F(ObservedCreateOrder, HiddenOwnedPopupOfNoSize) {
 }
 
 TEST_F(ObservedCreateOrder, SizeAndMoveAreSentForNothingAtTheOrigin) {
-  create("pop", {.width = 0, .height = 0});
+  create("pop", {.place = {.width = 0, .height = 0}});
   EXPECT_TRUE(
       log_is("pop WM_NCCREATE > WM_NCCALCSIZE 0 > WM_CREATE > WM_SIZE 0 0x0 > WM_MOVE 0,0"));
 }
 
 TEST_F(ObservedCreateOrder, VisiblePopupTakesTheActivation) {
   settled_popup("old", 0, 0, 50, 50);
-  create("new", {.style = WS_POPUP | WS_VISIBLE, .x = 60, .y = 70, .width = 80, .height = 90});
+  create("new", {.style = WS_POPUP | WS_VISIBLE, .place = {60, 70, 80, 90}});
   EXPECT_TRUE(
       log_is("new WM_NCCREATE > WM_NCCALCSIZE 0 > WM_CREATE > WM_SIZE 0 80x90 > WM_MOVE 60,70 >"
              "WM_SHOWWINDOW 1 0 > WM_WINDOWPOSCHANGING NOSIZE|NOMOVE|SHOWWINDOW >"
@@ -104,7 +98,7 @@ TEST_F(ObservedCreateOrder, FirstActivationTellsTheApplicationFirst) {
 }
 
 TEST_F(ObservedCreateOrder, CaptionedWindowAsksForItsLimitsFirst) {
-  create("main", {.style = WS_OVERLAPPED | WS_CAPTION, .width = 300, .height = 200});
+  create("main", {.style = WS_OVERLAPPED | WS_CAPTION, .place = {.width = 300, .height = 200}});
   ASSERT_GE(recorder().log().size(), 2U);
   EXPECT_EQ(recorder().log()[0].text, "main WM_GETMINMAXINFO");
   EXPECT_EQ(recorder().log()[1].text, "main WM_NCCREATE");
@@ -114,7 +108,7 @@ TEST_F(ObservedCreateOrder, CaptionedWindowAsksForItsLimitsFirst) {
 
 TEST_F(ObservedCreateOrder, CaptionedWindowLearnsItsSizeAtTheEndOfItsFirstShowing) {
   const HWND main =
-      create("main", {.style = WS_OVERLAPPED | WS_CAPTION, .width = 300, .height = 200});
+      create("main", {.style = WS_OVERLAPPED | WS_CAPTION, .place = {.width = 300, .height = 200}});
   recorder().clear();
   ShowWindow(main, SW_SHOW);
   const std::vector<LogLine> log = recorder().log();
@@ -135,7 +129,7 @@ TEST_F(ObservedCreateOrder, FailedCreateIsNotDestroyedTwice) {
 }
 
 TEST_F(ObservedCreateOrder, NewChildrenGoBelowTheirSiblings) {
-  const HWND parent = create("parent", {.width = 200, .height = 150});
+  const HWND parent = create("parent", {.place = {.width = 200, .height = 150}});
   const HWND first = create("first", child_of(parent, 0));
   const HWND second = create("second", child_of(parent, 0));
   const HWND third = create("third", child_of(parent, 0));

@@ -29,7 +29,7 @@ struct SeenCreation {
 };
 
 TEST_F(CreateWindowTest, CreationDataIsWhatTheCallerGave) {
-  const HWND parent = create("parent", {.width = 300, .height = 300});
+  const HWND parent = create("parent", {.place = {.width = 300, .height = 300}});
   std::vector<SeenCreation> seen;
   const auto remember = [&](const Message& sent) -> std::optional<LRESULT> {
     const auto* data = reinterpret_cast<const CREATESTRUCTW*>(sent.lparam);
@@ -41,10 +41,7 @@ TEST_F(CreateWindowTest, CreationDataIsWhatTheCallerGave) {
   int payload = 0;
   const WindowPlan plan = {.parent = parent,
                            .style = WS_CHILD | WS_VISIBLE | WS_TABSTOP,
-                           .x = -3,
-                           .y = 4,
-                           .width = 50,
-                           .height = 60,
+                           .place = {-3, 4, 50, 60},
                            .ex_style = WS_EX_TRANSPARENT,
                            .id = 21,
                            .parameter = &payload};

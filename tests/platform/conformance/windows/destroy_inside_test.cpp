@@ -271,8 +271,9 @@ void press_inactive_popup(Test& test) {
 }
 void hide_popup(Test& test) { ShowWindow(test.popup(), SW_HIDE); }
 void make_popup(Test& test) {
-  test.create("new_popup",
-              {.parent = test.popup(), .style = WS_POPUP | WS_VISIBLE, .x = 10, .y = 10});
+  test.create(
+      "new_popup",
+      {.parent = test.popup(), .style = WS_POPUP | WS_VISIBLE, .place = {.x = 10, .y = 10}});
 }
 void drag_popup(Test& test) { SendMessageW(test.popup(), WM_SYSCOMMAND, SC_MOVE | HTCAPTION, 0); }
 

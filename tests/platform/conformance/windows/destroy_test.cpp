@@ -61,9 +61,10 @@ TEST_F(DestroyWindowTest, ChildrenDestroyedWithTheirParentAreNotAnnounced) {
 
 TEST_F(ObservedDestroyOrder, VisibleChildIsAnnouncedAndHiddenFirst) {
   const HWND parent = settled_popup("parent", 100, 100, 200, 150);
-  const HWND child = create(
-      "child",
-      {.parent = parent, .style = WS_CHILD | WS_VISIBLE, .width = 40, .height = 30, .id = 7});
+  const HWND child = create("child", {.parent = parent,
+                                      .style = WS_CHILD | WS_VISIBLE,
+                                      .place = {.width = 40, .height = 30},
+                                      .id = 7});
   settle();
   EXPECT_NE(DestroyWindow(child), 0);
   EXPECT_TRUE(

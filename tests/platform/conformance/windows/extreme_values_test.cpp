@@ -60,12 +60,9 @@ TEST_F(ExtremeValuesTest, SizesOfWindows) {
 
 TEST_F(ExtremeValuesTest, CreatedThere) {
   for (const int value : extremes) {
-    const HWND window = create("far", {.parent = popup_,
-                                       .style = WS_CHILD | WS_VISIBLE,
-                                       .x = value,
-                                       .y = value,
-                                       .width = value,
-                                       .height = value});
+    const HWND window = create(
+        "far",
+        {.parent = popup_, .style = WS_CHILD | WS_VISIBLE, .place = {value, value, value, value}});
     pump();
     if (window != nullptr) DestroyWindow(window);
   }

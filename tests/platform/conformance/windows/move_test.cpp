@@ -90,12 +90,8 @@ TEST_F(MoveWindowTest, ChangingHandlerMayChangeThePosition) {
 
 TEST_F(MoveWindowTest, MovedChildKeepsItsPixelsAndTheParentPaintsTheGap) {
   const HWND parent = settled_popup("parent", 100, 100, 300, 200);
-  const HWND child = create("child", {.parent = parent,
-                                      .style = WS_CHILD | WS_VISIBLE,
-                                      .x = 10,
-                                      .y = 20,
-                                      .width = 40,
-                                      .height = 30});
+  const HWND child = create(
+      "child", {.parent = parent, .style = WS_CHILD | WS_VISIBLE, .place = {10, 20, 40, 30}});
   paint_patches("child", {{{0, 0, 40, 30}, RGB(200, 0, 0)}});
   settle();
   recorder().only({WM_PAINT, WM_ERASEBKGND});
@@ -142,8 +138,7 @@ TEST_P(SizePaintTest, PaintsTheNewPartOrEverything) {
   const HWND parent = settled_popup("parent", 100, 100, 300, 200);
   const HWND child = create("child", {.parent = parent,
                                       .style = WS_CHILD | WS_VISIBLE,
-                                      .width = 40,
-                                      .height = 30,
+                                      .place = {.width = 40, .height = 30},
                                       .class_style = change.class_style});
   settle();
   recorder().only({WM_PAINT});
@@ -195,8 +190,9 @@ TEST_F(MoveWindowTest, GrowingClipsTheOldPartOut) {
 TEST_F(MoveWindowTest, ResizedTopLevelWindowErasesOnceAndPaintsOnce) {
   for (const UINT style : {0U, CS_HREDRAW | CS_VREDRAW}) {
     const std::string name = "pop" + std::to_string(style);
-    const HWND popup = create(
-        name, {.style = WS_POPUP | WS_VISIBLE, .width = 40, .height = 30, .class_style = style});
+    const HWND popup = create(name, {.style = WS_POPUP | WS_VISIBLE,
+                                     .place = {.width = 40, .height = 30},
+                                     .class_style = style});
     settle();
     recorder().only({WM_PAINT, WM_ERASEBKGND});
     MoveWindow(popup, 0, 0, 90, 90, TRUE);
@@ -209,7 +205,7 @@ TEST_F(MoveWindowTest, ResizedTopLevelWindowErasesOnceAndPaintsOnce) {
 class ObservedPositionOrder : public WindowTest {};
 
 TEST_F(ObservedPositionOrder, HiddenWindowIsToldTheSameButPaintsNothing) {
-  const HWND popup = create("pop", {.width = 40, .height = 30});
+  const HWND popup = create("pop", {.place = {.width = 40, .height = 30}});
   settle();
   MoveWindow(popup, 5, 6, 50, 60, TRUE);
   pump();
@@ -220,7 +216,7 @@ TEST_F(ObservedPositionOrder, HiddenWindowIsToldTheSameButPaintsNothing) {
 }
 
 TEST_F(ObservedPositionOrder, NegativeSizesBecomeZero) {
-  const HWND popup = create("pop", {.width = 40, .height = 30});
+  const HWND popup = create("pop", {.place = {.width = 40, .height = 30}});
   EXPECT_NE(MoveWindow(popup, 5, 6, -10, -20, TRUE), 0);
   EXPECT_EQ(text_of(window_rect(popup)), "5,6,5,6");
   EXPECT_EQ(text_of(client_rect(popup)), "0,0,0,0");

@@ -13,7 +13,7 @@ class OverlayStackTest : public WindowTest {
     host_ = settled_popup("host", 0, 0, 600, 500);
     recorder().after_default("background", WM_CREATE, [this] { create_layer(); });
     recorder().after_default("layer", WM_CREATE, [this] {
-      create("bar", {.parent = window("layer"), .width = 0, .height = 0});
+      create("bar", {.parent = window("layer"), .place = {.width = 0, .height = 0}});
     });
     recorder().on("background", WM_SIZE, [this](const Message&) -> std::optional<LRESULT> {
       follow();
@@ -23,16 +23,16 @@ class OverlayStackTest : public WindowTest {
       follow();
       return std::nullopt;
     });
-    background_ =
-        create("background", {.parent = host_, .x = 100, .y = 100, .width = 200, .height = 150});
+    background_ = create("background", {.parent = host_, .place = {100, 100, 200, 150}});
     creation_ = recorder().log();
     layer_ = window("layer");
     bar_ = window("bar");
   }
 
   void create_layer() {
-    create("layer",
-           {.parent = window("background"), .width = 0, .height = 0, .ex_style = WS_EX_LAYERED});
+    create("layer", {.parent = window("background"),
+                     .place = {.width = 0, .height = 0},
+                     .ex_style = WS_EX_LAYERED});
     SetLayeredWindowAttributes(window("layer"), key_color, 0, LWA_COLORKEY);
     paint_patches("layer", {{{20, 20, 60, 60}, RGB(40, 40, 40)}});
   }

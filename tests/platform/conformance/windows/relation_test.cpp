@@ -107,7 +107,7 @@ class CreationHookTest : public WindowTest {
 TEST_F(CreationHookTest, SeesTheWindowBeforeItsFirstMessage) {
   bool seen_first = false;
   recorder().before_default("pop", WM_NCCREATE, [&] { seen_first = hook_calls.size() == 1; });
-  const HWND popup = create("pop", {.width = 123});
+  const HWND popup = create("pop", {.place = {.width = 123}});
   EXPECT_TRUE(seen_first);
   ASSERT_EQ(hook_calls.size(), 1U);
   EXPECT_EQ(hook_calls[0].window, popup);

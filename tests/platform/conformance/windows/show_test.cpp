@@ -79,7 +79,7 @@ class ObservedActivatingShowOrder : public WindowTest, public testing::WithParam
 
 TEST_P(ObservedActivatingShowOrder, ShowsActivatesErases) {
   settled_popup("old", 0, 0, 50, 50);
-  const HWND popup = create("pop", {.width = 60, .height = 70});
+  const HWND popup = create("pop", {.place = {.width = 60, .height = 70}});
   settle();
   EXPECT_EQ(ShowWindow(popup, GetParam()), 0);
   EXPECT_TRUE(
@@ -106,7 +106,7 @@ class QuietShowTest : public WindowTest, public testing::WithParamInterface<Quie
 
 TEST_P(QuietShowTest, DoesNotActivate) {
   const HWND old = settled_popup("old", 0, 0, 50, 50);
-  const HWND popup = create("pop", {.width = 60, .height = 70});
+  const HWND popup = create("pop", {.place = {.width = 60, .height = 70}});
   settle();
   EXPECT_EQ(ShowWindow(popup, GetParam().command), 0);
   EXPECT_TRUE(log_is(std::string("pop WM_SHOWWINDOW 1 0 > WM_WINDOWPOSCHANGING ") +
@@ -167,7 +167,7 @@ INSTANTIATE_TEST_SUITE_P(, ObservedNextActive,
 
 TEST_F(ObservedShowOrder, PopupWithoutSizeActivatesButPaintsNothing) {
   settled_popup("old", 0, 0, 50, 50);
-  const HWND popup = create("pop", {.width = 0, .height = 0});
+  const HWND popup = create("pop", {.place = {.width = 0, .height = 0}});
   settle();
   ShowWindow(popup, SW_SHOW);
   pump();
@@ -244,8 +244,7 @@ TEST_F(ObservedShowOrder, OwnersDoNotTakeTheirPopupsAlong) {
 }
 
 TEST_F(ShowWindowTest, ContentsAppearAndDisappearOnTheScreen) {
-  const HWND popup =
-      create("pop", {.style = WS_POPUP, .x = 10, .y = 10, .width = 50, .height = 50});
+  const HWND popup = create("pop", {.style = WS_POPUP, .place = {10, 10, 50, 50}});
   const COLORREF desktop = pixel(20, 20);
   ShowWindow(popup, SW_SHOW);
   pump();

@@ -59,6 +59,16 @@ TEST(TwoSystemsTest, TheLatestIsCurrentAndItsEndRestoresTheFormer) {
   EXPECT_NE(IsWindow(first.window()), 0);
 }
 
+TEST(TwoSystemsTest, TheEndDestroysTheWindows) {
+  HWND window = nullptr;
+  {
+    const Desk desk;
+    window = desk.window();
+  }
+  EXPECT_EQ(IsWindow(window), 0);
+  EXPECT_EQ(system::WindowSystem::current(), nullptr);
+}
+
 TEST(TwoSystemsTest, EachHasItsOwnFocusCaptureAndPointer) {
   Desk first;
   SetCapture(first.window());
