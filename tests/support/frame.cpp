@@ -10,10 +10,6 @@ COLORREF Frame::at(int x, int y) const {
   return ((pixel & 0xFF) << 16) | (pixel & 0xFF00) | ((pixel >> 16) & 0xFF);
 }
 
-bool Frame::is_all(const RECT& rect, COLORREF color) const {
-  return count_other_than(rect, color) == 0;
-}
-
 int Frame::count(const RECT& rect, const std::function<bool(COLORREF)>& condition) const {
   int number = 0;
   for (int y = rect.top; y < rect.bottom; ++y) {

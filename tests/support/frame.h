@@ -13,11 +13,9 @@ class Frame {
   // Rows from the top, 0x00RRGGBB; the highest byte counts for nothing.
   Frame(SIZE size, std::vector<std::uint32_t> pixels) : size_(size), pixels_(std::move(pixels)) {}
 
-  SIZE size() const { return size_; }
   COLORREF at(int x, int y) const;  // screen coordinates; CLR_INVALID outside
   COLORREF at(POINT point) const { return at(point.x, point.y); }
   // Of the rectangle's pixels, which may lie outside of the screen.
-  bool is_all(const RECT& rect, COLORREF color) const;
   int count(const RECT& rect, const std::function<bool(COLORREF)>& condition) const;
   // `bounds` becomes the smallest rectangle around the counted ones.
   int count_other_than(const RECT& rect, COLORREF color, RECT* bounds = nullptr) const;
