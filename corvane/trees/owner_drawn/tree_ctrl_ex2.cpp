@@ -1,6 +1,5 @@
 #include "corvane/trees/owner_drawn/tree_ctrl_ex2.h"
 
-#include "corvane/frame/layer_key_filter.h"
 #include "corvane/platform/framework/paint_dc.h"
 #include "corvane/platform/geometry.h"
 #include "corvane/trees/model/tree_loading.h"
@@ -24,14 +23,10 @@ CString existing_part(CString path) {
 
 constexpr CRuntimeClass CTreeCtrlEx2::classCTreeCtrlEx2{"CTreeCtrlEx2", &CWnd::classCWnd};
 
-CTreeCtrlEx2::CTreeCtrlEx2() : listing_(system_folder_listing()) {}
+CTreeCtrlEx2::CTreeCtrlEx2() : LibraryWindow(this, end_), listing_(system_folder_listing()) {}
 
-CTreeCtrlEx2::~CTreeCtrlEx2() { DestroyWindow(); }
-
-const CRuntimeClass* CTreeCtrlEx2::GetRuntimeClass() const { return &classCTreeCtrlEx2; }
-
-const MessageMap* CTreeCtrlEx2::GetMessageMap() const {
-  static constexpr auto messages = MessageTable(
+const WindowDescription& CTreeCtrlEx2::description() const {
+  static constexpr auto kMessages = MessageTable(
       On<WM_CREATE>(&CTreeCtrlEx2::OnCreate), On<WM_SIZE>(&CTreeCtrlEx2::OnSize),
       On<WM_DESTROY>(&CTreeCtrlEx2::OnDestroy), On<WM_PAINT>(&CTreeCtrlEx2::OnPaint),
       On<WM_ERASEBKGND>(&CTreeCtrlEx2::OnEraseBkgnd),
@@ -39,8 +34,9 @@ const MessageMap* CTreeCtrlEx2::GetMessageMap() const {
       On<WM_LBUTTONUP>(&CTreeCtrlEx2::OnLButtonUp), On<WM_MOUSEMOVE>(&CTreeCtrlEx2::OnMouseMove),
       On<WM_LBUTTONDBLCLK>(&CTreeCtrlEx2::OnLButtonDblClk),
       On<WM_VSCROLL>(&CTreeCtrlEx2::OnVScroll), On<WM_MOUSEWHEEL>(&CTreeCtrlEx2::OnMouseWheel));
-  static const MessageMap map = messages.Extending(CWnd::GetMessageMap());
-  return &map;
+  static const WindowDescription description{
+      classCTreeCtrlEx2, kMessages.Extending(base_messages()), KeyFilter::to_parent};
+  return description;
 }
 
 int CTreeCtrlEx2::SetPath(const wchar_t* path, _NODE* parent) {
@@ -111,20 +107,19 @@ int CTreeCtrlEx2::ListSort(_NODE* node, int width, int row) {
   return layout_.arrange_below(node, width, row);
 }
 
-void CTreeCtrlEx2::InitConfig() { FolderImages::load_controls(skin_); }
+void CTreeCtrlEx2::InitConfig() { skin_.Load(kFolderTreeList); }
 
 void CTreeCtrlEx2::LoadResources() { images_.load(skin_); }
 
 int CTreeCtrlEx2::OnCreate(LPCREATESTRUCT creation) {
   if (CWnd::OnCreate(creation) == -1) return -1;
-  const auto watch = liveness_.watch();
-  const auto gone = [&] { return watch.gone() || !m_hWnd; };
+  const WindowWatch watch(*this);
   ::SetWindowLongW(m_hWnd, GWL_EXSTYLE, static_cast<LONG>(GetExStyle() | WS_EX_ACCEPTFILES));
-  if (gone()) return -1;
+  if (watch.window_gone()) return -1;
   ::SetWindowLongW(m_hWnd, GWL_STYLE, static_cast<LONG>(GetStyle() | WS_VSCROLL));
-  if (gone()) return -1;
+  if (watch.window_gone()) return -1;
   ShowScrollBar(SB_VERT, FALSE);
-  if (gone()) return -1;
+  if (watch.window_gone()) return -1;
   InitConfig();
   LoadResources();
   painter_.init();
@@ -132,9 +127,9 @@ int CTreeCtrlEx2::OnCreate(LPCREATESTRUCT creation) {
 }
 
 void CTreeCtrlEx2::OnDestroy() {
-  const auto watch = liveness_.watch();
+  const WindowWatch watch(*this);
   CWnd::OnDestroy();
-  if (watch.gone()) return;
+  if (watch.object_gone()) return;
   skin_.Release();
   images_.release();
 }
@@ -150,20 +145,20 @@ BOOL CTreeCtrlEx2::OnEraseBkgnd(CDC* dc) {
 }
 
 void CTreeCtrlEx2::OnPaint() {
-  const auto watch = liveness_.watch();
+  const WindowWatch watch(*this);
   CPaintDC paint(this);
-  if (!watch.gone()) draw_now(paint);
+  if (!watch.object_gone()) draw_now(paint);
 }
 
 void CTreeCtrlEx2::draw_now(CDC& target) {
   if (buffer_.GetDC() == nullptr) return;
-  const auto watch = liveness_.watch();
+  const WindowWatch watch(*this);
   CRect client;
   GetClientRect(client);
   OnEraseBkgnd(&target);  // the size may have changed without anything being erased
   buffer_.SetBackColor(client, background);
   DoDraw(buffer_, client);
-  if (!watch.gone() && buffer_.HasSizeOf(client)) buffer_.Paste(target, client, SRCCOPY);
+  if (!watch.object_gone() && buffer_.HasSizeOf(client)) buffer_.Paste(target, client, SRCCOPY);
 }
 
 void CTreeCtrlEx2::DoDraw(HDC dc, CRect rect) {
@@ -171,9 +166,9 @@ void CTreeCtrlEx2::DoDraw(HDC dc, CRect rect) {
   const LONG total = ListSort();
   const LONG height = clamp_coordinate(height_of(rect));
   const bool overflows = total > height;
-  const auto watch = liveness_.watch();
+  const WindowWatch watch(*this);
   OpenVscroll(overflows, overflows ? total : 0, overflows ? height : 0);
-  if (watch.gone() || model_.empty()) return;
+  if (watch.object_gone() || model_.empty()) return;
   painter_.draw_root(dc, model_, ScrollPosition());
   DrawItem(dc, &model_.root());
 }
@@ -190,9 +185,9 @@ void CTreeCtrlEx2::OpenVscroll(int show, int maximum, int page) {
   info.fMask = SIF_RANGE | SIF_PAGE;
   info.nMax = maximum;
   info.nPage = static_cast<UINT>(page);
-  const auto watch = liveness_.watch();
+  const WindowWatch watch(*this);
   SetScrollInfo(SB_VERT, &info, TRUE);
-  if (!watch.gone()) ShowScrollBar(SB_VERT, show != 0);
+  if (!watch.object_gone()) ShowScrollBar(SB_VERT, show != 0);
 }
 
 int CTreeCtrlEx2::ScrollPosition() const { return GetScrollPos(SB_VERT); }
@@ -260,9 +255,8 @@ void CTreeCtrlEx2::OnLButtonDblClk(UINT flags, CPoint point) {
 }
 
 BOOL CTreeCtrlEx2::PreTranslateMessage(MSG* message) {
-  if (message && is_mouse_hook_message(message->message)) return TRUE;
-  if (filter_layer_key(KeyFilter::to_parent, m_hWnd, message)) return TRUE;
-  return CWnd::PreTranslateMessage(message);
+  if (message != nullptr && is_mouse_hook_message(message->message)) return TRUE;
+  return LibraryWindow::PreTranslateMessage(message);
 }
 
 void CTreeCtrlEx2::Repaint() {

@@ -10,10 +10,9 @@
 #include <memory>
 
 #include "corvane/frame/layer_messages.h"
-#include "corvane/frame/liveness.h"
+#include "corvane/frame/library_window.h"
 #include "corvane/platform/base_services/folder_listing.h"
 #include "corvane/platform/drawing/buffer_dc.h"
-#include "corvane/platform/framework/wnd.h"
 #include "corvane/skin/xml_list_mgr.h"
 #include "corvane/trees/model/tree_model.h"
 #include "corvane/trees/owner_drawn/tree_layout.h"
@@ -23,14 +22,11 @@
 
 namespace corvane {
 
-class CTreeCtrlEx2 : public CWnd {
+class CTreeCtrlEx2 : public LibraryWindow<CWnd> {
  public:
   CTreeCtrlEx2();
-  ~CTreeCtrlEx2() override;
 
   static const CRuntimeClass classCTreeCtrlEx2;
-  const CRuntimeClass* GetRuntimeClass() const override;
-  const MessageMap* GetMessageMap() const override;
   BOOL PreTranslateMessage(MSG* message) override;
 
   // --- Folders from the disk
@@ -113,6 +109,7 @@ class CTreeCtrlEx2 : public CWnd {
   using CWnd::OnSize;
 
  private:
+  const WindowDescription& description() const override;
   int ScrollPosition() const;
   POINT ContentPoint(CPoint point) const;
   ScrollState GetScrollState() const;
@@ -129,7 +126,7 @@ class CTreeCtrlEx2 : public CWnd {
   FolderImages images_;
   TreeRowPainter painter_{images_};
   int menu_enabled_ = 0;
-  Liveness liveness_;
+  WindowEnd end_{*this};  // last
 };
 
 }  // namespace corvane

@@ -6,8 +6,6 @@
 namespace corvane {
 namespace {
 
-constexpr wchar_t kControlFile[] = L"ui_control.xml";
-constexpr int kControlList = 1;
 constexpr int kGlyphControl = 1;
 constexpr int kFolderControl = 2;
 constexpr int kFrameWidth = 2;
@@ -21,10 +19,6 @@ void load_pair(CGdiImage& normal, CGdiImage& selected, const _MYCONTROL* control
 }
 
 }  // namespace
-
-void FolderImages::load_controls(CXmlListMgr& skin) {
-  skin.LoadCtrlList(kControlFile, kControlList);
-}
 
 void FolderImages::load(const CXmlListMgr& skin) {
   load_pair(collapsed_glyph_, expanded_glyph_, skin.GetCtrl(kGlyphControl));

@@ -10,9 +10,7 @@ class CXmlListMgr;
 
 class FolderImages {
  public:
-  // The list of the skin with the images' controls.
-  static void load_controls(CXmlListMgr& skin);
-  // From controls 1 and 2 of that list; images whose control is missing stay as they are.
+  // From controls 1 and 2 of kFolderTreeList; images whose control is missing stay as they are.
   void load(const CXmlListMgr& skin);
   void release();
 

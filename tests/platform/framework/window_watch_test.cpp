@@ -5,7 +5,8 @@
 #include <memory>
 #include <optional>
 
-#include "tests/platform/framework/desktop.h"
+#include "tests/platform/framework/watched_wnd.h"
+#include "tests/support/desktop.h"
 
 namespace corvane {
 namespace {
@@ -14,7 +15,7 @@ class WindowWatchTest : public testing::Test {
  protected:
   void SetUp() override { ASSERT_TRUE(window_->create()); }
 
-  FrameworkDesktop desktop_;
+  test::Desktop desktop_;
   std::unique_ptr<WatchedWnd> window_ = std::make_unique<WatchedWnd>();
 };
 

@@ -72,8 +72,7 @@ TEST_F(ExtremeValuesTest, CreatedThere) {
 TEST_F(ExtremeValuesTest, LayeredContentIsPlacedWhereMoveWindowWouldAndNeverLarger) {
   const HWND layer = create("layer", {.parent = popup_,
                                       .style = WS_POPUP | WS_VISIBLE,
-                                      .width = 60,
-                                      .height = 40,
+                                      .place = {0, 0, 60, 40},
                                       .ex_style = WS_EX_LAYERED});
   const Picture picture(60, 40, 0xFF00FF00);
   BLENDFUNCTION blend{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
