@@ -1,6 +1,7 @@
 #pragma once
 // Objects by handle. A handle is a number that names one object of one table: it is looked up,
 // never dereferenced, so a stale, foreign or made-up handle finds nothing.
+#include <cassert>
 #include <atomic>
 #include <cstdint>
 #include <deque>
@@ -58,6 +59,7 @@ class HandleTable {
     std::optional<Object> object = std::move(slot.object);
     slot.object.reset();
     if (++slot.generation <= kGenerationMask) free_.push_back(*index);
+    assert(live_ > 0);
     --live_;
     return object;
   }

@@ -1,5 +1,6 @@
 #include "corvane/platform/system/compositor/compositor.h"
 
+#include <cassert>
 #include <algorithm>
 
 #include "corvane/platform/geometry.h"
@@ -93,6 +94,7 @@ void compose_rect(Surface& frame, const RECT& rect, const std::vector<Layer>& la
     const std::vector<Span> spans = spans_of_row(placed, rect, rows[band]);
     for (int y = rows[band]; y < rows[band + 1]; ++y) {
       Pixel* const row = frame.row(y);
+      assert(row != nullptr);
       for (const Span& span : spans) {
         composer.compose(row + span.left, {span.left, y}, span.right - span.left, span.stack);
       }

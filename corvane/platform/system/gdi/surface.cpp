@@ -1,5 +1,6 @@
 #include "corvane/platform/system/gdi/surface.h"
 
+#include <cassert>
 #include <algorithm>
 #include <cstring>
 #include <utility>
@@ -51,6 +52,7 @@ std::optional<Pixel> Surface::uniform() const {
 }
 
 Pixel* Surface::address(int y) const {
+  assert(y >= 0 && y < height_);
   const int line = bottom_up_ ? height_ - 1 - y : y;
   return pixels_.get() + index_of(line) * index_of(width_);
 }

@@ -1,5 +1,6 @@
 #include "corvane/platform/system/user/system_registry.h"
 
+#include <cassert>
 #include <map>
 #include <mutex>
 
@@ -36,6 +37,7 @@ std::uintptr_t register_system(System* state) {
 void unregister_system(std::uintptr_t tag) {
   Registry& all = registry();
   const std::lock_guard lock(all.mutex);
+  assert(all.systems.count(tag >> kTagShift) == 1);
   all.systems.erase(tag >> kTagShift);
 }
 

@@ -1,5 +1,7 @@
 #include "corvane/platform/system/user/window_system.h"
 
+#include <cassert>
+
 #include "corvane/platform/system/user/messages/get_message.h"
 #include "corvane/platform/system/user/painting/presenting.h"
 #include "corvane/platform/system/user/system_registry.h"
@@ -52,6 +54,7 @@ WindowSystem::~WindowSystem() {
     HWND top = impl_->desktop->children.back()->handle;
     if (!DestroyWindow(top)) forget_window(top);
   }
+  assert(impl_->windows.size() == 1 && "only the desktop is left");
   unregister_system(impl_->tag);
   std::erase(systems_of_thread, this);
   current_system = nullptr;

@@ -1,5 +1,7 @@
 #include "corvane/platform/system/user/messages/send_message.h"
 
+#include <cassert>
+
 namespace corvane::system {
 namespace {
 
@@ -9,7 +11,10 @@ constexpr int kMaxSendDepth = 400;
 class DepthGuard {
  public:
   explicit DepthGuard(int& depth) : depth_(depth) { ++depth_; }
-  ~DepthGuard() { --depth_; }
+  ~DepthGuard() {
+    assert(depth_ > 0);
+    --depth_;
+  }
   DepthGuard(const DepthGuard&) = delete;
   DepthGuard& operator=(const DepthGuard&) = delete;
 

@@ -1,5 +1,6 @@
 #include "corvane/platform/system/user/scroll_bars/scroll_model.h"
 
+#include <cassert>
 #include <algorithm>
 #include <cstdint>
 
@@ -86,6 +87,7 @@ ScrollLayout scroll_layout(const ScrollModel& model, int length, int thickness) 
   const Wide gone = scaled(Wide{model.position} - model.minimum, room, travel(model));
   const int begin = layout.trough.begin + static_cast<int>(gone);
   layout.thumb = {begin, begin + thumb};
+  assert(layout.thumb.end <= layout.trough.end);
   return layout;
 }
 

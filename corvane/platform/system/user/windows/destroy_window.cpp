@@ -1,5 +1,6 @@
 #include "corvane/platform/system/user/windows/destroy_window.h"
 
+#include <cassert>
 #include <algorithm>
 
 #include "corvane/platform/system/user/input/activation.h"
@@ -89,6 +90,7 @@ void forget_window(HWND window) {
   Window* found = state.find(window);
   if (found == nullptr) return;
   for (HWND child : children_of(window)) forget_window(child);
+  assert(found->children.empty());
   if (shown_on_screen(*found)) state.frame_damage.unite(frame_on_screen(*found));
   state.timers.remove_window(window);
   state.queue.remove_window(window);

@@ -1,5 +1,6 @@
 #include "corvane/platform/system/user/windows/z_order.h"
 
+#include <cassert>
 #include <algorithm>
 
 namespace corvane::system {
@@ -82,6 +83,7 @@ Siblings::iterator target_position(System& state, Window& window, HWND after) {
 }  // namespace
 
 void insert_top_level(System& state, Window& window) {
+  assert(window.parent == nullptr);
   window.parent = state.desktop;
   Siblings& order = state.desktop->children;
   order.insert(top_of_kind(state, window), &window);
@@ -89,6 +91,7 @@ void insert_top_level(System& state, Window& window) {
 }
 
 void insert_child(Window& parent, Window& window) {
+  assert(window.parent == nullptr);
   window.parent = &parent;
   parent.children.push_back(&window);
 }
@@ -118,6 +121,7 @@ bool move_in_z_order(System& state, Window& window, HWND after) {
     order.insert(target_position(state, window, after), &window);
     if (is_top_level(window)) lift_owned_windows(state);
   }
+  assert(order.size() == before.size());
   return order != before;
 }
 
