@@ -47,7 +47,7 @@ class Tree {
     paint();
     tree_.SetScrollPos(SB_VERT, tree_.GetScrollLimit(SB_VERT) / 2);
     paint();
-    return tree_.ListSort() == (folders + 1) * tree_row_height;
+    return tree_.ListSort() == (folders + 1) * kTreeRowHeight;
   }
 
   void paint() {
@@ -57,7 +57,7 @@ class Tree {
   // On the rows in view in turn.
   void click() {
     next_row_ = (next_row_ + 1) % 25;
-    ::SetCursorPos(left_ + 100, 15 + next_row_ * tree_row_height);
+    ::SetCursorPos(left_ + 100, 15 + next_row_ * kTreeRowHeight);
     desktop_.send_mouse(MOUSEEVENTF_LEFTDOWN);
     desktop_.release();
     desktop_.own().windows.present();
@@ -70,7 +70,7 @@ class Tree {
   }
   // The rows are laid out anew after such a change.
   void collapse_or_expand() {
-    tree_.ClickNode({100, tree_row_height * 10}, CTreeCtrlEx2::click_toggles);
+    tree_.ClickNode({100, kTreeRowHeight * 10}, CTreeCtrlEx2::click_toggles);
     paint();
   }
 

@@ -117,8 +117,8 @@ Desktop::Desktop(corvane::test::Desktop& desktop) : desktop_(desktop) {
 }
 
 void Desktop::play(ByteStream& stream) {
-  constexpr int kMostOperations = 200;
-  for (int count = 0; count < kMostOperations && !stream.empty(); ++count) {
+  constexpr int kMaxOperations = 200;
+  for (int count = 0; count < kMaxOperations && !stream.empty(); ++count) {
     const Operation operation = one_of(kOperations, stream);
     (this->*operation)(stream);
     if (count % 4 == 3) turn_loop(stream);

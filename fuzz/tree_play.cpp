@@ -118,7 +118,7 @@ void TreePlay::lay_out(ByteStream& stream) {
   }
   const _NODE& root = *tree_.FindNode(nullptr, nullptr);
   const int rows = root.name().IsEmpty() ? 0 : rows_of(root);
-  require(tree_.ListSort() == rows * corvane::tree_row_height, "every visible node has a row");
+  require(tree_.ListSort() == rows * corvane::kTreeRowHeight, "every visible node has a row");
 }
 
 void TreePlay::draw(ByteStream& stream) {

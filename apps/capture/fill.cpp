@@ -2,13 +2,13 @@
 
 namespace capture {
 
-void FillWith(HDC dc, const RECT& rect, COLORREF color) {
+void fill_with(HDC dc, const RECT& rect, COLORREF color) {
   HBRUSH brush = CreateSolidBrush(color);
   FillRect(dc, &rect, brush);
   DeleteObject(brush);
 }
 
-void FrameWith(HDC dc, const RECT& rect, COLORREF color) {
+void frame_with(HDC dc, const RECT& rect, COLORREF color) {
   HBRUSH brush = CreateSolidBrush(color);
   FrameRect(dc, &rect, brush);
   DeleteObject(brush);

@@ -3,7 +3,7 @@
 
 namespace capture {
 
-void FillWith(HDC dc, const RECT& rect, COLORREF color);
-void FrameWith(HDC dc, const RECT& rect, COLORREF color);  // one pixel, inside
+void fill_with(HDC dc, const RECT& rect, COLORREF color);
+void frame_with(HDC dc, const RECT& rect, COLORREF color);  // one pixel, inside
 
 }  // namespace capture

@@ -16,19 +16,19 @@ namespace fs = std::filesystem;
 constexpr std::size_t kMaxAttempts = 20;  // at pictures that cannot be opened
 
 // A full path without a separator at its end; empty when it cannot be told.
-std::wstring FullPath(const std::string& path) {
+std::wstring full_path(const std::string& path) {
   std::error_code error;
-  fs::path full = fs::absolute(path, error).lexically_normal();
+  const fs::path full = fs::absolute(path, error).lexically_normal();
   if (error) return {};
   std::wstring wide = corvane::wide_path_of(full);
   while (wide.ends_with(L'\\')) wide.pop_back();
   return wide;
 }
 
-std::unique_ptr<CPicture> FirstPictureOf(const std::wstring& folder) {
-  std::optional<FolderEntries> entries = ReadFolder(folder);
+std::unique_ptr<CPicture> first_picture_of(const std::wstring& folder) {
+  std::optional<FolderEntries> entries = read_folder(folder);
   if (!entries) return nullptr;
-  std::size_t attempts = std::min(entries->pictures.size(), kMaxAttempts);
+  const std::size_t attempts = std::min(entries->pictures.size(), kMaxAttempts);
   for (std::size_t i = 0; i < attempts; ++i) {
     auto picture =
         CPicture::Open(corvane::native_path(folder + L'\\' + entries->pictures[i]).string());
@@ -39,11 +39,11 @@ std::unique_ptr<CPicture> FirstPictureOf(const std::wstring& folder) {
 
 }  // namespace
 
-Arguments ParseArguments(int count, char** values) {
+Arguments parse_arguments(int count, char** values) {
   Arguments arguments;
   int next = 1;
   for (; next + 1 < count; next += 2) {
-    std::string_view option = values[next];
+    const std::string_view option = values[next];
     if (option == "--library") {
       arguments.library = values[next + 1];
     } else if (option == "--script") {
@@ -58,7 +58,7 @@ Arguments ParseArguments(int count, char** values) {
   return arguments;
 }
 
-Launch PrepareLaunch(const Arguments& arguments) {
+Launch prepare_launch(const Arguments& arguments) {
   Launch launch;
   Beginning& beginning = launch.beginning;
   if (!arguments.picture.empty()) {
@@ -67,21 +67,21 @@ Launch PrepareLaunch(const Arguments& arguments) {
       launch.error = "cannot open the picture " + arguments.picture;
       return launch;
     }
-    beginning.folder = FolderOf(corvane::wide_path_of(beginning.picture->path()));
+    beginning.folder = folder_of(corvane::wide_path_of(beginning.picture->path()));
     beginning.library = beginning.folder;
   }
   if (arguments.library.empty()) return launch;
-  beginning.library = FullPath(arguments.library);
-  if (beginning.library.empty() || !ReadFolder(beginning.library)) {
+  beginning.library = full_path(arguments.library);
+  if (beginning.library.empty() || !read_folder(beginning.library)) {
     launch.error = "cannot open the folder " + arguments.library;
     return launch;
   }
   if (beginning.picture != nullptr) return launch;
-  beginning.folder = FirstFolderWithPictures(beginning.library);
+  beginning.folder = first_folder_with_pictures(beginning.library);
   if (beginning.folder.empty()) {
     beginning.folder = beginning.library;
   } else {
-    beginning.picture = FirstPictureOf(beginning.folder);
+    beginning.picture = first_picture_of(beginning.folder);
   }
   return launch;
 }

@@ -12,13 +12,13 @@ struct Arguments {
   std::string script_folder;  // empty: an ordinary session
   bool valid = false;         // a library or a picture is given
 };
-Arguments ParseArguments(int count, char** values);
+Arguments parse_arguments(int count, char** values);
 
 struct Launch {
   Beginning beginning;
   std::string error;  // one line, when it cannot begin
 };
 // Looks the library up and opens the first picture. Byte paths.
-Launch PrepareLaunch(const Arguments& arguments);
+Launch prepare_launch(const Arguments& arguments);
 
 }  // namespace capture

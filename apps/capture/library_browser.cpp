@@ -7,7 +7,7 @@ namespace {
 
 using corvane::CString;
 
-CString NameForUser(const std::wstring& folder) { return CString(NameOf(folder).c_str()); }
+CString name_for_user(const std::wstring& folder) { return CString(name_of(folder).c_str()); }
 
 }  // namespace
 
@@ -22,43 +22,43 @@ void CLibraryBrowser::Place(const RECT& pane, const RECT& strip) {
 
 void CLibraryBrowser::Load(const std::wstring& root, const std::wstring& folder) {
   pane_.SetRoot(root);
-  pane_.SetCurrent(LiesIn(root, folder) ? folder : root);
-  ShowEntries(Folder());
+  pane_.SetCurrent(lies_in(root, folder) ? folder : root);
+  show_entries(Folder());
 }
 
 std::wstring CLibraryBrowser::Folder() const {
-  std::wstring folder = pane_.Current();
-  return LiesIn(pane_.root(), folder) ? folder : std::wstring();
+  const std::wstring folder = pane_.Current();
+  return lies_in(pane_.root(), folder) ? folder : std::wstring();
 }
 
 CString CLibraryBrowser::LeaveVanishedFolder() {
-  std::wstring vanished = Folder();
-  if (vanished.empty() || FolderExists(vanished)) return {};
+  const std::wstring vanished = Folder();
+  if (vanished.empty() || folder_exists(vanished)) return {};
   pane_.LeaveVanishedFolder();
-  CString notice = CString(L"文件夹“") + NameForUser(vanished) + L"”已不存在";
-  std::wstring folder = Folder();
-  return folder.empty() ? notice : notice + L"，已转到“" + NameForUser(folder) + L"”";
+  const CString notice = CString(L"文件夹“") + name_for_user(vanished) + L"”已不存在";
+  const std::wstring folder = Folder();
+  return folder.empty() ? notice : notice + L"，已转到“" + name_for_user(folder) + L"”";
 }
 
 CString CLibraryBrowser::Refresh() {
   CString notice = LeaveVanishedFolder();
-  ShowEntries(Folder());
+  show_entries(Folder());
   return notice;
 }
 
-void CLibraryBrowser::ShowEntries(const std::wstring& folder) {
+void CLibraryBrowser::show_entries(const std::wstring& folder) {
   if (folder.empty()) {
     strip_.ShowPictures(folder, {}, L"图库已不存在");
     pane_.SetCount(0);
     return;
   }
-  auto entries = ReadFolder(folder);
+  auto entries = read_folder(folder);
   pane_.SetCount(entries ? static_cast<int>(entries->pictures.size()) : 0);
   const wchar_t* empty_text = entries ? L"这个文件夹里没有图片" : L"无法读取这个文件夹";
   strip_.ShowPictures(folder, entries ? std::move(entries->pictures) : std::vector<std::wstring>(),
                       empty_text);
-  if (FolderOf(opened_) == folder) {
-    strip_.Mark(NameOf(opened_));
+  if (folder_of(opened_) == folder) {
+    strip_.Mark(name_of(opened_));
   } else {
     strip_.Mark({});
   }
@@ -67,19 +67,20 @@ void CLibraryBrowser::ShowEntries(const std::wstring& folder) {
 void CLibraryBrowser::MarkOpened(const std::wstring& path) {
   opened_ = path;
   reached_ = path;
-  std::wstring folder = FolderOf(path);
-  if (folder != Folder() && LiesIn(pane_.root(), folder)) {
+  const std::wstring folder = folder_of(path);
+  if (folder != Folder() && lies_in(pane_.root(), folder)) {
     pane_.SetCurrent(folder);
-    ShowEntries(folder);
+    show_entries(folder);
     return;
   }
-  strip_.Mark(folder == Folder() ? NameOf(path) : std::wstring());
+  strip_.Mark(folder == Folder() ? name_of(path) : std::wstring());
 }
 
 std::wstring CLibraryBrowser::Neighbour(int step) const {
-  std::wstring folder = Folder();
-  bool inside = FolderOf(reached_) == folder;
-  std::wstring name = NameFrom(strip_.names(), inside ? NameOf(reached_) : std::wstring(), step);
+  const std::wstring folder = Folder();
+  const bool inside = folder_of(reached_) == folder;
+  const std::wstring name =
+      name_from(strip_.names(), inside ? name_of(reached_) : std::wstring(), step);
   return name.empty() ? name : folder + L'\\' + name;
 }
 

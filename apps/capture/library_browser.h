@@ -35,7 +35,7 @@ class CLibraryBrowser {
   const CPictureStrip& strip() const { return strip_; }
 
  private:
-  void ShowEntries(const std::wstring& folder);
+  void show_entries(const std::wstring& folder);
 
   CLibraryPane pane_;
   CPictureStrip strip_;

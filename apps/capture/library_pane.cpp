@@ -39,32 +39,32 @@ bool CLibraryPane::Open(CWnd* parent) {
 
 void CLibraryPane::SetRoot(const std::wstring& root) {
   root_ = root;
-  tree_.SetFolderListing(SortedListing());
-  tree_.SetPath(InTree(root).c_str(), nullptr);
+  tree_.SetFolderListing(sorted_listing());
+  tree_.SetPath(in_tree(root).c_str(), nullptr);
   tree_.Invalidate(FALSE);
 }
 
 void CLibraryPane::SetCurrent(const std::wstring& folder) {
-  tree_.SetCurPath(InTree(folder).c_str());
+  tree_.SetCurPath(in_tree(folder).c_str());
 }
 
 std::wstring CLibraryPane::Current() const {
-  std::wstring path = tree_.GetCurPath().AsStdString();
-  bool is_long = IsDrive() && path.starts_with(kBeforeDrive);
+  const std::wstring path = tree_.GetCurPath().AsStdString();
+  const bool is_long = is_drive() && path.starts_with(kBeforeDrive);
   return is_long ? path.substr(kBeforeDrive.size()) : path;
 }
 
-std::wstring CLibraryPane::InTree(const std::wstring& path) const {
-  return IsDrive() ? std::wstring(kBeforeDrive) + path : path;
+std::wstring CLibraryPane::in_tree(const std::wstring& path) const {
+  return is_drive() ? std::wstring(kBeforeDrive) + path : path;
 }
 
 void CLibraryPane::LeaveVanishedFolder() {
-  std::wstring vanished = Current();
+  const std::wstring vanished = Current();
   tree_.SetCurPath(nullptr);
-  std::wstring left = Current();
-  if (vanished == left || !LiesIn(left, vanished)) return;
-  std::size_t end = vanished.find(L'\\', left.size() + 1);
-  tree_.DelNode(InTree(vanished.substr(0, end)).c_str());
+  const std::wstring left = Current();
+  if (vanished == left || !lies_in(left, vanished)) return;
+  const std::size_t end = vanished.find(L'\\', left.size() + 1);
+  tree_.DelNode(in_tree(vanished.substr(0, end)).c_str());
 }
 
 void CLibraryPane::SetCount(int pictures) {
@@ -75,12 +75,12 @@ void CLibraryPane::SetCount(int pictures) {
 
 int CLibraryPane::OnCreate(LPCREATESTRUCT creation) {
   if (CWnd::OnCreate(creation) == -1) return -1;
-  bool created =
+  const bool created =
       tree_.Create(nullptr, L"folders", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), this, kTreeId);
   return created ? 0 : -1;
 }
 
-CRect CLibraryPane::TreeFrame() const {
+CRect CLibraryPane::tree_frame() const {
   CRect frame;
   GetClientRect(frame);
   frame.DeflateRect(kMargin, kTitleHeight, kMargin, kMargin);
@@ -90,20 +90,20 @@ CRect CLibraryPane::TreeFrame() const {
 BOOL CLibraryPane::OnEraseBkgnd(CDC*) { return TRUE; }
 
 void CLibraryPane::OnPaint() {
-  CPaintDC dc(this);
+  const CPaintDC dc(this);
   CRect client;
   GetClientRect(client);
   if (!buffer_.HasSizeOf(client)) return;
-  FillWith(buffer_, client, kPanelColor);
-  FillWith(buffer_, CRect(client.right - 1, client.top, client.right, client.bottom),
-           kPanelEdgeColor);
-  FrameWith(buffer_, TreeFrame(), kPanelEdgeColor);
-  CRect title(kMargin + 4, 0, client.right - kMargin - 4, kTitleHeight);
-  LOGFONTW bold = UiFont(17, FW_BOLD);
+  fill_with(buffer_, client, kPanelColor);
+  fill_with(buffer_, CRect(client.right - 1, client.top, client.right, client.bottom),
+            kPanelEdgeColor);
+  frame_with(buffer_, tree_frame(), kPanelEdgeColor);
+  const CRect title(kMargin + 4, 0, client.right - kMargin - 4, kTitleHeight);
+  const LOGFONTW bold = ui_font(17, FW_BOLD);
   CGdiDC().DrawTextW(buffer_, L"图库", &bold, title, kTextArgb, DT_VCENTER | DT_SINGLELINE);
   CString count;
   count.Format(L"%d 张图片", count_);
-  LOGFONTW font = UiFont(14);
+  const LOGFONTW font = ui_font(14);
   CGdiDC().DrawTextW(buffer_, count, &font, title, kQuietTextArgb,
                      DT_RIGHT | DT_VCENTER | DT_SINGLELINE);
   buffer_.Paste(dc, client);
@@ -111,9 +111,9 @@ void CLibraryPane::OnPaint() {
 
 void CLibraryPane::OnSize(UINT kind, int width, int height) {
   CWnd::OnSize(kind, width, height);
-  CRect client(0, 0, width, height);
+  const CRect client(0, 0, width, height);
   if (!client.IsRectEmpty()) buffer_.CreateBufferDC(nullptr, client);
-  CRect tree = TreeFrame();
+  CRect tree = tree_frame();
   tree.DeflateRect(1, 1);
   if (tree_.GetSafeHwnd() != nullptr && !tree.IsRectEmpty()) {
     tree_.MoveWindow(tree);

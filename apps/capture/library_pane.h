@@ -37,9 +37,9 @@ class CLibraryPane : public corvane::CWnd {
   LRESULT OnTreeSelect(WPARAM, LPARAM);
 
  private:
-  corvane::CRect TreeFrame() const;
-  bool IsDrive() const { return root_.find(L'\\') == std::wstring::npos; }
-  std::wstring InTree(const std::wstring& path) const;  // as the tree names a path
+  corvane::CRect tree_frame() const;
+  bool is_drive() const { return root_.find(L'\\') == std::wstring::npos; }
+  std::wstring in_tree(const std::wstring& path) const;  // as the tree names a path
 
   std::wstring root_;
   int count_ = 0;

@@ -35,12 +35,12 @@ int main(int count, char** values) {
 #ifdef SIGXFSZ
   std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is told like a full disk
 #endif
-  capture::Arguments arguments = capture::ParseArguments(count, values);
+  const capture::Arguments arguments = capture::parse_arguments(count, values);
   if (!arguments.valid) {
     std::fprintf(stderr, "usage: corvane-capture [--library FOLDER] [--script FOLDER] [PICTURE]\n");
     return kUsageError;
   }
-  capture::Launch launch = capture::PrepareLaunch(arguments);
+  capture::Launch launch = capture::prepare_launch(arguments);
   if (!launch.error.empty()) {
     std::fprintf(stderr, "corvane-capture: %s\n", launch.error.c_str());
     return kUsageError;
@@ -48,5 +48,5 @@ int main(int count, char** values) {
   CCaptureApp app(std::move(launch.beginning));
   if (arguments.script_folder.empty()) return corvane::RunApp(app);
   if (!app.InitInstance()) return 1;
-  return capture::PlayScriptedSession(app.window(), arguments.script_folder);
+  return capture::play_scripted_session(app.window(), arguments.script_folder);
 }

@@ -17,7 +17,7 @@ using namespace corvane;
 constexpr SIZE kOpenPanelSize{640, 560};
 constexpr SIZE kMinReadableSize{8, 8};  // pixels of the picture
 
-CString NameForUser(const std::wstring& path) { return CString(NameOf(path).c_str()); }
+CString name_for_user(const std::wstring& path) { return CString(name_of(path).c_str()); }
 
 }  // namespace
 
@@ -42,24 +42,24 @@ bool CMainWindow::Open(Beginning beginning) {
   if (!CreateEx(0, window_class, L"Corvane", WS_POPUP | WS_CLIPCHILDREN, screen, nullptr, 0)) {
     return false;
   }
-  if (!CreateParts()) return false;
-  Layout();
+  if (!create_parts()) return false;
+  layout();
   CWnd::ShowWindow(SW_SHOW);
   browser_.Load(beginning.library, beginning.folder);
-  ShowPicture(std::move(beginning.picture));
+  show_picture(std::move(beginning.picture));
   return true;
 }
 
-bool CMainWindow::CreateParts() {
+bool CMainWindow::create_parts() {
   view_.SetEmptyText(L"图库里还没有图片\n把图片放进图库的文件夹，或按“打开”选择一张图片");
   return toolbar_.Open(this) && browser_.Create(this) &&
          view_.CreateEx(0, nullptr, L"picture", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), this,
                         0) &&
-         CreateCropLayer() && recognition_.Open(this, L"文字识别") &&
+         create_crop_layer() && recognition_.Open(this, L"文字识别") &&
          open_panel_.Open(this, L"打开");
 }
 
-bool CMainWindow::CreateCropLayer() {
+bool CMainWindow::create_crop_layer() {
   // Mid-grey changes the picture least where the almost invisible background lies over it.
   auto grey = static_cast<HBRUSH>(GetStockObject(GRAY_BRUSH));
   HCURSOR cross = LoadCursorW(nullptr, IDC_CROSS);
@@ -75,31 +75,31 @@ BOOL CMainWindow::OnEraseBkgnd(CDC*) { return TRUE; }
 
 void CMainWindow::OnSize(UINT kind, int width, int height) {
   CWnd::OnSize(kind, width, height);
-  if (crop_.GetSafeHwnd() != nullptr) Layout();
+  if (crop_.GetSafeHwnd() != nullptr) layout();
 }
 
-void CMainWindow::Layout() {
+void CMainWindow::layout() {
   CRect client;
   GetClientRect(client);
-  WindowLayout layout = LayOut({client.right, client.bottom}, CToolbar::kHeight);
+  const WindowLayout layout = lay_out({client.right, client.bottom}, CToolbar::kHeight);
   toolbar_.Place(client.Width());
   browser_.Place(layout.library, layout.strip);
   view_.MoveWindow(&layout.stage);
   view_.Invalidate(FALSE);
-  PlaceCropLayer();
+  place_crop_layer();
 }
 
-RECT CMainWindow::StageOnScreen() const {
+RECT CMainWindow::stage_on_screen() const {
   CRect stage;
   view_.GetWindowRect(stage);
   return stage;
 }
 
-void CMainWindow::PlaceCropLayer() {
-  CRect stage(StageOnScreen());
+void CMainWindow::place_crop_layer() {
+  CRect stage(stage_on_screen());
   crop_.MoveWindow(stage);
   // The picture was scaled anew, so what was framed is somewhere else now.
-  if (crop_.IsWindowVisible()) StartCrop(crop_mode_);
+  if (crop_.IsWindowVisible()) start_crop(crop_mode_);
 }
 
 CRect CMainWindow::CropButtonOnScreen(CropCommand command) const {
@@ -109,70 +109,70 @@ CRect CMainWindow::CropButtonOnScreen(CropCommand command) const {
   return rect;
 }
 
-void CMainWindow::ShowPicture(std::unique_ptr<CPicture> picture) {
-  EndCrop();
+void CMainWindow::show_picture(std::unique_ptr<CPicture> picture) {
+  end_crop();
   view_.SetPicture(picture.get());
   picture_ = std::move(picture);
   if (picture_ == nullptr) {
     CWnd::SetWindowTextW(L"Corvane");
     return;
   }
-  SIZE size = picture_->size();
+  const SIZE size = picture_->size();
   CString title;
   title.Format(L" — %d × %d — Corvane", size.cx, size.cy);
-  CWnd::SetWindowTextW(Wide(picture_->name()) + title);
+  CWnd::SetWindowTextW(wide(picture_->name()) + title);
   browser_.MarkOpened(wide_path_of(picture_->path()));
 }
 
-void CMainWindow::OpenPath(const std::wstring& path) {
+void CMainWindow::open_path(const std::wstring& path) {
   std::unique_ptr<CPicture> picture = CPicture::Open(native_path(path).string());
   if (picture == nullptr) {
     browser_.MarkUnreadable(path);
-    view_.ShowNotice(CString(L"无法打开：") + NameForUser(path));
+    view_.ShowNotice(CString(L"无法打开：") + name_for_user(path));
     return;
   }
-  ShowPicture(std::move(picture));
+  show_picture(std::move(picture));
 }
 
-void CMainWindow::OpenNeighbour(int step) {
+void CMainWindow::open_neighbour(int step) {
   std::wstring path = browser_.Neighbour(step);
   if (!PathFileExistsW(path.c_str())) {
-    CString notice = browser_.Refresh();
+    const CString notice = browser_.Refresh();
     view_.ShowNotice(notice.IsEmpty() ? CString(L"这个文件夹里没有别的图片") : notice);
     path = browser_.Neighbour(step);
   }
-  if (!path.empty()) OpenPath(path);
+  if (!path.empty()) open_path(path);
 }
 
-void CMainWindow::RefreshLibrary() {
-  CString notice = browser_.Refresh();
+void CMainWindow::refresh_library() {
+  const CString notice = browser_.Refresh();
   if (!notice.IsEmpty()) view_.ShowNotice(notice);
 }
 
 LRESULT CMainWindow::OnFolderChosen(WPARAM, LPARAM) {
-  RefreshLibrary();
+  refresh_library();
   return 0;
 }
 
 LRESULT CMainWindow::OnPictureClicked(WPARAM, LPARAM) {
-  OpenPath(browser_.ClickedPicture());
+  open_path(browser_.ClickedPicture());
   return 0;
 }
 
 LRESULT CMainWindow::OnToolbarButton(WPARAM id, LPARAM) {
   switch (static_cast<ToolbarButton>(id)) {
     case ToolbarButton::crop:
-      StartCrop(CropMode::picture);
+      start_crop(CropMode::picture);
       break;
     case ToolbarButton::text:
-      StartCrop(CropMode::text);
+      start_crop(CropMode::text);
       break;
     case ToolbarButton::open:
-      ShowOpenPanel();
+      show_open_panel();
       break;
     case ToolbarButton::previous:
     case ToolbarButton::next:
-      OpenNeighbour(static_cast<ToolbarButton>(id) == ToolbarButton::next ? 1 : -1);
+      open_neighbour(static_cast<ToolbarButton>(id) == ToolbarButton::next ? 1 : -1);
       break;
     case ToolbarButton::quit:
       PostMessageW(WM_CLOSE);
@@ -181,7 +181,7 @@ LRESULT CMainWindow::OnToolbarButton(WPARAM id, LPARAM) {
   return 0;
 }
 
-void CMainWindow::StartCrop(CropMode mode) {
+void CMainWindow::start_crop(CropMode mode) {
   if (picture_ == nullptr) return;
   recognition_.Close();
   open_panel_.Close();
@@ -191,11 +191,11 @@ void CMainWindow::StartCrop(CropMode mode) {
   crop_.Invalidate(FALSE);
 }
 
-void CMainWindow::EndCrop() {
+void CMainWindow::end_crop() {
   if (crop_.GetSafeHwnd() != nullptr && crop_.IsWindowVisible()) crop_.ShowWindow(SW_HIDE);
 }
 
-RECT CMainWindow::FramedPixels() const {
+RECT CMainWindow::framed_pixels() const {
   if (picture_ == nullptr) return {};
   return picture_pixels(picture_->size(), view_.ShownRect(), crop_.GetCutRect());
 }
@@ -203,86 +203,86 @@ RECT CMainWindow::FramedPixels() const {
 LRESULT CMainWindow::OnCropCommand(WPARAM command, LPARAM) {
   switch (static_cast<CropCommand>(command)) {
     case CropCommand::save:
-      SaveFramed();
+      save_framed();
       break;
     case CropCommand::recognise:
     case CropCommand::read:
-      RecogniseFramed();
+      recognise_framed();
       break;
     case CropCommand::again:
-      StartCrop(crop_mode_);
+      start_crop(crop_mode_);
       break;
     case CropCommand::cancel:
     case CropCommand::close:
-      EndCrop();
+      end_crop();
       break;
   }
   return 0;
 }
 
-void CMainWindow::SaveFramed() {
-  RECT part = FramedPixels();
+void CMainWindow::save_framed() {
+  const RECT part = framed_pixels();
   std::vector<std::uint8_t> png;
   if (!::IsRectEmpty(&part)) png = picture_->EncodePart(part);
-  EndCrop();
+  end_crop();
   if (png.empty()) {
     view_.ShowNotice(L"所选区域里没有图片");
     return;
   }
-  SaveInCurrentFolder(png);
+  save_in_current_folder(png);
 }
 
-void CMainWindow::SaveInCurrentFolder(const std::vector<std::uint8_t>& png) {
+void CMainWindow::save_in_current_folder(const std::vector<std::uint8_t>& png) {
   CString notice = browser_.LeaveVanishedFolder();
   if (!notice.IsEmpty()) notice += L"。";
-  std::wstring folder = browser_.Folder();
+  const std::wstring folder = browser_.Folder();
   SavedPart saved{{}, ENOENT};
   if (!folder.empty()) {
-    saved = SaveNumbered(folder, NameOf(wide_path_of(picture_->path())), png);
+    saved = save_numbered(folder, name_of(wide_path_of(picture_->path())), png);
   }
   if (saved.name.empty()) {
-    view_.ShowNotice(notice + L"无法保存：" + SaveErrorText(saved.error));
+    view_.ShowNotice(notice + L"无法保存：" + save_error_text(saved.error));
     return;
   }
   last_saved_ = folder + L'\\' + saved.name;
   browser_.Refresh();
   browser_.ScrollToNew(saved.name);
-  view_.ShowNotice(notice + L"已保存到“" + NameForUser(folder) + L"”：" + saved.name.c_str());
+  view_.ShowNotice(notice + L"已保存到“" + name_for_user(folder) + L"”：" + saved.name.c_str());
 }
 
-void CMainWindow::RecogniseFramed() {
-  RECT part = FramedPixels();
-  EndCrop();
+void CMainWindow::recognise_framed() {
+  const RECT part = framed_pixels();
+  end_crop();
   if (part.right - part.left < kMinReadableSize.cx ||
       part.bottom - part.top < kMinReadableSize.cy) {
     view_.ShowNotice(L"所选区域太小，没有可识别的文字");
     return;
   }
-  recognition_.Read(picture_->EncodePart(part), StageOnScreen());
+  recognition_.Read(picture_->EncodePart(part), stage_on_screen());
 }
 
-void CMainWindow::ShowOpenPanel() {
-  EndCrop();
+void CMainWindow::show_open_panel() {
+  end_crop();
   recognition_.Close();
   const std::wstring current =
       picture_ == nullptr ? std::wstring() : wide_path_of(picture_->path());
-  open_panel_.ShowIn(StageOnScreen(), kOpenPanelSize);
-  open_panel_.ListFolder(current.empty() ? browser_.Folder() : FolderOf(current), current);
+  open_panel_.ShowIn(stage_on_screen(), kOpenPanelSize);
+  open_panel_.ListFolder(current.empty() ? browser_.Folder() : folder_of(current), current);
 }
 
 LRESULT CMainWindow::OnPictureChosen(WPARAM, LPARAM) {
-  OpenPath(open_panel_.ChosenPath());
+  open_path(open_panel_.ChosenPath());
   return 0;
 }
 
 void CMainWindow::OnKeyDown(UINT key, UINT, UINT) {
   switch (key) {
     case VK_ESCAPE:
-      EndCrop();
+      end_crop();
       break;
     case VK_LEFT:
     case VK_RIGHT:
-      OpenNeighbour(key == VK_RIGHT ? 1 : -1);
+      open_neighbour(key == VK_RIGHT ? 1 : -1);
       break;
     default:
       Default();

@@ -54,23 +54,23 @@ class CMainWindow : public corvane::CWnd {
  private:
   enum class CropMode { picture, text };
 
-  bool CreateParts();
-  bool CreateCropLayer();
-  void Layout();
-  void PlaceCropLayer();
-  RECT StageOnScreen() const;
+  bool create_parts();
+  bool create_crop_layer();
+  void layout();
+  void place_crop_layer();
+  RECT stage_on_screen() const;
 
-  void ShowPicture(std::unique_ptr<CPicture> picture);
-  void OpenPath(const std::wstring& path);
-  void OpenNeighbour(int step);
-  void RefreshLibrary();
-  void StartCrop(CropMode mode);
-  void EndCrop();
-  RECT FramedPixels() const;  // of the picture
-  void SaveFramed();
-  void SaveInCurrentFolder(const std::vector<std::uint8_t>& png);
-  void RecogniseFramed();
-  void ShowOpenPanel();
+  void show_picture(std::unique_ptr<CPicture> picture);
+  void open_path(const std::wstring& path);
+  void open_neighbour(int step);
+  void refresh_library();
+  void start_crop(CropMode mode);
+  void end_crop();
+  RECT framed_pixels() const;  // of the picture
+  void save_framed();
+  void save_in_current_folder(const std::vector<std::uint8_t>& png);
+  void recognise_framed();
+  void show_open_panel();
 
   std::unique_ptr<CPicture> picture_;
   std::wstring last_saved_;

@@ -20,16 +20,16 @@ constexpr int kRowHeight = 40;
 constexpr int kIconWidth = 40;
 
 // A folder is a plate with a tab, a picture a frame.
-void DrawIcon(HDC dc, const RECT& row, bool folder) {
+void draw_icon(HDC dc, const RECT& row, bool folder) {
   CRect icon(row.left + 10, row.top + 12, row.left + 30, row.bottom - 12);
   if (folder) {
-    FillWith(dc, icon, kAccentColor);
-    FillWith(dc, CRect(icon.left, icon.top - 3, icon.left + 9, icon.top), kAccentColor);
+    fill_with(dc, icon, kAccentColor);
+    fill_with(dc, CRect(icon.left, icon.top - 3, icon.left + 9, icon.top), kAccentColor);
     return;
   }
-  FillWith(dc, icon, kQuietTextColor);
+  fill_with(dc, icon, kQuietTextColor);
   icon.DeflateRect(2, 2);
-  FillWith(dc, icon, kPanelColor);
+  fill_with(dc, icon, kPanelColor);
 }
 
 }  // namespace
@@ -45,12 +45,12 @@ const MessageMap* COpenPanel::GetMessageMap() const {
 void COpenPanel::ListFolder(const std::wstring& folder, const std::wstring& current) {
   folder_ = folder;
   entries_.clear();
-  const std::wstring above = FolderOf(folder);
+  const std::wstring above = folder_of(folder);
   if (!above.empty()) entries_.push_back({above, L"..", true});
-  FolderEntries found = ReadFolder(folder).value_or(FolderEntries{});
+  FolderEntries found = read_folder(folder).value_or(FolderEntries{});
   std::vector<std::wstring> folders;
   std::merge(found.folders.begin(), found.folders.end(), found.links.begin(), found.links.end(),
-             std::back_inserter(folders), StandsBefore);
+             std::back_inserter(folders), stands_before);
   for (const std::wstring& name : folders) entries_.push_back({folder + L'\\' + name, name, true});
   for (const std::wstring& name : found.pictures) {
     entries_.push_back({folder + L'\\' + name, name, false});
@@ -58,15 +58,15 @@ void COpenPanel::ListFolder(const std::wstring& folder, const std::wstring& curr
   const auto here = std::find_if(entries_.begin(), entries_.end(),
                                  [&](const Entry& entry) { return entry.path == current; });
   marked_ = here == entries_.end() ? -1 : static_cast<int>(here - entries_.begin());
-  SetTitle(NameOf(folder).c_str());
+  SetTitle(name_of(folder).c_str());
   ScrollTo(0);
-  ShowMarked();
+  show_marked();
 }
 
-void COpenPanel::ShowMarked() {
+void COpenPanel::show_marked() {
   if (marked_ < 0) return;
-  CRect content(ContentRect());
-  int top = marked_ * kRowHeight;
+  const CRect content(ContentRect());
+  const int top = marked_ * kRowHeight;
   if (top < scroll()) ScrollTo(top);
   if (top + kRowHeight > scroll() + content.Height()) {
     ScrollTo(top + kRowHeight - content.Height());
@@ -74,43 +74,43 @@ void COpenPanel::ShowMarked() {
 }
 
 void COpenPanel::DrawContent(HDC dc, const RECT& content) {
-  int first = scroll() / kRowHeight;
+  const int first = scroll() / kRowHeight;
   for (int i = first; i < static_cast<int>(entries_.size()); ++i) {
-    int top = content.top + i * kRowHeight - scroll();
+    const int top = content.top + i * kRowHeight - scroll();
     if (top >= content.bottom) break;
-    RECT row{content.left, top, content.right, top + kRowHeight};
-    DrawEntry(dc, entries_[static_cast<std::size_t>(i)], row, i == marked_);
+    const RECT row{content.left, top, content.right, top + kRowHeight};
+    draw_entry(dc, entries_[static_cast<std::size_t>(i)], row, i == marked_);
   }
 }
 
-void COpenPanel::DrawEntry(HDC dc, const Entry& entry, const RECT& row, bool marked) {
-  if (marked) FillWith(dc, row, kRowHoverColor);
-  DrawIcon(dc, row, entry.folder);
-  LOGFONTW font = UiFont(19);
-  CRect text(row.left + kIconWidth, row.top, row.right - 8, row.bottom);
+void COpenPanel::draw_entry(HDC dc, const Entry& entry, const RECT& row, bool marked) {
+  if (marked) fill_with(dc, row, kRowHoverColor);
+  draw_icon(dc, row, entry.folder);
+  const LOGFONTW font = ui_font(19);
+  const CRect text(row.left + kIconWidth, row.top, row.right - 8, row.bottom);
   CGdiDC().DrawTextW(dc, entry.label.c_str(), &font, text, kTextArgb, DT_VCENTER | DT_SINGLELINE);
 }
 
 int COpenPanel::ContentHeight(int) { return static_cast<int>(entries_.size()) * kRowHeight; }
 
-int COpenPanel::EntryAt(CPoint point) const {
-  CRect content(ContentRect());
+int COpenPanel::entry_at(CPoint point) const {
+  const CRect content(ContentRect());
   if (!content.PtInRect(point)) return -1;
-  int index = (point.y - content.top + scroll()) / kRowHeight;
+  const int index = (point.y - content.top + scroll()) / kRowHeight;
   return index < static_cast<int>(entries_.size()) ? index : -1;
 }
 
-void COpenPanel::Mark(int index) {
+void COpenPanel::mark(int index) {
   if (index == marked_) return;
   marked_ = index;
   Invalidate(FALSE);
 }
 
-void COpenPanel::OnMouseMove(UINT, CPoint point) { Mark(EntryAt(point)); }
+void COpenPanel::OnMouseMove(UINT, CPoint point) { mark(entry_at(point)); }
 
-void COpenPanel::OnLButtonUp(UINT, CPoint point) { OpenEntry(EntryAt(point)); }
+void COpenPanel::OnLButtonUp(UINT, CPoint point) { open_entry(entry_at(point)); }
 
-void COpenPanel::OpenEntry(int index) {
+void COpenPanel::open_entry(int index) {
   if (index < 0) return;
   const Entry entry = entries_[static_cast<std::size_t>(index)];
   if (entry.folder) {
@@ -123,12 +123,12 @@ void COpenPanel::OpenEntry(int index) {
 }
 
 void COpenPanel::OnKeyDown(UINT key, UINT, UINT) {
-  int last = static_cast<int>(entries_.size()) - 1;
+  const int last = static_cast<int>(entries_.size()) - 1;
   if (key == VK_RETURN) {
-    OpenEntry(marked_);
+    open_entry(marked_);
   } else if (last >= 0 && (key == VK_DOWN || key == VK_UP)) {
-    Mark(std::clamp(marked_ + (key == VK_DOWN ? 1 : -1), 0, last));
-    ShowMarked();
+    mark(std::clamp(marked_ + (key == VK_DOWN ? 1 : -1), 0, last));
+    show_marked();
   } else {
     Default();
   }

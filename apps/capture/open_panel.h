@@ -28,11 +28,11 @@ class COpenPanel : public CPanel {
     std::wstring label;
     bool folder = false;
   };
-  int EntryAt(corvane::CPoint point) const;  // -1: none
-  void Mark(int index);
-  void ShowMarked();  // scrolls it into view
-  void OpenEntry(int index);
-  void DrawEntry(HDC dc, const Entry& entry, const RECT& row, bool marked);
+  int entry_at(corvane::CPoint point) const;  // -1: none
+  void mark(int index);
+  void show_marked();  // scrolls it into view
+  void open_entry(int index);
+  void draw_entry(HDC dc, const Entry& entry, const RECT& row, bool marked);
 
   std::wstring folder_;
   std::vector<Entry> entries_;

@@ -44,10 +44,10 @@ void CPanel::SetTitle(const CString& title) {
 }
 
 void CPanel::ShowIn(const RECT& screen_area, SIZE size) {
-  int width = std::min<int>(size.cx, screen_area.right - screen_area.left - 2 * kPadding);
-  int height = std::min<int>(size.cy, screen_area.bottom - screen_area.top - 2 * kPadding);
-  int left = (screen_area.left + screen_area.right - width) / 2;
-  int top = (screen_area.top + screen_area.bottom - height) / 2;
+  const int width = std::min<int>(size.cx, screen_area.right - screen_area.left - 2 * kPadding);
+  const int height = std::min<int>(size.cy, screen_area.bottom - screen_area.top - 2 * kPadding);
+  const int left = (screen_area.left + screen_area.right - width) / 2;
+  const int top = (screen_area.top + screen_area.bottom - height) / 2;
   scroll_ = 0;
   MoveWindow(left, top, width, height);
   ShowWindow(SW_SHOW);
@@ -87,8 +87,8 @@ RECT CPanel::ContentRect() const {
 }
 
 void CPanel::ScrollTo(int position) {
-  RECT content = ContentRect();
-  int limit = ContentHeight(content.right - content.left) - (content.bottom - content.top);
+  const RECT content = ContentRect();
+  const int limit = ContentHeight(content.right - content.left) - (content.bottom - content.top);
   scroll_ = std::clamp(position, 0, std::max(limit, 0));
   Invalidate(FALSE);
 }
@@ -96,49 +96,49 @@ void CPanel::ScrollTo(int position) {
 BOOL CPanel::OnEraseBkgnd(CDC*) { return TRUE; }
 
 void CPanel::OnPaint() {
-  CPaintDC dc(this);
+  const CPaintDC dc(this);
   CRect client;
   GetClientRect(client);
   if (!buffer_.HasSizeOf(client)) return;
-  DrawFrame(buffer_);
-  RECT content = ContentRect();
-  int saved = SaveDC(buffer_);
+  draw_frame(buffer_);
+  const RECT content = ContentRect();
+  const int saved = SaveDC(buffer_);
   IntersectClipRect(buffer_, content.left, content.top, content.right, content.bottom);
   DrawContent(buffer_, content);
   RestoreDC(buffer_, saved);
-  DrawScrollMark(buffer_, content);
+  draw_scroll_mark(buffer_, content);
   buffer_.Paste(dc, client);
 }
 
-void CPanel::DrawFrame(HDC dc) {
+void CPanel::draw_frame(HDC dc) {
   CRect client;
   GetClientRect(client);
-  FillWith(dc, client, kPanelColor);
-  FrameWith(dc, client, kPanelEdgeColor);
-  CRect title(kPadding, 0, close_rect_.left, kTitleHeight);
-  LOGFONTW font = UiFont(20, FW_BOLD);
+  fill_with(dc, client, kPanelColor);
+  frame_with(dc, client, kPanelEdgeColor);
+  const CRect title(kPadding, 0, close_rect_.left, kTitleHeight);
+  const LOGFONTW font = ui_font(20, FW_BOLD);
   CGdiDC().DrawTextW(dc, title_, &font, title, kTextArgb, DT_VCENTER | DT_SINGLELINE);
 }
 
-void CPanel::DrawScrollMark(HDC dc, const RECT& content) {
-  int visible = content.bottom - content.top;
-  int whole = ContentHeight(content.right - content.left);
+void CPanel::draw_scroll_mark(HDC dc, const RECT& content) {
+  const int visible = content.bottom - content.top;
+  const int whole = ContentHeight(content.right - content.left);
   if (visible <= 0 || whole <= visible) return;
-  int length = std::max(visible * visible / whole, 24);
-  int top = content.top + (visible - length) * scroll_ / (whole - visible);
-  int left = content.right + kPadding / 2;
-  FillWith(dc, CRect(left, top, left + kScrollMarkWidth, top + length), kPanelEdgeColor);
+  const int length = std::max(visible * visible / whole, 24);
+  const int top = content.top + (visible - length) * scroll_ / (whole - visible);
+  const int left = content.right + kPadding / 2;
+  fill_with(dc, CRect(left, top, left + kScrollMarkWidth, top + length), kPanelEdgeColor);
 }
 
 void CPanel::OnSize(UINT kind, int width, int height) {
   CWnd::OnSize(kind, width, height);
-  CRect client(0, 0, width, height);
+  const CRect client(0, 0, width, height);
   if (!client.IsRectEmpty()) buffer_.CreateBufferDC(nullptr, client);
-  int margin = (kTitleHeight - close_rect_.Height()) / 2;
+  const int margin = (kTitleHeight - close_rect_.Height()) / 2;
   close_rect_.OffsetRect(width - margin - close_rect_.right, margin - close_rect_.top);
   if (close_.GetSafeHwnd() != nullptr) close_.MoveWindow(close_rect_);
   if (buffer_.HasSizeOf(client)) {
-    DrawFrame(buffer_);
+    draw_frame(buffer_);
     close_.SetBkGnd(buffer_, close_rect_);
   }
 }

@@ -36,8 +36,8 @@ class CPanel : public corvane::CWnd {
   BOOL OnMouseWheel(UINT flags, short distance, corvane::CPoint point);
 
  private:
-  void DrawFrame(HDC dc);
-  void DrawScrollMark(HDC dc, const RECT& content);
+  void draw_frame(HDC dc);
+  void draw_scroll_mark(HDC dc, const RECT& content);
 
   corvane::CXmlListMgr skin_;
   corvane::CGdiBtnEx close_;

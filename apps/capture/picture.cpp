@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 
 std::unique_ptr<CPicture> CPicture::Open(const std::string& path) {
   std::error_code error;
-  std::string absolute = fs::absolute(path, error).lexically_normal();
+  const std::string absolute = fs::absolute(path, error).lexically_normal();
   if (error) return nullptr;
   auto image = std::make_unique<Gdiplus::Image>(corvane::system::wide_path(absolute).c_str());
   if (image->GetWidth() == 0 || image->GetHeight() == 0) return nullptr;

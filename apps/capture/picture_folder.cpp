@@ -10,10 +10,10 @@ namespace {
 
 constexpr wchar_t kSeparator = L'\\';
 
-void Add(FolderEntries& entries, const WIN32_FIND_DATAW& found) {
+void add(FolderEntries& entries, const WIN32_FIND_DATAW& found) {
   const std::wstring_view name = found.cFileName;
   if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) {
-    if (HasPictureEnding(name)) entries.pictures.emplace_back(name);
+    if (has_picture_ending(name)) entries.pictures.emplace_back(name);
     return;
   }
   if (name.starts_with(L'.')) return;
@@ -26,8 +26,8 @@ void Add(FolderEntries& entries, const WIN32_FIND_DATAW& found) {
 
 }  // namespace
 
-bool HasPictureEnding(std::wstring_view name) {
-  std::size_t dot = name.rfind(L'.');
+bool has_picture_ending(std::wstring_view name) {
+  const std::size_t dot = name.rfind(L'.');
   if (dot == std::wstring_view::npos || dot == 0) return false;
   std::wstring ending(name.substr(dot));
   std::transform(ending.begin(), ending.end(), ending.begin(), [](wchar_t letter) {
@@ -37,22 +37,22 @@ bool HasPictureEnding(std::wstring_view name) {
   return std::find(std::begin(kEndings), std::end(kEndings), ending) != std::end(kEndings);
 }
 
-std::optional<FolderEntries> ReadFolder(const std::wstring& folder) {
+std::optional<FolderEntries> read_folder(const std::wstring& folder) {
   WIN32_FIND_DATAW found;
   HANDLE search = FindFirstFileW((folder + L"\\*").c_str(), &found);
   if (search == INVALID_HANDLE_VALUE) return std::nullopt;
   FolderEntries entries;
   do {
-    Add(entries, found);
+    add(entries, found);
   } while (FindNextFileW(search, &found));
   FindClose(search);
   for (auto* names : {&entries.folders, &entries.links, &entries.pictures}) {
-    std::sort(names->begin(), names->end(), StandsBefore);
+    std::sort(names->begin(), names->end(), stands_before);
   }
   return entries;
 }
 
-bool FolderExists(const std::wstring& folder) {
+bool folder_exists(const std::wstring& folder) {
   // What a link leads to counts, so the link's own attributes would not do.
   WIN32_FIND_DATAW found;
   HANDLE search = FindFirstFileW((folder + L"\\*").c_str(), &found);
@@ -60,12 +60,12 @@ bool FolderExists(const std::wstring& folder) {
   return search != INVALID_HANDLE_VALUE || GetLastError() == ERROR_ACCESS_DENIED;
 }
 
-std::wstring FirstFolderWithPictures(const std::wstring& root) {
+std::wstring first_folder_with_pictures(const std::wstring& root) {
   std::vector<std::wstring> waiting = {root};  // the last comes next
   while (!waiting.empty()) {
     std::wstring folder = std::move(waiting.back());
     waiting.pop_back();
-    std::optional<FolderEntries> entries = ReadFolder(folder);
+    std::optional<FolderEntries> entries = read_folder(folder);
     if (!entries) continue;
     if (!entries->pictures.empty()) return folder;
     for (auto name = entries->folders.rbegin(); name != entries->folders.rend(); ++name) {
@@ -75,28 +75,28 @@ std::wstring FirstFolderWithPictures(const std::wstring& root) {
   return {};
 }
 
-bool LiesIn(std::wstring_view root, std::wstring_view path) {
+bool lies_in(std::wstring_view root, std::wstring_view path) {
   if (!path.starts_with(root)) return false;
   return path.size() == root.size() || path[root.size()] == kSeparator;
 }
 
-std::wstring FolderOf(const std::wstring& path) {
-  std::size_t separator = path.rfind(kSeparator);
+std::wstring folder_of(const std::wstring& path) {
+  const std::size_t separator = path.rfind(kSeparator);
   return separator == std::wstring::npos ? std::wstring() : path.substr(0, separator);
 }
 
-std::wstring NameOf(const std::wstring& path) {
-  std::size_t separator = path.rfind(kSeparator);
+std::wstring name_of(const std::wstring& path) {
+  const std::size_t separator = path.rfind(kSeparator);
   return separator == std::wstring::npos ? path : path.substr(separator + 1);
 }
 
-std::wstring NameFrom(const std::vector<std::wstring>& names, const std::wstring& name, int step) {
+std::wstring name_from(const std::vector<std::wstring>& names, const std::wstring& name, int step) {
   if (names.empty()) return {};
   auto count = static_cast<std::ptrdiff_t>(names.size());
-  auto here = std::lower_bound(names.begin(), names.end(), name, StandsBefore);
-  bool present = here != names.end() && *here == name;
+  auto here = std::lower_bound(names.begin(), names.end(), name, stands_before);
+  const bool present = here != names.end() && *here == name;
   if (present && count == 1) return {};
-  std::ptrdiff_t index = here - names.begin() + (present || step < 0 ? step : step - 1);
+  const std::ptrdiff_t index = here - names.begin() + (present || step < 0 ? step : step - 1);
   return names[static_cast<std::size_t>(((index % count) + count) % count)];
 }
 

@@ -14,14 +14,14 @@ constexpr int kMaxNumber = 100000;
 
 }  // namespace
 
-SavedPart SaveNumbered(const std::wstring& folder, const std::wstring& picture_name,
-                       const std::vector<std::uint8_t>& png) {
+SavedPart save_numbered(const std::wstring& folder, const std::wstring& picture_name,
+                        const std::vector<std::uint8_t>& png) {
   using corvane::system::NewFileResult;
-  std::size_t dot = picture_name.rfind(L'.');
-  std::wstring stem = dot == 0 ? picture_name : picture_name.substr(0, dot);
+  const std::size_t dot = picture_name.rfind(L'.');
+  const std::wstring stem = dot == 0 ? picture_name : picture_name.substr(0, dot);
   for (int number = 1; number < kMaxNumber; ++number) {
-    std::wstring name = stem + L"_" + std::to_wstring(number) + L".png";
-    std::string path = corvane::system::file_system_path(folder + L'\\' + name);
+    const std::wstring name = stem + L"_" + std::to_wstring(number) + L".png";
+    const std::string path = corvane::system::file_system_path(folder + L'\\' + name);
     switch (corvane::system::write_new_file(path, png.data(), png.size())) {
       case NewFileResult::written:
         return {name, 0};
@@ -34,7 +34,7 @@ SavedPart SaveNumbered(const std::wstring& folder, const std::wstring& picture_n
   return {{}, EEXIST};
 }
 
-corvane::CString SaveErrorText(int error) {
+corvane::CString save_error_text(int error) {
   switch (error) {
     case ENOSPC:
     case EDQUOT:
@@ -47,7 +47,7 @@ corvane::CString SaveErrorText(int error) {
     case ENOTDIR:
       return L"文件夹不存在";
     default:
-      return Wide(std::strerror(error));
+      return wide(std::strerror(error));
   }
 }
 

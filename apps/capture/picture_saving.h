@@ -14,10 +14,10 @@ struct SavedPart {
 };
 // Saves the bytes in the folder (wide path) as STEM_1.png, STEM_2.png ..., whole or not at all and
 // never over an existing file. The stem is `picture_name` without its ending.
-SavedPart SaveNumbered(const std::wstring& folder, const std::wstring& picture_name,
-                       const std::vector<std::uint8_t>& png);
+SavedPart save_numbered(const std::wstring& folder, const std::wstring& picture_name,
+                        const std::vector<std::uint8_t>& png);
 
 // Why it could not be saved: the usual reasons in the user's language, others in the system's.
-corvane::CString SaveErrorText(int error);
+corvane::CString save_error_text(int error);
 
 }  // namespace capture

@@ -13,7 +13,7 @@ namespace {
 
 using namespace corvane;
 
-std::span<const std::wstring> Part(const std::vector<std::wstring>& names, const CellRange& cells) {
+std::span<const std::wstring> part(const std::vector<std::wstring>& names, const CellRange& cells) {
   return std::span(names).subspan(static_cast<std::size_t>(cells.first),
                                   static_cast<std::size_t>(cells.last - cells.first));
 }
@@ -45,7 +45,7 @@ bool CPictureStrip::Open(CWnd* parent) {
 int CPictureStrip::OnCreate(LPCREATESTRUCT creation) {
   if (CWnd::OnCreate(creation) == -1) return -1;
   loader_ = std::make_unique<CThumbnailLoader>(
-      DecodeThumbnail, [window = m_hWnd] { ::PostMessageW(window, WM_THUMBNAILS_LOADED, 0, 0); });
+      decode_thumbnail, [window = m_hWnd] { ::PostMessageW(window, WM_THUMBNAILS_LOADED, 0, 0); });
   return 0;
 }
 
@@ -57,7 +57,7 @@ void CPictureStrip::OnDestroy() {
 void CPictureStrip::ShowPictures(const std::wstring& folder, std::vector<std::wstring> names,
                                  const wchar_t* empty_text) {
   if (folder == folder_ && names == names_ && empty_text_ == empty_text) return;
-  bool other_folder = folder != folder_;
+  const bool other_folder = folder != folder_;
   folder_ = folder;
   names_ = std::move(names);
   empty_text_ = empty_text;
@@ -68,60 +68,60 @@ void CPictureStrip::ShowPictures(const std::wstring& folder, std::vector<std::ws
     cache_.Clear();
     layout_.ScrollTo(0);
   }
-  Scrolled();
+  scrolled();
 }
 
-int CPictureStrip::CellOf(const std::wstring& name) const {
-  auto found = std::lower_bound(names_.begin(), names_.end(), name, StandsBefore);
+int CPictureStrip::cell_of(const std::wstring& name) const {
+  auto found = std::lower_bound(names_.begin(), names_.end(), name, stands_before);
   return found != names_.end() && *found == name ? static_cast<int>(found - names_.begin()) : -1;
 }
 
 void CPictureStrip::Mark(const std::wstring& name) {
   marked_ = name;
-  ScrollToName(name);
+  scroll_to_name(name);
 }
 
 void CPictureStrip::ScrollToNew(const std::wstring& name) {
-  StoreLoaded();
+  store_loaded();
   cache_.Forget(name);
-  ScrollToName(name);
+  scroll_to_name(name);
 }
 
-void CPictureStrip::ScrollToName(const std::wstring& name) {
-  layout_.Show(CellOf(name));
-  Scrolled();
+void CPictureStrip::scroll_to_name(const std::wstring& name) {
+  layout_.Show(cell_of(name));
+  scrolled();
 }
 
-void CPictureStrip::Scrolled() {
-  RequestThumbnails();
+void CPictureStrip::scrolled() {
+  request_thumbnails();
   Invalidate(FALSE);
 }
 
-void CPictureStrip::RequestThumbnails() {
+void CPictureStrip::request_thumbnails() {
   if (loader_ == nullptr) return;
-  StoreLoaded();
-  CellRange visible = layout_.Visible();
-  cache_.Keep(Part(names_, Neighbourhood(visible, layout_.count())));
+  store_loaded();
+  const CellRange visible = layout_.Visible();
+  cache_.Keep(part(names_, neighbourhood(visible, layout_.count())));
   std::vector<ThumbnailRequest> requests;
-  for (int cell : LoadOrder(visible, layout_.count())) {
+  for (const int cell : load_order(visible, layout_.count())) {
     const std::wstring& name = names_[static_cast<std::size_t>(cell)];
     if (cache_.Find(name) == nullptr) requests.push_back({folder_, name, layout_.PictureBox()});
   }
   loader_->Want(std::move(requests));
 }
 
-void CPictureStrip::StoreLoaded() {
+void CPictureStrip::store_loaded() {
   if (loader_ == nullptr) return;
-  SIZE box = layout_.PictureBox();
+  const SIZE box = layout_.PictureBox();
   for (LoadedThumbnail& loaded : loader_->TakeLoaded()) {
-    bool fits = loaded.request.box.cx == box.cx && loaded.request.box.cy == box.cy;
+    const bool fits = loaded.request.box.cx == box.cx && loaded.request.box.cy == box.cy;
     if (!fits || loaded.request.folder != folder_) continue;
     cache_.Put(loaded.request.name, std::move(loaded.thumbnail));
   }
 }
 
 LRESULT CPictureStrip::OnThumbnailsLoaded(WPARAM, LPARAM) {
-  StoreLoaded();
+  store_loaded();
   Invalidate(FALSE);
   return 0;
 }
@@ -129,34 +129,34 @@ LRESULT CPictureStrip::OnThumbnailsLoaded(WPARAM, LPARAM) {
 BOOL CPictureStrip::OnEraseBkgnd(CDC*) { return TRUE; }
 
 void CPictureStrip::OnPaint() {
-  CPaintDC dc(this);
+  const CPaintDC dc(this);
   CRect client;
   GetClientRect(client);
   if (!buffer_.HasSizeOf(client)) return;
-  DrawStripBackground(buffer_, client);
-  CellRange visible = layout_.Visible();
+  draw_strip_background(buffer_, client);
+  const CellRange visible = layout_.Visible();
   for (int cell = visible.first; cell < visible.last; ++cell) {
     const std::wstring& name = names_[static_cast<std::size_t>(cell)];
-    DrawStripCell(buffer_, layout_, cell,
-                  {name.c_str(), cache_.Find(name), cell == hovered_, name == marked_});
+    draw_strip_cell(buffer_, layout_, cell,
+                    {name.c_str(), cache_.Find(name), cell == hovered_, name == marked_});
   }
-  DrawStripScroll(buffer_, layout_, gesture_.moves_row());
-  if (names_.empty()) DrawEmptyStrip(buffer_, client, empty_text_);
+  draw_strip_scroll(buffer_, layout_, gesture_.moves_row());
+  if (names_.empty()) draw_empty_strip(buffer_, client, empty_text_);
   buffer_.Paste(dc, client);
 }
 
 void CPictureStrip::OnSize(UINT kind, int width, int height) {
   CWnd::OnSize(kind, width, height);
-  CRect client(0, 0, width, height);
+  const CRect client(0, 0, width, height);
   if (!client.IsRectEmpty()) buffer_.CreateBufferDC(nullptr, client);
-  SIZE former = layout_.PictureBox();
+  const SIZE former = layout_.PictureBox();
   layout_.SetArea({width, height});
   if (layout_.PictureBox().cy != former.cy) cache_.Clear();
-  layout_.Show(CellOf(marked_));
-  Scrolled();
+  layout_.Show(cell_of(marked_));
+  scrolled();
 }
 
-void CPictureStrip::Hover(int cell) {
+void CPictureStrip::hover(int cell) {
   if (cell == hovered_) return;
   hovered_ = cell;
   Invalidate(FALSE);
@@ -164,36 +164,36 @@ void CPictureStrip::Hover(int cell) {
 
 void CPictureStrip::OnMouseMove(UINT, CPoint point) {
   if (gesture_.active()) {
-    int before = layout_.scroll();
+    const int before = layout_.scroll();
     gesture_.Move(layout_, point);
-    if (layout_.scroll() != before) Scrolled();
+    if (layout_.scroll() != before) scrolled();
   }
   TRACKMOUSEEVENT leaving{sizeof(TRACKMOUSEEVENT), TME_LEAVE, m_hWnd, 0};
   ::TrackMouseEvent(&leaving);
-  Hover(gesture_.moves_row() ? -1 : layout_.CellAt(point));
+  hover(gesture_.moves_row() ? -1 : layout_.CellAt(point));
 }
 
-void CPictureStrip::OnMouseLeave() { Hover(-1); }
+void CPictureStrip::OnMouseLeave() { hover(-1); }
 
 BOOL CPictureStrip::OnMouseWheel(UINT, short distance, CPoint screen_point) {
   layout_.ScrollTo(layout_.scroll() - distance * layout_.CellWidth() / WHEEL_DELTA);
   POINT point = screen_point;
   ScreenToClient(&point);
   hovered_ = layout_.CellAt(point);
-  Scrolled();
+  scrolled();
   return TRUE;
 }
 
 void CPictureStrip::OnLButtonDown(UINT, CPoint point) {
   SetCapture();
   gesture_.Press(layout_, point);
-  Scrolled();
+  scrolled();
 }
 
 void CPictureStrip::OnLButtonUp(UINT, CPoint point) {
-  int cell = gesture_.Release(layout_, point);
+  const int cell = gesture_.Release(layout_, point);
   if (GetCapture() == this) ::ReleaseCapture();
-  Hover(layout_.CellAt(point));
+  hover(layout_.CellAt(point));
   Invalidate(FALSE);
   if (cell < 0 || cell >= layout_.count()) return;
   clicked_ = names_[static_cast<std::size_t>(cell)];

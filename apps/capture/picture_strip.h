@@ -19,7 +19,7 @@ class CPictureStrip : public corvane::CWnd {
   ~CPictureStrip() override { DestroyWindow(); }  // ends the thumbnail thread
 
   bool Open(corvane::CWnd* parent);
-  // The names of the folder's pictures, in order (StandsBefore). The same folder again keeps its
+  // The names of the folder's pictures, in order (stands_before). The same folder again keeps its
   // thumbnails and its place. `empty_text` is shown when there are none.
   void ShowPictures(const std::wstring& folder, std::vector<std::wstring> names,
                     const wchar_t* empty_text);
@@ -50,12 +50,12 @@ class CPictureStrip : public corvane::CWnd {
   LRESULT OnThumbnailsLoaded(WPARAM, LPARAM);
 
  private:
-  void ScrollToName(const std::wstring& name);
-  int CellOf(const std::wstring& name) const;  // -1: not there
-  void Hover(int cell);
-  void Scrolled();  // loads what came into view, repaints
-  void RequestThumbnails();
-  void StoreLoaded();
+  void scroll_to_name(const std::wstring& name);
+  int cell_of(const std::wstring& name) const;  // -1: not there
+  void hover(int cell);
+  void scrolled();  // loads what came into view, repaints
+  void request_thumbnails();
+  void store_loaded();
 
   std::wstring folder_;
   std::vector<std::wstring> names_;

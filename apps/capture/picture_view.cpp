@@ -22,7 +22,7 @@ constexpr int kNoticePadding = 18;
 constexpr int kNoticeFontHeight = 17;
 constexpr int kEmptyLineDistance = 36;
 
-int TextWidth(HDC dc, const CString& text, const LOGFONTW& font) {
+int text_width(HDC dc, const CString& text, const LOGFONTW& font) {
   HFONT handle = CreateFontIndirectW(&font);
   HGDIOBJ former = SelectObject(dc, handle);
   SIZE extent{};
@@ -63,17 +63,17 @@ void CPictureView::ShowNotice(const CString& text) {
 BOOL CPictureView::OnEraseBkgnd(CDC*) { return TRUE; }
 
 void CPictureView::OnPaint() {
-  CPaintDC dc(this);
+  const CPaintDC dc(this);
   CRect client;
   GetClientRect(client);
-  RECT shown = ShownRect();
-  FillWith(dc, client, kStageColor);
+  const RECT shown = ShownRect();
+  fill_with(dc, client, kStageColor);
   if (picture_ != nullptr) {
     CGdiDC().DrawImage(dc, picture_->image(), CRect(shown));
   } else {
-    DrawEmptyStage(dc, client);
+    draw_empty_stage(dc, client);
   }
-  if (!notice_.IsEmpty()) DrawNotice(dc, client);
+  if (!notice_.IsEmpty()) draw_notice(dc, client);
 }
 
 void CPictureView::SetEmptyText(const CString& text) {
@@ -81,31 +81,31 @@ void CPictureView::SetEmptyText(const CString& text) {
   Invalidate(FALSE);
 }
 
-void CPictureView::DrawEmptyStage(HDC dc, const RECT& client) const {
-  std::wstring text = empty_text_.AsStdString();
-  std::size_t end = std::min(text.find(L'\n'), text.size());
-  LOGFONTW font = UiFont(24);
+void CPictureView::draw_empty_stage(HDC dc, const RECT& client) const {
+  const std::wstring text = empty_text_.AsStdString();
+  const std::size_t end = std::min(text.find(L'\n'), text.size());
+  LOGFONTW font = ui_font(24);
   CRect first(client);
   first.bottom -= kEmptyLineDistance;
   CGdiDC().DrawTextW(dc, text.substr(0, end).c_str(), &font, first, kTextArgb,
                      DT_CENTER | DT_VCENTER | DT_SINGLELINE);
   if (end == text.size()) return;
-  font = UiFont(17);
+  font = ui_font(17);
   CRect second(client);
   second.top += kEmptyLineDistance;
   CGdiDC().DrawTextW(dc, text.substr(end + 1).c_str(), &font, second, kQuietTextArgb,
                      DT_CENTER | DT_VCENTER | DT_SINGLELINE);
 }
 
-void CPictureView::DrawNotice(HDC dc, const RECT& client) const {
-  LOGFONTW font = UiFont(kNoticeFontHeight);
-  int width = TextWidth(dc, notice_, font) + 2 * kNoticePadding;
-  int left = (client.right - width) / 2;
-  int top = client.bottom - kNoticeHeight - 2 * kMargin;
-  CRect box(left, top, left + width, top + kNoticeHeight);
-  FillWith(dc, box, kPanelColor);
-  FrameWith(dc, box, kPanelEdgeColor);
-  FillWith(dc, CRect(box.left, box.top, box.left + 4, box.bottom), kAccentColor);
+void CPictureView::draw_notice(HDC dc, const RECT& client) const {
+  const LOGFONTW font = ui_font(kNoticeFontHeight);
+  const int width = text_width(dc, notice_, font) + 2 * kNoticePadding;
+  const int left = (client.right - width) / 2;
+  const int top = client.bottom - kNoticeHeight - 2 * kMargin;
+  const CRect box(left, top, left + width, top + kNoticeHeight);
+  fill_with(dc, box, kPanelColor);
+  frame_with(dc, box, kPanelEdgeColor);
+  fill_with(dc, CRect(box.left, box.top, box.left + 4, box.bottom), kAccentColor);
   CGdiDC().DrawTextW(dc, notice_, &font, box, kTextArgb, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
 }
 

@@ -24,8 +24,8 @@ class CPictureView : public corvane::CWnd {
   void OnTimer(UINT_PTR id);
 
  private:
-  void DrawEmptyStage(HDC dc, const RECT& client) const;
-  void DrawNotice(HDC dc, const RECT& client) const;
+  void draw_empty_stage(HDC dc, const RECT& client) const;
+  void draw_notice(HDC dc, const RECT& client) const;
 
   const CPicture* picture_ = nullptr;
   corvane::CString notice_;

@@ -26,17 +26,17 @@ const MessageMap* CRecognitionPanel::GetMessageMap() const {
 
 void CRecognitionPanel::Read(const std::vector<std::uint8_t>& png, const RECT& screen_area) {
   if (!CTextRecognition::Installed()) {
-    Say(L"文字识别", kHowToInstall);
+    say(L"文字识别", kHowToInstall);
   } else if (recognition_.Start(png)) {
-    Say(L"文字识别", L"正在识别……");
+    say(L"文字识别", L"正在识别……");
     SetTimer(kTimer, kInterval);
   } else {
-    Say(L"文字识别", L"无法启动文字识别程序。");
+    say(L"文字识别", L"无法启动文字识别程序。");
   }
   ShowIn(screen_area, kSize);
 }
 
-void CRecognitionPanel::Say(const wchar_t* title, const CString& text) {
+void CRecognitionPanel::say(const wchar_t* title, const CString& text) {
   SetTitle(title);
   SetText(text);
 }
@@ -51,9 +51,9 @@ void CRecognitionPanel::OnTimer(UINT_PTR id) {
   KillTimer(kTimer);
   if (!text) return;
   if (text->empty()) {
-    Say(L"文字识别", L"没有识别出文字。");
+    say(L"文字识别", L"没有识别出文字。");
   } else {
-    Say(L"识别结果", Wide(*text));
+    say(L"识别结果", wide(*text));
   }
 }
 

@@ -19,7 +19,7 @@ class CRecognitionPanel : public CTextPanel {
   void OnTimer(UINT_PTR id);
 
  private:
-  void Say(const wchar_t* title, const corvane::CString& text);
+  void say(const wchar_t* title, const corvane::CString& text);
 
   CTextRecognition recognition_;
 };

@@ -9,12 +9,12 @@ namespace {
 
 using namespace corvane;
 
-bool IsDigit(wchar_t character) { return character >= L'0' && character <= L'9'; }
+bool is_digit(wchar_t character) { return character >= L'0' && character <= L'9'; }
 
 // The number's digits without zeros before it; what follows stays in `text`.
-std::wstring_view TakeNumber(std::wstring_view& text) {
+std::wstring_view take_number(std::wstring_view& text) {
   std::size_t end = 0;
-  while (end < text.size() && IsDigit(text[end])) ++end;
+  while (end < text.size() && is_digit(text[end])) ++end;
   std::wstring_view digits = text.substr(0, end);
   text.remove_prefix(end);
   digits.remove_prefix(std::min(digits.find_first_not_of(L'0'), digits.size()));
@@ -28,10 +28,10 @@ class SortedFolder : public OpenFolder {
   FolderIdentity Identity() const override { return folder_->Identity(); }
   bool ListFolders(const FoundFolder& found) override {
     std::vector<std::pair<std::wstring, FolderKind>> folders;
-    bool listed = folder_->ListFolders(
+    const bool listed = folder_->ListFolders(
         [&](std::wstring_view name, FolderKind kind) { folders.emplace_back(name, kind); });
     std::sort(folders.begin(), folders.end(),
-              [](const auto& a, const auto& b) { return StandsBefore(a.first, b.first); });
+              [](const auto& a, const auto& b) { return stands_before(a.first, b.first); });
     for (const auto& [name, kind] : folders) found(name, kind);
     return listed;
   }
@@ -58,15 +58,15 @@ class Listing : public FolderListing {
 
 }  // namespace
 
-std::unique_ptr<FolderListing> SortedListing() { return std::make_unique<Listing>(); }
+std::unique_ptr<FolderListing> sorted_listing() { return std::make_unique<Listing>(); }
 
-bool StandsBefore(std::wstring_view name, std::wstring_view other) {
+bool stands_before(std::wstring_view name, std::wstring_view other) {
   std::wstring_view left = name;
   std::wstring_view right = other;
   while (!left.empty() && !right.empty()) {
-    if (IsDigit(left.front()) && IsDigit(right.front())) {
-      std::wstring_view number = TakeNumber(left);
-      std::wstring_view other_number = TakeNumber(right);
+    if (is_digit(left.front()) && is_digit(right.front())) {
+      const std::wstring_view number = take_number(left);
+      const std::wstring_view other_number = take_number(right);
       if (number.size() != other_number.size()) return number.size() < other_number.size();
       if (number != other_number) return number < other_number;
     } else {

@@ -8,10 +8,10 @@
 
 namespace capture {
 
-std::unique_ptr<corvane::FolderListing> SortedListing();
+std::unique_ptr<corvane::FolderListing> sorted_listing();
 
 // Whether one name stands before the other: by characters, with numbers by their value, so that
 // 9 stands before 10.
-bool StandsBefore(std::wstring_view name, std::wstring_view other);
+bool stands_before(std::wstring_view name, std::wstring_view other);
 
 }  // namespace capture

@@ -33,7 +33,7 @@ void CStripGesture::Move(CStripLayout& layout, POINT point) {
 }
 
 int CStripGesture::Release(const CStripLayout& layout, POINT point) {
-  bool clicked = kind_ == Kind::click && layout.CellAt(point) == pressed_cell_;
+  const bool clicked = kind_ == Kind::click && layout.CellAt(point) == pressed_cell_;
   kind_ = Kind::none;
   return clicked ? pressed_cell_ : -1;
 }

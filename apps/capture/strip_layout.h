@@ -39,7 +39,7 @@ class CStripLayout {
   int ScrollForMarkAt(int x) const;
 
  private:
-  int RowWidth() const;
+  int row_width() const;
 
   SIZE area_{};
   int count_ = 0;

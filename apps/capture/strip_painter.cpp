@@ -17,8 +17,8 @@ constexpr int kNameFontHeight = 14;
 constexpr int kMarkWidth = 2;
 
 // In the platform's solid way, which can end a long name with dots.
-void DrawLine(HDC dc, const wchar_t* text, RECT place, COLORREF color) {
-  LOGFONTW description = UiFont(kNameFontHeight);
+void draw_line(HDC dc, const wchar_t* text, RECT place, COLORREF color) {
+  const LOGFONTW description = ui_font(kNameFontHeight);
   HFONT font = CreateFontIndirectW(&description);
   HGDIOBJ former = SelectObject(dc, font);
   SetTextColor(dc, color);
@@ -29,49 +29,49 @@ void DrawLine(HDC dc, const wchar_t* text, RECT place, COLORREF color) {
   DeleteObject(font);
 }
 
-void DrawPlaceholder(HDC dc, const RECT& place, bool broken) {
-  FillWith(dc, place, kStageColor);
-  FrameWith(dc, place, kPanelEdgeColor);
-  if (broken) DrawLine(dc, L"无法显示", place, kQuietTextColor);
+void draw_placeholder(HDC dc, const RECT& place, bool broken) {
+  fill_with(dc, place, kStageColor);
+  frame_with(dc, place, kPanelEdgeColor);
+  if (broken) draw_line(dc, L"无法显示", place, kQuietTextColor);
 }
 
 }  // namespace
 
-void DrawStripBackground(HDC dc, const RECT& client) {
-  FillWith(dc, client, kPanelColor);
-  FillWith(dc, {client.left, client.top, client.right, client.top + 1}, kPanelEdgeColor);
+void draw_strip_background(HDC dc, const RECT& client) {
+  fill_with(dc, client, kPanelColor);
+  fill_with(dc, {client.left, client.top, client.right, client.top + 1}, kPanelEdgeColor);
 }
 
-void DrawStripCell(HDC dc, const CStripLayout& layout, int index, const StripCell& cell) {
+void draw_strip_cell(HDC dc, const CStripLayout& layout, int index, const StripCell& cell) {
   RECT place = layout.Cell(index);
-  if (cell.hovered || cell.marked) FillWith(dc, place, kRowHoverColor);
-  RECT box = layout.Picture(index);
-  bool drawable = cell.thumbnail != nullptr && *cell.thumbnail != nullptr;
+  if (cell.hovered || cell.marked) fill_with(dc, place, kRowHoverColor);
+  const RECT box = layout.Picture(index);
+  const bool drawable = cell.thumbnail != nullptr && *cell.thumbnail != nullptr;
   if (drawable) {
     Gdiplus::Image* image = cell.thumbnail->get();
-    SIZE size{static_cast<LONG>(image->GetWidth()), static_cast<LONG>(image->GetHeight())};
+    const SIZE size{static_cast<LONG>(image->GetWidth()), static_cast<LONG>(image->GetHeight())};
     CGdiDC().DrawImage(dc, image, CRect(fit_picture(size, box)));
   } else {
-    DrawPlaceholder(dc, box, cell.thumbnail != nullptr);
+    draw_placeholder(dc, box, cell.thumbnail != nullptr);
   }
-  bool bright = cell.hovered || cell.marked;
-  DrawLine(dc, cell.name, layout.Name(index), bright ? kTextColor : kQuietTextColor);
+  const bool bright = cell.hovered || cell.marked;
+  draw_line(dc, cell.name, layout.Name(index), bright ? kTextColor : kQuietTextColor);
   if (!cell.marked) return;
   for (int inset = 0; inset < kMarkWidth; ++inset) {
-    FrameWith(dc, place, kAccentColor);
+    frame_with(dc, place, kAccentColor);
     InflateRect(&place, -1, -1);
   }
 }
 
-void DrawStripScroll(HDC dc, const CStripLayout& layout, bool held) {
-  RECT track = layout.ScrollTrack();
+void draw_strip_scroll(HDC dc, const CStripLayout& layout, bool held) {
+  const RECT track = layout.ScrollTrack();
   if (IsRectEmpty(&track)) return;
-  FillWith(dc, track, kStageColor);
-  FillWith(dc, layout.ScrollMark(), held ? kQuietTextColor : kScrollMarkColor);
+  fill_with(dc, track, kStageColor);
+  fill_with(dc, layout.ScrollMark(), held ? kQuietTextColor : kScrollMarkColor);
 }
 
-void DrawEmptyStrip(HDC dc, const RECT& client, const CString& text) {
-  DrawLine(dc, text, client, kQuietTextColor);
+void draw_empty_strip(HDC dc, const RECT& client, const CString& text) {
+  draw_line(dc, text, client, kQuietTextColor);
 }
 
 }  // namespace capture

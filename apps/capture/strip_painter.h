@@ -13,9 +13,9 @@ struct StripCell {
   bool marked = false;
 };
 
-void DrawStripBackground(HDC dc, const RECT& client);
-void DrawStripCell(HDC dc, const CStripLayout& layout, int index, const StripCell& cell);
-void DrawStripScroll(HDC dc, const CStripLayout& layout, bool held);
-void DrawEmptyStrip(HDC dc, const RECT& client, const corvane::CString& text);
+void draw_strip_background(HDC dc, const RECT& client);
+void draw_strip_cell(HDC dc, const CStripLayout& layout, int index, const StripCell& cell);
+void draw_strip_scroll(HDC dc, const CStripLayout& layout, bool held);
+void draw_empty_strip(HDC dc, const RECT& client, const corvane::CString& text);
 
 }  // namespace capture

@@ -9,23 +9,23 @@ namespace {
 constexpr int kStepsOfADrag = 12;
 constexpr unsigned kBetweenClicks = 1000;  // milliseconds; more than a double click takes
 
-void SendMouse(DWORD flags, int data = 0) {
+void send_mouse(DWORD flags, int data = 0) {
   INPUT input{};
   input.type = INPUT_MOUSE;
   input.mi.dwFlags = flags;
   input.mi.mouseData = static_cast<DWORD>(data);
   SendInput(1, &input, sizeof(input));
-  HandleWaitingMessages();
+  handle_waiting_messages();
 }
 
-void PressAndRelease() {
-  SendMouse(MOUSEEVENTF_LEFTDOWN);
-  SendMouse(MOUSEEVENTF_LEFTUP);
+void press_and_release() {
+  send_mouse(MOUSEEVENTF_LEFTDOWN);
+  send_mouse(MOUSEEVENTF_LEFTUP);
 }
 
 }  // namespace
 
-void HandleWaitingMessages() {
+void handle_waiting_messages() {
   MSG message;
   while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
     if (message.message == WM_QUIT) return;
@@ -35,54 +35,54 @@ void HandleWaitingMessages() {
   }
 }
 
-void LetTimePass(unsigned milliseconds) {
+void let_time_pass(unsigned milliseconds) {
   auto& display = corvane::system::WindowSystem::current()->display();
   display.wait(display.now() + milliseconds);
-  HandleWaitingMessages();
+  handle_waiting_messages();
 }
 
-void MoveTo(POINT point) {
+void move_to(POINT point) {
   SetCursorPos(static_cast<int>(point.x), static_cast<int>(point.y));
-  HandleWaitingMessages();
+  handle_waiting_messages();
 }
 
-void Click(POINT point) {
-  MoveTo(point);
-  PressAndRelease();
-  LetTimePass(kBetweenClicks);
+void click(POINT point) {
+  move_to(point);
+  press_and_release();
+  let_time_pass(kBetweenClicks);
 }
 
-void DoubleClick(POINT point) {
-  MoveTo(point);
-  PressAndRelease();
-  PressAndRelease();
-  LetTimePass(kBetweenClicks);
+void double_click(POINT point) {
+  move_to(point);
+  press_and_release();
+  press_and_release();
+  let_time_pass(kBetweenClicks);
 }
 
-void Drag(POINT from, POINT to) {
-  MoveTo(from);
-  SendMouse(MOUSEEVENTF_LEFTDOWN);
+void drag(POINT from, POINT to) {
+  move_to(from);
+  send_mouse(MOUSEEVENTF_LEFTDOWN);
   for (int i = 1; i <= kStepsOfADrag; ++i) {
-    MoveTo({from.x + (to.x - from.x) * i / kStepsOfADrag,
-            from.y + (to.y - from.y) * i / kStepsOfADrag});
+    move_to({from.x + (to.x - from.x) * i / kStepsOfADrag,
+             from.y + (to.y - from.y) * i / kStepsOfADrag});
   }
-  SendMouse(MOUSEEVENTF_LEFTUP);
+  send_mouse(MOUSEEVENTF_LEFTUP);
 }
 
-void TurnWheel(POINT point, int notches) {
-  MoveTo(point);
-  SendMouse(MOUSEEVENTF_WHEEL, notches * WHEEL_DELTA);
+void turn_wheel(POINT point, int notches) {
+  move_to(point);
+  send_mouse(MOUSEEVENTF_WHEEL, notches * WHEEL_DELTA);
 }
 
-void PressKey(int virtual_key) {
-  for (DWORD flags : {DWORD{0}, DWORD{KEYEVENTF_KEYUP}}) {
+void press_key(int virtual_key) {
+  for (DWORD const flags : {DWORD{0}, DWORD{KEYEVENTF_KEYUP}}) {
     INPUT input{};
     input.type = INPUT_KEYBOARD;
     input.ki.wVk = static_cast<WORD>(virtual_key);
     input.ki.dwFlags = flags;
     SendInput(1, &input, sizeof(input));
   }
-  HandleWaitingMessages();
+  handle_waiting_messages();
 }
 
 }  // namespace capture

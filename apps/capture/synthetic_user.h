@@ -6,14 +6,14 @@
 
 namespace capture {
 
-void HandleWaitingMessages();
-void LetTimePass(unsigned milliseconds);  // of the display's clock
+void handle_waiting_messages();
+void let_time_pass(unsigned milliseconds);  // of the display's clock
 
-void MoveTo(POINT point);
-void Click(POINT point);
-void DoubleClick(POINT point);
-void Drag(POINT from, POINT to);
-void TurnWheel(POINT point, int notches);  // negative: towards the user
-void PressKey(int virtual_key);
+void move_to(POINT point);
+void click(POINT point);
+void double_click(POINT point);
+void drag(POINT from, POINT to);
+void turn_wheel(POINT point, int notches);  // negative: towards the user
+void press_key(int virtual_key);
 
 }  // namespace capture

@@ -12,8 +12,8 @@ constexpr int kFontHeight = 22;
 constexpr UINT kFormat = DT_WORDBREAK | DT_NOPREFIX;
 
 // Draws with the panel's font; with DT_CALCRECT only measures.
-void DrawLines(HDC dc, const CString& text, RECT& rect, UINT format) {
-  LOGFONTW description = UiFont(kFontHeight);
+void draw_lines(HDC dc, const CString& text, RECT& rect, UINT format) {
+  const LOGFONTW description = ui_font(kFontHeight);
   HFONT font = CreateFontIndirectW(&description);
   HGDIOBJ former = SelectObject(dc, font);
   SetTextColor(dc, kTextColor);
@@ -33,13 +33,13 @@ void CTextPanel::SetText(const CString& text) {
 void CTextPanel::DrawContent(HDC dc, const RECT& content) {
   RECT rect = content;
   OffsetRect(&rect, 0, -scroll());
-  DrawLines(dc, text_, rect, kFormat | DT_NOCLIP);
+  draw_lines(dc, text_, rect, kFormat | DT_NOCLIP);
 }
 
 int CTextPanel::ContentHeight(int width) {
   RECT rect{0, 0, width, 0};
   HDC dc = CreateCompatibleDC(nullptr);
-  DrawLines(dc, text_, rect, kFormat | DT_CALCRECT);
+  draw_lines(dc, text_, rect, kFormat | DT_CALCRECT);
   DeleteDC(dc);
   return rect.bottom;
 }

@@ -22,7 +22,7 @@ namespace fs = std::filesystem;
 constexpr char kProgram[] = "tesseract";
 constexpr char kChineseAndEnglish[] = "chi_sim+eng";
 
-std::string NewTemporaryFolder() {
+std::string new_temporary_folder() {
   std::error_code error;
   std::string pattern = (fs::temp_directory_path(error) / "corvane-text-XXXXXX").string();
   if (error || mkdtemp(pattern.data()) == nullptr) return {};
@@ -44,20 +44,20 @@ bool CTextRecognition::Installed() {
 
 bool CTextRecognition::Start(const std::vector<std::uint8_t>& png) {
   Cancel();
-  folder_ = NewTemporaryFolder();
+  folder_ = new_temporary_folder();
   if (folder_.empty()) return false;
   std::ofstream file(folder_ + "/part.png", std::ios::binary);
   file.write(reinterpret_cast<const char*>(png.data()), static_cast<std::streamsize>(png.size()));
   file.close();
   tried_chinese_ = true;
-  if (file && Launch(kChineseAndEnglish)) return true;
+  if (file && launch(kChineseAndEnglish)) return true;
   Cancel();
   return false;
 }
 
-bool CTextRecognition::Launch(const char* languages) {
-  std::string input = folder_ + "/part.png";
-  std::string output = folder_ + "/text.txt";
+bool CTextRecognition::launch(const char* languages) {
+  const std::string input = folder_ + "/part.png";
+  const std::string output = folder_ + "/text.txt";
   std::vector<const char*> arguments = {kProgram, input.c_str(), "stdout", "--psm", "6"};
   if (languages != nullptr) arguments.insert(arguments.end(), {"-l", languages});
   arguments.push_back(nullptr);
@@ -67,8 +67,8 @@ bool CTextRecognition::Launch(const char* languages) {
   posix_spawn_file_actions_addopen(&files, 1, output.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
   posix_spawn_file_actions_addopen(&files, 2, "/dev/null", O_WRONLY, 0);
   pid_t process = 0;
-  int failed = posix_spawnp(&process, kProgram, &files, nullptr,
-                            const_cast<char* const*>(arguments.data()), environ);
+  const int failed = posix_spawnp(&process, kProgram, &files, nullptr,
+                                  const_cast<char* const*>(arguments.data()), environ);
   posix_spawn_file_actions_destroy(&files);
   process_ = failed == 0 ? process : 0;
   return failed == 0;
@@ -79,18 +79,18 @@ std::optional<std::string> CTextRecognition::TakeResult() {
   int status = 0;
   if (waitpid(process_, &status, WNOHANG) == 0) return std::nullopt;
   process_ = 0;
-  bool succeeded = WIFEXITED(status) && WEXITSTATUS(status) == 0;
+  const bool succeeded = WIFEXITED(status) && WEXITSTATUS(status) == 0;
   if (!succeeded && tried_chinese_) {
     // Without the Chinese data the program refuses; its own default language may still read it.
     tried_chinese_ = false;
-    if (Launch(nullptr)) return std::nullopt;
+    if (launch(nullptr)) return std::nullopt;
   }
-  std::string text = succeeded ? ReadOutput() : std::string();
-  RemoveFiles();
+  std::string text = succeeded ? read_output() : std::string();
+  remove_files();
   return text;
 }
 
-std::string CTextRecognition::ReadOutput() const {
+std::string CTextRecognition::read_output() const {
   std::ifstream file(folder_ + "/text.txt", std::ios::binary);
   std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
   while (!text.empty() && (text.back() == '\n' || text.back() == '\f' || text.back() == ' ')) {
@@ -105,10 +105,10 @@ void CTextRecognition::Cancel() {
     waitpid(process_, nullptr, 0);
     process_ = 0;
   }
-  RemoveFiles();
+  remove_files();
 }
 
-void CTextRecognition::RemoveFiles() {
+void CTextRecognition::remove_files() {
   if (folder_.empty()) return;
   std::error_code ignored;
   fs::remove_all(folder_, ignored);

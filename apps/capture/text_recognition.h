@@ -23,9 +23,9 @@ class CTextRecognition {
   void Cancel();
 
  private:
-  bool Launch(const char* languages);
-  std::string ReadOutput() const;
-  void RemoveFiles();
+  bool launch(const char* languages);
+  std::string read_output() const;
+  void remove_files();
 
   int process_ = 0;
   bool tried_chinese_ = false;

@@ -7,11 +7,11 @@
 
 namespace capture {
 
-corvane::CString Wide(const std::string& utf8) {
+corvane::CString wide(const std::string& utf8) {
   return corvane::CString(corvane::system::wide_name(utf8).c_str());
 }
 
-LOGFONTW UiFont(int height, int weight) {
+LOGFONTW ui_font(int height, int weight) {
   LOGFONTW font{};
   font.lfHeight = height;
   font.lfWeight = weight;

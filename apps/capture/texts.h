@@ -8,9 +8,9 @@
 namespace capture {
 
 // UTF-8 bytes (or a byte path's name) as a wide text.
-corvane::CString Wide(const std::string& utf8);
+corvane::CString wide(const std::string& utf8);
 
 // The program's fonts; heights in pixels.
-LOGFONTW UiFont(int height, int weight = FW_NORMAL);
+LOGFONTW ui_font(int height, int weight = FW_NORMAL);
 
 }  // namespace capture

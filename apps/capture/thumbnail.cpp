@@ -11,7 +11,7 @@ namespace capture {
 
 #ifdef _WIN32
 
-Thumbnail DecodeThumbnail(const std::wstring& path, SIZE box, const std::stop_token& stop) {
+Thumbnail decode_thumbnail(const std::wstring& path, SIZE box, const std::stop_token& stop) {
   Gdiplus::Image whole(path.c_str());
   auto width = static_cast<double>(whole.GetWidth());
   auto height = static_cast<double>(whole.GetHeight());
@@ -25,8 +25,8 @@ Thumbnail DecodeThumbnail(const std::wstring& path, SIZE box, const std::stop_to
 
 #else
 
-Thumbnail DecodeThumbnail(const std::wstring& path, SIZE box, const std::stop_token& stop) {
-  std::string file = corvane::system::file_system_path(path);
+Thumbnail decode_thumbnail(const std::wstring& path, SIZE box, const std::stop_token& stop) {
+  const std::string file = corvane::system::file_system_path(path);
   auto reduced = corvane::system::decode_reduced_image(file, box, stop);
   if (!reduced) return nullptr;
   using namespace Gdiplus;

@@ -12,6 +12,6 @@ using Thumbnail = std::shared_ptr<Gdiplus::Image>;  // null: the file is no read
 
 // Decodes a picture (wide path), as large as fits into the box, upright. Null also soon after a
 // stop was requested. May be called from any thread.
-Thumbnail DecodeThumbnail(const std::wstring& path, SIZE box, const std::stop_token& stop);
+Thumbnail decode_thumbnail(const std::wstring& path, SIZE box, const std::stop_token& stop);
 
 }  // namespace capture

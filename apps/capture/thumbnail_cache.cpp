@@ -17,7 +17,7 @@ const Thumbnail* CThumbnailCache::Find(const std::wstring& name) const {
 
 void CThumbnailCache::Keep(std::span<const std::wstring> names) {
   std::erase_if(thumbnails_, [names](const auto& entry) {
-    return !std::binary_search(names.begin(), names.end(), entry.first, StandsBefore);
+    return !std::binary_search(names.begin(), names.end(), entry.first, stands_before);
   });
 }
 

@@ -13,7 +13,7 @@ class CThumbnailCache {
   void Put(const std::wstring& name, Thumbnail thumbnail);
   // Null: not loaded. A loaded one may itself be null (no readable picture).
   const Thumbnail* Find(const std::wstring& name) const;
-  // Forgets all but those of these names, which stand in order (StandsBefore).
+  // Forgets all but those of these names, which stand in order (stands_before).
   void Keep(std::span<const std::wstring> names);
   void Forget(const std::wstring& name) { thumbnails_.erase(name); }
   void Clear() { thumbnails_.clear(); }

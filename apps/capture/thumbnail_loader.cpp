@@ -12,11 +12,11 @@ bool ThumbnailRequest::operator==(const ThumbnailRequest& other) const {
 }
 
 CThumbnailLoader::CThumbnailLoader(Decode decode, std::function<void()> ready)
-    : decode_(std::move(decode)), ready_(std::move(ready)), thread_([this] { Run(); }) {}
+    : decode_(std::move(decode)), ready_(std::move(ready)), thread_([this] { run(); }) {}
 
 CThumbnailLoader::~CThumbnailLoader() {
   {
-    std::lock_guard guard(lock_);
+    const std::lock_guard guard(lock_);
     ending_ = true;
     stop_running_.request_stop();
   }
@@ -26,7 +26,7 @@ CThumbnailLoader::~CThumbnailLoader() {
 
 void CThumbnailLoader::Want(std::vector<ThumbnailRequest> requests) {
   {
-    std::lock_guard guard(lock_);
+    const std::lock_guard guard(lock_);
     waiting_.assign(std::move_iterator(requests.begin()), std::move_iterator(requests.end()));
     if (running_) {
       auto same = std::find(waiting_.begin(), waiting_.end(), *running_);
@@ -41,11 +41,11 @@ void CThumbnailLoader::Want(std::vector<ThumbnailRequest> requests) {
 }
 
 std::vector<LoadedThumbnail> CThumbnailLoader::TakeLoaded() {
-  std::lock_guard guard(lock_);
+  const std::lock_guard guard(lock_);
   return std::exchange(loaded_, {});
 }
 
-bool CThumbnailLoader::WaitForRequest() {
+bool CThumbnailLoader::wait_for_request() {
   std::unique_lock guard(lock_);
   changed_.wait(guard, [this] { return ending_ || !waiting_.empty(); });
   if (ending_) return false;
@@ -55,10 +55,10 @@ bool CThumbnailLoader::WaitForRequest() {
   return true;
 }
 
-void CThumbnailLoader::Finish(Thumbnail thumbnail) {
+void CThumbnailLoader::finish(Thumbnail thumbnail) {
   bool first = false;
   {
-    std::lock_guard guard(lock_);
+    const std::lock_guard guard(lock_);
     if (!stop_running_.stop_requested()) {
       first = loaded_.empty();
       loaded_.push_back({*running_, std::move(thumbnail)});
@@ -68,8 +68,8 @@ void CThumbnailLoader::Finish(Thumbnail thumbnail) {
   if (first) ready_();
 }
 
-void CThumbnailLoader::Run() {
-  while (WaitForRequest()) {
+void CThumbnailLoader::run() {
+  while (wait_for_request()) {
     // Only this thread changes what runs, so it may read it without the lock.
     Thumbnail thumbnail;
     try {
@@ -78,7 +78,7 @@ void CThumbnailLoader::Run() {
     } catch (const std::exception&) {
       thumbnail = nullptr;  // memory is short: shown like a file that cannot be read
     }
-    Finish(std::move(thumbnail));
+    finish(std::move(thumbnail));
   }
 }
 

@@ -43,9 +43,9 @@ class CThumbnailLoader {
   std::vector<LoadedThumbnail> TakeLoaded();
 
  private:
-  void Run();
-  bool WaitForRequest();  // false: the end
-  void Finish(Thumbnail thumbnail);
+  void run();
+  bool wait_for_request();  // false: the end
+  void finish(Thumbnail thumbnail);
 
   Decode decode_;
   std::function<void()> ready_;

@@ -4,13 +4,13 @@
 
 namespace capture {
 
-CellRange Neighbourhood(const CellRange& visible, int count) {
-  int width = visible.last - visible.first;
+CellRange neighbourhood(const CellRange& visible, int count) {
+  const int width = visible.last - visible.first;
   return {std::max(visible.first - width, 0), std::min(visible.last + width, count)};
 }
 
-std::vector<int> LoadOrder(const CellRange& visible, int count) {
-  CellRange all = Neighbourhood(visible, count);
+std::vector<int> load_order(const CellRange& visible, int count) {
+  const CellRange all = neighbourhood(visible, count);
   std::vector<int> order;
   for (int cell = visible.first; cell < visible.last; ++cell) order.push_back(cell);
   for (int away = 0; away < visible.last - visible.first; ++away) {

@@ -7,10 +7,10 @@
 namespace capture {
 
 // The visible cells and as many again on either side, cut to the row: what is worth keeping.
-CellRange Neighbourhood(const CellRange& visible, int count);
+CellRange neighbourhood(const CellRange& visible, int count);
 
 // The cells of the neighbourhood in the order of their loading: the visible ones from left to
 // right, then the others by their distance from them.
-std::vector<int> LoadOrder(const CellRange& visible, int count);
+std::vector<int> load_order(const CellRange& visible, int count);
 
 }  // namespace capture

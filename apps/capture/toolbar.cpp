@@ -17,8 +17,9 @@ bool CToolbar::Open(CWnd* parent) {
   skin_.LoadGdiImage(background_, unused, kBackground);
   layer_.SetXmlListMgr(&skin_);
   layer_.SetBgImage(background_.GetImage(), CRect());
-  for (ToolbarButton button : {ToolbarButton::crop, ToolbarButton::text, ToolbarButton::open,
-                               ToolbarButton::previous, ToolbarButton::next, ToolbarButton::quit}) {
+  for (const ToolbarButton button :
+       {ToolbarButton::crop, ToolbarButton::text, ToolbarButton::open, ToolbarButton::previous,
+        ToolbarButton::next, ToolbarButton::quit}) {
     layer_.AddBtn(static_cast<int>(button));
   }
   layer_.CreateEx(0, nullptr, L"toolbar", WS_CHILD | WS_CLIPCHILDREN, CRect(0, 0, 0, 0), parent, 0);
@@ -28,7 +29,7 @@ bool CToolbar::Open(CWnd* parent) {
 
 void CToolbar::Place(int width) {
   layer_.MoveWindow(0, 0, width, kHeight);
-  int quit = static_cast<int>(ToolbarButton::quit);
+  const int quit = static_cast<int>(ToolbarButton::quit);
   CRect place = layer_.GetBtnRect(quit);
   place.OffsetRect(width - kQuitMargin - place.right, 0);
   layer_.SetBtnRect(quit, place);

@@ -11,6 +11,6 @@ struct WindowLayout {  // client coordinates, pixels
 };
 
 // On a window too small for all, the stage gets what there is.
-WindowLayout LayOut(SIZE client, int toolbar_height);
+WindowLayout lay_out(SIZE client, int toolbar_height);
 
 }  // namespace capture

@@ -10,7 +10,7 @@ bool BufferedBackground::rebuild(CWnd& layer, CDC* like, COLORREF color) {
   layer.GetClientRect(client);
   if (client.Size() == rect().Size()) return false;
   buffer_.Release();
-  buffer_.CreateBufferDC(like ? like->GetSafeHdc() : nullptr, client);
+  buffer_.CreateBufferDC((like != nullptr) ? like->GetSafeHdc() : nullptr, client);
   buffer_.SetBackColor(client, color);
   layer.Invalidate(FALSE);
   return true;
@@ -18,7 +18,7 @@ bool BufferedBackground::rebuild(CWnd& layer, CDC* like, COLORREF color) {
 
 void BufferedBackground::show(CWnd& layer) {
   const WindowWatch watch(layer);
-  CPaintDC paint(&layer);
+  const CPaintDC paint(&layer);
   if (watch.object_gone() || dc() == nullptr) return;
   CRect client;
   layer.GetClientRect(client);

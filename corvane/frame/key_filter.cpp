@@ -11,15 +11,16 @@ struct FilterRule {
 };
 
 // In the order of KeyFilter.
-constexpr std::array<FilterRule, 4> rules = {{{KeyAction::post_to_parent, KeyAction::pass},
-                                              {KeyAction::post_to_main_window, KeyAction::pass},
-                                              {KeyAction::post_to_parent, KeyAction::send_to_layer},
-                                              {KeyAction::swallow, KeyAction::pass}}};
+constexpr std::array<FilterRule, 4> kRules = {
+    {{KeyAction::post_to_parent, KeyAction::pass},
+     {KeyAction::post_to_main_window, KeyAction::pass},
+     {KeyAction::post_to_parent, KeyAction::send_to_layer},
+     {KeyAction::swallow, KeyAction::pass}}};
 
 }  // namespace
 
 KeyAction key_action(KeyFilter filter, UINT message, WPARAM wparam) {
-  const FilterRule& rule = rules[static_cast<std::size_t>(filter)];
+  const FilterRule& rule = kRules[static_cast<std::size_t>(filter)];
   if (message == WM_MOUSEWHEEL) return rule.wheel;
   if (message != WM_KEYDOWN && message != WM_KEYUP) return KeyAction::pass;
   if (wparam == VK_RETURN) return KeyAction::swallow;

@@ -6,18 +6,18 @@ namespace corvane {
 namespace {
 
 void post_unchanged(HWND window, const MSG& message) {
-  if (window) ::PostMessageW(window, message.message, message.wParam, message.lParam);
+  if (window != nullptr) ::PostMessageW(window, message.message, message.wParam, message.lParam);
 }
 
 HWND main_window() {
   const CWnd* main = AfxGetMainWnd();
-  return main ? main->GetSafeHwnd() : nullptr;
+  return (main != nullptr) ? main->GetSafeHwnd() : nullptr;
 }
 
 }  // namespace
 
 bool filter_layer_key(KeyFilter filter, HWND layer, const MSG* message) {
-  if (!message) return false;
+  if (message == nullptr) return false;
   const KeyAction action = key_action(filter, message->message, message->wParam);
   switch (action) {
     case KeyAction::pass:

@@ -20,6 +20,6 @@ inline constexpr UINT WM_ROTATE_NOTIFY = 0x08D5;
 inline constexpr UINT WM_LAYER_BTN_CLICK = 0x08D6;
 
 // The name under which the mouse hook's message is registered (RegisterWindowMessageW).
-inline constexpr wchar_t hook_mouse_down_message_name[] = L"MouseDown";
+inline constexpr wchar_t kHookMouseDownMessageName[] = L"MouseDown";
 
 }  // namespace corvane

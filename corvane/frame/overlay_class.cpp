@@ -6,23 +6,23 @@
 namespace corvane {
 namespace {
 
-constexpr const wchar_t* name = L"CorvaneCropOverlay";
-constexpr COLORREF nearly_white = RGB(254, 254, 254);
+constexpr const wchar_t* kName = L"CorvaneCropOverlay";
+constexpr COLORREF kNearlyWhite = RGB(254, 254, 254);
 
 }  // namespace
 
 const wchar_t* overlay_class() {
   WNDCLASSW overlay{};
   overlay.hInstance = AfxGetInstanceHandle();
-  if (::GetClassInfoW(overlay.hInstance, name, &overlay)) return name;
+  if (::GetClassInfoW(overlay.hInstance, kName, &overlay)) return kName;
   overlay = {};
   overlay.style = CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW;
   overlay.lpfnWndProc = ::DefWindowProcW;
   overlay.hInstance = AfxGetInstanceHandle();
   overlay.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
-  overlay.hbrBackground = ::CreateSolidBrush(nearly_white);
-  overlay.lpszClassName = name;
-  if (::RegisterClassW(&overlay)) return name;
+  overlay.hbrBackground = ::CreateSolidBrush(kNearlyWhite);
+  overlay.lpszClassName = kName;
+  if (::RegisterClassW(&overlay)) return kName;
   ::DeleteObject(overlay.hbrBackground);
   return nullptr;
 }

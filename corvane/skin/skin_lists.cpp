@@ -36,10 +36,10 @@ _MYFONT* SkinLists::font(int id) const { return first_with_id(fonts, id); }
 SkinnedControl SkinLists::joined(int control_id) const {
   SkinnedControl found;
   found.control = control(control_id);
-  if (found.control && found.control->caption_ids) {
+  if (found.control != nullptr && found.control->caption_ids) {
     found.caption = caption(found.control->caption_ids[0]);
   }
-  if (found.caption) found.font = font(found.caption->font_id);
+  if (found.caption != nullptr) found.font = font(found.caption->font_id);
   return found;
 }
 

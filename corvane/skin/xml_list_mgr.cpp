@@ -57,12 +57,12 @@ void CXmlListMgr::LoadLogfontList(const CString& file_name) {
 
 CRect CXmlListMgr::GetBgRect(int id) const {
   const _MYCONTROL* const control = GetCtrl(id);
-  return control ? CRect(control->rect) : CRect();
+  return (control != nullptr) ? CRect(control->rect) : CRect();
 }
 
 CString CXmlListMgr::GetBgImgPath(int id) const {
   const _MYCONTROL* const control = GetCtrl(id);
-  return control ? image_folder() + control->image : image_folder();
+  return (control != nullptr) ? image_folder() + control->image : image_folder();
 }
 
 void CXmlListMgr::LoadGdiImage(CGdiImage& image, CRect& rect, int id) const {
@@ -115,7 +115,7 @@ void CXmlListMgr::LoadListBar(CListBar& bar, CRect& rect, CWnd* parent, int id) 
   rect.SetRectEmpty();
   bar.Create(nullptr, L"listBar", WS_CHILD | WS_TABSTOP, rect, parent, static_cast<UINT>(id));
   const _MYCONTROL* const control = GetCtrl(id);
-  if (!control) return;
+  if (control == nullptr) return;
   rect = control->rect;
   const CString backward_path = image_folder() + control->backward_image;
   bar.CreateForwardBtn(image_folder() + control->forward_image);
@@ -127,7 +127,7 @@ void CXmlListMgr::LoadGifStatic(CPictureEx& picture, CRect& rect, CWnd* parent, 
   rect.SetRectEmpty();
   picture.CreateStatic(L"gif", WS_CHILD | SS_BLACKRECT, rect, parent, static_cast<UINT>(id));
   const _MYCONTROL* const control = GetCtrl(id);
-  if (!control || !picture.GetSafeHwnd()) return;
+  if (control == nullptr || picture.GetSafeHwnd() == nullptr) return;
   picture.Load(image_folder() + control->image);
   rect = control->rect;
   picture.ShowWindow(SW_SHOW);

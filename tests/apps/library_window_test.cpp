@@ -39,7 +39,7 @@ class LibraryWindow : public testing::Test {
 
   // As with the program's arguments; empty: none.
   void Start(const std::string& picture = {}) {
-    Launch launch = PrepareLaunch({library_, picture, {}, true});
+    Launch launch = prepare_launch({library_, picture, {}, true});
     ASSERT_EQ(launch.error, "");
     desktop_.app().m_pMainWnd = &window_;
     ASSERT_TRUE(window_.Open(std::move(launch.beginning)));

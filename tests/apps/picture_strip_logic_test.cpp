@@ -155,7 +155,7 @@ TEST(ThumbnailOrder, VisibleOnesFirstThenOutwards) {
                {{1, 3}, 4, {1, 2, 3, 0}},
                {{97, 100}, 100, {97, 98, 99, 96, 95, 94}},
                {{0, 0}, 0, {}}};
-  for (const auto& each : cases) EXPECT_EQ(LoadOrder(each.visible, each.count), each.order);
+  for (const auto& each : cases) EXPECT_EQ(load_order(each.visible, each.count), each.order);
 }
 
 TEST(ThumbnailCache, KeepsOnlyTheNamesThatAreStillOfUse) {
@@ -180,7 +180,7 @@ TEST(WindowLayout, ThePartsFillTheWindowWithoutOverlap) {
                {{10, 10}, 0, 0}};
   for (const auto& each : cases) {
     SCOPED_TRACE(testing::Message() << each.client.cx << " x " << each.client.cy);
-    WindowLayout layout = LayOut(each.client, 76);
+    WindowLayout layout = lay_out(each.client, 76);
     EXPECT_EQ(layout.library.right - layout.library.left, each.library_width);
     EXPECT_EQ(layout.strip.bottom - layout.strip.top, each.strip_height);
     EXPECT_EQ(layout.stage.left, layout.library.right);

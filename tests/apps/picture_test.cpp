@@ -29,7 +29,7 @@ int FilesIn(const std::filesystem::path& folder) {
 TEST(SaveNumbered, NeverReplacesAFile) {
   TemporaryFolder folder;
   std::ofstream(folder / "页_1.png") << "somebody's";
-  SavedPart saved = SaveNumbered(corvane::wide_path_of(folder.path()), L"页.jpg", {1, 2, 3});
+  SavedPart saved = save_numbered(corvane::wide_path_of(folder.path()), L"页.jpg", {1, 2, 3});
   EXPECT_EQ(saved.name, L"页_2.png");
   EXPECT_EQ(BytesOf(folder / "页_1.png").size(), 10u);
   EXPECT_EQ(BytesOf(folder / "页_2.png"), (std::vector<std::uint8_t>{1, 2, 3}));
@@ -39,12 +39,12 @@ TEST(SaveNumbered, NeverReplacesAFile) {
 TEST(SaveNumbered, KeepsAwayFromLinksThatLeadNowhere) {
   TemporaryFolder folder;
   ASSERT_EQ(symlink("nowhere", (folder / "a_1.png").c_str()), 0);
-  EXPECT_EQ(SaveNumbered(corvane::wide_path_of(folder.path()), L"a.png", {1}).name, L"a_2.png");
+  EXPECT_EQ(save_numbered(corvane::wide_path_of(folder.path()), L"a.png", {1}).name, L"a_2.png");
 }
 
 TEST(SaveNumbered, TellsWhyItCouldNot) {
   TemporaryFolder folder;
-  SavedPart saved = SaveNumbered(corvane::wide_path_of(folder / "gone"), L"a.png", {1});
+  SavedPart saved = save_numbered(corvane::wide_path_of(folder / "gone"), L"a.png", {1});
   EXPECT_TRUE(saved.name.empty());
   EXPECT_EQ(saved.error, ENOENT);
 }
@@ -55,7 +55,7 @@ TEST(EncodePart, GivesBackExactlyThatPart) {
   auto picture = CPicture::Open(folder / "a.png");
   ASSERT_NE(picture, nullptr);
   std::wstring wide_folder = corvane::wide_path_of(folder.path());
-  SavedPart saved = SaveNumbered(wide_folder, L"a.png", picture->EncodePart({17, 31, 217, 131}));
+  SavedPart saved = save_numbered(wide_folder, L"a.png", picture->EncodePart({17, 31, 217, 131}));
   ASSERT_EQ(saved.name, L"a_1.png");
   auto part = CPicture::Open(folder / "a_1.png");
   ASSERT_NE(part, nullptr);

@@ -145,7 +145,7 @@ TEST(ThumbnailLoader, DecodesRealPicturesBesideTheUserInterface) {
   requests.push_back({wide_folder, L"broken.png", {90, 90}});
   requests.push_back({wide_folder, L"missing.png", {90, 90}});
   Collector collector;
-  CThumbnailLoader loader(DecodeThumbnail, collector.Ready());
+  CThumbnailLoader loader(decode_thumbnail, collector.Ready());
   loader.Want(requests);
   for (int i = 0; i < 12; ++i) {
     Gdiplus::Image whole(

@@ -151,7 +151,7 @@ TEST_F(WholeCropTest, PictureIsDimmedAroundTheFrameAndUntouchedInIt) {
   drag({100, 80}, {400, 281});
   constexpr RECT frame = {100, 80, 400, 281};
   // Outline and handles touch nothing farther than this from an edge.
-  constexpr int reach = corvane::CropFrame::handle_reach + 1;
+  constexpr int reach = corvane::CropFrame::kHandleReach + 1;
   int dimmed = 0, clear = 0;
   for (int y = 0; y < client_height; y += 3) {
     for (int x = 0; x < client_width; x += 3) {

@@ -10,8 +10,8 @@ namespace corvane::test {
 namespace {
 
 using corvane::_NODE;
+using corvane::kTreeRowHeight;
 using corvane::row_in_client;
-using corvane::tree_row_height;
 using corvane::TreeLayout;
 using corvane::TreeModel;
 
@@ -169,14 +169,14 @@ TEST(TreeLayout, AChainOfAnyDepth) {
     if (!second) second = deepest;
   }
   for (int laid_out = 0; laid_out < 2; ++laid_out) {
-    const LONG top = layout.arrange(model, width) - tree_row_height;
-    EXPECT_EQ(top, depth * tree_row_height);
+    const LONG top = layout.arrange(model, width) - kTreeRowHeight;
+    EXPECT_EQ(top, depth * kTreeRowHeight);
     if (laid_out == 1) layout.arrange_below(&model.root(), width, 1);  // nothing is looked up
     EXPECT_EQ(layout.node_at(model, {5, top}), deepest);
     EXPECT_EQ(layout.rows_below(model, model.root(), top, top + 1).size(), 1u);
   }
   EXPECT_TRUE(model.remove(second));
-  EXPECT_EQ(layout.arrange(model, width), tree_row_height);
+  EXPECT_EQ(layout.arrange(model, width), kTreeRowHeight);
 }
 
 }  // namespace

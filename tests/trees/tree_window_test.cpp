@@ -17,7 +17,7 @@ using corvane::_NODE;
 using corvane::CRect;
 using corvane::CString;
 using corvane::CTreeCtrlEx2;
-using corvane::tree_row_height;
+using corvane::kTreeRowHeight;
 using corvane::WM_TREE_SELECT;
 namespace fs = std::filesystem;
 
@@ -237,7 +237,7 @@ TEST_F(TreeWindowTest, DraggingTheThumbMovesTheRows) {
                  [&] { desktop_.send_mouse(MOUSEEVENTF_LEFTUP); }};
   desktop_.press_at(x, corner.y + 60);
   EXPECT_NEAR(position(), 226, 3) << "the thumb has gone 100 of the 133 pixels that it can";
-  const int row = (position() + 10) / tree_row_height;
+  const int row = (position() + 10) / kTreeRowHeight;
   click(100, 10);
   EXPECT_EQ(tree_.GetCurPath(), L"Q:\\Lib\\b" + std::to_wstring(row - 2));
 }

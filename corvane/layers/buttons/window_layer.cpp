@@ -9,8 +9,8 @@
 namespace corvane {
 namespace {
 
-constexpr COLORREF white = RGB(255, 255, 255);
-constexpr WPARAM drag_by_caption = SC_MOVE | HTCAPTION;
+constexpr COLORREF kWhite = RGB(255, 255, 255);
+constexpr WPARAM kDragByCaption = SC_MOVE | HTCAPTION;
 
 }  // namespace
 
@@ -45,22 +45,22 @@ void CWindowLayer::DelAllBtn() {
   for (const ButtonPointer& button : buttons) button->control.DestroyWindow();
 }
 
-CWindowLayer::ButtonPointer CWindowLayer::Find(int id) const {
+CWindowLayer::ButtonPointer CWindowLayer::find(int id) const {
   const auto found = std::find_if(buttons_.begin(), buttons_.end(),
                                   [id](const ButtonPointer& button) { return button->id == id; });
   return found == buttons_.end() ? nullptr : *found;
 }
 
 CRect CWindowLayer::GetBtnRect(int id) const {
-  const ButtonPointer button = Find(id);
+  const ButtonPointer button = find(id);
   return button ? button->rect : CRect();
 }
 
 void CWindowLayer::SetBtnRect(int id, CRect rect) {
-  const ButtonPointer button = Find(id);
+  const ButtonPointer button = find(id);
   if (!button) return;
   button->rect = rect;
-  if (button->control.GetSafeHwnd()) button->control.MoveWindow(rect, TRUE);
+  if (button->control.GetSafeHwnd() != nullptr) button->control.MoveWindow(rect, TRUE);
 }
 
 void CWindowLayer::SetBgImage(Gdiplus::Image* image, CRect) { image_ = image; }
@@ -77,7 +77,7 @@ int CWindowLayer::OnCreate(LPCREATESTRUCT creation) {
   drawing_.Init();
   const WindowWatch watch(*this);
   // The loader's messages may change the list and take back the skin.
-  for (std::size_t i = 0; skin_ && i < buttons_.size(); ++i) {
+  for (std::size_t i = 0; skin_ != nullptr && i < buttons_.size(); ++i) {
     const ButtonPointer button = buttons_[i];
     skin_->LoadGdiBtn(button->control, button->rect, this, button->id);
     if (watch.object_gone()) return -1;
@@ -86,12 +86,12 @@ int CWindowLayer::OnCreate(LPCREATESTRUCT creation) {
 }
 
 BOOL CWindowLayer::OnEraseBkgnd(CDC* dc) {
-  if (!background_.rebuild(*this, dc, white)) return TRUE;
+  if (!background_.rebuild(*this, dc, kWhite)) return TRUE;
   drawing_.DrawImage(background_.dc(), image_, background_.rect());
   const WindowWatch watch(*this);
   for (std::size_t i = 0; i < buttons_.size(); ++i) {
     const ButtonPointer button = buttons_[i];
-    if (button->control.GetSafeHwnd()) button->control.MoveWindow(button->rect, TRUE);
+    if (button->control.GetSafeHwnd() != nullptr) button->control.MoveWindow(button->rect, TRUE);
     if (watch.object_gone()) return TRUE;
     button->control.SetBkGnd(background_.dc(), button->rect);
   }
@@ -104,7 +104,7 @@ void CWindowLayer::OnLButtonDown(UINT, CPoint) {
   ::SystemParametersInfoW(SPI_SETDRAGFULLWINDOWS, TRUE, nullptr, 0);
   // The window system drags the parent until the button is released; by then this layer may be
   // gone.
-  ::SendMessageW(::GetParent(m_hWnd), WM_SYSCOMMAND, drag_by_caption, 0);
+  ::SendMessageW(::GetParent(m_hWnd), WM_SYSCOMMAND, kDragByCaption, 0);
 }
 
 BOOL CWindowLayer::OnCommand(WPARAM wparam, LPARAM lparam) {

@@ -54,7 +54,7 @@ class CWindowLayer : public LibraryWindow<CWnd> {
   using ButtonPointer = std::shared_ptr<Button>;
 
   const WindowDescription& description() const override;
-  ButtonPointer Find(int id) const;
+  ButtonPointer find(int id) const;
 
   CGdiDC drawing_;
   BufferedBackground background_;

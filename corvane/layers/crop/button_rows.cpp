@@ -9,12 +9,12 @@
 namespace corvane {
 namespace {
 
-constexpr std::array<int, 4> normal_row = {3, 4, 1, 2};
-constexpr std::array<int, 2> text_recognition_row = {5, 6};
+constexpr std::array<int, 4> kNormalRow = {3, 4, 1, 2};
+constexpr std::array<int, 2> kTextRecognitionRow = {5, 6};
 
 std::span<const int> buttons_of(CropRow row) {
-  if (row == CropRow::normal) return normal_row;
-  return text_recognition_row;
+  if (row == CropRow::normal) return kNormalRow;
+  return kTextRecognitionRow;
 }
 
 std::size_t index_of(int button) { return static_cast<std::size_t>(button - 1); }
@@ -42,8 +42,8 @@ RECT crop_row_bounds(const CropButtonRects& rects, CropRow row) {
 }
 
 CropRow row_of_crop_button(int button) {
-  const auto found = std::find(normal_row.begin(), normal_row.end(), button);
-  return found == normal_row.end() ? CropRow::text_recognition : CropRow::normal;
+  const auto found = std::find(kNormalRow.begin(), kNormalRow.end(), button);
+  return found == kNormalRow.end() ? CropRow::text_recognition : CropRow::normal;
 }
 
 }  // namespace corvane

@@ -8,36 +8,36 @@
 namespace corvane {
 namespace {
 
-constexpr int cursor_cross = 32515;
-constexpr int cursor_nwse = 32642;
-constexpr int cursor_nesw = 32643;
-constexpr int cursor_we = 32644;
-constexpr int cursor_ns = 32645;
-constexpr int cursor_all = 32646;
+constexpr int kCursorCross = 32515;
+constexpr int kCursorNwse = 32642;
+constexpr int kCursorNesw = 32643;
+constexpr int kCursorWe = 32644;
+constexpr int kCursorNs = 32645;
+constexpr int kCursorAll = 32646;
 
-constexpr std::array<int, 10> cursor_of_code = {cursor_cross, cursor_nwse, cursor_ns, cursor_nesw,
-                                                cursor_we,    cursor_nwse, cursor_ns, cursor_nesw,
-                                                cursor_we,    cursor_all};
+constexpr std::array<int, 10> kCursorOfCode = {kCursorCross, kCursorNwse, kCursorNs, kCursorNesw,
+                                               kCursorWe,    kCursorNwse, kCursorNs, kCursorNesw,
+                                               kCursorWe,    kCursorAll};
 
 // The edge that a handle moves across and the one that it moves up or down; null: none.
 struct HandleEdges {
   LONG RECT::*across;
   LONG RECT::*along;
 };
-constexpr std::array<HandleEdges, 8> edges_of_handle = {{{&RECT::left, &RECT::top},
-                                                         {nullptr, &RECT::top},
-                                                         {&RECT::right, &RECT::top},
-                                                         {&RECT::right, nullptr},
-                                                         {&RECT::right, &RECT::bottom},
-                                                         {nullptr, &RECT::bottom},
-                                                         {&RECT::left, &RECT::bottom},
-                                                         {&RECT::left, nullptr}}};
+constexpr std::array<HandleEdges, 8> kEdgesOfHandle = {{{&RECT::left, &RECT::top},
+                                                        {nullptr, &RECT::top},
+                                                        {&RECT::right, &RECT::top},
+                                                        {&RECT::right, nullptr},
+                                                        {&RECT::right, &RECT::bottom},
+                                                        {nullptr, &RECT::bottom},
+                                                        {&RECT::left, &RECT::bottom},
+                                                        {&RECT::left, nullptr}}};
 
 LONG moved(LONG value, std::int64_t by) { return clamp_coordinate(std::int64_t{value} + by); }
 
 RECT square_around(LONG x, LONG y) {
-  constexpr int reach = CropFrame::handle_reach;
-  return {moved(x, -reach), moved(y, -reach), moved(x, reach), moved(y, reach)};
+  constexpr int kReach = CropFrame::kHandleReach;
+  return {moved(x, -kReach), moved(y, -kReach), moved(x, kReach), moved(y, kReach)};
 }
 
 // As far as asked, not before `first`, and above all not beyond `last`.
@@ -52,7 +52,7 @@ bool CropFrame::empty() const { return !has_area(rectangle_); }
 void CropFrame::clear() { rectangle_ = {0, 0, 0, 0}; }
 
 int CropFrame::hit_test(POINT point) const {
-  if (width_of(rectangle_) < smallest_zoned || height_of(rectangle_) < smallest_zoned) {
+  if (width_of(rectangle_) < kMinZonedSize || height_of(rectangle_) < kMinZonedSize) {
     return crop_hit::outside;
   }
   const auto squares = handle_squares();
@@ -96,12 +96,12 @@ void CropFrame::draw_to(POINT point) {
 
 void CropFrame::resize(POINT point) {
   const HandleEdges& edges =
-      edges_of_handle[static_cast<std::size_t>(drag_mode_ - crop_hit::top_left)];
-  if (edges.across) {
+      kEdgesOfHandle[static_cast<std::size_t>(drag_mode_ - crop_hit::top_left)];
+  if (edges.across != nullptr) {
     LONG& edge = rectangle_.*edges.across;
     edge = moved(edge, std::int64_t{point.x} - last_.x);
   }
-  if (edges.along) {
+  if (edges.along != nullptr) {
     LONG& edge = rectangle_.*edges.along;
     edge = moved(edge, std::int64_t{point.y} - last_.y);
   }
@@ -138,8 +138,8 @@ std::array<POINT, 5> CropFrame::outline() const {
 }
 
 int crop_cursor_id(int code) {
-  if (code < crop_hit::outside || code > crop_hit::inside) return cursor_cross;
-  return cursor_of_code[static_cast<std::size_t>(code)];
+  if (code < crop_hit::outside || code > crop_hit::inside) return kCursorCross;
+  return kCursorOfCode[static_cast<std::size_t>(code)];
 }
 
 RECT place_crop_bar(const RECT& rectangle, SIZE bar, const RECT& client) {

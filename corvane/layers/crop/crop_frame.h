@@ -11,23 +11,25 @@ namespace corvane {
 
 // Where a point lies, and so what a drag from there does.
 namespace crop_hit {
-inline constexpr int none = -1;  // no button is down
-inline constexpr int outside = 0;
-inline constexpr int top_left = 1;
-inline constexpr int top = 2;
-inline constexpr int top_right = 3;
-inline constexpr int right = 4;
-inline constexpr int bottom_right = 5;
-inline constexpr int bottom = 6;
-inline constexpr int bottom_left = 7;
-inline constexpr int left = 8;
-inline constexpr int inside = 9;
+enum : int {
+  none = -1,  // no button is down
+  outside = 0,
+  top_left = 1,
+  top = 2,
+  top_right = 3,
+  right = 4,
+  bottom_right = 5,
+  bottom = 6,
+  bottom_left = 7,
+  left = 8,
+  inside = 9,
+};
 }  // namespace crop_hit
 
 class CropFrame {
  public:
-  static constexpr int handle_reach = 4;    // from the handle's point to each side of its square
-  static constexpr int smallest_zoned = 8;  // below this width or height there are no zones
+  static constexpr int kHandleReach = 4;   // from the handle's point to each side of its square
+  static constexpr int kMinZonedSize = 8;  // below this width or height there are no zones
 
   const RECT& rectangle() const { return rectangle_; }
   // The hit code that the drag began with; crop_hit::none while no button is down.

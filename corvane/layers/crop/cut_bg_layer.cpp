@@ -6,8 +6,8 @@
 namespace corvane {
 namespace {
 
-constexpr COLORREF unused_key = RGB(255, 255, 255);
-constexpr BYTE practically_invisible = 1;  // of 255; at 0 the mouse would pass through
+constexpr COLORREF kUnusedKey = RGB(255, 255, 255);
+constexpr BYTE kPracticallyInvisible = 1;  // of 255; at 0 the mouse would pass through
 
 }  // namespace
 
@@ -35,7 +35,7 @@ void CCutBgLayer::SetOCRMode(int text_recognition) { rect_layer_.SetOCRMode(text
 int CCutBgLayer::ShowWindow(int command) {
   shown_ = command;
   const WindowWatch watch(*this);
-  if (rect_layer_.GetSafeHwnd()) rect_layer_.ShowWindow(command);
+  if (rect_layer_.GetSafeHwnd() != nullptr) rect_layer_.ShowWindow(command);
   return watch.object_gone() ? FALSE : CWnd::ShowWindow(command);
 }
 
@@ -46,49 +46,49 @@ CRect CCutBgLayer::GetCutRect() const { return rect_layer_.GetCutRect(); }
 int CCutBgLayer::OnCreate(LPCREATESTRUCT creation) {
   if (CWnd::OnCreate(creation) == -1) return -1;
   if (!become_overlay(*this)) return -1;
-  SetLayeredWindowAttributes(unused_key, practically_invisible, LWA_ALPHA);
-  return CreateRectLayer() ? 0 : -1;
+  SetLayeredWindowAttributes(kUnusedKey, kPracticallyInvisible, LWA_ALPHA);
+  return create_rect_layer() ? 0 : -1;
 }
 
 // False: this window did not outlive it.
-bool CCutBgLayer::CreateRectLayer() {
+bool CCutBgLayer::create_rect_layer() {
   const WindowWatch watch(*this);
   rect_layer_.CreateEx(WS_EX_TOOLWINDOW, overlay_class(), L"cutRectLayer", WS_POPUP, 0, 0, 0, 0,
                        m_hWnd, nullptr);
   if (watch.object_gone()) return false;
-  if (rect_layer_.GetSafeHwnd()) rect_layer_.ShowWindow(SW_HIDE);
+  if (rect_layer_.GetSafeHwnd() != nullptr) rect_layer_.ShowWindow(SW_HIDE);
   return !watch.window_gone();
 }
 
 void CCutBgLayer::OnSize(UINT kind, int width, int height) {
   const WindowWatch watch(*this);
   CWnd::OnSize(kind, width, height);
-  if (!watch.object_gone()) CoverWithRectLayer();
+  if (!watch.object_gone()) cover_with_rect_layer();
 }
 
 void CCutBgLayer::OnMove(int x, int y) {
   const WindowWatch watch(*this);
   CWnd::OnMove(x, y);
-  if (!watch.object_gone()) CoverWithRectLayer();
+  if (!watch.object_gone()) cover_with_rect_layer();
 }
 
-void CCutBgLayer::CoverWithRectLayer() {
-  if (!rect_layer_.GetSafeHwnd()) return;
+void CCutBgLayer::cover_with_rect_layer() {
+  if (rect_layer_.GetSafeHwnd() == nullptr) return;
   CRect place;
   GetWindowRect(place);
   rect_layer_.MoveWindow(place, TRUE);
 }
 
 void CCutBgLayer::OnLButtonDown(UINT flags, CPoint point) {
-  if (rect_layer_.GetSafeHwnd()) rect_layer_.OnLButtonDown(flags, point);
+  if (rect_layer_.GetSafeHwnd() != nullptr) rect_layer_.OnLButtonDown(flags, point);
 }
 
 void CCutBgLayer::OnLButtonUp(UINT flags, CPoint point) {
-  if (rect_layer_.GetSafeHwnd()) rect_layer_.OnLButtonUp(flags, point);
+  if (rect_layer_.GetSafeHwnd() != nullptr) rect_layer_.OnLButtonUp(flags, point);
 }
 
 void CCutBgLayer::OnMouseMove(UINT flags, CPoint point) {
-  if (rect_layer_.GetSafeHwnd()) rect_layer_.OnMouseMove(flags, point);
+  if (rect_layer_.GetSafeHwnd() != nullptr) rect_layer_.OnMouseMove(flags, point);
 }
 
 }  // namespace corvane

@@ -43,8 +43,8 @@ class CCutBgLayer : public LibraryWindow<CWnd> {
 
  private:
   const WindowDescription& description() const override;
-  bool CreateRectLayer();
-  void CoverWithRectLayer();
+  bool create_rect_layer();
+  void cover_with_rect_layer();
 
   CCutRectLayer rect_layer_;
   int shown_ = 0;

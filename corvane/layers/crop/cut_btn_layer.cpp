@@ -6,7 +6,7 @@
 namespace corvane {
 namespace {
 
-constexpr COLORREF white = RGB(255, 255, 255);
+constexpr COLORREF kWhite = RGB(255, 255, 255);
 
 int number_of(std::size_t index) { return static_cast<int>(index) + 1; }
 
@@ -32,36 +32,36 @@ void CCutBtnLayer::InitConfig() { skin_.Load(kCropBarList); }
 
 void CCutBtnLayer::LoadResources() { load_buttons(skin_, buttons_, *this); }
 
-CropButtonRects CCutBtnLayer::ButtonRects() const {
+CropButtonRects CCutBtnLayer::button_rects() const {
   CropButtonRects rects;
   for (std::size_t i = 0; i < rects.size(); ++i) rects[i] = buttons_[i].rect;
   return rects;
 }
 
 void CCutBtnLayer::SetRect() {
-  const CropButtonRects laid = lay_out_crop_buttons(ButtonRects());
+  const CropButtonRects laid = lay_out_crop_buttons(button_rects());
   for (std::size_t i = 0; i < laid.size(); ++i) buttons_[i].rect = laid[i];
   const WindowWatch watch(*this);
   for (std::size_t i = 0; i < laid.size() && !watch.object_gone(); ++i) {
     CGdiBtnEx& control = buttons_[i].control;
-    if (control.GetSafeHwnd()) control.MoveWindow(&laid[i], TRUE);
+    if (control.GetSafeHwnd() != nullptr) control.MoveWindow(&laid[i], TRUE);
   }
 }
 
 void CCutBtnLayer::SetOCRMode(int text_recognition) {
-  ShowRow(text_recognition ? CropRow::text_recognition : CropRow::normal);
+  show_row(text_recognition ? CropRow::text_recognition : CropRow::normal);
 }
 
-void CCutBtnLayer::ShowRow(CropRow row) {
+void CCutBtnLayer::show_row(CropRow row) {
   const WindowWatch watch(*this);
   for (std::size_t i = 0; i < buttons_.size(); ++i) {
     CGdiBtnEx& control = buttons_[i].control;
-    if (!control.GetSafeHwnd()) continue;
+    if (control.GetSafeHwnd() == nullptr) continue;
     control.ShowWindow(row_of_crop_button(number_of(i)) == row ? SW_SHOW : SW_HIDE);
     if (watch.object_gone()) return;
   }
-  if (!m_hWnd) return;
-  const RECT bounds = crop_row_bounds(ButtonRects(), row);
+  if (m_hWnd == nullptr) return;
+  const RECT bounds = crop_row_bounds(button_rects(), row);
   MoveWindow(&bounds, TRUE);
 }
 
@@ -84,7 +84,7 @@ int CCutBtnLayer::OnCreate(LPCREATESTRUCT creation) {
   if (watch.object_gone()) return -1;
   SetRect();
   if (watch.object_gone()) return -1;
-  ShowRow(CropRow::normal);
+  show_row(CropRow::normal);
   return watch.window_gone() ? -1 : 0;
 }
 
@@ -99,7 +99,7 @@ void CCutBtnLayer::OnDestroy() {
 void CCutBtnLayer::OnPaint() { background_.show(*this); }
 
 BOOL CCutBtnLayer::OnEraseBkgnd(CDC* dc) {
-  if (!background_.rebuild(*this, dc, white)) return TRUE;
+  if (!background_.rebuild(*this, dc, kWhite)) return TRUE;
   const WindowWatch watch(*this);
   SetRect();
   for (std::size_t i = 0; !watch.object_gone() && i < buttons_.size(); ++i) {

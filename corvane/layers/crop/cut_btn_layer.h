@@ -38,8 +38,8 @@ class CCutBtnLayer : public LibraryWindow<CWnd> {
 
  private:
   const WindowDescription& description() const override;
-  CropButtonRects ButtonRects() const;
-  void ShowRow(CropRow row);
+  CropButtonRects button_rects() const;
+  void show_row(CropRow row);
 
   BufferedBackground background_;
   HWND parent_ = nullptr;

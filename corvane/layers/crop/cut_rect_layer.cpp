@@ -9,15 +9,15 @@
 namespace corvane {
 namespace {
 
-constexpr CRect buffer_rect(0, 0, 10, 10);
-constexpr COLORREF dark = RGB(0, 0, 0);
-constexpr COLORREF clear = RGB(255, 255, 255);  // the colour key: what is below shows through
-constexpr COLORREF green = RGB(0, 255, 0);
-constexpr BYTE dimming = 120;  // of 255
-constexpr int outline_width = 2;
-constexpr int hint_height = 32;
-constexpr const wchar_t* hint_face = L"宋体";
-constexpr const wchar_t* hint_text = L"请按住鼠标左键框选识别文字";
+constexpr CRect kBufferRect(0, 0, 10, 10);
+constexpr COLORREF kDark = RGB(0, 0, 0);
+constexpr COLORREF kClear = RGB(255, 255, 255);  // the colour key: what is below shows through
+constexpr COLORREF kGreen = RGB(0, 255, 0);
+constexpr BYTE kDimming = 120;  // of 255
+constexpr int kOutlineWidth = 2;
+constexpr int kHintHeight = 32;
+constexpr const wchar_t* kHintFace = L"宋体";
+constexpr const wchar_t* kHintText = L"请按住鼠标左键框选识别文字";
 
 void show_cursor_of(int code) {
   ::SetCursor(::LoadCursorW(nullptr, MAKEINTRESOURCEW(crop_cursor_id(code))));
@@ -44,7 +44,7 @@ const WindowDescription& CCutRectLayer::description() const {
 int CCutRectLayer::ShowWindow(int command) {
   frame_.clear();
   const WindowWatch watch(*this);
-  HideBar();
+  hide_bar();
   return watch.object_gone() ? FALSE : CWnd::ShowWindow(command);
 }
 
@@ -63,63 +63,63 @@ int CCutRectLayer::DragFrame(CPoint point) const { return frame_.hit_test(point)
 
 void CCutRectLayer::DrawGreenFrame(HDC dc) const {
   {
-    const CPen pen(PS_SOLID, outline_width, green);
+    const CPen pen(PS_SOLID, kOutlineWidth, kGreen);
     const HGDIOBJ former = ::SelectObject(dc, pen.GetSafeHandle());
     const auto outline = frame_.outline();
     ::MoveToEx(dc, outline.front().x, outline.front().y, nullptr);
     for (std::size_t i = 1; i < outline.size(); ++i) ::LineTo(dc, outline[i].x, outline[i].y);
     ::SelectObject(dc, former);
   }
-  const CBrush brush(green);
+  const CBrush brush(kGreen);
   for (const RECT& square : frame_.handle_squares()) ::FillRect(dc, &square, brush);
 }
 
 int CCutRectLayer::OnCreate(LPCREATESTRUCT creation) {
   if (CWnd::OnCreate(creation) == -1) return -1;
-  CreateFillBuffers();
+  create_fill_buffers();
   if (!become_overlay(*this)) return -1;
-  SetLayeredWindowAttributes(clear, dimming, LWA_COLORKEY | LWA_ALPHA);
-  return CreateBar() ? 0 : -1;
+  SetLayeredWindowAttributes(kClear, kDimming, LWA_COLORKEY | LWA_ALPHA);
+  return create_bar() ? 0 : -1;
 }
 
-void CCutRectLayer::CreateFillBuffers() {
-  CClientDC dc(this);
-  dark_buffer_.CreateBufferDC(dc, buffer_rect);
-  dark_buffer_.SetBackColor(buffer_rect, dark);
-  clear_buffer_.CreateBufferDC(dc, buffer_rect);
-  clear_buffer_.SetBackColor(buffer_rect, clear);
+void CCutRectLayer::create_fill_buffers() {
+  const CClientDC dc(this);
+  dark_buffer_.CreateBufferDC(dc, kBufferRect);
+  dark_buffer_.SetBackColor(kBufferRect, kDark);
+  clear_buffer_.CreateBufferDC(dc, kBufferRect);
+  clear_buffer_.SetBackColor(kBufferRect, kClear);
 }
 
 // False: the layer did not outlive it. A bar that cannot be made leaves the layer without one.
-bool CCutRectLayer::CreateBar() {
+bool CCutRectLayer::create_bar() {
   const WindowWatch watch(*this);
   button_layer_.CreateEx(WS_EX_TOOLWINDOW, overlay_class(), L"cutBtnLayer", WS_POPUP, 0, 0, 0, 0,
                          m_hWnd, nullptr);
   if (watch.object_gone()) return false;
-  if (button_layer_.GetSafeHwnd()) button_layer_.ShowWindow(SW_HIDE);
+  if (button_layer_.GetSafeHwnd() != nullptr) button_layer_.ShowWindow(SW_HIDE);
   return !watch.window_gone();
 }
 
 void CCutRectLayer::OnPaint() {
   const WindowWatch watch(*this);
-  CPaintDC dc(this);
+  const CPaintDC dc(this);
   if (watch.object_gone()) return;
   CRect client;
   GetClientRect(client);
-  if (dark_buffer_.GetDC()) dark_buffer_.Paste(dc, client, SRCCOPY);
+  if (dark_buffer_.GetDC() != nullptr) dark_buffer_.Paste(dc, client, SRCCOPY);
   if (!frame_.empty()) {
-    if (clear_buffer_.GetDC()) clear_buffer_.Paste(dc, frame_.rectangle(), SRCCOPY);
+    if (clear_buffer_.GetDC() != nullptr) clear_buffer_.Paste(dc, frame_.rectangle(), SRCCOPY);
     DrawGreenFrame(dc);
   } else if (text_recognition_) {
-    DrawHint(dc, client);
+    draw_hint(dc, client);
   }
 }
 
-void CCutRectLayer::DrawHint(HDC dc, CRect client) const {
-  ::SetTextColor(dc, green);
+void CCutRectLayer::draw_hint(HDC dc, CRect client) const {
+  ::SetTextColor(dc, kGreen);
   ::SetBkMode(dc, TRANSPARENT);
-  const CSetFont font(dc, hint_height, 0, FW_BOLD, hint_face);
-  ::DrawTextW(dc, hint_text, -1, client, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+  const CSetFont font(dc, kHintHeight, 0, FW_BOLD, kHintFace);
+  ::DrawTextW(dc, kHintText, -1, client, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
 }
 
 BOOL CCutRectLayer::OnEraseBkgnd(CDC*) { return FALSE; }
@@ -130,7 +130,7 @@ void CCutRectLayer::OnLButtonDown(UINT flags, CPoint point) {
   if (watch.object_gone()) return;
   const int code = frame_.press(point);
   show_cursor_of(code);
-  if (code == crop_hit::outside) HideBar();
+  if (code == crop_hit::outside) hide_bar();
   if (!watch.object_gone()) CWnd::OnLButtonDown(flags, point);
 }
 
@@ -140,7 +140,7 @@ void CCutRectLayer::OnMouseMove(UINT flags, CPoint point) {
   GetClientRect(client);
   show_cursor_of(frame_.move(point, client));
   if (frame_.dragging()) {
-    if (HasBar() && button_layer_.IsWindowVisible()) PlaceBar();
+    if (has_bar() && button_layer_.IsWindowVisible()) place_bar();
     if (watch.object_gone()) return;
     Invalidate(FALSE);
   }
@@ -151,18 +151,18 @@ void CCutRectLayer::OnLButtonUp(UINT flags, CPoint point) {
   const WindowWatch watch(*this);
   ::ReleaseCapture();
   if (watch.object_gone()) return;
-  if (frame_.release() && HasBar()) {
-    PlaceBar();
-    if (!watch.object_gone() && HasBar()) button_layer_.ShowWindow(SW_SHOW);
+  if (frame_.release() && has_bar()) {
+    place_bar();
+    if (!watch.object_gone() && has_bar()) button_layer_.ShowWindow(SW_SHOW);
   }
   if (!watch.object_gone()) CWnd::OnLButtonUp(flags, point);
 }
 
-void CCutRectLayer::HideBar() {
-  if (HasBar()) button_layer_.ShowWindow(SW_HIDE);
+void CCutRectLayer::hide_bar() {
+  if (has_bar()) button_layer_.ShowWindow(SW_HIDE);
 }
 
-void CCutRectLayer::PlaceBar() {
+void CCutRectLayer::place_bar() {
   CRect bar;
   button_layer_.GetClientRect(bar);
   CRect client;

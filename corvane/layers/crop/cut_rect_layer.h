@@ -50,12 +50,12 @@ class CCutRectLayer : public LibraryWindow<CWnd> {
 
  private:
   const WindowDescription& description() const override;
-  void CreateFillBuffers();
-  bool CreateBar();
-  bool HasBar() const { return show_buttons_ && button_layer_.GetSafeHwnd(); }
-  void HideBar();
-  void PlaceBar();
-  void DrawHint(HDC dc, CRect client) const;
+  void create_fill_buffers();
+  bool create_bar();
+  bool has_bar() const { return show_buttons_ && button_layer_.GetSafeHwnd() != nullptr; }
+  void hide_bar();
+  void place_bar();
+  void draw_hint(HDC dc, CRect client) const;
 
   CBufferDC dark_buffer_;
   CBufferDC clear_buffer_;

@@ -35,7 +35,7 @@ class PortableFolder : public OpenFolder {
 class PortableListing : public FolderListing {
  public:
   std::unique_ptr<OpenFolder> Open(const wchar_t* path) override {
-    if (!path) return nullptr;
+    if (path == nullptr) return nullptr;
     const std::string bytes = system::file_system_path(std::wstring(path) + L"\\");
     FolderPool::Folder folder = bytes.empty() ? nullptr : pool_->open(bytes);
     return folder ? std::make_unique<PortableFolder>(pool_, std::move(folder)) : nullptr;

@@ -47,7 +47,7 @@ std::filesystem::path program_folder() {
 
 std::optional<std::filesystem::path> path_from_environment(const char* name) {
   const char* const value = std::getenv(name);
-  if (!value || !*value) return std::nullopt;
+  if (value == nullptr || !*value) return std::nullopt;
   return std::filesystem::path(value);
 }
 

@@ -69,8 +69,8 @@ ButtonSkin::ButtonSkin() : font(default_font()) {
 }
 
 ButtonSkin::ButtonSkin(const _MYCONTROL* control, const _MYFONT* font_record) : ButtonSkin() {
-  if (font_record && font_record->description) font = *font_record->description;
-  if (!control) return;
+  if (font_record != nullptr && font_record->description) font = *font_record->description;
+  if (control == nullptr) return;
   const std::array<const CString*, kButtonLooks> names{
       &control->image, &control->hover_image, &control->pressed_image, &control->disabled_image,
       &control->selected_image};
@@ -83,7 +83,7 @@ ButtonSkin::ButtonSkin(const _MYCONTROL* control, const _MYFONT* font_record) : 
 
 Gdiplus::Image* ButtonSkin::image(ButtonLook look) const {
   Gdiplus::Image* const own = images[static_cast<std::size_t>(look)].GetImage();
-  return own ? own : images[static_cast<std::size_t>(ButtonLook::normal)].GetImage();
+  return (own != nullptr) ? own : images[static_cast<std::size_t>(ButtonLook::normal)].GetImage();
 }
 
 CRect ButtonSkin::caption_rect(const CRect& button) const {
@@ -94,7 +94,7 @@ CRect ButtonSkin::caption_rect(const CRect& button) const {
 
 void draw_button(HDC dc, const CRect& rect, const ButtonSkin& skin, const CString& caption,
                  const ButtonBehavior::Appearance& appearance) {
-  if (!dc || rect.IsRectEmpty()) return;
+  if (dc == nullptr || rect.IsRectEmpty()) return;
   const CGdiDC drawing;
   const COLORREF color = skin.text_color(appearance.look);
   if (!drawing.DrawImage(dc, skin.image(appearance.look), rect)) {

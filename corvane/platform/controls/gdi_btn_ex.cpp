@@ -27,13 +27,13 @@ void CGdiBtnEx::SetSkin(const ButtonSkin& skin) {
 
 void CGdiBtnEx::SetText(const CString& text) {
   text_ = text;
-  if (m_hWnd) SetWindowTextW(text_);
+  if (m_hWnd != nullptr) SetWindowTextW(text_);
   Invalidate(FALSE);
 }
 
 void CGdiBtnEx::SetBkGnd(HDC source, const CRect& rect) {
   background_.Release();
-  if (source && background_.CreateBufferDC(source, rect)) {
+  if (source != nullptr && background_.CreateBufferDC(source, rect)) {
     BitBlt(background_, 0, 0, rect.Width(), rect.Height(), source, rect.left, rect.top, SRCCOPY);
   }
   Invalidate(FALSE);
@@ -44,7 +44,7 @@ void CGdiBtnEx::DoDraw(HDC dc, const CRect& rect) const {
 }
 
 void CGdiBtnEx::EnableButton(int enable) {
-  if (m_hWnd) {
+  if (m_hWnd != nullptr) {
     EnableWindow(enable ? TRUE : FALSE);
   } else {
     behavior_.set_enabled(enable != 0);
@@ -52,13 +52,13 @@ void CGdiBtnEx::EnableButton(int enable) {
 }
 
 void CGdiBtnEx::SetSelected(int selected) {
-  Feed([this, selected] { behavior_.set_selected(selected != 0); });
+  feed([this, selected] { behavior_.set_selected(selected != 0); });
 }
 
 // Lets an event happen and follows what it asks for. Nothing of the object is touched after the
 // capture was taken from another window, whose handlers may do anything.
 template <typename Event>
-void CGdiBtnEx::Feed(Event event) {
+void CGdiBtnEx::feed(Event event) {
   const auto before = behavior_.appearance();
   event();
   if (!m_hWnd) return;
@@ -71,7 +71,7 @@ void CGdiBtnEx::Feed(Event event) {
   }
 }
 
-bool CGdiBtnEx::Holds(CPoint point) const {
+bool CGdiBtnEx::holds(CPoint point) const {
   CRect client;
   GetClientRect(client);
   return client.PtInRect(point);
@@ -94,11 +94,11 @@ void CGdiBtnEx::OnPaint() {
   CRect client;
   GetClientRect(client);
   if (client.IsRectEmpty()) return;
-  BuildPicture(client);
+  build_picture(client);
   picture_.Paste(dc.GetSafeHdc(), client);
 }
 
-void CGdiBtnEx::BuildPicture(const CRect& client) {
+void CGdiBtnEx::build_picture(const CRect& client) {
   if (!picture_.HasSizeOf(client)) picture_.CreateBufferDC(nullptr, client);
   if (!background_.HasSizeOf(client)) {
     picture_.SetBackColor(client, GetSysColor(COLOR_BTNFACE));
@@ -118,7 +118,7 @@ void CGdiBtnEx::OnShowWindow(BOOL shown, UINT reason) {
   CWnd::OnShowWindow(shown, reason);
   if (shown) return;
   awaits_leave_ = false;
-  Feed([this] {
+  feed([this] {
     behavior_.cancel();
     behavior_.leave();
   });
@@ -126,7 +126,7 @@ void CGdiBtnEx::OnShowWindow(BOOL shown, UINT reason) {
 
 void CGdiBtnEx::OnEnable(BOOL enabled) {
   CWnd::OnEnable(enabled);
-  Feed([this, enabled] { behavior_.set_enabled(enabled != FALSE); });
+  feed([this, enabled] { behavior_.set_enabled(enabled != FALSE); });
 }
 
 void CGdiBtnEx::OnMouseMove(UINT, CPoint point) {
@@ -137,23 +137,23 @@ void CGdiBtnEx::OnMouseMove(UINT, CPoint point) {
     request.hwndTrack = m_hWnd;
     awaits_leave_ = TrackMouseEvent(&request) != FALSE;
   }
-  Feed([this, inside = Holds(point)] { behavior_.move(inside); });
+  feed([this, inside = holds(point)] { behavior_.move(inside); });
 }
 
 void CGdiBtnEx::OnMouseLeave() {
   awaits_leave_ = false;
-  Feed([this] { behavior_.leave(); });
+  feed([this] { behavior_.leave(); });
 }
 
 void CGdiBtnEx::OnLButtonDown(UINT, CPoint point) {
   const WindowWatch watch(*this);
-  const bool inside = Holds(point);
-  if (press_message_) ReportPress(point);
-  Feed([this, inside] { behavior_.press(inside); });
+  const bool inside = holds(point);
+  if (press_message_) report_press(point);
+  feed([this, inside] { behavior_.press(inside); });
   if (inside && !watch.window_gone()) ::SetFocus(m_hWnd);
 }
 
-void CGdiBtnEx::ReportPress(CPoint point) const {
+void CGdiBtnEx::report_press(CPoint point) const {
   const HWND parent = ::GetParent(m_hWnd);
   ::MapWindowPoints(m_hWnd, parent, &point, 1);
   ::PostMessageW(parent, WM_LBUTTONDOWN, MK_LBUTTON,
@@ -163,12 +163,12 @@ void CGdiBtnEx::ReportPress(CPoint point) const {
 void CGdiBtnEx::OnLButtonUp(UINT, CPoint point) {
   const WindowWatch watch(*this);
   bool clicked = false;
-  Feed([this, &clicked, inside = Holds(point)] { clicked = behavior_.release(inside); });
-  if (clicked && !watch.window_gone()) Click();
+  feed([this, &clicked, inside = holds(point)] { clicked = behavior_.release(inside); });
+  if (clicked && !watch.window_gone()) click();
 }
 
 // The last thing that an event does: the parent may destroy the button for an answer.
-void CGdiBtnEx::Click() const {
+void CGdiBtnEx::click() const {
   if (!::IsWindowVisible(m_hWnd) || !::IsWindowEnabled(m_hWnd)) return;
   const auto id = static_cast<DWORD_PTR>(::GetDlgCtrlID(m_hWnd));
   ::SendMessageW(::GetParent(m_hWnd), WM_COMMAND, MAKEWPARAM(id, BN_CLICKED),
@@ -176,31 +176,31 @@ void CGdiBtnEx::Click() const {
 }
 
 void CGdiBtnEx::OnCaptureChanged(CWnd* new_owner) {
-  if (new_owner && new_owner->GetSafeHwnd() == m_hWnd) return;
-  Feed([this] { behavior_.cancel(); });
+  if (new_owner != nullptr && new_owner->GetSafeHwnd() == m_hWnd) return;
+  feed([this] { behavior_.cancel(); });
 }
 
 void CGdiBtnEx::OnSetFocus(CWnd* old_window) {
   CWnd::OnSetFocus(old_window);
-  Feed([this] { behavior_.gain_focus(); });
+  feed([this] { behavior_.gain_focus(); });
 }
 
 void CGdiBtnEx::OnKillFocus(CWnd* new_window) {
   CWnd::OnKillFocus(new_window);
-  Feed([this] { behavior_.lose_focus(); });
+  feed([this] { behavior_.lose_focus(); });
 }
 
 void CGdiBtnEx::OnKeyDown(UINT key, UINT repeats, UINT flags) {
   if (key != VK_SPACE) return CWnd::OnKeyDown(key, repeats, flags);
-  Feed([this] { behavior_.space_down(); });
+  feed([this] { behavior_.space_down(); });
 }
 
 void CGdiBtnEx::OnKeyUp(UINT key, UINT repeats, UINT flags) {
   if (key != VK_SPACE) return CWnd::OnKeyUp(key, repeats, flags);
   const WindowWatch watch(*this);
   bool clicked = false;
-  Feed([this, &clicked] { clicked = behavior_.space_up(); });
-  if (clicked && !watch.window_gone()) Click();
+  feed([this, &clicked] { clicked = behavior_.space_up(); });
+  if (clicked && !watch.window_gone()) click();
 }
 
 UINT CGdiBtnEx::OnGetDlgCode() { return DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON; }

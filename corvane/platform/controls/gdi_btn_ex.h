@@ -56,11 +56,11 @@ class CGdiBtnEx : public CWnd {
 
  private:
   template <typename Event>
-  void Feed(Event event);
-  bool Holds(CPoint point) const;
-  void ReportPress(CPoint point) const;
-  void Click() const;
-  void BuildPicture(const CRect& client);
+  void feed(Event event);
+  bool holds(CPoint point) const;
+  void report_press(CPoint point) const;
+  void click() const;
+  void build_picture(const CRect& client);
 
   ButtonBehavior behavior_;
   ButtonSkin skin_;

@@ -22,8 +22,8 @@ class CListBar : public CSkinnedWnd {
   BOOL OnCommand(WPARAM wparam, LPARAM lparam) override;
 
  private:
-  int CreateBtn(CGdiBtnEx& button, UINT id, const CString& image_path);
-  void Place();
+  int create_btn(CGdiBtnEx& button, UINT id, const CString& image_path);
+  void place();
 
   CGdiBtnEx forward_;
   CGdiBtnEx backward_;

@@ -22,8 +22,8 @@ void CSkinnedWnd::SetImage(const CGdiImage& image) {
 }
 
 void CSkinnedWnd::SetSkin(const _MYCONTROL* control, const _MYLANGUAGE* caption) {
-  load_skin_image(image_, control ? control->image : CString());
-  if (m_hWnd && caption) SetWindowTextW(caption->text);
+  load_skin_image(image_, (control != nullptr) ? control->image : CString());
+  if (m_hWnd != nullptr && caption != nullptr) SetWindowTextW(caption->text);
   Invalidate(FALSE);
 }
 

@@ -23,7 +23,7 @@ CBufferDC::CBufferDC(const CBufferDC& other) { *this = other; }
 
 CBufferDC& CBufferDC::operator=(const CBufferDC& other) {
   if (this == &other) return *this;
-  if (!other.dc_) {
+  if (other.dc_ == nullptr) {
     Release();
   } else if (HasSizeOf(other.rect_) || CreateBufferDC(other.dc_, other.rect_)) {
     rect_ = other.rect_;
@@ -37,9 +37,9 @@ bool CBufferDC::CreateBufferDC(HDC compatible, const RECT& rect) {
   const CRect wanted(rect);
   if (wanted.IsRectEmpty()) return false;
   dc_ = CreateCompatibleDC(compatible);
-  if (!dc_) return false;
+  if (dc_ == nullptr) return false;
   bitmap_ = create_bitmap(dc_, wanted.Width(), wanted.Height());
-  if (!bitmap_) {
+  if (bitmap_ == nullptr) {
     Release();
     return false;
   }
@@ -49,9 +49,9 @@ bool CBufferDC::CreateBufferDC(HDC compatible, const RECT& rect) {
 }
 
 void CBufferDC::Release() {
-  if (first_bitmap_) SelectObject(dc_, first_bitmap_);
-  if (dc_) DeleteDC(dc_);
-  if (bitmap_) DeleteObject(bitmap_);
+  if (first_bitmap_ != nullptr) SelectObject(dc_, first_bitmap_);
+  if (dc_ != nullptr) DeleteDC(dc_);
+  if (bitmap_ != nullptr) DeleteObject(bitmap_);
   dc_ = nullptr;
   bitmap_ = nullptr;
   first_bitmap_ = nullptr;
@@ -59,11 +59,11 @@ void CBufferDC::Release() {
 }
 
 bool CBufferDC::HasSizeOf(const RECT& rect) const {
-  return dc_ && rect_.Size() == CRect(rect).Size();
+  return dc_ != nullptr && rect_.Size() == CRect(rect).Size();
 }
 
 void CBufferDC::SetBackColor(const RECT& rect, COLORREF color) {
-  if (!dc_) return;
+  if (dc_ == nullptr) return;
   const HBRUSH brush = CreateSolidBrush(color);
   FillRect(dc_, &rect, brush);
   DeleteObject(brush);
@@ -71,16 +71,16 @@ void CBufferDC::SetBackColor(const RECT& rect, COLORREF color) {
 
 bool CBufferDC::Paste(HDC target, const RECT& rect, DWORD operation) const {
   const CRect place(rect);
-  if (!dc_ || !target || place.IsRectEmpty()) return false;
+  if (dc_ == nullptr || target == nullptr || place.IsRectEmpty()) return false;
   if (HasSizeOf(rect)) {
     return BitBlt(target, place.left, place.top, place.Width(), place.Height(), dc_, 0, 0,
-                  operation);
+                  operation) != 0;
   }
   const int former_mode = SetStretchBltMode(target, COLORONCOLOR);
   const BOOL pasted = StretchBlt(target, place.left, place.top, place.Width(), place.Height(), dc_,
                                  0, 0, rect_.Width(), rect_.Height(), operation);
   SetStretchBltMode(target, former_mode);
-  return pasted;
+  return pasted != 0;
 }
 
 }  // namespace corvane

@@ -32,9 +32,9 @@ Gdiplus::StringAlignment alignment(UINT format, UINT centred, UINT at_end) {
 
 // A single line has no breaks in it.
 std::wstring without_line_breaks(std::wstring text) {
-  constexpr std::wstring_view breaks = L"\n\r\v\f\u0085\u2028\u2029";
+  constexpr std::wstring_view kBreaks = L"\n\r\v\f\u0085\u2028\u2029";
   for (wchar_t& character : text) {
-    if (breaks.find(character) != breaks.npos) character = L' ';
+    if (kBreaks.find(character) != kBreaks.npos) character = L' ';
   }
   return text;
 }
@@ -55,7 +55,7 @@ bool CGdiDC::DrawImage(HDC dc, Gdiplus::Image* image, const CRect& rect) const {
 }
 
 bool CGdiDC::DrawImage(HDC dc, Gdiplus::Image* image, const CRect& rect, int angle) const {
-  if (!dc || !image || rect.IsRectEmpty()) return false;
+  if (dc == nullptr || image == nullptr || rect.IsRectEmpty()) return false;
   Gdiplus::Graphics graphics(dc);
   prepare_for_images(graphics);
   if (angle % 360 != 0) {
@@ -67,7 +67,7 @@ bool CGdiDC::DrawImage(HDC dc, Gdiplus::Image* image, const CRect& rect, int ang
 
 bool CGdiDC::DrawTextW(HDC dc, const wchar_t* text, const LOGFONTW* font, const CRect& rect,
                        Gdiplus::ARGB color, UINT format) const {
-  if (!dc || !text || !font || rect.IsRectEmpty()) return false;
+  if (dc == nullptr || text == nullptr || font == nullptr || rect.IsRectEmpty()) return false;
   Gdiplus::Graphics graphics(dc);
   graphics.SetTextRenderingHint(Gdiplus::TextRenderingHintAntiAlias);
   const Gdiplus::Font drawing_font(dc, font);
@@ -91,7 +91,7 @@ bool CGdiDC::Paste(HWND layered, HDC source, int opacity) const {
   blend.SourceConstantAlpha = static_cast<BYTE>(std::clamp(opacity, 0, 255));
   blend.AlphaFormat = AC_SRC_ALPHA;
   return UpdateLayeredWindow(layered, nullptr, nullptr, &size, source, &origin, 0, &blend,
-                             ULW_ALPHA);
+                             ULW_ALPHA) != 0;
 }
 
 }  // namespace corvane

@@ -7,7 +7,7 @@
 namespace corvane {
 namespace {
 
-const wchar_t* or_empty(const wchar_t* text) { return text ? text : L""; }
+const wchar_t* or_empty(const wchar_t* text) { return (text != nullptr) ? text : L""; }
 
 int position_or_minus_one(std::size_t position) {
   return position == std::wstring::npos ? -1 : static_cast<int>(position);
@@ -24,7 +24,7 @@ wchar_t upper(wchar_t character) {
 }  // namespace
 
 CString::CString(const wchar_t* text, int length) {
-  if (text && length > 0) text_.assign(text, static_cast<std::size_t>(length));
+  if (text != nullptr && length > 0) text_.assign(text, static_cast<std::size_t>(length));
 }
 
 CString::CString(wchar_t character, int count)
@@ -148,8 +148,9 @@ int CString::Insert(int position, const wchar_t* text) {
 }
 
 int CString::Delete(int position, int count) {
-  if (position >= 0 && position < GetLength() && count > 0)
+  if (position >= 0 && position < GetLength() && count > 0) {
     text_.erase(static_cast<std::size_t>(position), static_cast<std::size_t>(count));
+  }
   return GetLength();
 }
 

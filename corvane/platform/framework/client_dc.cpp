@@ -4,9 +4,10 @@
 
 namespace corvane {
 
-CClientDC::CClientDC(const CWnd* window) : window_(window ? window->GetSafeHwnd() : nullptr) {
+CClientDC::CClientDC(const CWnd* window)
+    : window_((window != nullptr) ? window->GetSafeHwnd() : nullptr) {
   // An object without a window must not get the screen.
-  if (!window || window_) Attach(::GetDC(window_));
+  if (window == nullptr || window_ != nullptr) Attach(::GetDC(window_));
 }
 
 CClientDC::~CClientDC() {

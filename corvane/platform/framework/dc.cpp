@@ -12,7 +12,7 @@ CDC::~CDC() { DeleteDC(); }
 CDC* CDC::FromHandle(HDC dc) { return ThreadState::current().handles.temporary_dc(dc); }
 
 bool CDC::Attach(HDC dc) {
-  if (m_hDC || !dc) return false;
+  if (m_hDC != nullptr || dc == nullptr) return false;
   m_hDC = dc;
   return true;
 }
@@ -23,8 +23,8 @@ HDC CDC::Detach() {
 }
 
 bool CDC::CreateCompatibleDC(CDC* like) {
-  if (m_hDC) return false;
-  m_hDC = ::CreateCompatibleDC(like ? like->m_hDC : nullptr);
+  if (m_hDC != nullptr) return false;
+  m_hDC = ::CreateCompatibleDC((like != nullptr) ? like->m_hDC : nullptr);
   owned_ = m_hDC != nullptr;
   return owned_;
 }
@@ -32,18 +32,18 @@ bool CDC::CreateCompatibleDC(CDC* like) {
 bool CDC::DeleteDC() {
   const bool owned = owned_;
   const HDC dc = Detach();
-  return owned && ::DeleteDC(dc);
+  return owned && (::DeleteDC(dc) != 0);
 }
 
 bool CDC::FillSolidRect(LPCRECT rect, COLORREF color) {
   const CBrush brush(color);
-  return rect && FillRect(rect, brush);
+  return rect != nullptr && FillRect(rect, brush);
 }
 
 bool CDC::BitBlt(int x, int y, int width, int height, const CDC* source, int source_x, int source_y,
                  DWORD operation) {
-  return ::BitBlt(m_hDC, x, y, width, height, source ? source->m_hDC : nullptr, source_x, source_y,
-                  operation);
+  return ::BitBlt(m_hDC, x, y, width, height, (source != nullptr) ? source->m_hDC : nullptr,
+                  source_x, source_y, operation) != 0;
 }
 
 int CDC::DrawTextW(const wchar_t* text, int length, LPRECT rect, UINT format) {

@@ -34,16 +34,16 @@ class CDC {
   HGDIOBJ SelectObject(HGDIOBJ object) { return ::SelectObject(m_hDC, object); }
   HGDIOBJ SelectObject(const CGdiObject& object) { return ::SelectObject(m_hDC, object.m_hObject); }
   int SaveDC() { return ::SaveDC(m_hDC); }
-  bool RestoreDC(int saved) { return ::RestoreDC(m_hDC, saved); }
+  bool RestoreDC(int saved) { return ::RestoreDC(m_hDC, saved) != 0; }
   COLORREF SetTextColor(COLORREF color) { return ::SetTextColor(m_hDC, color); }
   COLORREF SetBkColor(COLORREF color) { return ::SetBkColor(m_hDC, color); }
   int SetBkMode(int mode) { return ::SetBkMode(m_hDC, mode); }
 
-  bool MoveTo(int x, int y) { return ::MoveToEx(m_hDC, x, y, nullptr); }
+  bool MoveTo(int x, int y) { return ::MoveToEx(m_hDC, x, y, nullptr) != 0; }
   bool MoveTo(POINT point) { return MoveTo(point.x, point.y); }
-  bool LineTo(int x, int y) { return ::LineTo(m_hDC, x, y); }
+  bool LineTo(int x, int y) { return ::LineTo(m_hDC, x, y) != 0; }
   bool LineTo(POINT point) { return LineTo(point.x, point.y); }
-  bool FillRect(LPCRECT rect, HBRUSH brush) { return ::FillRect(m_hDC, rect, brush); }
+  bool FillRect(LPCRECT rect, HBRUSH brush) { return ::FillRect(m_hDC, rect, brush) != 0; }
   bool FillSolidRect(LPCRECT rect, COLORREF color);  // leaves the background colour as it was
   bool BitBlt(int x, int y, int width, int height, const CDC* source, int source_x, int source_y,
               DWORD operation);

@@ -3,13 +3,14 @@
 namespace corvane {
 
 bool CFont::CreateFontIndirectW(const LOGFONTW* description) {
-  if (!description) return false;
+  if (description == nullptr) return false;
   DeleteObject();
   return Attach(::CreateFontIndirectW(description));
 }
 
 bool CFont::GetLogFont(LOGFONTW* description) const {
-  return description && m_hObject && ::GetObjectW(m_hObject, sizeof *description, description) != 0;
+  return description != nullptr && m_hObject != nullptr &&
+         ::GetObjectW(m_hObject, sizeof *description, description) != 0;
 }
 
 }  // namespace corvane

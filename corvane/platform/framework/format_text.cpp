@@ -24,10 +24,11 @@ class Formatter {
 
   std::wstring run() {
     while (*at_) {
-      if (*at_ == L'%')
+      if (*at_ == L'%') {
         convert();
-      else
+      } else {
         out_ += *at_++;
+      }
     }
     return std::move(out_);
   }
@@ -43,19 +44,20 @@ class Formatter {
     if (*at_ == L'*') {
       ++at_;
       const FormatArgument* argument = next_argument();
-      const auto* number = argument ? std::get_if<long long>(argument) : nullptr;
-      return number
+      const auto* number = (argument != nullptr) ? std::get_if<long long>(argument) : nullptr;
+      return (number != nullptr)
                  ? static_cast<int>(std::clamp<long long>(*number, -kLargestField, kLargestField))
                  : 0;
     }
-    for (; *at_ >= L'0' && *at_ <= L'9'; ++at_)
+    for (; *at_ >= L'0' && *at_ <= L'9'; ++at_) {
       value = std::min(value * 10 + static_cast<int>(*at_ - L'0'), kLargestField);
+    }
     return value;
   }
 
   Conversion read_conversion() {
     Conversion conversion;
-    while (*at_ && std::wcschr(L"-+ 0#", *at_)) conversion.flags += *at_++;
+    while (*at_ && (std::wcschr(L"-+ 0#", *at_) != nullptr)) conversion.flags += *at_++;
     conversion.width = read_number();
     if (conversion.width < 0) {
       conversion.flags += L'-';
@@ -66,7 +68,7 @@ class Formatter {
       conversion.precision = read_number();
     }
     if (std::wcsncmp(at_, L"I64", 3) == 0) at_ += 3;
-    while (*at_ && std::wcschr(L"hlzw", *at_)) ++at_;
+    while (*at_ && (std::wcschr(L"hlzw", *at_) != nullptr)) ++at_;
     conversion.letter = *at_;
     if (*at_) ++at_;
     return conversion;
@@ -79,12 +81,14 @@ class Formatter {
       out_ += L'%';
       return;
     }
-    const bool known = conversion.letter && std::wcschr(L"diuxXocCsSfegp", conversion.letter);
+    const bool known =
+        (conversion.letter != 0) && (std::wcschr(L"diuxXocCsSfegp", conversion.letter) != nullptr);
     const FormatArgument* argument = known ? next_argument() : nullptr;
-    if (argument)
+    if (argument != nullptr) {
       append(conversion, *argument);
-    else
+    } else {
       out_.append(start, at_);
+    }
   }
 
   void append(const Conversion& conversion, const FormatArgument& argument) {
@@ -122,8 +126,9 @@ class Formatter {
   }
 
   void append_text(const Conversion& conversion, std::wstring text) {
-    if (conversion.precision >= 0 && text.size() > static_cast<std::size_t>(conversion.precision))
+    if (conversion.precision >= 0 && text.size() > static_cast<std::size_t>(conversion.precision)) {
       text.resize(static_cast<std::size_t>(conversion.precision));
+    }
     const auto width = static_cast<std::size_t>(conversion.width);
     const std::wstring padding(width > text.size() ? width - text.size() : 0, L' ');
     const bool left = conversion.flags.find(L'-') != std::wstring::npos;
@@ -132,29 +137,34 @@ class Formatter {
 
   static long long integer_of(const FormatArgument& argument) {
     if (const auto* value = std::get_if<long long>(&argument)) return *value;
-    if (const auto* value = std::get_if<unsigned long long>(&argument))
+    if (const auto* value = std::get_if<unsigned long long>(&argument)) {
       return static_cast<long long>(*value);
+    }
     if (const auto* value = std::get_if<double>(&argument)) {
       const bool fits = *value > -9e18 && *value < 9e18;
       return fits ? static_cast<long long>(*value) : 0;
     }
-    if (const auto* value = std::get_if<const void*>(&argument))
+    if (const auto* value = std::get_if<const void*>(&argument)) {
       return static_cast<long long>(reinterpret_cast<std::uintptr_t>(*value));
+    }
     return 0;
   }
 
   static double real_of(const FormatArgument& argument) {
     if (const auto* value = std::get_if<double>(&argument)) return *value;
-    if (const auto* value = std::get_if<unsigned long long>(&argument))
+    if (const auto* value = std::get_if<unsigned long long>(&argument)) {
       return static_cast<double>(*value);
+    }
     return static_cast<double>(integer_of(argument));
   }
 
   static std::wstring text_of(const FormatArgument& argument) {
-    if (const auto* text = std::get_if<const wchar_t*>(&argument)) return *text ? *text : L"";
+    if (const auto* text = std::get_if<const wchar_t*>(&argument))
+      return (*text != nullptr) ? *text : L"";
     if (const auto* value = std::get_if<double>(&argument)) return std::to_wstring(*value);
-    if (const auto* value = std::get_if<unsigned long long>(&argument))
+    if (const auto* value = std::get_if<unsigned long long>(&argument)) {
       return std::to_wstring(*value);
+    }
     return std::to_wstring(integer_of(argument));
   }
 
@@ -167,7 +177,7 @@ class Formatter {
 }  // namespace
 
 std::wstring format_text(const wchar_t* format, std::span<const FormatArgument> arguments) {
-  return format ? Formatter(format, arguments).run() : std::wstring();
+  return (format != nullptr) ? Formatter(format, arguments).run() : std::wstring();
 }
 
 }  // namespace corvane

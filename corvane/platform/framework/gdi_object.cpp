@@ -5,7 +5,7 @@
 namespace corvane {
 
 bool CGdiObject::Attach(HGDIOBJ object) {
-  if (m_hObject || !object) return false;
+  if (m_hObject != nullptr || object == nullptr) return false;
   m_hObject = object;
   return true;
 }
@@ -14,7 +14,7 @@ HGDIOBJ CGdiObject::Detach() { return std::exchange(m_hObject, nullptr); }
 
 bool CGdiObject::DeleteObject() {
   const HGDIOBJ object = Detach();
-  return object && ::DeleteObject(object);
+  return object != nullptr && (::DeleteObject(object) != 0);
 }
 
 }  // namespace corvane

@@ -24,7 +24,7 @@ void HandleMaps::add_permanent(HWND window, CWnd* object) { permanent_[window] =
 void HandleMaps::remove_permanent(HWND window) { permanent_.erase(window); }
 
 CWnd* HandleMaps::object_of(HWND window) {
-  if (!window) return nullptr;
+  if (window == nullptr) return nullptr;
   if (CWnd* object = permanent(window)) return object;
   if (const auto found = windows_.find(window); found != windows_.end()) return found->second.get();
   if (windows_.size() >= sweep_at_) sweep_stale_windows();
@@ -34,7 +34,7 @@ CWnd* HandleMaps::object_of(HWND window) {
 }
 
 CDC* HandleMaps::temporary_dc(HDC dc) {
-  if (!dc) return nullptr;
+  if (dc == nullptr) return nullptr;
   std::unique_ptr<CDC>& object = dcs_[dc];
   if (!object) {
     object = std::make_unique<CDC>();

@@ -8,9 +8,11 @@ namespace {
 
 template <class Fits>
 MessageMatch first_match(const MessageMap* map, const Fits& fits) {
-  for (; map; map = map->base)
-    for (const MessageEntry& entry : map->entries)
+  for (; map; map = map->base) {
+    for (const MessageEntry& entry : map->entries) {
       if (fits(entry)) return {&entry, map->table};
+    }
+  }
   return {};
 }
 
@@ -36,7 +38,7 @@ CWnd* wnd_from_parameter(LPARAM window) { return CWnd::FromHandle(reinterpret_ca
 
 CScrollBar* scroll_bar_from_parameter(LPARAM window) {
   CWnd* bar = CWnd::FromHandlePermanent(reinterpret_cast<HWND>(window));
-  const bool is_bar = bar && bar->IsKindOf(&CScrollBar::classCScrollBar);
+  const bool is_bar = bar != nullptr && bar->IsKindOf(&CScrollBar::classCScrollBar);
   return is_bar ? static_cast<CScrollBar*>(bar) : nullptr;
 }
 

@@ -65,11 +65,11 @@ struct MessageMap {
 
 template <class Handler>
 struct HandlerParts {
-  static constexpr bool is_member_function = false;
+  static constexpr bool kIsMemberFunction = false;
 };
 template <class Result, class Target, class... Arguments>
 struct HandlerParts<Result (Target::*)(Arguments...)> {
-  static constexpr bool is_member_function = true;
+  static constexpr bool kIsMemberFunction = true;
   using Owner = Target;
   using Signature = Result(Arguments...);
 };
@@ -81,7 +81,7 @@ template <UINT message>
 concept KnownMessage = !std::derived_from<MessageTraits<message>, NoMessageTraits>;
 
 template <class Traits, class Handler>
-concept FitsTraits = HandlerParts<Handler>::is_member_function &&
+concept FitsTraits = HandlerParts<Handler>::kIsMemberFunction &&
                      std::same_as < typename HandlerParts<Handler>::Signature,
 typename Traits::Signature > ;
 
@@ -153,7 +153,7 @@ class MessageTable {
  public:
   consteval explicit MessageTable(Bindings... bindings)
       : bindings_(bindings...), entries_(make_entries(std::index_sequence_for<Bindings...>())) {
-    if (HasDuplicate()) two_rows_for_the_same_message();
+    if (has_duplicate()) two_rows_for_the_same_message();
   }
 
   // `base`: the map of the base class; null: nothing more to search.
@@ -163,7 +163,7 @@ class MessageTable {
  private:
   // Not constant: calling it ends the compilation. The second row could never be reached.
   static void two_rows_for_the_same_message() {}
-  constexpr bool HasDuplicate() const;
+  constexpr bool has_duplicate() const;
 
   template <std::size_t index>
   static bool call(const void* table, CWnd& target, WPARAM wparam, LPARAM lparam, LRESULT& result) {
@@ -185,12 +185,16 @@ class MessageTable {
 };
 
 template <class... Bindings>
-constexpr bool MessageTable<Bindings...>::HasDuplicate() const {
-  for (std::size_t i = 0; i < entries_.size(); ++i)
-    for (std::size_t j = 0; j < i; ++j)
+constexpr bool MessageTable<Bindings...>::has_duplicate() const {
+  for (std::size_t i = 0; i < entries_.size(); ++i) {
+    for (std::size_t j = 0; j < i; ++j) {
       if (entries_[i].kind == entries_[j].kind && entries_[i].number == entries_[j].number &&
-          entries_[i].code == entries_[j].code && entries_[i].registered == entries_[j].registered)
+          entries_[i].code == entries_[j].code &&
+          entries_[i].registered == entries_[j].registered) {
         return true;
+      }
+    }
+  }
   return false;
 }
 

@@ -4,12 +4,13 @@
 
 namespace corvane {
 
-CPaintDC::CPaintDC(const CWnd* window) : window_(window ? window->GetSafeHwnd() : nullptr) {
-  if (window_) Attach(::BeginPaint(window_, &m_ps));
+CPaintDC::CPaintDC(const CWnd* window)
+    : window_((window != nullptr) ? window->GetSafeHwnd() : nullptr) {
+  if (window_ != nullptr) Attach(::BeginPaint(window_, &m_ps));
 }
 
 CPaintDC::~CPaintDC() {
-  if (Detach()) ::EndPaint(window_, &m_ps);
+  if (Detach() != nullptr) ::EndPaint(window_, &m_ps);
 }
 
 }  // namespace corvane

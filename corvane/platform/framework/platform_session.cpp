@@ -23,9 +23,10 @@ struct PlatformSession::Resources {
 struct PlatformSession::Resources {
   std::unique_ptr<system::WindowSystem> windows;
   Resources() {
-    if (system::WindowSystem::current()) return;
-    if (auto display = system::open_display())
+    if (system::WindowSystem::current() != nullptr) return;
+    if (auto display = system::open_display()) {
       windows = std::make_unique<system::WindowSystem>(std::move(display));
+    }
   }
 };
 #endif

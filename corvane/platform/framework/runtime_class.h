@@ -8,8 +8,9 @@ struct CRuntimeClass {
   const CRuntimeClass* m_pBaseClass;  // null: the root
 
   constexpr bool IsDerivedFrom(const CRuntimeClass* wanted) const {
-    for (const CRuntimeClass* each = this; each; each = each->m_pBaseClass)
+    for (const CRuntimeClass* each = this; each != nullptr; each = each->m_pBaseClass) {
       if (each == wanted) return true;
+    }
     return false;
   }
 };

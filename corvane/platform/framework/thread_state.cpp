@@ -20,7 +20,7 @@ struct StateOwner {
 }  // namespace
 
 ThreadState& ThreadState::current() {
-  if (live_state) return *live_state;
+  if (live_state != nullptr) return *live_state;
   // An application object of static storage closes its windows after the thread's own objects have
   // gone; what it needs by then lasts until the process ends.
   if (thread_ended) return *(live_state = new ThreadState);

@@ -19,9 +19,9 @@ constexpr int kMaxMessagesPerTurn = 10000;
 
 // Asks the windows from the message's own up to its top-level one, or to the main window.
 bool swallowed_on_the_way_up(MSG* message, HWND main_window) {
-  for (HWND window = message->hwnd; window;) {
+  for (HWND window = message->hwnd; window != nullptr;) {
     CWnd* object = CWnd::FromHandlePermanent(window);
-    if (object && object->PreTranslateMessage(message)) return true;
+    if (object != nullptr && object->PreTranslateMessage(message)) return true;
     const bool child = (::GetWindowLongW(window, GWL_STYLE) & static_cast<LONG>(WS_CHILD)) != 0;
     if (!child || window == main_window) return false;
     window = ::GetParent(window);
@@ -55,8 +55,9 @@ int CWinApp::Run() {
   MSG message{};
   for (;;) {
     LONG idle_count = 0;
-    while (!::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE) && OnIdle(idle_count))
+    while (!::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE) && OnIdle(idle_count)) {
       ++idle_count;
+    }
     if (::GetMessageW(&message, nullptr, 0, 0) <= 0) break;
     handle(&message);
   }
@@ -65,24 +66,26 @@ int CWinApp::Run() {
 }
 
 BOOL CWinApp::PreTranslateMessage(MSG* message) {
-  if (!message || !message->hwnd) return FALSE;
-  const HWND main_window = m_pMainWnd ? m_pMainWnd->GetSafeHwnd() : nullptr;
+  if (message == nullptr || message->hwnd == nullptr) return FALSE;
+  const HWND main_window = (m_pMainWnd != nullptr) ? m_pMainWnd->GetSafeHwnd() : nullptr;
   const bool of_main = ::GetAncestor(message->hwnd, GA_ROOT) == main_window;
   if (swallowed_on_the_way_up(message, main_window)) return TRUE;
   // A filter may have destroyed the main window.
-  return m_pMainWnd && !of_main && m_pMainWnd->PreTranslateMessage(message);
+  return m_pMainWnd != nullptr && !of_main && (m_pMainWnd->PreTranslateMessage(message) != 0)
+             ? TRUE
+             : FALSE;
 }
 
 CWinApp* AfxGetApp() { return live_app; }
 
-CWnd* AfxGetMainWnd() { return live_app ? live_app->m_pMainWnd : nullptr; }
+CWnd* AfxGetMainWnd() { return (live_app != nullptr) ? live_app->m_pMainWnd : nullptr; }
 
 HINSTANCE AfxGetInstanceHandle() { return ::GetModuleHandleW(nullptr); }
 
 bool PreTranslateInput(MSG* message) {
   release_temporaries();
-  if (!message) return false;
-  if (live_app) return live_app->PreTranslateMessage(message);
+  if (message == nullptr) return false;
+  if (live_app != nullptr) return live_app->PreTranslateMessage(message) != 0;
   return swallowed_on_the_way_up(message, nullptr);
 }
 

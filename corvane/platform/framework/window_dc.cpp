@@ -4,9 +4,10 @@
 
 namespace corvane {
 
-CWindowDC::CWindowDC(const CWnd* window) : window_(window ? window->GetSafeHwnd() : nullptr) {
+CWindowDC::CWindowDC(const CWnd* window)
+    : window_((window != nullptr) ? window->GetSafeHwnd() : nullptr) {
   // An object without a window must not get the screen.
-  if (!window || window_) Attach(::GetWindowDC(window_));
+  if (window == nullptr || window_ != nullptr) Attach(::GetWindowDC(window_));
 }
 
 CWindowDC::~CWindowDC() {

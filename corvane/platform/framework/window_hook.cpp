@@ -21,13 +21,13 @@ WindowHook::WindowHook(CWnd* object)
 WindowHook::~WindowHook() {
   unhook();
   state_.creation = outer_;
-  if (waiting_) {
+  if (waiting_ != nullptr) {
     waiting_->PostNcDestroy();
     return;
   }
   // The window ended without its last message.
   CWnd* object = state_.handles.permanent(window_);
-  if (object && !::IsWindow(window_)) finish(*object);
+  if (object != nullptr && !::IsWindow(window_)) finish(*object);
 }
 
 void WindowHook::unhook() {
@@ -36,10 +36,11 @@ void WindowHook::unhook() {
 
 LRESULT CALLBACK WindowHook::on_creation(int code, WPARAM wparam, LPARAM lparam) {
   WindowHook* innermost = ThreadState::current().creation;
-  if (!innermost) return 0;
+  if (innermost == nullptr) return 0;
   const LRESULT refused = ::CallNextHookEx(innermost->hook_, code, wparam, lparam);
-  if (code == HCBT_CREATEWND && innermost->waiting_ && !refused)
+  if (code == HCBT_CREATEWND && innermost->waiting_ != nullptr && !refused) {
     innermost->adopt(reinterpret_cast<HWND>(wparam));
+  }
   return refused;
 }
 
@@ -70,7 +71,7 @@ LRESULT WindowHook::handle(CWnd& object, UINT message, WPARAM wparam, LPARAM lpa
 LRESULT CALLBACK WindowHook::procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
   ThreadState& state = ThreadState::current();
   CWnd* object = state.handles.permanent(window);
-  if (!object) return ::DefWindowProcW(window, message, wparam, lparam);
+  if (object == nullptr) return ::DefWindowProcW(window, message, wparam, lparam);
   const MSG current{window, message, wparam, lparam, 0, {}};
   const MessageScope scope(state, current);
   const WindowWatch watch(*object);
@@ -85,13 +86,14 @@ void WindowHook::release(CWnd& object) {
   const WNDPROC original = std::exchange(object.super_procedure_, nullptr);
   ThreadState::current().handles.remove_permanent(window);
   const auto present = reinterpret_cast<WNDPROC>(::GetWindowLongPtrW(window, GWLP_WNDPROC));
-  if (original && present == &procedure)
+  if (original != nullptr && present == &procedure) {
     ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original));
+  }
 }
 
 void WindowHook::finish(CWnd& object) {
   CWinApp* app = AfxGetApp();
-  if (app && app->m_pMainWnd == &object) {
+  if (app != nullptr && app->m_pMainWnd == &object) {
     app->m_pMainWnd = nullptr;
     ::PostQuitMessage(0);
   }

@@ -18,14 +18,15 @@ CWnd::~CWnd() {
 }
 
 void CWnd::end_window() {
-  if (!m_hWnd || FromHandlePermanent(m_hWnd) != this) return;
+  if (m_hWnd == nullptr || FromHandlePermanent(m_hWnd) != this) return;
   ::DestroyWindow(m_hWnd);
   // Still bound: the window is being destroyed already, or its messages never came here.
-  if (m_hWnd) WindowHook::release(*this);
+  if (m_hWnd != nullptr) WindowHook::release(*this);
 }
 
 bool CWnd::Attach(HWND window) {
-  if (m_hWnd || !window || FromHandlePermanent(window)) return false;
+  if (m_hWnd != nullptr || window == nullptr || FromHandlePermanent(window) != nullptr)
+    return false;
   m_hWnd = window;
   ThreadState::current().handles.add_permanent(window, this);
   return true;
@@ -33,7 +34,7 @@ bool CWnd::Attach(HWND window) {
 
 HWND CWnd::Detach() {
   const HWND window = m_hWnd;
-  if (window && FromHandlePermanent(window) == this) WindowHook::release(*this);
+  if (window != nullptr && FromHandlePermanent(window) == this) WindowHook::release(*this);
   m_hWnd = nullptr;
   return window;
 }
@@ -53,16 +54,17 @@ bool CWnd::CreateEx(DWORD ex_style, LPCWSTR class_name, LPCWSTR window_name, DWO
                     const RECT& rect, CWnd* parent, UINT id, LPVOID parameter) {
   const CRect place(rect);
   return CreateEx(ex_style, class_name, window_name, style, place.left, place.top, place.Width(),
-                  place.Height(), parent ? parent->m_hWnd : nullptr,
+                  place.Height(), (parent != nullptr) ? parent->m_hWnd : nullptr,
                   reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)), parameter);
 }
 
 bool CWnd::CreateEx(DWORD ex_style, LPCWSTR class_name, LPCWSTR window_name, DWORD style, int x,
                     int y, int width, int height, HWND parent, HMENU id_or_menu, LPVOID parameter) {
-  if (m_hWnd) return false;
-  if (!class_name)
+  if (m_hWnd != nullptr) return false;
+  if (class_name == nullptr) {
     class_name = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursorW(nullptr, IDC_ARROW),
                                      static_cast<HBRUSH>(::GetStockObject(NULL_BRUSH)));
+  }
   const WindowHook hook(this);
   // The object may be gone when the call returns.
   return ::CreateWindowExW(ex_style, class_name, window_name, style, x, y, width, height, parent,
@@ -105,30 +107,34 @@ BOOL CWnd::OnCommand(WPARAM wparam, LPARAM lparam) {
   const WindowWatch watch(*this);
   CWnd* control = FromHandlePermanent(reinterpret_cast<HWND>(lparam));
   LRESULT ignored = 0;
-  if (control && control->OnChildNotify(WM_COMMAND, wparam, lparam, &ignored)) return TRUE;
+  if (control != nullptr && control->OnChildNotify(WM_COMMAND, wparam, lparam, &ignored))
+    return TRUE;
   if (watch.window_gone()) return TRUE;
   const UINT code = lparam ? HIWORD(wparam) : 0;
   const MessageMatch match = GetMessageMap()->FindCommand(LOWORD(wparam), code);
-  return match && match.Call(*this, wparam, lparam, ignored);
+  return match && match.Call(*this, wparam, lparam, ignored) ? TRUE : FALSE;
 }
 
 BOOL CWnd::OnNotify(WPARAM wparam, LPARAM lparam, LRESULT* result) {
   const auto* header = reinterpret_cast<const NMHDR*>(lparam);
-  CWnd* control = header ? FromHandlePermanent(header->hwndFrom) : nullptr;
-  return control && control->OnChildNotify(WM_NOTIFY, wparam, lparam, result);
+  CWnd* control = (header != nullptr) ? FromHandlePermanent(header->hwndFrom) : nullptr;
+  return control != nullptr && (control->OnChildNotify(WM_NOTIFY, wparam, lparam, result) != 0)
+             ? TRUE
+             : FALSE;
 }
 
 BOOL CWnd::OnChildNotify(UINT, WPARAM, LPARAM, LRESULT*) { return FALSE; }
 
 LRESULT CWnd::DefWindowProcW(UINT message, WPARAM wparam, LPARAM lparam) {
-  if (super_procedure_) return ::CallWindowProcW(super_procedure_, m_hWnd, message, wparam, lparam);
+  if (super_procedure_ != nullptr)
+    return ::CallWindowProcW(super_procedure_, m_hWnd, message, wparam, lparam);
   return ::DefWindowProcW(m_hWnd, message, wparam, lparam);
 }
 
 LRESULT CWnd::Default() {
   const MSG* current = GetCurrentMessage();
   // A handler that was called from outside its window's messages has none to pass on.
-  if (!current || current->hwnd != m_hWnd) return 0;
+  if (current == nullptr || current->hwnd != m_hWnd) return 0;
   ThreadState::current().default_done = true;
   return DefWindowProcW(current->message, current->wParam, current->lParam);
 }

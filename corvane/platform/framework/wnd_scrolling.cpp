@@ -4,14 +4,14 @@
 namespace corvane {
 
 BOOL CWnd::SetScrollInfo(int bar, LPSCROLLINFO info, BOOL redraw) {
-  if (!info || !::IsWindow(m_hWnd)) return FALSE;
+  if (info == nullptr || !::IsWindow(m_hWnd)) return FALSE;
   info->cbSize = sizeof(SCROLLINFO);
   ::SetScrollInfo(m_hWnd, bar, info, redraw);
   return TRUE;
 }
 
 BOOL CWnd::GetScrollInfo(int bar, LPSCROLLINFO info, UINT mask) const {
-  if (!info) return FALSE;
+  if (info == nullptr) return FALSE;
   info->cbSize = sizeof(SCROLLINFO);
   info->fMask = mask;
   return ::GetScrollInfo(m_hWnd, bar, info);
@@ -31,8 +31,8 @@ void CWnd::GetScrollRange(int bar, int* minimum, int* maximum) const {
   int first = 0;
   int last = 0;
   ::GetScrollRange(m_hWnd, bar, &first, &last);
-  if (minimum) *minimum = first;
-  if (maximum) *maximum = last;
+  if (minimum != nullptr) *minimum = first;
+  if (maximum != nullptr) *maximum = last;
 }
 
 int CWnd::GetScrollLimit(int bar) const {

@@ -39,7 +39,7 @@ std::wstring image_from_pattern(pugi::xml_node node, std::string_view state) {
 
 std::wstring image_of(pugi::xml_node node, const char* attribute, std::string_view state = {}) {
   const auto own = node.attribute(attribute);
-  if (own) return parse_image_name(own.value()).value_or(L"");
+  if (own != nullptr) return parse_image_name(own.value()).value_or(L"");
   return state.empty() ? std::wstring{} : image_from_pattern(node, state);
 }
 
@@ -91,7 +91,7 @@ DWORD CControlMgr::ReadControl(std::list<_MYCONTROL*>& controls, int list_id,
                                DWORD* background) const {
   const auto list = document_ ? document_->list(list_id) : pugi::xml_node{};
   if (!list) return 0;
-  if (background) *background = color_of(list, "background").value_or(kWhite);
+  if (background != nullptr) *background = color_of(list, "background").value_or(kWhite);
   DWORD count = 0;
   for (const auto& node : list.children("control")) {
     if (!id_of(node)) continue;

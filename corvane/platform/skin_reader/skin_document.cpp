@@ -37,7 +37,7 @@ bool is_text(std::string_view bytes) {
 }  // namespace
 
 std::shared_ptr<const SkinDocument> SkinDocument::load(const char* path, const char* root_name) {
-  if (!path) return nullptr;
+  if (path == nullptr) return nullptr;
   const auto text = read_file(path_from_narrow(path));
   if (!text || !is_text(*text)) return nullptr;
   auto document = std::make_shared<SkinDocument>();

@@ -1,8 +1,8 @@
 #pragma once
 // Objects by handle. A handle is a number that names one object of one table: it is looked up,
 // never dereferenced, so a stale, foreign or made-up handle finds nothing.
-#include <cassert>
 #include <atomic>
+#include <cassert>
 #include <cstdint>
 #include <deque>
 #include <optional>

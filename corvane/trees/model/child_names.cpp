@@ -3,7 +3,7 @@
 namespace corvane {
 namespace {
 
-constexpr std::size_t most_searched_one_by_one = 8;
+constexpr std::size_t kMaxSearchedOneByOne = 8;
 
 }  // namespace
 
@@ -15,7 +15,7 @@ _NODE& ChildNames::child(std::wstring_view name) {
 }
 
 _NODE* ChildNames::find(std::wstring_view name) {
-  if (parent_.children().size() > most_searched_one_by_one) {
+  if (parent_.children().size() > kMaxSearchedOneByOne) {
     if (index_.empty()) make_index();
     const auto found = index_.find(name);
     return found == index_.end() ? nullptr : found->second;

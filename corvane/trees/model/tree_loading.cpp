@@ -77,10 +77,10 @@ class FolderLoad {
 }  // namespace
 
 bool load_folders(TreeModel& model, FolderListing& listing, const wchar_t* path, _NODE* parent) {
-  if (!path) return false;
+  if (path == nullptr) return false;
   std::wstring whole = path;  // a copy: it may be the name of a node that goes
   const std::wstring name{last_component(whole)};
-  if (!parent) model.set_base_path(std::wstring(parent_path(whole)));
+  if (parent == nullptr) model.set_base_path(std::wstring(parent_path(whole)));
   _NODE& top = *model.add_child(name.c_str(), parent);
   return FolderLoad(model, listing, std::move(whole)).run(top);
 }

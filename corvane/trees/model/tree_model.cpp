@@ -19,8 +19,8 @@ std::wstring_view without_base(std::wstring_view path, std::wstring_view base) {
 }  // namespace
 
 _NODE* TreeModel::add_child(const wchar_t* name, _NODE* parent) {
-  if (!name) return nullptr;
-  if (!parent) return start_over(name);
+  if (name == nullptr) return nullptr;
+  if (parent == nullptr) return start_over(name);
   for (_NODE& child : parent->children_) {
     if (child.name_ == name) return &child;
   }
@@ -45,8 +45,8 @@ _NODE& TreeModel::append_child(std::wstring_view name, _NODE& parent) {
 }
 
 _NODE* TreeModel::find(const wchar_t* path, _NODE* start) {
-  _NODE* node = start ? start : &root_;
-  if (!path || !*path) return node;
+  _NODE* node = (start != nullptr) ? start : &root_;
+  if (path == nullptr || !*path) return node;
   if (base_path_.IsEmpty()) return nullptr;
   std::wstring_view rest = path;
   while (true) {
@@ -67,7 +67,7 @@ _NODE* TreeModel::find(const wchar_t* path, _NODE* start) {
 CString TreeModel::path_of(const _NODE* node) const {
   std::vector<std::wstring_view> names;
   std::size_t length = view(base_path_).size();
-  for (; node; node = node->parent_) {
+  for (; node != nullptr; node = node->parent_) {
     names.push_back(view(node->name_));
     length += names.back().size() + 1;
   }
@@ -80,7 +80,7 @@ CString TreeModel::path_of(const _NODE* node) const {
 
 bool TreeModel::is_path_of(const CString& path, const _NODE& node) const {
   std::wstring_view rest = view(path);
-  for (const _NODE* each = &node; each; each = each->parent_) {
+  for (const _NODE* each = &node; each != nullptr; each = each->parent_) {
     if (!take_last_component(rest, view(each->name_))) return false;
   }
   return rest == view(base_path_);
@@ -96,8 +96,8 @@ bool TreeModel::rename(_NODE* node, const wchar_t* name) {
 }
 
 bool TreeModel::remove(_NODE* node) {
-  if (!node) return false;
-  if (!node->parent_) {
+  if (node == nullptr) return false;
+  if (node->parent_ == nullptr) {
     remove_all();
     return true;
   }
@@ -112,7 +112,7 @@ bool TreeModel::remove(_NODE* node) {
 }
 
 bool TreeModel::remove(const wchar_t* path) {
-  if (!path) return false;
+  if (path == nullptr) return false;
   // A copy: the path may be a name of the node that goes.
   const std::wstring parent{parent_path(path)};
   if (!remove(find(path))) return false;
@@ -138,7 +138,7 @@ void TreeModel::set_expanded(_NODE& node, bool expanded) {
 }
 
 void TreeModel::expand_with_ancestors(_NODE& node) {
-  for (_NODE* each = &node; each; each = each->parent_) set_expanded(*each, true);
+  for (_NODE* each = &node; each != nullptr; each = each->parent_) set_expanded(*each, true);
 }
 
 }  // namespace corvane

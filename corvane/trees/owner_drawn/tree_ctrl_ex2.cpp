@@ -9,7 +9,7 @@
 namespace corvane {
 namespace {
 
-constexpr COLORREF background = RGB(255, 255, 255);
+constexpr COLORREF kBackground = RGB(255, 255, 255);
 
 // Climbs to the nearest folder that exists, or to the first component.
 CString existing_part(CString path) {
@@ -48,7 +48,7 @@ void CTreeCtrlEx2::SetFolderListing(std::unique_ptr<FolderListing> listing) {
 }
 
 void CTreeCtrlEx2::SetCurPath(const wchar_t* path) {
-  if (path) {
+  if (path != nullptr) {
     model_.set_current_path(path);
   } else if (model_.current_path().IsEmpty()) {
     model_.set_current_path(model_.path_of(&model_.root()));
@@ -58,7 +58,7 @@ void CTreeCtrlEx2::SetCurPath(const wchar_t* path) {
   Expand(model_.current_path());
   model_.highlight_current();
   post_tree_select(m_hWnd);
-  Repaint();
+  repaint();
 }
 
 CString CTreeCtrlEx2::GetCurPath() const { return model_.current_path(); }
@@ -66,7 +66,7 @@ CString CTreeCtrlEx2::GetCurPath() const { return model_.current_path(); }
 void CTreeCtrlEx2::ClearCurPath() { model_.set_current_path(CString()); }
 
 void CTreeCtrlEx2::Expand(const wchar_t* path) {
-  if (!path) return;
+  if (path == nullptr) return;
   if (_NODE* node = model_.find(path)) model_.expand_with_ancestors(*node);
 }
 
@@ -80,13 +80,13 @@ _NODE* CTreeCtrlEx2::FindNode(const wchar_t* path, _NODE* start) {
 
 int CTreeCtrlEx2::DelNode(const wchar_t* path) {
   if (!model_.remove(path)) return 0;
-  if (!model_.empty()) Repaint();
+  if (!model_.empty()) repaint();
   return 1;
 }
 
 int CTreeCtrlEx2::DelNode(_NODE* node) {
   if (!model_.remove(node)) return 0;
-  if (!model_.empty()) Repaint();
+  if (!model_.empty()) repaint();
   return 1;
 }
 
@@ -138,8 +138,8 @@ BOOL CTreeCtrlEx2::OnEraseBkgnd(CDC* dc) {
   CRect client;
   GetClientRect(client);
   if (!buffer_.HasSizeOf(client)) {
-    buffer_.CreateBufferDC(dc ? dc->GetSafeHdc() : nullptr, client);
-    buffer_.SetBackColor(client, background);
+    buffer_.CreateBufferDC((dc != nullptr) ? dc->GetSafeHdc() : nullptr, client);
+    buffer_.SetBackColor(client, kBackground);
   }
   return TRUE;
 }
@@ -156,7 +156,7 @@ void CTreeCtrlEx2::draw_now(CDC& target) {
   CRect client;
   GetClientRect(client);
   OnEraseBkgnd(&target);  // the size may have changed without anything being erased
-  buffer_.SetBackColor(client, background);
+  buffer_.SetBackColor(client, kBackground);
   DoDraw(buffer_, client);
   if (!watch.object_gone() && buffer_.HasSizeOf(client)) buffer_.Paste(target, client, SRCCOPY);
 }
@@ -167,15 +167,15 @@ void CTreeCtrlEx2::DoDraw(HDC dc, CRect rect) {
   const LONG height = clamp_coordinate(height_of(rect));
   const bool overflows = total > height;
   const WindowWatch watch(*this);
-  OpenVscroll(overflows, overflows ? total : 0, overflows ? height : 0);
+  OpenVscroll(static_cast<int>(overflows), overflows ? total : 0, overflows ? height : 0);
   if (watch.object_gone() || model_.empty()) return;
-  painter_.draw_root(dc, model_, ScrollPosition());
+  painter_.draw_root(dc, model_, scroll_position());
   DrawItem(dc, &model_.root());
 }
 
 int CTreeCtrlEx2::DrawItem(HDC dc, _NODE* node) {
-  if (!node || !node->expanded()) return 0;
-  painter_.draw_below(dc, model_, layout_, *node, ScrollPosition());
+  if (node == nullptr || !node->expanded()) return 0;
+  painter_.draw_below(dc, model_, layout_, *node, scroll_position());
   return 1;
 }
 
@@ -187,54 +187,54 @@ void CTreeCtrlEx2::OpenVscroll(int show, int maximum, int page) {
   info.nPage = static_cast<UINT>(page);
   const WindowWatch watch(*this);
   SetScrollInfo(SB_VERT, &info, TRUE);
-  if (!watch.object_gone()) ShowScrollBar(SB_VERT, show != 0);
+  if (!watch.object_gone()) ShowScrollBar(SB_VERT, static_cast<BOOL>(show != 0));
 }
 
-int CTreeCtrlEx2::ScrollPosition() const { return GetScrollPos(SB_VERT); }
+int CTreeCtrlEx2::scroll_position() const { return GetScrollPos(SB_VERT); }
 
-ScrollState CTreeCtrlEx2::GetScrollState() const {
+ScrollState CTreeCtrlEx2::get_scroll_state() const {
   SCROLLINFO info{};
   if (!GetScrollInfo(SB_VERT, &info, SIF_ALL)) return {};
   return {info.nMin, GetScrollLimit(SB_VERT), clamp_coordinate(info.nPage), info.nPos};
 }
 
-void CTreeCtrlEx2::ScrollTo(int position) {
+void CTreeCtrlEx2::scroll_to(int position) {
   SetScrollPos(SB_VERT, position, TRUE);
-  Repaint();
+  repaint();
 }
 
 void CTreeCtrlEx2::OnVScroll(UINT code, UINT position, CScrollBar* bar) {
-  ScrollTo(scrolled_by_bar(code, position, GetScrollState()));
+  scroll_to(scrolled_by_bar(code, position, get_scroll_state()));
   CWnd::OnVScroll(code, position, bar);
 }
 
 BOOL CTreeCtrlEx2::OnMouseWheel(UINT flags, short distance, CPoint screen_point) {
-  const ScrollState state = GetScrollState();
-  if (state.limit > state.minimum) ScrollTo(scrolled_by_wheel(distance, state));
+  const ScrollState state = get_scroll_state();
+  if (state.limit > state.minimum) scroll_to(scrolled_by_wheel(distance, state));
   return CWnd::OnMouseWheel(flags, distance, screen_point);
 }
 
-POINT CTreeCtrlEx2::ContentPoint(CPoint point) const {
-  return {point.x, clamp_coordinate(static_cast<long long>(point.y) + ScrollPosition())};
+POINT CTreeCtrlEx2::content_point(CPoint point) const {
+  return {point.x, clamp_coordinate(static_cast<long long>(point.y) + scroll_position())};
 }
 
-_NODE* CTreeCtrlEx2::HitTest(CPoint point) { return layout_.node_at(model_, ContentPoint(point)); }
+_NODE* CTreeCtrlEx2::HitTest(CPoint point) { return layout_.node_at(model_, content_point(point)); }
 
 _NODE* CTreeCtrlEx2::HitTest(_NODE* node, CPoint point) {
-  return layout_.node_below_at(model_, node, ContentPoint(point));
+  return layout_.node_below_at(model_, node, content_point(point));
 }
 
-_NODE* CTreeCtrlEx2::MakeCurrentAt(CPoint point) {
+_NODE* CTreeCtrlEx2::make_current_at(CPoint point) {
   _NODE* node = HitTest(point);
-  if (!node) return nullptr;
+  if (node == nullptr) return nullptr;
   model_.set_current_path(model_.path_of(node));
   model_.highlight_current();
   return node;
 }
 
 int CTreeCtrlEx2::ClickNode(CPoint point, int mode) {
-  _NODE* node = MakeCurrentAt(point);
-  if (!node) return 0;
+  _NODE* node = make_current_at(point);
+  if (node == nullptr) return 0;
   if (mode == click_expands) model_.set_expanded(*node, true);
   if (mode == click_collapses) model_.set_expanded(*node, false);
   if (mode == click_toggles) model_.set_expanded(*node, !node->expanded());
@@ -242,15 +242,15 @@ int CTreeCtrlEx2::ClickNode(CPoint point, int mode) {
 }
 
 void CTreeCtrlEx2::OnLButtonUp(UINT flags, CPoint point) {
-  if (MakeCurrentAt(point)) {
+  if (make_current_at(point) != nullptr) {
     post_tree_select(m_hWnd);
-    Repaint();
+    repaint();
   }
   CWnd::OnLButtonUp(flags, point);
 }
 
 void CTreeCtrlEx2::OnLButtonDblClk(UINT flags, CPoint point) {
-  if (ClickNode(point, click_toggles)) Repaint();
+  if (ClickNode(point, click_toggles)) repaint();
   CWnd::OnLButtonDblClk(flags, point);
 }
 
@@ -259,8 +259,8 @@ BOOL CTreeCtrlEx2::PreTranslateMessage(MSG* message) {
   return LibraryWindow::PreTranslateMessage(message);
 }
 
-void CTreeCtrlEx2::Repaint() {
-  if (m_hWnd) InvalidateRect(nullptr, FALSE);
+void CTreeCtrlEx2::repaint() {
+  if (m_hWnd != nullptr) InvalidateRect(nullptr, FALSE);
 }
 
 }  // namespace corvane

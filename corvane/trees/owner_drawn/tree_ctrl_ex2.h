@@ -110,12 +110,12 @@ class CTreeCtrlEx2 : public LibraryWindow<CWnd> {
 
  private:
   const WindowDescription& description() const override;
-  int ScrollPosition() const;
-  POINT ContentPoint(CPoint point) const;
-  ScrollState GetScrollState() const;
-  void ScrollTo(int position);
-  _NODE* MakeCurrentAt(CPoint point);
-  void Repaint();
+  int scroll_position() const;
+  POINT content_point(CPoint point) const;
+  ScrollState get_scroll_state() const;
+  void scroll_to(int position);
+  _NODE* make_current_at(CPoint point);
+  void repaint();
   void draw_now(CDC& target);  // everything, whether invalid or not
 
   TreeModel model_;

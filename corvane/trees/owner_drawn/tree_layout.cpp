@@ -10,8 +10,8 @@ namespace corvane {
 namespace {
 
 RECT row_rect(int row, int width) {
-  const long long top = static_cast<long long>(row) * tree_row_height;
-  return {0, clamp_coordinate(top), std::max(width, 0), clamp_coordinate(top + tree_row_height)};
+  const long long top = static_cast<long long>(row) * kTreeRowHeight;
+  return {0, clamp_coordinate(top), std::max(width, 0), clamp_coordinate(top + kTreeRowHeight)};
 }
 
 }  // namespace
@@ -38,11 +38,11 @@ LONG TreeLayout::arrange(TreeModel& model, int width) {
     width_ = width;
     complete_revision_ = model.revision();
   }
-  return static_cast<LONG>(rows_.size()) * tree_row_height;
+  return static_cast<LONG>(rows_.size()) * kTreeRowHeight;
 }
 
 int TreeLayout::arrange_below(_NODE* node, int width, int row) {
-  if (!node) return row;
+  if (node == nullptr) return row;
   complete_revision_ = 0;
   TreeWalk walk(*node);
   while (_NODE* below = walk.next()) {
@@ -58,7 +58,7 @@ _NODE* TreeLayout::node_at(TreeModel& model, POINT point) const {
 }
 
 _NODE* TreeLayout::node_below_at(const TreeModel& model, _NODE* node, POINT point) const {
-  if (!node || !node->expanded()) return nullptr;
+  if (node == nullptr || !node->expanded()) return nullptr;
   if (is_complete(model) && has_row(*node)) {
     if (point.x < 0 || point.x >= width_ || point.y < 0) return nullptr;
     const std::size_t number = row_number(point.y);
@@ -107,7 +107,7 @@ bool TreeLayout::is_below(const _NODE& node, const _NODE& ancestor) const {
 }
 
 std::size_t TreeLayout::row_number(LONG y) const {
-  return static_cast<std::size_t>(y) / tree_row_height;
+  return static_cast<std::size_t>(y) / kTreeRowHeight;
 }
 
 }  // namespace corvane

@@ -12,7 +12,7 @@
 
 namespace corvane {
 
-inline constexpr int tree_row_height = 30;  // pixels
+inline constexpr int kTreeRowHeight = 30;  // pixels
 
 // Where the node's row, as last laid out, lies in the client area of a window that shows the
 // content from `position` on. Rows above or below the client area have such a place, too.

@@ -8,11 +8,11 @@
 namespace corvane {
 namespace {
 
-constexpr int indentation = 15;  // pixels for each level
-constexpr int most_indented_level = 6;
-constexpr int cell_width = 30;  // of the glyph and of the folder
-constexpr Gdiplus::ARGB text_color = 0xFF000000;
-constexpr UINT text_format = DT_SINGLELINE | DT_VCENTER;
+constexpr int kIndentation = 15;  // pixels for each level
+constexpr int kMaxIndentedLevel = 6;
+constexpr int kCellWidth = 30;  // of the glyph and of the folder
+constexpr Gdiplus::ARGB kTextColor = 0xFF000000;
+constexpr UINT kTextFormat = DT_SINGLELINE | DT_VCENTER;
 
 LOGFONTW row_font() {
   LOGFONTW font{};
@@ -57,14 +57,14 @@ void TreeRowPainter::draw_row(HDC dc, const TreeModel& model, const _NODE& node,
   const CRect row = row_in_client(node, position);
   const bool highlighted = model.is_path_of(model.highlight_path(), node);
   CRect cell = row;
-  cell.left += std::min(node.level(), most_indented_level) * indentation;
-  cell.right = cell.left + cell_width;
+  cell.left += std::min(node.level(), kMaxIndentedLevel) * kIndentation;
+  cell.right = cell.left + kCellWidth;
   if (!node.children().empty()) drawing_.DrawImage(dc, images_.glyph(node.expanded()), cell);
-  cell.OffsetRect(cell_width, 0);
+  cell.OffsetRect(kCellWidth, 0);
   drawing_.DrawImage(dc, images_.folder(highlighted), cell);
   if (highlighted) draw_selection_frame(dc, row);
   const CRect text(cell.right, row.top, row.right, row.bottom);
-  drawing_.DrawTextW(dc, node.name(), &font_, text, text_color, text_format);
+  drawing_.DrawTextW(dc, node.name(), &font_, text, kTextColor, kTextFormat);
 }
 
 }  // namespace corvane

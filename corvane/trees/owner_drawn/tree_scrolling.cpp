@@ -7,7 +7,7 @@
 namespace corvane {
 namespace {
 
-constexpr int wheel_units_of_a_pixel = 12;
+constexpr int kWheelUnitsOfAPixel = 12;
 
 }  // namespace
 
@@ -40,8 +40,7 @@ int scrolled_by_bar(UINT code, UINT thumb, const ScrollState& state) {
 
 int scrolled_by_wheel(short distance, const ScrollState& state) {
   if (state.limit <= state.minimum) return state.position;
-  const long long moved =
-      state.position - static_cast<long long>(distance / wheel_units_of_a_pixel);
+  const long long moved = state.position - static_cast<long long>(distance / kWheelUnitsOfAPixel);
   return std::clamp(clamp_coordinate(moved), state.minimum, state.limit);
 }
 

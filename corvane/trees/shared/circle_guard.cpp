@@ -8,7 +8,7 @@
 namespace corvane {
 namespace {
 
-constexpr int kMostLinksFollowed = 100;  // to one folder
+constexpr int kMaxLinksFollowed = 100;  // to one folder
 
 }  // namespace
 
@@ -28,7 +28,7 @@ bool CircleGuard::lets_in(const FolderIdentity& folder, FolderKind kind) {
   const bool leads_back = std::find(entered_.rbegin(), entered_.rend(), folder) != entered_.rend();
   if (leads_back) return false;
   // Folders full of links to each other would be read in every order that there is.
-  return kind != FolderKind::link || ++links_followed_[folder] <= kMostLinksFollowed;
+  return kind != FolderKind::link || ++links_followed_[folder] <= kMaxLinksFollowed;
 }
 
 }  // namespace corvane

@@ -7,7 +7,7 @@ namespace corvane {
 bool is_mouse_hook_message(UINT message) {
   constexpr UINT kFirstRegistered = 0xC000;
   return message >= kFirstRegistered &&
-         message == ::RegisterWindowMessageW(hook_mouse_down_message_name);
+         message == ::RegisterWindowMessageW(kHookMouseDownMessageName);
 }
 
 void post_tree_select(HWND tree) {

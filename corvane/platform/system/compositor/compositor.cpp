@@ -1,7 +1,7 @@
 #include "corvane/platform/system/compositor/compositor.h"
 
-#include <cassert>
 #include <algorithm>
+#include <cassert>
 
 #include "corvane/platform/geometry.h"
 #include "corvane/platform/system/compositor/row_composer.h"

@@ -1,7 +1,7 @@
 #include "corvane/platform/system/gdi/surface.h"
 
-#include <cassert>
 #include <algorithm>
+#include <cassert>
 #include <cstring>
 #include <utility>
 

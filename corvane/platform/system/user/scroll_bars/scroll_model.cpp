@@ -1,7 +1,7 @@
 #include "corvane/platform/system/user/scroll_bars/scroll_model.h"
 
-#include <cassert>
 #include <algorithm>
+#include <cassert>
 #include <cstdint>
 
 namespace corvane::system {

@@ -1,7 +1,7 @@
 #include "corvane/platform/system/user/windows/destroy_window.h"
 
-#include <cassert>
 #include <algorithm>
+#include <cassert>
 
 #include "corvane/platform/system/user/input/activation.h"
 #include "corvane/platform/system/user/messages/send_message.h"

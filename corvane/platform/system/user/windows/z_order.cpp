@@ -1,7 +1,7 @@
 #include "corvane/platform/system/user/windows/z_order.h"
 
-#include <cassert>
 #include <algorithm>
+#include <cassert>
 
 namespace corvane::system {
 namespace {
