@@ -28,7 +28,7 @@ const MessageMap* CLibraryPane::GetMessageMap() const {
       On<WM_PAINT>(&CLibraryPane::OnPaint), On<WM_SIZE>(&CLibraryPane::OnSize),
       On<WM_KEYDOWN>(&CLibraryPane::OnKeyDown),
       OnMessage<WM_TREE_SELECT>(&CLibraryPane::OnTreeSelect));
-  static const MessageMap map = kMessages.Extending(CWnd::GetMessageMap());
+  static const MessageMap map = kMessages.extending(CWnd::GetMessageMap());
   return &map;
 }
 

@@ -30,7 +30,7 @@ const MessageMap* CMainWindow::GetMessageMap() const {
                    OnMessage<WM_PICTURE_CHOSEN>(&CMainWindow::OnPictureChosen),
                    OnMessage<WM_FOLDER_CHOSEN>(&CMainWindow::OnFolderChosen),
                    OnMessage<WM_PICTURE_CLICKED>(&CMainWindow::OnPictureClicked));
-  static const MessageMap map = kMessages.Extending(CWnd::GetMessageMap());
+  static const MessageMap map = kMessages.extending(CWnd::GetMessageMap());
   return &map;
 }
 

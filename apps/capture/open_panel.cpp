@@ -38,7 +38,7 @@ const MessageMap* COpenPanel::GetMessageMap() const {
   static constexpr auto kMessages = MessageTable(On<WM_MOUSEMOVE>(&COpenPanel::OnMouseMove),
                                                  On<WM_LBUTTONUP>(&COpenPanel::OnLButtonUp),
                                                  On<WM_KEYDOWN>(&COpenPanel::OnKeyDown));
-  static const MessageMap map = kMessages.Extending(CPanel::GetMessageMap());
+  static const MessageMap map = kMessages.extending(CPanel::GetMessageMap());
   return &map;
 }
 

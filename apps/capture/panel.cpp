@@ -26,7 +26,7 @@ const MessageMap* CPanel::GetMessageMap() const {
       MessageTable(On<WM_CREATE>(&CPanel::OnCreate), On<WM_ERASEBKGND>(&CPanel::OnEraseBkgnd),
                    On<WM_PAINT>(&CPanel::OnPaint), On<WM_SIZE>(&CPanel::OnSize),
                    On<WM_MOUSEWHEEL>(&CPanel::OnMouseWheel));
-  static const MessageMap map = kMessages.Extending(CWnd::GetMessageMap());
+  static const MessageMap map = kMessages.extending(CWnd::GetMessageMap());
   return &map;
 }
 

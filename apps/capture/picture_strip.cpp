@@ -31,7 +31,7 @@ const MessageMap* CPictureStrip::GetMessageMap() const {
       On<WM_LBUTTONUP>(&CPictureStrip::OnLButtonUp),
       On<WM_CAPTURECHANGED>(&CPictureStrip::OnCaptureChanged),
       OnMessage<WM_THUMBNAILS_LOADED>(&CPictureStrip::OnThumbnailsLoaded));
-  static const MessageMap map = kMessages.Extending(CWnd::GetMessageMap());
+  static const MessageMap map = kMessages.extending(CWnd::GetMessageMap());
   return &map;
 }
 

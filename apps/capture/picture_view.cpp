@@ -38,7 +38,7 @@ const MessageMap* CPictureView::GetMessageMap() const {
   static constexpr auto kMessages =
       MessageTable(On<WM_ERASEBKGND>(&CPictureView::OnEraseBkgnd),
                    On<WM_PAINT>(&CPictureView::OnPaint), On<WM_TIMER>(&CPictureView::OnTimer));
-  static const MessageMap map = kMessages.Extending(CWnd::GetMessageMap());
+  static const MessageMap map = kMessages.extending(CWnd::GetMessageMap());
   return &map;
 }
 

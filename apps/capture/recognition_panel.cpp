@@ -20,7 +20,7 @@ constexpr wchar_t kHowToInstall[] =
 
 const MessageMap* CRecognitionPanel::GetMessageMap() const {
   static constexpr auto kMessages = MessageTable(On<WM_TIMER>(&CRecognitionPanel::OnTimer));
-  static const MessageMap map = kMessages.Extending(CTextPanel::GetMessageMap());
+  static const MessageMap map = kMessages.extending(CTextPanel::GetMessageMap());
   return &map;
 }
 

@@ -38,7 +38,7 @@ class Session {
  public:
   Session(CMainWindow& window, fs::path folder) : window_(window), folder_(std::move(folder)) {}
 
-  int Play() {
+  int play() {
     handle_waiting_messages();
     frame("the picture, its folder and the folder's pictures");
     if (window_.picture() == nullptr) return failed_ ? 1 : 0;
@@ -221,7 +221,7 @@ int play_scripted_session(CMainWindow& window, const std::string& folder) {
                  error.message().c_str());
     return 1;
   }
-  return Session(window, folder).Play();
+  return Session(window, folder).play();
 }
 
 }  // namespace capture

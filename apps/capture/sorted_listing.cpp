@@ -25,20 +25,20 @@ class SortedFolder : public OpenFolder {
  public:
   explicit SortedFolder(std::unique_ptr<OpenFolder> folder) : folder_(std::move(folder)) {}
 
-  FolderIdentity Identity() const override { return folder_->Identity(); }
-  bool ListFolders(const FoundFolder& found) override {
+  FolderIdentity identity() const override { return folder_->identity(); }
+  bool list_folders(const FoundFolder& found) override {
     std::vector<std::pair<std::wstring, FolderKind>> folders;
-    const bool listed = folder_->ListFolders(
+    const bool listed = folder_->list_folders(
         [&](std::wstring_view name, FolderKind kind) { folders.emplace_back(name, kind); });
     std::sort(folders.begin(), folders.end(),
               [](const auto& a, const auto& b) { return stands_before(a.first, b.first); });
     for (const auto& [name, kind] : folders) found(name, kind);
     return listed;
   }
-  std::unique_ptr<OpenFolder> OpenChild(std::wstring_view name) const override {
-    return Sorted(folder_->OpenChild(name));
+  std::unique_ptr<OpenFolder> open_child(std::wstring_view name) const override {
+    return sorted(folder_->open_child(name));
   }
-  static std::unique_ptr<OpenFolder> Sorted(std::unique_ptr<OpenFolder> folder) {
+  static std::unique_ptr<OpenFolder> sorted(std::unique_ptr<OpenFolder> folder) {
     return folder ? std::make_unique<SortedFolder>(std::move(folder)) : nullptr;
   }
 
@@ -48,8 +48,8 @@ class SortedFolder : public OpenFolder {
 
 class Listing : public FolderListing {
  public:
-  std::unique_ptr<OpenFolder> Open(const wchar_t* path) override {
-    return SortedFolder::Sorted(system_->Open(path));
+  std::unique_ptr<OpenFolder> open(const wchar_t* path) override {
+    return SortedFolder::sorted(system_->open(path));
   }
 
  private:

@@ -38,7 +38,7 @@ class CHostWindow : public CWnd {
   const MessageMap* GetMessageMap() const override {
     static constexpr auto kMessages =
         MessageTable(OnMessage<WM_LAYER_BTN_CLICK>(&CHostWindow::OnButton));
-    static const MessageMap map = kMessages.Extending(CWnd::GetMessageMap());
+    static const MessageMap map = kMessages.extending(CWnd::GetMessageMap());
     return &map;
   }
 

@@ -52,7 +52,7 @@ class CPlainWindow : public LibraryWindow<CWnd> {
                                                    On<WM_DESTROY>(&CPlainWindow::OnDestroy),
                                                    OnMessage<WM_APP>(&CPlainWindow::OnSpeak));
     const auto with_keys = [this](std::optional<KeyFilter> keys) {
-      return WindowDescription{classCPlainWindow, kMessages.Extending(base_messages()), keys};
+      return WindowDescription{classCPlainWindow, kMessages.extending(base_messages()), keys};
     };
     static const WindowDescription filtered = with_keys(KeyFilter::swallow_only);
     static const WindowDescription unfiltered = with_keys(std::nullopt);
@@ -77,7 +77,7 @@ class CHostWindow : public CPlainWindow {
   const CRuntimeClass* GetRuntimeClass() const override { return &classCHostWindow; }
   const MessageMap* GetMessageMap() const override {
     static constexpr auto kMessages = MessageTable(OnMessage<WM_USER>(&CHostWindow::OnUser));
-    static const MessageMap map = kMessages.Extending(CPlainWindow::GetMessageMap());
+    static const MessageMap map = kMessages.extending(CPlainWindow::GetMessageMap());
     return &map;
   }
   LRESULT OnUser(WPARAM, LPARAM) { return 42; }

@@ -24,7 +24,7 @@ const WindowDescription& CWindowLayer::description() const {
       On<WM_PAINT>(&CWindowLayer::OnPaint), On<WM_LBUTTONDOWN>(&CWindowLayer::OnLButtonDown),
       On<WM_DESTROY>(&CWindowLayer::OnDestroy));
   static const WindowDescription description{
-      classCWindowLayer, kMessages.Extending(base_messages()), KeyFilter::to_main_window};
+      classCWindowLayer, kMessages.extending(base_messages()), KeyFilter::to_main_window};
   return description;
 }
 

@@ -21,7 +21,7 @@ const WindowDescription& CCutBgLayer::description() const {
       On<WM_DESTROY>(&CCutBgLayer::OnDestroy), On<WM_LBUTTONDOWN>(&CCutBgLayer::OnLButtonDown),
       On<WM_LBUTTONUP>(&CCutBgLayer::OnLButtonUp), On<WM_MOUSEMOVE>(&CCutBgLayer::OnMouseMove),
       On<WM_MOVE>(&CCutBgLayer::OnMove));
-  static const WindowDescription description{classCCutBgLayer, kMessages.Extending(base_messages()),
+  static const WindowDescription description{classCCutBgLayer, kMessages.extending(base_messages()),
                                              KeyFilter::to_parent};
   return description;
 }

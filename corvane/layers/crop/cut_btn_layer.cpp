@@ -22,7 +22,7 @@ const WindowDescription& CCutBtnLayer::description() const {
                    On<WM_DESTROY>(&CCutBtnLayer::OnDestroy), On<WM_PAINT>(&CCutBtnLayer::OnPaint),
                    On<WM_ERASEBKGND>(&CCutBtnLayer::OnEraseBkgnd));
   static const WindowDescription description{
-      classCCutBtnLayer, kMessages.Extending(base_messages()), KeyFilter::to_parent};
+      classCCutBtnLayer, kMessages.extending(base_messages()), KeyFilter::to_parent};
   return description;
 }
 

@@ -37,7 +37,7 @@ const WindowDescription& CCutRectLayer::description() const {
       On<WM_LBUTTONDOWN>(&CCutRectLayer::OnLButtonDown),
       On<WM_LBUTTONUP>(&CCutRectLayer::OnLButtonUp), On<WM_MOUSEMOVE>(&CCutRectLayer::OnMouseMove));
   static const WindowDescription description{
-      classCCutRectLayer, kMessages.Extending(base_messages()), KeyFilter::to_parent};
+      classCCutRectLayer, kMessages.extending(base_messages()), KeyFilter::to_parent};
   return description;
 }
 

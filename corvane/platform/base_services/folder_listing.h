@@ -32,14 +32,14 @@ class OpenFolder {
   OpenFolder& operator=(const OpenFolder&) = delete;
   virtual ~OpenFolder() = default;
 
-  virtual FolderIdentity Identity() const = 0;
+  virtual FolderIdentity identity() const = 0;
   // Hands over the name of every sub-folder, links to folders and hidden ones included, in the file
   // system's order; "." and ".." never. False when not even the first entry could be read; a
   // listing that fails later just ends. Each call lists anew.
-  virtual bool ListFolders(const FoundFolder& found) = 0;
-  // By a name as ListFolders gave it; a path, "." and ".." are no names. Null when it cannot be
+  virtual bool list_folders(const FoundFolder& found) = 0;
+  // By a name as list_folders gave it; a path, "." and ".." are no names. Null when it cannot be
   // opened.
-  virtual std::unique_ptr<OpenFolder> OpenChild(std::wstring_view name) const = 0;
+  virtual std::unique_ptr<OpenFolder> open_child(std::wstring_view name) const = 0;
 };
 
 class FolderListing {
@@ -51,7 +51,7 @@ class FolderListing {
 
   // Opens what the wide path with a backslash behind it names: "D:" is the root of that drive. Null
   // for what is no folder or cannot be listed, and for a null path.
-  virtual std::unique_ptr<OpenFolder> Open(const wchar_t* path) = 0;
+  virtual std::unique_ptr<OpenFolder> open(const wchar_t* path) = 0;
 };
 
 // The listing of the system's own files.

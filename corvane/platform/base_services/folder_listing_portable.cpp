@@ -16,13 +16,13 @@ class PortableFolder : public OpenFolder {
       : pool_(std::move(pool)), folder_(std::move(folder)) {}
   ~PortableFolder() override { pool_->release(*folder_); }
 
-  FolderIdentity Identity() const override { return {folder_->volume(), folder_->number()}; }
-  bool ListFolders(const FoundFolder& found) override {
+  FolderIdentity identity() const override { return {folder_->volume(), folder_->number()}; }
+  bool list_folders(const FoundFolder& found) override {
     return pool_->list_folders(*folder_, [&found](std::wstring_view name, bool through_link) {
       found(name, through_link ? FolderKind::link : FolderKind::folder);
     });
   }
-  std::unique_ptr<OpenFolder> OpenChild(std::wstring_view name) const override {
+  std::unique_ptr<OpenFolder> open_child(std::wstring_view name) const override {
     FolderPool::Folder child = pool_->open_child(folder_, name);
     return child ? std::make_unique<PortableFolder>(pool_, std::move(child)) : nullptr;
   }
@@ -34,7 +34,7 @@ class PortableFolder : public OpenFolder {
 
 class PortableListing : public FolderListing {
  public:
-  std::unique_ptr<OpenFolder> Open(const wchar_t* path) override {
+  std::unique_ptr<OpenFolder> open(const wchar_t* path) override {
     if (path == nullptr) return nullptr;
     const std::string bytes = system::file_system_path(std::wstring(path) + L"\\");
     FolderPool::Folder folder = bytes.empty() ? nullptr : pool_->open(bytes);

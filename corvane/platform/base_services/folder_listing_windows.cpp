@@ -51,9 +51,9 @@ class WindowsFolder : public OpenFolder {
   WindowsFolder(std::wstring path, const FolderIdentity& identity)
       : path_(std::move(path)), identity_(identity) {}
 
-  FolderIdentity Identity() const override { return identity_; }
-  bool ListFolders(const FoundFolder& found) override;
-  std::unique_ptr<OpenFolder> OpenChild(std::wstring_view name) const override {
+  FolderIdentity identity() const override { return identity_; }
+  bool list_folders(const FoundFolder& found) override;
+  std::unique_ptr<OpenFolder> open_child(std::wstring_view name) const override {
     return is_name(name) ? open(path_ + std::wstring(name) + L"\\") : nullptr;
   }
 
@@ -66,7 +66,7 @@ struct CloseFind {
   void operator()(HANDLE listing) const { FindClose(listing); }
 };
 
-bool WindowsFolder::ListFolders(const FoundFolder& found) {
+bool WindowsFolder::list_folders(const FoundFolder& found) {
   WIN32_FIND_DATAW entry{};
   const HANDLE listing = FindFirstFileW((path_ + L"*").c_str(), &entry);
   if (listing == INVALID_HANDLE_VALUE) return GetLastError() == ERROR_FILE_NOT_FOUND;
@@ -82,7 +82,7 @@ bool WindowsFolder::ListFolders(const FoundFolder& found) {
 
 class WindowsListing : public FolderListing {
  public:
-  std::unique_ptr<OpenFolder> Open(const wchar_t* path) override {
+  std::unique_ptr<OpenFolder> open(const wchar_t* path) override {
     return path ? WindowsFolder::open(long_path(std::wstring(path) + L"\\")) : nullptr;
   }
 };

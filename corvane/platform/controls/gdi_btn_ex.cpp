@@ -16,7 +16,7 @@ const MessageMap* CGdiBtnEx::GetMessageMap() const {
       On<WM_CAPTURECHANGED>(&CGdiBtnEx::OnCaptureChanged), On<WM_SETFOCUS>(&CGdiBtnEx::OnSetFocus),
       On<WM_KILLFOCUS>(&CGdiBtnEx::OnKillFocus), On<WM_KEYDOWN>(&CGdiBtnEx::OnKeyDown),
       On<WM_KEYUP>(&CGdiBtnEx::OnKeyUp), On<WM_GETDLGCODE>(&CGdiBtnEx::OnGetDlgCode));
-  static const MessageMap map = kMessages.Extending(CWnd::GetMessageMap());
+  static const MessageMap map = kMessages.extending(CWnd::GetMessageMap());
   return &map;
 }
 

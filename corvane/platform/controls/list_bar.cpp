@@ -4,7 +4,7 @@ namespace corvane {
 
 const MessageMap* CListBar::GetMessageMap() const {
   static constexpr auto kMessages = MessageTable(On<WM_SIZE>(&CListBar::OnSize));
-  static const MessageMap map = kMessages.Extending(CSkinnedWnd::GetMessageMap());
+  static const MessageMap map = kMessages.extending(CSkinnedWnd::GetMessageMap());
   return &map;
 }
 

@@ -4,7 +4,7 @@ namespace corvane {
 
 const MessageMap* CPictureEx::GetMessageMap() const {
   static constexpr auto kMessages = MessageTable(On<WM_NCHITTEST>(&CPictureEx::OnNcHitTest));
-  static const MessageMap map = kMessages.Extending(CSkinnedWnd::GetMessageMap());
+  static const MessageMap map = kMessages.extending(CSkinnedWnd::GetMessageMap());
   return &map;
 }
 

@@ -12,7 +12,7 @@ const MessageMap* CSkinnedWnd::GetMessageMap() const {
   static constexpr auto kMessages =
       MessageTable(On<WM_ERASEBKGND>(&CSkinnedWnd::OnEraseBkgnd),
                    On<WM_PAINT>(&CSkinnedWnd::OnPaint), On<WM_SIZE>(&CSkinnedWnd::OnSize));
-  static const MessageMap map = kMessages.Extending(CWnd::GetMessageMap());
+  static const MessageMap map = kMessages.extending(CWnd::GetMessageMap());
   return &map;
 }
 

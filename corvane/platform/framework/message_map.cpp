@@ -18,7 +18,7 @@ MessageMatch first_match(const MessageMap* map, const Fits& fits) {
 
 }  // namespace
 
-MessageMatch MessageMap::Find(UINT message) const {
+MessageMatch MessageMap::find(UINT message) const {
   return first_match(this, [message](const MessageEntry& entry) {
     if (entry.kind == MessageKind::window_message) return entry.number == message;
     return entry.kind == MessageKind::registered_message && *entry.registered != 0 &&
@@ -26,7 +26,7 @@ MessageMatch MessageMap::Find(UINT message) const {
   });
 }
 
-MessageMatch MessageMap::FindCommand(UINT id, UINT code) const {
+MessageMatch MessageMap::find_command(UINT id, UINT code) const {
   return first_match(this, [id, code](const MessageEntry& entry) {
     return entry.kind == MessageKind::command && entry.number == id && entry.code == code;
   });

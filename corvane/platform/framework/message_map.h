@@ -9,7 +9,7 @@
 //         OnMessage<WM_LAYER_DRAW>(&CMyLayer::OnDraw),         // LRESULT OnDraw(WPARAM, LPARAM)
 //         OnRegistered(&mouse_down_message, &CMyLayer::OnMouseDown),  // number known at run time
 //         OnCommandId(kMenuMove, &CMyLayer::OnMenuMove));      // void OnMenuMove()
-//     static const MessageMap map = kMessages.Extending(CWnd::GetMessageMap());
+//     static const MessageMap map = kMessages.extending(CWnd::GetMessageMap());
 //     return &map;
 //   }
 //
@@ -48,7 +48,7 @@ struct MessageMatch {
   const void* table = nullptr;
 
   explicit operator bool() const { return entry != nullptr; }
-  bool Call(CWnd& target, WPARAM wparam, LPARAM lparam, LRESULT& result) const {
+  bool call(CWnd& target, WPARAM wparam, LPARAM lparam, LRESULT& result) const {
     return entry->call(table, target, wparam, lparam, result);
   }
 };
@@ -59,8 +59,8 @@ struct MessageMap {
   const void* table = nullptr;
   const MessageMap* base = nullptr;
 
-  MessageMatch Find(UINT message) const;
-  MessageMatch FindCommand(UINT id, UINT code) const;
+  MessageMatch find(UINT message) const;
+  MessageMatch find_command(UINT id, UINT code) const;
 };
 
 template <class Handler>
@@ -97,7 +97,7 @@ struct MessageBinding {
   const UINT* registered;
   Handler handler;
 
-  bool Call(CWnd& target, WPARAM wparam, LPARAM lparam, LRESULT& result) const {
+  bool call(CWnd& target, WPARAM wparam, LPARAM lparam, LRESULT& result) const {
     using Owner = typename HandlerParts<Handler>::Owner;
     static_assert(std::derived_from<Owner, CWnd>,
                   "a message handler is a member of a window class");
@@ -105,7 +105,7 @@ struct MessageBinding {
     const auto bound = [&owner, this](auto&&... arguments) {
       return (owner.*handler)(std::forward<decltype(arguments)>(arguments)...);
     };
-    return Traits::Call(bound, wparam, lparam, result);
+    return Traits::call(bound, wparam, lparam, result);
   }
 };
 
@@ -157,7 +157,7 @@ class MessageTable {
   }
 
   // `base`: the map of the base class; null: nothing more to search.
-  constexpr MessageMap Extending(const MessageMap* base) const { return {entries_, this, base}; }
+  constexpr MessageMap extending(const MessageMap* base) const { return {entries_, this, base}; }
   constexpr std::span<const MessageEntry> entries() const { return entries_; }
 
  private:
@@ -168,7 +168,7 @@ class MessageTable {
   template <std::size_t index>
   static bool call(const void* table, CWnd& target, WPARAM wparam, LPARAM lparam, LRESULT& result) {
     const auto& own = *static_cast<const MessageTable*>(table);
-    return std::get<index>(own.bindings_).Call(target, wparam, lparam, result);
+    return std::get<index>(own.bindings_).call(target, wparam, lparam, result);
   }
   template <std::size_t... index>
   constexpr auto make_entries(std::index_sequence<index...>) const {

@@ -17,7 +17,7 @@ CWnd* wnd_from_parameter(LPARAM window);
 // Null for the window's own bar and for a control without a CScrollBar object.
 CScrollBar* scroll_bar_from_parameter(LPARAM window);
 
-// Each family has the handler's Signature and Call(handler, wparam, lparam, result), which returns
+// Each family has the handler's Signature and call(handler, wparam, lparam, result), which returns
 // false when the message shall go on to its default handling. `handler` is a callable with the
 // Signature.
 namespace message_families {
@@ -27,7 +27,7 @@ inline CPoint point_of(LPARAM lparam) { return {GET_X_LPARAM(lparam), GET_Y_LPAR
 struct Plain {
   using Signature = void();
   template <class Handler>
-  static bool Call(const Handler& handler, WPARAM, LPARAM, LRESULT&) {
+  static bool call(const Handler& handler, WPARAM, LPARAM, LRESULT&) {
     handler();
     return true;
   }
@@ -35,7 +35,7 @@ struct Plain {
 struct Generic {
   using Signature = LRESULT(WPARAM, LPARAM);
   template <class Handler>
-  static bool Call(const Handler& handler, WPARAM wparam, LPARAM lparam, LRESULT& result) {
+  static bool call(const Handler& handler, WPARAM wparam, LPARAM lparam, LRESULT& result) {
     result = handler(wparam, lparam);
     return true;
   }
@@ -43,7 +43,7 @@ struct Generic {
 struct Mouse {
   using Signature = void(UINT flags, CPoint point);
   template <class Handler>
-  static bool Call(const Handler& handler, WPARAM wparam, LPARAM lparam, LRESULT&) {
+  static bool call(const Handler& handler, WPARAM wparam, LPARAM lparam, LRESULT&) {
     handler(static_cast<UINT>(wparam), point_of(lparam));
     return true;
   }
@@ -52,7 +52,7 @@ struct Mouse {
 struct Wheel {
   using Signature = BOOL(UINT flags, short distance, CPoint point);
   template <class Handler>
-  static bool Call(const Handler& handler, WPARAM wparam, LPARAM lparam, LRESULT& result) {
+  static bool call(const Handler& handler, WPARAM wparam, LPARAM lparam, LRESULT& result) {
     result = handler(LOWORD(wparam), GET_WHEEL_DELTA_WPARAM(wparam), point_of(lparam));
     return result != 0;
   }
@@ -61,7 +61,7 @@ struct Wheel {
 struct Create {
   using Signature = int(LPCREATESTRUCT);
   template <class Handler>
-  static bool Call(const Handler& handler, WPARAM, LPARAM lparam, LRESULT& result) {
+  static bool call(const Handler& handler, WPARAM, LPARAM lparam, LRESULT& result) {
     result = handler(reinterpret_cast<LPCREATESTRUCT>(lparam));
     return true;
   }
@@ -69,7 +69,7 @@ struct Create {
 struct Size {
   using Signature = void(UINT kind, int width, int height);  // of the client area
   template <class Handler>
-  static bool Call(const Handler& handler, WPARAM wparam, LPARAM lparam, LRESULT&) {
+  static bool call(const Handler& handler, WPARAM wparam, LPARAM lparam, LRESULT&) {
     const auto size = static_cast<DWORD_PTR>(lparam);
     handler(static_cast<UINT>(wparam), LOWORD(size), HIWORD(size));
     return true;
@@ -79,7 +79,7 @@ struct Size {
 struct Move {
   using Signature = void(int x, int y);
   template <class Handler>
-  static bool Call(const Handler& handler, WPARAM, LPARAM lparam, LRESULT&) {
+  static bool call(const Handler& handler, WPARAM, LPARAM lparam, LRESULT&) {
     handler(GET_X_LPARAM(lparam), GET_Y_LPARAM(lparam));
     return true;
   }
@@ -88,7 +88,7 @@ struct Move {
 struct Erase {
   using Signature = BOOL(CDC* dc);
   template <class Handler>
-  static bool Call(const Handler& handler, WPARAM wparam, LPARAM, LRESULT& result) {
+  static bool call(const Handler& handler, WPARAM wparam, LPARAM, LRESULT& result) {
     CDC dc;
     dc.Attach(reinterpret_cast<HDC>(wparam));
     result = handler(&dc);
@@ -99,7 +99,7 @@ struct Erase {
 struct Timer {
   using Signature = void(UINT_PTR id);
   template <class Handler>
-  static bool Call(const Handler& handler, WPARAM wparam, LPARAM, LRESULT&) {
+  static bool call(const Handler& handler, WPARAM wparam, LPARAM, LRESULT&) {
     handler(wparam);
     return true;
   }
@@ -108,7 +108,7 @@ struct Timer {
 struct SetCursor {
   using Signature = BOOL(CWnd* window, UINT hit_code, UINT mouse_message);
   template <class Handler>
-  static bool Call(const Handler& handler, WPARAM wparam, LPARAM lparam, LRESULT& result) {
+  static bool call(const Handler& handler, WPARAM wparam, LPARAM lparam, LRESULT& result) {
     const auto packed = static_cast<DWORD_PTR>(lparam);
     // The hit code is signed in 16 bits (HTERROR, HTTRANSPARENT) and stays so in the argument.
     const auto hit = static_cast<UINT>(static_cast<SHORT>(LOWORD(packed)));
@@ -119,7 +119,7 @@ struct SetCursor {
 struct MouseActivate {
   using Signature = int(CWnd* top_level, UINT hit_code, UINT mouse_message);
   template <class Handler>
-  static bool Call(const Handler& handler, WPARAM wparam, LPARAM lparam, LRESULT& result) {
+  static bool call(const Handler& handler, WPARAM wparam, LPARAM lparam, LRESULT& result) {
     const auto packed = static_cast<DWORD_PTR>(lparam);
     const auto hit = static_cast<UINT>(static_cast<SHORT>(LOWORD(packed)));
     result = handler(wnd_from_parameter(wparam), hit, HIWORD(packed));
@@ -129,7 +129,7 @@ struct MouseActivate {
 struct Focus {
   using Signature = void(CWnd* other);  // the window that loses or gets the focus
   template <class Handler>
-  static bool Call(const Handler& handler, WPARAM wparam, LPARAM, LRESULT&) {
+  static bool call(const Handler& handler, WPARAM wparam, LPARAM, LRESULT&) {
     handler(wnd_from_parameter(wparam));
     return true;
   }
@@ -137,7 +137,7 @@ struct Focus {
 struct CaptureChanged {
   using Signature = void(CWnd* new_owner);
   template <class Handler>
-  static bool Call(const Handler& handler, WPARAM, LPARAM lparam, LRESULT&) {
+  static bool call(const Handler& handler, WPARAM, LPARAM lparam, LRESULT&) {
     handler(wnd_from_parameter(lparam));
     return true;
   }
@@ -145,7 +145,7 @@ struct CaptureChanged {
 struct Key {
   using Signature = void(UINT key_or_character, UINT repeats, UINT flags);
   template <class Handler>
-  static bool Call(const Handler& handler, WPARAM wparam, LPARAM lparam, LRESULT&) {
+  static bool call(const Handler& handler, WPARAM wparam, LPARAM lparam, LRESULT&) {
     const auto packed = static_cast<DWORD_PTR>(lparam);
     handler(static_cast<UINT>(wparam), LOWORD(packed), HIWORD(packed));
     return true;
@@ -154,7 +154,7 @@ struct Key {
 struct Activate {
   using Signature = void(UINT state, CWnd* other, BOOL minimized);
   template <class Handler>
-  static bool Call(const Handler& handler, WPARAM wparam, LPARAM lparam, LRESULT&) {
+  static bool call(const Handler& handler, WPARAM wparam, LPARAM lparam, LRESULT&) {
     handler(LOWORD(wparam), wnd_from_parameter(lparam), HIWORD(wparam));
     return true;
   }
@@ -162,7 +162,7 @@ struct Activate {
 struct Show {
   using Signature = void(BOOL shown, UINT reason);
   template <class Handler>
-  static bool Call(const Handler& handler, WPARAM wparam, LPARAM lparam, LRESULT&) {
+  static bool call(const Handler& handler, WPARAM wparam, LPARAM lparam, LRESULT&) {
     handler(wparam != 0, static_cast<UINT>(lparam));
     return true;
   }
@@ -170,7 +170,7 @@ struct Show {
 struct Enable {
   using Signature = void(BOOL enabled);
   template <class Handler>
-  static bool Call(const Handler& handler, WPARAM wparam, LPARAM, LRESULT&) {
+  static bool call(const Handler& handler, WPARAM wparam, LPARAM, LRESULT&) {
     handler(wparam != 0);
     return true;
   }
@@ -178,7 +178,7 @@ struct Enable {
 struct Scroll {
   using Signature = void(UINT code, UINT position, CScrollBar* bar);
   template <class Handler>
-  static bool Call(const Handler& handler, WPARAM wparam, LPARAM lparam, LRESULT&) {
+  static bool call(const Handler& handler, WPARAM wparam, LPARAM lparam, LRESULT&) {
     handler(LOWORD(wparam), HIWORD(wparam), scroll_bar_from_parameter(lparam));
     return true;
   }
@@ -186,7 +186,7 @@ struct Scroll {
 struct HitTest {
   using Signature = LRESULT(CPoint screen_point);
   template <class Handler>
-  static bool Call(const Handler& handler, WPARAM, LPARAM lparam, LRESULT& result) {
+  static bool call(const Handler& handler, WPARAM, LPARAM lparam, LRESULT& result) {
     result = handler(point_of(lparam));
     return true;
   }
@@ -194,7 +194,7 @@ struct HitTest {
 struct DialogCode {
   using Signature = UINT();
   template <class Handler>
-  static bool Call(const Handler& handler, WPARAM, LPARAM, LRESULT& result) {
+  static bool call(const Handler& handler, WPARAM, LPARAM, LRESULT& result) {
     result = static_cast<LRESULT>(handler());
     return true;
   }
@@ -202,7 +202,7 @@ struct DialogCode {
 struct SysCommand {
   using Signature = void(UINT command, LPARAM lparam);
   template <class Handler>
-  static bool Call(const Handler& handler, WPARAM wparam, LPARAM lparam, LRESULT&) {
+  static bool call(const Handler& handler, WPARAM wparam, LPARAM lparam, LRESULT&) {
     handler(static_cast<UINT>(wparam), lparam);
     return true;
   }
@@ -210,7 +210,7 @@ struct SysCommand {
 struct ContextMenu {
   using Signature = void(CWnd* window, CPoint screen_point);
   template <class Handler>
-  static bool Call(const Handler& handler, WPARAM wparam, LPARAM lparam, LRESULT&) {
+  static bool call(const Handler& handler, WPARAM wparam, LPARAM lparam, LRESULT&) {
     handler(wnd_from_parameter(wparam), point_of(lparam));
     return true;
   }
@@ -219,7 +219,7 @@ template <class Record>
 struct WithRecord {
   using Signature = void(Record*);
   template <class Handler>
-  static bool Call(const Handler& handler, WPARAM, LPARAM lparam, LRESULT&) {
+  static bool call(const Handler& handler, WPARAM, LPARAM lparam, LRESULT&) {
     handler(reinterpret_cast<Record*>(lparam));
     return true;
   }

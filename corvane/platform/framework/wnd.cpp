@@ -75,7 +75,7 @@ BOOL CWnd::DestroyWindow() { return ::DestroyWindow(m_hWnd); }
 
 const MessageMap* CWnd::GetMessageMap() const {
   static constexpr auto kMessages = MessageTable(On<WM_NCDESTROY>(&CWnd::OnNcDestroy));
-  static const MessageMap map = kMessages.Extending(nullptr);
+  static const MessageMap map = kMessages.extending(nullptr);
   return &map;
 }
 
@@ -99,8 +99,8 @@ bool CWnd::OnWndMsg(UINT message, WPARAM wparam, LPARAM lparam, LRESULT* result)
   }
   if (message == WM_NOTIFY && OnNotify(wparam, lparam, result)) return true;
   if (watch.window_gone()) return true;
-  const MessageMatch match = GetMessageMap()->Find(message);
-  return match && match.Call(*this, wparam, lparam, *result);
+  const MessageMatch match = GetMessageMap()->find(message);
+  return match && match.call(*this, wparam, lparam, *result);
 }
 
 BOOL CWnd::OnCommand(WPARAM wparam, LPARAM lparam) {
@@ -111,8 +111,8 @@ BOOL CWnd::OnCommand(WPARAM wparam, LPARAM lparam) {
     return TRUE;
   if (watch.window_gone()) return TRUE;
   const UINT code = lparam ? HIWORD(wparam) : 0;
-  const MessageMatch match = GetMessageMap()->FindCommand(LOWORD(wparam), code);
-  return match && match.Call(*this, wparam, lparam, ignored) ? TRUE : FALSE;
+  const MessageMatch match = GetMessageMap()->find_command(LOWORD(wparam), code);
+  return match && match.call(*this, wparam, lparam, ignored) ? TRUE : FALSE;
 }
 
 BOOL CWnd::OnNotify(WPARAM wparam, LPARAM lparam, LRESULT* result) {

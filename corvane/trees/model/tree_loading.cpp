@@ -17,7 +17,7 @@ class FolderLoad {
       : model_(model), listing_(listing), path_(std::move(path)) {}
 
   bool run(_NODE& top) {
-    std::unique_ptr<OpenFolder> folder = listing_.Open(path_.c_str());
+    std::unique_ptr<OpenFolder> folder = listing_.open(path_.c_str());
     if (!folder) return false;
     guard_.enter_all_above(listing_, path_);
     // What was asked for is listed wherever it leads.
@@ -42,11 +42,11 @@ class FolderLoad {
   bool enter(std::unique_ptr<OpenFolder> folder, _NODE& node) {
     Level level;
     ChildNames names(model_, node);
-    const bool listed = folder->ListFolders([&](std::wstring_view name, FolderKind kind) {
+    const bool listed = folder->list_folders([&](std::wstring_view name, FolderKind kind) {
       if (!name.starts_with(L'.')) level.children.push_back({&names.child(name), kind});
     });
     if (level.children.empty()) return listed;
-    guard_.enter(folder->Identity());
+    guard_.enter(folder->identity());
     level.folder = std::move(folder);
     levels_.push_back(std::move(level));
     return listed;
@@ -60,10 +60,10 @@ class FolderLoad {
       return;
     }
     const Child child = level.children[level.next++];
-    std::unique_ptr<OpenFolder> folder = level.folder->OpenChild(child.node->name().AsStdString());
+    std::unique_ptr<OpenFolder> folder = level.folder->open_child(child.node->name().AsStdString());
     if (level.next == level.children.size()) level.folder.reset();
     if (!folder) return;
-    if (!guard_.lets_in(folder->Identity(), child.kind)) return;
+    if (!guard_.lets_in(folder->identity(), child.kind)) return;
     enter(std::move(folder), *child.node);
   }
 

@@ -35,7 +35,7 @@ const WindowDescription& CTreeCtrlEx2::description() const {
       On<WM_LBUTTONDBLCLK>(&CTreeCtrlEx2::OnLButtonDblClk),
       On<WM_VSCROLL>(&CTreeCtrlEx2::OnVScroll), On<WM_MOUSEWHEEL>(&CTreeCtrlEx2::OnMouseWheel));
   static const WindowDescription description{
-      classCTreeCtrlEx2, kMessages.Extending(base_messages()), KeyFilter::to_parent};
+      classCTreeCtrlEx2, kMessages.extending(base_messages()), KeyFilter::to_parent};
   return description;
 }
 

@@ -19,8 +19,8 @@ std::size_t CircleGuard::IdentityHash::operator()(const FolderIdentity& identity
 void CircleGuard::enter_all_above(FolderListing& listing, std::wstring_view path) {
   std::wstring_view above = parent_path(path);
   for (; !above.empty(); above = parent_path(above)) {
-    const auto folder = listing.Open(std::wstring(above).c_str());
-    if (folder != nullptr) enter(folder->Identity());
+    const auto folder = listing.open(std::wstring(above).c_str());
+    if (folder != nullptr) enter(folder->identity());
   }
 }
 

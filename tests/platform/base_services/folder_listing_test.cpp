@@ -17,7 +17,7 @@ namespace {
 using test::TemporaryFolder;
 
 std::unique_ptr<OpenFolder> opened(const std::wstring& path) {
-  return system_folder_listing()->Open(path.c_str());
+  return system_folder_listing()->open(path.c_str());
 }
 
 std::unique_ptr<OpenFolder> opened(const std::string& path) {
@@ -26,7 +26,7 @@ std::unique_ptr<OpenFolder> opened(const std::string& path) {
 
 std::vector<std::wstring> names_in(OpenFolder& folder) {
   std::vector<std::wstring> names;
-  EXPECT_TRUE(folder.ListFolders(
+  EXPECT_TRUE(folder.list_folders(
       [&names](std::wstring_view name, FolderKind) { names.emplace_back(name); }));
   return names;
 }
@@ -89,7 +89,7 @@ TEST(FolderListing, EveryNameGoesOutAndBackIn) {
   for (const std::string& name : names) {
     const std::wstring wide = system::wide_name(name);
     EXPECT_EQ(std::count(found.begin(), found.end(), wide), 1) << name;
-    const auto child = outer->OpenChild(wide);
+    const auto child = outer->open_child(wide);
     ASSERT_TRUE(child) << name;
     EXPECT_EQ(names_in(*child), std::vector<std::wstring>{L"inner"}) << name;
   }
@@ -106,7 +106,7 @@ TEST(FolderListing, WhatIsNoNameOfASubFolderDoesNotOpen) {
        {std::wstring(), std::wstring(L"."), std::wstring(L".."), std::wstring(L"a\\b"),
         std::wstring(L"a/b"), std::wstring(L"file"), std::wstring(L"gone"), std::wstring(L"a\0", 2),
         std::wstring(L"\x110000"), too_long}) {
-    EXPECT_FALSE(outer->OpenChild(name));
+    EXPECT_FALSE(outer->open_child(name));
   }
 }
 
@@ -118,7 +118,7 @@ TEST(FolderListing, WhatIsNoFolderDoesNotOpen) {
   for (const char* name : {"file", "dangling", "pipe", "gone", "file/x"})
     EXPECT_FALSE(opened(folder / name)) << name;
   for (const wchar_t* path : {L"Q:", L"Q:\\a", L"Z:\\\x110000"}) EXPECT_FALSE(opened(path));
-  EXPECT_FALSE(system_folder_listing()->Open(nullptr));
+  EXPECT_FALSE(system_folder_listing()->open(nullptr));
 }
 
 TEST(FolderListing, OnePathManySpellings) {
@@ -127,20 +127,20 @@ TEST(FolderListing, OnePathManySpellings) {
   folder.folder("album/year");
   ASSERT_TRUE(system::mount_drive(L'D', folder.path().native()));
   ASSERT_TRUE(system::mount_drive(L'E', folder / "album"));
-  const FolderIdentity album = opened(folder / "album")->Identity();
+  const FolderIdentity album = opened(folder / "album")->identity();
   for (const wchar_t* path : {L"D:\\album", L"D:\\album\\", L"d:/album", L"D:\\album\\\\",
                               L"\\\\?\\D:\\album", L"D:album", L"E:", L"E:\\", L"e:/"}) {
     const auto same = opened(path);
     ASSERT_TRUE(same);
-    EXPECT_EQ(same->Identity(), album);
+    EXPECT_EQ(same->identity(), album);
     EXPECT_EQ(names_in(*same), std::vector<std::wstring>{L"year"});
   }
-  EXPECT_NE(opened(L"D:")->Identity(), album);
+  EXPECT_NE(opened(L"D:")->identity(), album);
   system::mount_drive(L'D', "");
   system::mount_drive(L'E', "");
   EXPECT_FALSE(opened(L"D:\\album"));
-  EXPECT_EQ(opened(L"Z:")->Identity(), opened(L"Z:\\")->Identity());
-  EXPECT_EQ(opened(L"")->Identity(), opened(L"Z:")->Identity());
+  EXPECT_EQ(opened(L"Z:")->identity(), opened(L"Z:\\")->identity());
+  EXPECT_EQ(opened(L"")->identity(), opened(L"Z:")->identity());
 }
 
 TEST(FolderListing, LinksToFoldersAreFolders) {
@@ -157,12 +157,12 @@ TEST(FolderListing, LinksToFoldersAreFolders) {
   const auto outer = opened(folder.path().native());
   EXPECT_EQ(sorted_names_in(*outer),
             (std::vector<std::wstring>{L"real", L"to folder", L"to link"}));
-  const auto real = outer->OpenChild(L"real");
-  EXPECT_EQ(outer->OpenChild(L"to link")->Identity(), real->Identity());
-  const auto inner = real->OpenChild(L"inner");
-  EXPECT_NE(inner->Identity(), real->Identity());
+  const auto real = outer->open_child(L"real");
+  EXPECT_EQ(outer->open_child(L"to link")->identity(), real->identity());
+  const auto inner = real->open_child(L"inner");
+  EXPECT_NE(inner->identity(), real->identity());
   EXPECT_EQ(names_in(*inner), std::vector<std::wstring>{L"up"});
-  EXPECT_EQ(inner->OpenChild(L"up")->Identity(), real->Identity());
+  EXPECT_EQ(inner->open_child(L"up")->identity(), real->identity());
 }
 
 TEST(FolderListing, FollowsTheFileSystemsOrderEveryTime) {
@@ -181,14 +181,14 @@ TEST(FolderListing, FolderThatIsGoneOrClosedToUs) {
   folder.folder("gone");
   folder.folder("closed");
   const auto outer = opened(folder.path().native());
-  const auto gone = outer->OpenChild(L"gone");
+  const auto gone = outer->open_child(L"gone");
   ASSERT_TRUE(gone);
   std::filesystem::remove(folder / "gone");
-  EXPECT_FALSE(gone->ListFolders([](std::wstring_view, FolderKind) { FAIL(); }));
-  EXPECT_FALSE(gone->OpenChild(L"x"));
+  EXPECT_FALSE(gone->list_folders([](std::wstring_view, FolderKind) { FAIL(); }));
+  EXPECT_FALSE(gone->open_child(L"x"));
   if (geteuid() == 0) return;  // nothing is closed to root
   chmod((folder / "closed").c_str(), 0);
-  EXPECT_FALSE(outer->OpenChild(L"closed"));
+  EXPECT_FALSE(outer->open_child(L"closed"));
   EXPECT_FALSE(opened(folder / "closed"));
 }
 
@@ -201,8 +201,8 @@ TEST(FolderListing, ListsInsideAListing) {
   const auto outer = opened(folder.path().native());
   std::size_t inner_names = 0;
   std::vector<std::wstring> names;
-  EXPECT_TRUE(outer->ListFolders([&](std::wstring_view name, FolderKind) {
-    inner_names += names_in(*outer->OpenChild(name)).size();
+  EXPECT_TRUE(outer->list_folders([&](std::wstring_view name, FolderKind) {
+    inner_names += names_in(*outer->open_child(name)).size();
     names.emplace_back(name);
   }));
   std::sort(names.begin(), names.end());
@@ -214,7 +214,7 @@ TEST(FolderListing, ListingThatThrowsLeavesTheFolderUsable) {
   const TemporaryFolder folder;
   folder.folder("a");
   const auto outer = opened(folder.path().native());
-  EXPECT_THROW(outer->ListFolders([](std::wstring_view, FolderKind) { throw 1; }), int);
+  EXPECT_THROW(outer->list_folders([](std::wstring_view, FolderKind) { throw 1; }), int);
   EXPECT_EQ(names_in(*outer), std::vector<std::wstring>{L"a"});
 }
 
@@ -225,7 +225,7 @@ TEST(FolderListing, DeeperThanAnyPath) {
   const FewDescriptors few(256);
   std::vector<std::unique_ptr<OpenFolder>> all;  // every one of them stays open
   all.push_back(opened(folder.path().native()));
-  while (all.back()) all.push_back(all.back()->OpenChild(L"deep"));
+  while (all.back()) all.push_back(all.back()->open_child(L"deep"));
   all.pop_back();
   ASSERT_EQ(all.size(), levels + 1u);
   EXPECT_TRUE(names_in(*all.back()).empty());
@@ -239,7 +239,7 @@ TEST(FolderListing, DeeperThanAnyPath) {
   for (int level = 0; level < levels; ++level) path += L"\\deep";
   const auto by_path = opened(path);
   ASSERT_TRUE(by_path);
-  EXPECT_EQ(by_path->Identity(), bottom->Identity());
+  EXPECT_EQ(by_path->identity(), bottom->identity());
 }
 
 TEST(FolderListing, FolderOpenedAgainIsTheSameOrNone) {
@@ -248,15 +248,15 @@ TEST(FolderListing, FolderOpenedAgainIsTheSameOrNone) {
   folder.folder("replaced");
   folder.folder("other");
   const auto outer = opened(folder.path().native());
-  const auto kept = outer->OpenChild(L"kept");
-  const auto replaced = outer->OpenChild(L"replaced");
+  const auto kept = outer->open_child(L"kept");
+  const auto replaced = outer->open_child(L"replaced");
   std::vector<std::unique_ptr<OpenFolder>> others;
-  for (int number = 0; number < 300; ++number) others.push_back(outer->OpenChild(L"other"));
+  for (int number = 0; number < 300; ++number) others.push_back(outer->open_child(L"other"));
   folder.folder("kept/new");
   std::filesystem::rename(folder / "replaced", folder / "elsewhere");
   folder.folder("replaced");
   EXPECT_EQ(names_in(*kept), std::vector<std::wstring>{L"new"});
-  EXPECT_FALSE(replaced->ListFolders([](std::wstring_view, FolderKind) {}));
+  EXPECT_FALSE(replaced->list_folders([](std::wstring_view, FolderKind) {}));
 }
 
 }  // namespace

@@ -8,7 +8,7 @@ const MessageMap* ControlHost::GetMessageMap() const {
   static constexpr auto kMessages = MessageTable(On<WM_LBUTTONDOWN>(&ControlHost::OnLButtonDown),
                                                  On<WM_ERASEBKGND>(&ControlHost::OnEraseBkgnd),
                                                  On<WM_PAINT>(&ControlHost::OnPaint));
-  static const MessageMap map = kMessages.Extending(CWnd::GetMessageMap());
+  static const MessageMap map = kMessages.extending(CWnd::GetMessageMap());
   return &map;
 }
 

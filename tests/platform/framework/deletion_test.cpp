@@ -95,7 +95,7 @@ const MessageMap* FragileWnd::GetMessageMap() const {
       On<WM_MOUSEMOVE>(&W::Mouse), On<WM_LBUTTONDOWN>(&W::Mouse), On<WM_LBUTTONUP>(&W::Mouse),
       On<WM_LBUTTONDBLCLK>(&W::Mouse), On<WM_RBUTTONDOWN>(&W::Mouse), On<WM_MOUSEWHEEL>(&W::Wheel),
       On<WM_CANCELMODE>(&W::Plain), OnMessage<WM_USER>(&W::Generic));
-  static const MessageMap map = kMessages.Extending(WatchedWnd::GetMessageMap());
+  static const MessageMap map = kMessages.extending(WatchedWnd::GetMessageMap());
   return &map;
 }
 

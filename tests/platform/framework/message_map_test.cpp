@@ -26,11 +26,11 @@ class Recorder : public CWnd {
 
   // What the map's handler was called with; "none" when no row was found.
   std::string send(UINT message, WPARAM wparam, LPARAM lparam) {
-    const MessageMatch match = GetMessageMap()->Find(message);
+    const MessageMatch match = GetMessageMap()->find(message);
     if (!match) return "none";
     seen.clear();
     result = -99;
-    handled = match.Call(*this, wparam, lparam, result);
+    handled = match.call(*this, wparam, lparam, result);
     return seen;
   }
 
@@ -90,7 +90,7 @@ const MessageMap* Recorder::GetMessageMap() const {
                    On<WM_SHOWWINDOW>(&Recorder::Show), On<WM_ACTIVATE>(&Recorder::Active),
                    On<WM_NCHITTEST>(&Recorder::HitTest), On<WM_GETDLGCODE>(&Recorder::DialogCode),
                    On<WM_VSCROLL>(&Recorder::Scroll), OnMessage<kDraw>(&Recorder::Draw));
-  static const MessageMap map = kMessages.Extending(CWnd::GetMessageMap());
+  static const MessageMap map = kMessages.extending(CWnd::GetMessageMap());
   return &map;
 }
 
@@ -168,7 +168,7 @@ class Base : public CWnd {
         MessageTable(On<WM_CLOSE>(&Base::OnClose), On<WM_DESTROY>(&Base::OnDestroy),
                      OnRegistered(&registered, &Base::OnRegisteredMessage),
                      OnCommandId(kCommand, &Base::OnMenu));
-    static const MessageMap map = kMessages.Extending(CWnd::GetMessageMap());
+    static const MessageMap map = kMessages.extending(CWnd::GetMessageMap());
     return &map;
   }
   std::vector<std::string> calls;
@@ -192,7 +192,7 @@ class Derived : public Middle {
     static constexpr auto kMessages =
         MessageTable(On<WM_CLOSE>(&Derived::OnClose), On<WM_TIMER>(&Derived::OnTimer),
                      OnCommandId(kCommand, &Derived::OnButton, 3));
-    static const MessageMap map = kMessages.Extending(Middle::GetMessageMap());
+    static const MessageMap map = kMessages.extending(Middle::GetMessageMap());
     return &map;
   }
 
@@ -208,7 +208,7 @@ class Derived : public Middle {
 std::vector<std::string> calls_of(Base& target, const MessageMatch& match) {
   target.calls.clear();
   LRESULT result = 0;
-  if (match) match.Call(target, 0, 0, result);
+  if (match) match.call(target, 0, 0, result);
   return target.calls;
 }
 
@@ -218,32 +218,32 @@ TEST(FrameworkMessageMap, SearchesTheClassBeforeItsBases) {
   Derived derived;
   Base base;
   const MessageMap* map = derived.GetMessageMap();
-  EXPECT_EQ(calls_of(derived, map->Find(WM_CLOSE)), (Calls{"derived close", "base close"}));
-  EXPECT_EQ(calls_of(derived, map->Find(WM_DESTROY)), (Calls{"base destroy"}));
-  EXPECT_EQ(calls_of(derived, map->Find(WM_TIMER)), (Calls{"derived timer"}));
-  EXPECT_EQ(calls_of(base, base.GetMessageMap()->Find(WM_CLOSE)), (Calls{"base close"}));
-  EXPECT_FALSE(base.GetMessageMap()->Find(WM_TIMER));
-  EXPECT_FALSE(map->Find(WM_PAINT));
+  EXPECT_EQ(calls_of(derived, map->find(WM_CLOSE)), (Calls{"derived close", "base close"}));
+  EXPECT_EQ(calls_of(derived, map->find(WM_DESTROY)), (Calls{"base destroy"}));
+  EXPECT_EQ(calls_of(derived, map->find(WM_TIMER)), (Calls{"derived timer"}));
+  EXPECT_EQ(calls_of(base, base.GetMessageMap()->find(WM_CLOSE)), (Calls{"base close"}));
+  EXPECT_FALSE(base.GetMessageMap()->find(WM_TIMER));
+  EXPECT_FALSE(map->find(WM_PAINT));
 }
 
 TEST(FrameworkMessageMap, KnowsARegisteredMessageFromWhenItIsRegistered) {
   Derived derived;
   const MessageMap* map = derived.GetMessageMap();
   Base::registered = 0;
-  EXPECT_FALSE(map->Find(0)) << "not registered yet, and not the null message";
+  EXPECT_FALSE(map->find(0)) << "not registered yet, and not the null message";
   Base::registered = 0xC123;
-  EXPECT_EQ(calls_of(derived, map->Find(0xC123)), (Calls{"base registered"}));
-  EXPECT_FALSE(map->Find(0xC124));
+  EXPECT_EQ(calls_of(derived, map->find(0xC123)), (Calls{"base registered"}));
+  EXPECT_FALSE(map->find(0xC124));
 }
 
 TEST(FrameworkMessageMap, TellsCommandsByIdAndCode) {
   Derived derived;
   const MessageMap* map = derived.GetMessageMap();
-  EXPECT_EQ(calls_of(derived, map->FindCommand(kCommand, 0)), (Calls{"base menu"}));
-  EXPECT_EQ(calls_of(derived, map->FindCommand(kCommand, 3)), (Calls{"derived button"}));
-  EXPECT_FALSE(map->FindCommand(kCommand, 4));
-  EXPECT_FALSE(map->FindCommand(WM_CLOSE, 0)) << "a message's number is no command";
-  EXPECT_FALSE(map->Find(kCommand)) << "a command's id is no message";
+  EXPECT_EQ(calls_of(derived, map->find_command(kCommand, 0)), (Calls{"base menu"}));
+  EXPECT_EQ(calls_of(derived, map->find_command(kCommand, 3)), (Calls{"derived button"}));
+  EXPECT_FALSE(map->find_command(kCommand, 4));
+  EXPECT_FALSE(map->find_command(WM_CLOSE, 0)) << "a message's number is no command";
+  EXPECT_FALSE(map->find(kCommand)) << "a command's id is no message";
 }
 
 // What On<message>(...) refuses to compile.

@@ -126,7 +126,7 @@ class ForgetfulWnd : public WatchedWnd {
  public:
   const MessageMap* GetMessageMap() const override {
     static constexpr auto kMessages = MessageTable(On<WM_NCDESTROY>(&ForgetfulWnd::OnNcDestroy));
-    static const MessageMap map = kMessages.Extending(WatchedWnd::GetMessageMap());
+    static const MessageMap map = kMessages.extending(WatchedWnd::GetMessageMap());
     return &map;
   }
 
@@ -168,7 +168,7 @@ class AskingWnd : public WatchedWnd {
  public:
   const MessageMap* GetMessageMap() const override {
     static constexpr auto kMessages = MessageTable(OnMessage<kAsk>(&AskingWnd::OnAsk));
-    static const MessageMap map = kMessages.Extending(WatchedWnd::GetMessageMap());
+    static const MessageMap map = kMessages.extending(WatchedWnd::GetMessageMap());
     return &map;
   }
   HWND other = nullptr;
@@ -235,7 +235,7 @@ class CommandWnd : public WatchedWnd {
   const MessageMap* GetMessageMap() const override {
     static constexpr auto kMessages = MessageTable(OnCommandId(5, &CommandWnd::OnMenu),
                                                    OnCommandId(5, &CommandWnd::OnControl, 2));
-    static const MessageMap map = kMessages.Extending(WatchedWnd::GetMessageMap());
+    static const MessageMap map = kMessages.extending(WatchedWnd::GetMessageMap());
     return &map;
   }
   int menu = 0, control = 0;
@@ -439,7 +439,7 @@ class PaintedWnd : public WatchedWnd {
     static constexpr auto kMessages = MessageTable(On<WM_PAINT>(&PaintedWnd::OnPaint),
                                                    On<WM_LBUTTONDOWN>(&PaintedWnd::OnLButtonDown),
                                                    On<WM_MOUSEWHEEL>(&PaintedWnd::OnMouseWheel));
-    static const MessageMap map = kMessages.Extending(WatchedWnd::GetMessageMap());
+    static const MessageMap map = kMessages.extending(WatchedWnd::GetMessageMap());
     return &map;
   }
   int paints = 0;
@@ -498,7 +498,7 @@ class PassingWnd : public WatchedWnd {
  public:
   const MessageMap* GetMessageMap() const override {
     static constexpr auto kMessages = MessageTable(On<WM_MOUSEWHEEL>(&PassingWnd::OnMouseWheel));
-    static const MessageMap map = kMessages.Extending(WatchedWnd::GetMessageMap());
+    static const MessageMap map = kMessages.extending(WatchedWnd::GetMessageMap());
     return &map;
   }
 

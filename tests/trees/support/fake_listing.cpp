@@ -13,9 +13,9 @@ class FakeFolder : public OpenFolder {
   }
   ~FakeFolder() override { --listing_.open_; }
 
-  FolderIdentity Identity() const override { return {1, identity_}; }
+  FolderIdentity identity() const override { return {1, identity_}; }
 
-  bool ListFolders(const corvane::FoundFolder& found) override {
+  bool list_folders(const corvane::FoundFolder& found) override {
     if (listing_.fails(path_, 0)) return false;
     std::size_t count = 0;
     for (const std::wstring& name : listing_.names_.at(path_)) {
@@ -26,7 +26,7 @@ class FakeFolder : public OpenFolder {
     return true;
   }
 
-  std::unique_ptr<OpenFolder> OpenChild(std::wstring_view name) const override {
+  std::unique_ptr<OpenFolder> open_child(std::wstring_view name) const override {
     return listing_.open_path(path_ + L'\\' + std::wstring(name));
   }
 
@@ -61,7 +61,7 @@ void FakeListing::add_comb(const std::wstring& path, int depth) {
   }
 }
 
-std::unique_ptr<OpenFolder> FakeListing::Open(const wchar_t* path) {
+std::unique_ptr<OpenFolder> FakeListing::open(const wchar_t* path) {
   std::wstring folder = path;
   while (!names_.count(folder) && folder.ends_with(L'\\')) folder.pop_back();
   return open_path(folder);

@@ -19,7 +19,7 @@ class FakeListing : public corvane::FolderListing {
   // A chain of folders, each beside another one without sub-folders.
   void add_comb(const std::wstring& path, int depth);
 
-  std::unique_ptr<corvane::OpenFolder> Open(const wchar_t* path) override;
+  std::unique_ptr<corvane::OpenFolder> open(const wchar_t* path) override;
 
   // The operation with that number, counted from 1, fails: opening a folder, beginning to list it,
   // or handing over its next name.
