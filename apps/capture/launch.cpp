@@ -31,7 +31,7 @@ std::unique_ptr<CPicture> first_picture_of(const std::wstring& folder) {
   const std::size_t attempts = std::min(entries->pictures.size(), kMaxAttempts);
   for (std::size_t i = 0; i < attempts; ++i) {
     auto picture =
-        CPicture::Open(corvane::native_path(folder + L'\\' + entries->pictures[i]).string());
+        CPicture::Open(corvane::native_path(path_in(folder, entries->pictures[i])).string());
     if (picture != nullptr) return picture;
   }
   return nullptr;

@@ -81,7 +81,7 @@ std::wstring CLibraryBrowser::Neighbour(int step) const {
   const bool inside = folder_of(reached_) == folder;
   const std::wstring name =
       name_from(strip_.names(), inside ? name_of(reached_) : std::wstring(), step);
-  return name.empty() ? name : folder + L'\\' + name;
+  return name.empty() ? name : path_in(folder, name);
 }
 
 }  // namespace capture

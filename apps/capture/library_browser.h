@@ -4,6 +4,7 @@
 #include <string>
 
 #include "apps/capture/library_pane.h"
+#include "apps/capture/picture_folder.h"
 #include "apps/capture/picture_strip.h"
 
 namespace capture {
@@ -29,7 +30,7 @@ class CLibraryBrowser {
   // The picture of the current folder that is `step` further than the last one that was opened or
   // could not be; empty: none.
   std::wstring Neighbour(int step) const;
-  std::wstring ClickedPicture() const { return Folder() + L'\\' + strip_.ClickedName(); }
+  std::wstring ClickedPicture() const { return path_in(Folder(), strip_.ClickedName()); }
 
   CLibraryPane& pane() { return pane_; }
   const CPictureStrip& strip() const { return strip_; }

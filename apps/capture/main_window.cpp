@@ -244,7 +244,7 @@ void CMainWindow::save_in_current_folder(const std::vector<std::uint8_t>& png) {
     view_.ShowNotice(notice + L"无法保存：" + save_error_text(saved.error));
     return;
   }
-  last_saved_ = folder + L'\\' + saved.name;
+  last_saved_ = path_in(folder, saved.name);
   browser_.Refresh();
   browser_.ScrollToNew(saved.name);
   view_.ShowNotice(notice + L"已保存到“" + name_for_user(folder) + L"”：" + saved.name.c_str());

@@ -51,9 +51,9 @@ void COpenPanel::ListFolder(const std::wstring& folder, const std::wstring& curr
   std::vector<std::wstring> folders;
   std::merge(found.folders.begin(), found.folders.end(), found.links.begin(), found.links.end(),
              std::back_inserter(folders), stands_before);
-  for (const std::wstring& name : folders) entries_.push_back({folder + L'\\' + name, name, true});
+  for (const std::wstring& name : folders) entries_.push_back({path_in(folder, name), name, true});
   for (const std::wstring& name : found.pictures) {
-    entries_.push_back({folder + L'\\' + name, name, false});
+    entries_.push_back({path_in(folder, name), name, false});
   }
   const auto here = std::find_if(entries_.begin(), entries_.end(),
                                  [&](const Entry& entry) { return entry.path == current; });

@@ -69,7 +69,7 @@ std::wstring first_folder_with_pictures(const std::wstring& root) {
     if (!entries) continue;
     if (!entries->pictures.empty()) return folder;
     for (auto name = entries->folders.rbegin(); name != entries->folders.rend(); ++name) {
-      waiting.push_back(folder + kSeparator + *name);
+      waiting.push_back(path_in(folder, *name));
     }
   }
   return {};
@@ -78,6 +78,11 @@ std::wstring first_folder_with_pictures(const std::wstring& root) {
 bool lies_in(std::wstring_view root, std::wstring_view path) {
   if (!path.starts_with(root)) return false;
   return path.size() == root.size() || path[root.size()] == kSeparator;
+}
+
+std::wstring path_in(std::wstring folder, std::wstring_view name) {
+  folder += kSeparator;
+  return folder.append(name);
 }
 
 std::wstring folder_of(const std::wstring& path) {

@@ -28,6 +28,8 @@ std::wstring first_folder_with_pictures(const std::wstring& root);
 // Whether the path is the root or lies below it.
 bool lies_in(std::wstring_view root, std::wstring_view path);
 
+// The path of the entry with that name.
+std::wstring path_in(std::wstring folder, std::wstring_view name);
 // The parts before and after a path's last separator.
 std::wstring folder_of(const std::wstring& path);
 std::wstring name_of(const std::wstring& path);

@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <cstring>
 
+#include "apps/capture/picture_folder.h"
 #include "apps/capture/texts.h"
 #include "corvane/platform/system/shell/new_file.h"
 #include "corvane/platform/system/shell/wide_path.h"
@@ -21,7 +22,7 @@ SavedPart save_numbered(const std::wstring& folder, const std::wstring& picture_
   const std::wstring stem = dot == 0 ? picture_name : picture_name.substr(0, dot);
   for (int number = 1; number < kMaxNumber; ++number) {
     const std::wstring name = stem + L"_" + std::to_wstring(number) + L".png";
-    const std::string path = corvane::system::file_system_path(folder + L'\\' + name);
+    const std::string path = corvane::system::file_system_path(path_in(folder, name));
     switch (corvane::system::write_new_file(path, png.data(), png.size())) {
       case NewFileResult::written:
         return {name, 0};

@@ -181,7 +181,7 @@ class Session {
   static std::wstring first_folder_in(const std::wstring& folder) {
     auto entries = read_folder(folder);
     if (!entries || entries->folders.empty()) return {};
-    return folder + L'\\' + entries->folders.front();
+    return path_in(folder, entries->folders.front());
   }
 
   // On the screen; where nothing is, when the tree does not show the folder.

@@ -73,7 +73,7 @@ void CThumbnailLoader::run() {
     // Only this thread changes what runs, so it may read it without the lock.
     Thumbnail thumbnail;
     try {
-      thumbnail = decode_(running_->folder + L'\\' + running_->name, running_->box,
+      thumbnail = decode_(path_in(running_->folder, running_->name), running_->box,
                           stop_running_.get_token());
     } catch (const std::exception&) {
       thumbnail = nullptr;  // memory is short: shown like a file that cannot be read

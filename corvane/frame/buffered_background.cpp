@@ -10,7 +10,7 @@ bool BufferedBackground::rebuild(CWnd& layer, CDC* like, COLORREF color) {
   layer.GetClientRect(client);
   if (client.Size() == rect().Size()) return false;
   buffer_.Release();
-  buffer_.CreateBufferDC((like != nullptr) ? like->GetSafeHdc() : nullptr, client);
+  buffer_.CreateBufferDC(like != nullptr ? like->GetSafeHdc() : nullptr, client);
   buffer_.SetBackColor(client, color);
   layer.Invalidate(FALSE);
   return true;

@@ -11,7 +11,7 @@ void post_unchanged(HWND window, const MSG& message) {
 
 HWND main_window() {
   const CWnd* main = AfxGetMainWnd();
-  return (main != nullptr) ? main->GetSafeHwnd() : nullptr;
+  return main != nullptr ? main->GetSafeHwnd() : nullptr;
 }
 
 }  // namespace

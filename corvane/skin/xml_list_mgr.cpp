@@ -57,12 +57,12 @@ void CXmlListMgr::LoadLogfontList(const CString& file_name) {
 
 CRect CXmlListMgr::GetBgRect(int id) const {
   const _MYCONTROL* const control = GetCtrl(id);
-  return (control != nullptr) ? CRect(control->rect) : CRect();
+  return control != nullptr ? CRect(control->rect) : CRect();
 }
 
 CString CXmlListMgr::GetBgImgPath(int id) const {
   const _MYCONTROL* const control = GetCtrl(id);
-  return (control != nullptr) ? image_folder() + control->image : image_folder();
+  return control != nullptr ? image_folder() + control->image : image_folder();
 }
 
 void CXmlListMgr::LoadGdiImage(CGdiImage& image, CRect& rect, int id) const {

@@ -83,7 +83,7 @@ ButtonSkin::ButtonSkin(const _MYCONTROL* control, const _MYFONT* font_record) : 
 
 Gdiplus::Image* ButtonSkin::image(ButtonLook look) const {
   Gdiplus::Image* const own = images[static_cast<std::size_t>(look)].GetImage();
-  return (own != nullptr) ? own : images[static_cast<std::size_t>(ButtonLook::normal)].GetImage();
+  return own != nullptr ? own : images[static_cast<std::size_t>(ButtonLook::normal)].GetImage();
 }
 
 CRect ButtonSkin::caption_rect(const CRect& button) const {

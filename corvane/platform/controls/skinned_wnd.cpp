@@ -22,7 +22,7 @@ void CSkinnedWnd::SetImage(const CGdiImage& image) {
 }
 
 void CSkinnedWnd::SetSkin(const _MYCONTROL* control, const _MYLANGUAGE* caption) {
-  load_skin_image(image_, (control != nullptr) ? control->image : CString());
+  load_skin_image(image_, control != nullptr ? control->image : CString());
   if (m_hWnd != nullptr && caption != nullptr) SetWindowTextW(caption->text);
   Invalidate(FALSE);
 }

@@ -24,11 +24,11 @@ int place_child(CWnd& window, const CString& text, const CRect& rect, const Cont
 }
 
 CRect rect_of(const _MYCONTROL* control) {
-  return (control != nullptr) ? CRect(control->rect) : CRect();
+  return control != nullptr ? CRect(control->rect) : CRect();
 }
 
 CString text_of(const _MYLANGUAGE* caption) {
-  return (caption != nullptr) ? caption->text : CString();
+  return caption != nullptr ? caption->text : CString();
 }
 
 int load_skinned(CSkinnedWnd& window, CRect& rect, const ControlToLoad& load) {
@@ -40,15 +40,15 @@ int load_skinned(CSkinnedWnd& window, CRect& rect, const ControlToLoad& load) {
 }  // namespace
 
 int CUICtrlMgr::LoadGdiImage(CGdiImage& image, const _MYCONTROL* control) {
-  return load_skin_image(image, (control != nullptr) ? control->image : CString());
+  return load_skin_image(image, control != nullptr ? control->image : CString());
 }
 
 int CUICtrlMgr::LoadDownGdiImage(CGdiImage& image, const _MYCONTROL* control) {
-  return load_skin_image(image, (control != nullptr) ? control->pressed_image : CString());
+  return load_skin_image(image, control != nullptr ? control->pressed_image : CString());
 }
 
 int CUICtrlMgr::LoadSelectImage(CGdiImage& image, const _MYCONTROL* control) {
-  return load_skin_image(image, (control != nullptr) ? control->selected_image : CString());
+  return load_skin_image(image, control != nullptr ? control->selected_image : CString());
 }
 
 int CUICtrlMgr::LoadGdiBtn(CGdiBtnEx& button, CRect& rect, const ControlToLoad& load) {

@@ -7,7 +7,7 @@
 namespace corvane {
 namespace {
 
-const wchar_t* or_empty(const wchar_t* text) { return (text != nullptr) ? text : L""; }
+const wchar_t* or_empty(const wchar_t* text) { return text != nullptr ? text : L""; }
 
 int position_or_minus_one(std::size_t position) {
   return position == std::wstring::npos ? -1 : static_cast<int>(position);

@@ -13,7 +13,7 @@ namespace corvane {
 class CString {
  public:
   CString() = default;
-  CString(const wchar_t* text) : text_((text != nullptr) ? text : L"") {}  // null: empty
+  CString(const wchar_t* text) : text_(text != nullptr ? text : L"") {}  // null: empty
   CString(const wchar_t* text, int length);
   explicit CString(wchar_t character, int count = 1);
   CString(std::wstring text) : text_(std::move(text)) {}

@@ -5,7 +5,7 @@
 namespace corvane {
 
 CClientDC::CClientDC(const CWnd* window)
-    : window_((window != nullptr) ? window->GetSafeHwnd() : nullptr) {
+    : window_(window != nullptr ? window->GetSafeHwnd() : nullptr) {
   // An object without a window must not get the screen.
   if (window == nullptr || window_ != nullptr) Attach(::GetDC(window_));
 }

@@ -24,7 +24,7 @@ HDC CDC::Detach() {
 
 bool CDC::CreateCompatibleDC(CDC* like) {
   if (m_hDC != nullptr) return false;
-  m_hDC = ::CreateCompatibleDC((like != nullptr) ? like->m_hDC : nullptr);
+  m_hDC = ::CreateCompatibleDC(like != nullptr ? like->m_hDC : nullptr);
   owned_ = m_hDC != nullptr;
   return owned_;
 }
@@ -42,8 +42,8 @@ bool CDC::FillSolidRect(LPCRECT rect, COLORREF color) {
 
 bool CDC::BitBlt(int x, int y, int width, int height, const CDC* source, int source_x, int source_y,
                  DWORD operation) {
-  return ::BitBlt(m_hDC, x, y, width, height, (source != nullptr) ? source->m_hDC : nullptr,
-                  source_x, source_y, operation) != 0;
+  return ::BitBlt(m_hDC, x, y, width, height, source != nullptr ? source->m_hDC : nullptr, source_x,
+                  source_y, operation) != 0;
 }
 
 int CDC::DrawTextW(const wchar_t* text, int length, LPRECT rect, UINT format) {

@@ -44,7 +44,7 @@ class Formatter {
     if (*at_ == L'*') {
       ++at_;
       const FormatArgument* argument = next_argument();
-      const auto* number = (argument != nullptr) ? std::get_if<long long>(argument) : nullptr;
+      const auto* number = argument != nullptr ? std::get_if<long long>(argument) : nullptr;
       return (number != nullptr)
                  ? static_cast<int>(std::clamp<long long>(*number, -kLargestField, kLargestField))
                  : 0;
@@ -159,8 +159,9 @@ class Formatter {
   }
 
   static std::wstring text_of(const FormatArgument& argument) {
-    if (const auto* text = std::get_if<const wchar_t*>(&argument))
-      return (*text != nullptr) ? *text : L"";
+    if (const auto* text = std::get_if<const wchar_t*>(&argument)) {
+      return *text != nullptr ? *text : L"";
+    }
     if (const auto* value = std::get_if<double>(&argument)) return std::to_wstring(*value);
     if (const auto* value = std::get_if<unsigned long long>(&argument)) {
       return std::to_wstring(*value);
@@ -177,7 +178,7 @@ class Formatter {
 }  // namespace
 
 std::wstring format_text(const wchar_t* format, std::span<const FormatArgument> arguments) {
-  return (format != nullptr) ? Formatter(format, arguments).run() : std::wstring();
+  return format != nullptr ? Formatter(format, arguments).run() : std::wstring();
 }
 
 }  // namespace corvane

@@ -5,7 +5,7 @@
 namespace corvane {
 
 CPaintDC::CPaintDC(const CWnd* window)
-    : window_((window != nullptr) ? window->GetSafeHwnd() : nullptr) {
+    : window_(window != nullptr ? window->GetSafeHwnd() : nullptr) {
   if (window_ != nullptr) Attach(::BeginPaint(window_, &m_ps));
 }
 

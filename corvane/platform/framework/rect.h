@@ -11,7 +11,7 @@ class CRect : public RECT {
   constexpr CRect(int l, int t, int r, int b) : RECT{l, t, r, b} {}
   constexpr CRect(const RECT& rect) : RECT(rect) {}
   constexpr CRect(LPCRECT rect)
-      : RECT((rect != nullptr) ? *rect : RECT{0, 0, 0, 0}) {}  // null: empty
+      : RECT(rect != nullptr ? *rect : RECT{0, 0, 0, 0}) {}  // null: empty
   constexpr CRect(const POINT& top_left, const SIZE& size)
       : RECT{top_left.x, top_left.y, add_coordinates(top_left.x, size.cx),
              add_coordinates(top_left.y, size.cy)} {}
@@ -31,9 +31,7 @@ class CRect : public RECT {
   }
 
   constexpr bool IsRectEmpty() const { return !has_area(*this); }
-  constexpr bool IsRectNull() const {
-    return (left == 0) && (top == 0) && (right == 0) && (bottom == 0);
-  }
+  constexpr bool IsRectNull() const { return left == 0 && top == 0 && right == 0 && bottom == 0; }
   constexpr bool PtInRect(const POINT& point) const { return contains(*this, point.x, point.y); }
   constexpr bool EqualRect(const RECT& other) const {
     return left == other.left && top == other.top && right == other.right && bottom == other.bottom;

@@ -67,7 +67,7 @@ int CWinApp::Run() {
 
 BOOL CWinApp::PreTranslateMessage(MSG* message) {
   if (message == nullptr || message->hwnd == nullptr) return FALSE;
-  const HWND main_window = (m_pMainWnd != nullptr) ? m_pMainWnd->GetSafeHwnd() : nullptr;
+  const HWND main_window = m_pMainWnd != nullptr ? m_pMainWnd->GetSafeHwnd() : nullptr;
   const bool of_main = ::GetAncestor(message->hwnd, GA_ROOT) == main_window;
   if (swallowed_on_the_way_up(message, main_window)) return TRUE;
   // A filter may have destroyed the main window.
@@ -78,7 +78,7 @@ BOOL CWinApp::PreTranslateMessage(MSG* message) {
 
 CWinApp* AfxGetApp() { return live_app; }
 
-CWnd* AfxGetMainWnd() { return (live_app != nullptr) ? live_app->m_pMainWnd : nullptr; }
+CWnd* AfxGetMainWnd() { return live_app != nullptr ? live_app->m_pMainWnd : nullptr; }
 
 HINSTANCE AfxGetInstanceHandle() { return ::GetModuleHandleW(nullptr); }
 

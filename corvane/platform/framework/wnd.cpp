@@ -25,8 +25,9 @@ void CWnd::end_window() {
 }
 
 bool CWnd::Attach(HWND window) {
-  if (m_hWnd != nullptr || window == nullptr || FromHandlePermanent(window) != nullptr)
+  if (m_hWnd != nullptr || window == nullptr || FromHandlePermanent(window) != nullptr) {
     return false;
+  }
   m_hWnd = window;
   ThreadState::current().handles.add_permanent(window, this);
   return true;
@@ -54,7 +55,7 @@ bool CWnd::CreateEx(DWORD ex_style, LPCWSTR class_name, LPCWSTR window_name, DWO
                     const RECT& rect, CWnd* parent, UINT id, LPVOID parameter) {
   const CRect place(rect);
   return CreateEx(ex_style, class_name, window_name, style, place.left, place.top, place.Width(),
-                  place.Height(), (parent != nullptr) ? parent->m_hWnd : nullptr,
+                  place.Height(), parent != nullptr ? parent->m_hWnd : nullptr,
                   reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)), parameter);
 }
 
@@ -107,8 +108,9 @@ BOOL CWnd::OnCommand(WPARAM wparam, LPARAM lparam) {
   const WindowWatch watch(*this);
   CWnd* control = FromHandlePermanent(reinterpret_cast<HWND>(lparam));
   LRESULT ignored = 0;
-  if (control != nullptr && control->OnChildNotify(WM_COMMAND, wparam, lparam, &ignored))
+  if (control != nullptr && control->OnChildNotify(WM_COMMAND, wparam, lparam, &ignored)) {
     return TRUE;
+  }
   if (watch.window_gone()) return TRUE;
   const UINT code = lparam ? HIWORD(wparam) : 0;
   const MessageMatch match = GetMessageMap()->find_command(LOWORD(wparam), code);
@@ -117,7 +119,7 @@ BOOL CWnd::OnCommand(WPARAM wparam, LPARAM lparam) {
 
 BOOL CWnd::OnNotify(WPARAM wparam, LPARAM lparam, LRESULT* result) {
   const auto* header = reinterpret_cast<const NMHDR*>(lparam);
-  CWnd* control = (header != nullptr) ? FromHandlePermanent(header->hwndFrom) : nullptr;
+  CWnd* control = header != nullptr ? FromHandlePermanent(header->hwndFrom) : nullptr;
   return control != nullptr && (control->OnChildNotify(WM_NOTIFY, wparam, lparam, result) != 0)
              ? TRUE
              : FALSE;
@@ -126,8 +128,9 @@ BOOL CWnd::OnNotify(WPARAM wparam, LPARAM lparam, LRESULT* result) {
 BOOL CWnd::OnChildNotify(UINT, WPARAM, LPARAM, LRESULT*) { return FALSE; }
 
 LRESULT CWnd::DefWindowProcW(UINT message, WPARAM wparam, LPARAM lparam) {
-  if (super_procedure_ != nullptr)
+  if (super_procedure_ != nullptr) {
     return ::CallWindowProcW(super_procedure_, m_hWnd, message, wparam, lparam);
+  }
   return ::DefWindowProcW(m_hWnd, message, wparam, lparam);
 }
 

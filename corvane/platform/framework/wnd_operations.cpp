@@ -19,7 +19,7 @@ BOOL change_style(HWND window, int which, DWORD remove, DWORD add, UINT flags) {
 }  // namespace
 
 LRESULT CWnd::SendMessageW(UINT message, WPARAM wparam, LPARAM lparam) const {
-  return (m_hWnd != nullptr) ? ::SendMessageW(m_hWnd, message, wparam, lparam) : 0;
+  return m_hWnd != nullptr ? ::SendMessageW(m_hWnd, message, wparam, lparam) : 0;
 }
 
 BOOL CWnd::PostMessageW(UINT message, WPARAM wparam, LPARAM lparam) const {
@@ -93,19 +93,19 @@ void CWnd::GetWindowTextW(CString& text) const {
 }
 
 void CWnd::SetFont(CFont* font, BOOL redraw) {
-  const HFONT handle = (font != nullptr) ? static_cast<HFONT>(*font) : nullptr;
+  const HFONT handle = font != nullptr ? static_cast<HFONT>(*font) : nullptr;
   SendMessageW(WM_SETFONT, reinterpret_cast<WPARAM>(handle), redraw);
 }
 
 CWnd* CWnd::GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
 
 CWnd* CWnd::SetParent(CWnd* parent) {
-  return FromHandle(::SetParent(m_hWnd, (parent != nullptr) ? parent->m_hWnd : nullptr));
+  return FromHandle(::SetParent(m_hWnd, parent != nullptr ? parent->m_hWnd : nullptr));
 }
 
 CWnd* CWnd::GetOwner() const {
   const HWND owner = ::GetWindow(m_hWnd, GW_OWNER);
-  return (owner != nullptr) ? FromHandle(owner) : GetParent();
+  return owner != nullptr ? FromHandle(owner) : GetParent();
 }
 
 CWnd* CWnd::GetTopLevelParent() const { return FromHandle(::GetAncestor(m_hWnd, GA_ROOTOWNER)); }
@@ -133,12 +133,10 @@ BOOL CWnd::RedrawWindow(LPCRECT rect, HRGN region, UINT flags) {
   return m_hWnd != nullptr && (::RedrawWindow(m_hWnd, rect, region, flags) != 0) ? TRUE : FALSE;
 }
 
-CDC* CWnd::GetDC() const {
-  return (m_hWnd != nullptr) ? CDC::FromHandle(::GetDC(m_hWnd)) : nullptr;
-}
+CDC* CWnd::GetDC() const { return m_hWnd != nullptr ? CDC::FromHandle(::GetDC(m_hWnd)) : nullptr; }
 
 int CWnd::ReleaseDC(CDC* dc) const {
-  const HDC handle = (dc != nullptr) ? dc->GetSafeHdc() : nullptr;
+  const HDC handle = dc != nullptr ? dc->GetSafeHdc() : nullptr;
   if (handle == nullptr) return 0;
   ThreadState::current().handles.release_temporary(dc);
   return ::ReleaseDC(m_hWnd, handle);
@@ -151,15 +149,13 @@ void CWnd::EndPaint(const PAINTSTRUCT* paint) {
 CDC* CWnd::BeginPaint(LPPAINTSTRUCT paint) { return CDC::FromHandle(::BeginPaint(m_hWnd, paint)); }
 
 // An object without a window must not take the capture or the focus from another.
-CWnd* CWnd::SetCapture() {
-  return (m_hWnd != nullptr) ? FromHandle(::SetCapture(m_hWnd)) : nullptr;
-}
+CWnd* CWnd::SetCapture() { return m_hWnd != nullptr ? FromHandle(::SetCapture(m_hWnd)) : nullptr; }
 CWnd* CWnd::GetCapture() { return FromHandle(::GetCapture()); }
-CWnd* CWnd::SetFocus() { return (m_hWnd != nullptr) ? FromHandle(::SetFocus(m_hWnd)) : nullptr; }
+CWnd* CWnd::SetFocus() { return m_hWnd != nullptr ? FromHandle(::SetFocus(m_hWnd)) : nullptr; }
 CWnd* CWnd::GetFocus() { return FromHandle(::GetFocus()); }
 
 UINT_PTR CWnd::SetTimer(UINT_PTR id, UINT milliseconds, TIMERPROC procedure) {
-  return (m_hWnd != nullptr) ? ::SetTimer(m_hWnd, id, milliseconds, procedure) : 0;
+  return m_hWnd != nullptr ? ::SetTimer(m_hWnd, id, milliseconds, procedure) : 0;
 }
 
 BOOL CWnd::KillTimer(UINT_PTR id) {

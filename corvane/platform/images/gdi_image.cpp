@@ -14,7 +14,7 @@ Picture decoded(const wchar_t* path) {
 }  // namespace
 
 int CGdiImage::Load(const wchar_t* path) {
-  image_ = (path != nullptr) ? decoded(path) : nullptr;
+  image_ = path != nullptr ? decoded(path) : nullptr;
   return image_ ? 1 : 0;
 }
 

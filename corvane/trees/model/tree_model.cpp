@@ -45,7 +45,7 @@ _NODE& TreeModel::append_child(std::wstring_view name, _NODE& parent) {
 }
 
 _NODE* TreeModel::find(const wchar_t* path, _NODE* start) {
-  _NODE* node = (start != nullptr) ? start : &root_;
+  _NODE* node = start != nullptr ? start : &root_;
   if (path == nullptr || !*path) return node;
   if (base_path_.IsEmpty()) return nullptr;
   std::wstring_view rest = path;

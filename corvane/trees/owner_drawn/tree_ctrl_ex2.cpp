@@ -138,7 +138,7 @@ BOOL CTreeCtrlEx2::OnEraseBkgnd(CDC* dc) {
   CRect client;
   GetClientRect(client);
   if (!buffer_.HasSizeOf(client)) {
-    buffer_.CreateBufferDC((dc != nullptr) ? dc->GetSafeHdc() : nullptr, client);
+    buffer_.CreateBufferDC(dc != nullptr ? dc->GetSafeHdc() : nullptr, client);
     buffer_.SetBackColor(client, kBackground);
   }
   return TRUE;

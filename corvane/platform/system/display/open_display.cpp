@@ -17,7 +17,7 @@ constexpr LONG kMaxSide = 16384;
 
 std::string_view environment(const char* name) {
   const char* const value = std::getenv(name);
-  return (value != nullptr) ? value : "";
+  return value != nullptr ? value : "";
 }
 
 // The whole text as a side's length; 0 when it is none.

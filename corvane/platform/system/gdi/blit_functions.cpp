@@ -43,7 +43,7 @@ BOOL StretchBlt(HDC target, int x, int y, int width, int height, HDC source, int
                 int source_y, int source_width, int source_height, DWORD operation) {
   if (!needs_source(operation)) return PatBlt(target, x, y, width, height, operation);
   DeviceContext* to = find_dc(target);
-  const DeviceContext* from = (to != nullptr) ? find_dc(source) : nullptr;
+  const DeviceContext* from = to != nullptr ? find_dc(source) : nullptr;
   if (from == nullptr) return FALSE;
   if (operation != SRCCOPY) {
     SetLastError(ERROR_INVALID_PARAMETER);

@@ -72,7 +72,7 @@ Gdi::Impl* current_tables() {
 
 DeviceContext* find_dc(HDC dc) {
   Gdi::Impl* tables = current_tables();
-  DeviceContext* context = (tables != nullptr) ? tables->contexts.find(dc) : nullptr;
+  DeviceContext* context = tables != nullptr ? tables->contexts.find(dc) : nullptr;
   if (context == nullptr) SetLastError(ERROR_INVALID_HANDLE);
   return context;
 }

@@ -150,7 +150,7 @@ void paint_mapped(DeviceContext& dc, const Image& image, const ImagePlacement& p
   area.intersect(*reach);
   const Canvas canvas(*dc.surface, std::move(area));
   cairo_t* cairo = canvas.cairo();
-  cairo_surface_t* pixels = (cairo != nullptr) ? image_of(*source.pixels, source.part) : nullptr;
+  cairo_surface_t* pixels = cairo != nullptr ? image_of(*source.pixels, source.part) : nullptr;
   if (pixels == nullptr) return;
   cairo_transform(cairo, &matrix);
   cairo_rectangle(cairo, placement.x, placement.y, placement.width, placement.height);

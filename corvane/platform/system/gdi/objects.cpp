@@ -139,7 +139,7 @@ HBITMAP CreateDIBSection(HDC, const BITMAPINFO* info, UINT usage, void** bits, H
 
 BOOL DeleteObject(HGDIOBJ object) {
   Gdi::Impl* tables = current_tables();
-  GdiObject* found = (tables != nullptr) ? tables->objects.find(object) : nullptr;
+  GdiObject* found = tables != nullptr ? tables->objects.find(object) : nullptr;
   if (found == nullptr) return FALSE;
   if (found->stock) return TRUE;
   if (found->selections > 0) {

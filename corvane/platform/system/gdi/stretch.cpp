@@ -67,7 +67,7 @@ Pixel combined(const Surface& source, const Span& columns, const Span& rows, int
   for (int y = rows.begin; y < rows.end; ++y) {
     const Pixel* row = source.row_if_stored(y);
     for (int x = columns.begin; x < columns.end; ++x) {
-      const Pixel pixel = (row != nullptr) ? row[x] : source.uniform_row(y);
+      const Pixel pixel = row != nullptr ? row[x] : source.uniform_row(y);
       both &= pixel;
       either |= pixel;
       for (int channel = 0; channel < 4; ++channel) {

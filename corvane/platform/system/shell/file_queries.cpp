@@ -40,7 +40,7 @@ DWORD why_not_found(std::string_view path, int error) {
 
 // The file or folder behind the path; without it, the last error is set.
 FileDescriptor locate(LPCWSTR wide, std::string& path, int flags) {
-  path = (wide != nullptr) ? corvane::system::file_system_path(wide) : std::string();
+  path = wide != nullptr ? corvane::system::file_system_path(wide) : std::string();
   FileDescriptor found;
   if (!path.empty()) found = open_path(path, O_PATH | flags);
   const int error = errno;

@@ -30,7 +30,7 @@ const char* FolderSearch::next_name() {
   do {
     entry = reader_.next(folder_.number());
   } while (entry != nullptr && is_dot_or_dot_dot(entry->d_name));
-  return (entry != nullptr) ? entry->d_name : nullptr;
+  return entry != nullptr ? entry->d_name : nullptr;
 }
 
 bool FolderSearch::deliver(const char* name, WIN32_FIND_DATAW& data) {

@@ -193,7 +193,7 @@ int SdlDisplay::event_fd() const { return native_->waiter->fd(); }
 void SdlDisplay::set_cursor(CursorShape shape) { native_->cursors.show(shape); }
 
 void SdlDisplay::set_title(const wchar_t* title) {
-  const std::wstring_view text = (title != nullptr) ? title : L"";
+  const std::wstring_view text = title != nullptr ? title : L"";
   char* const utf8 =
       SDL_iconv_string("UTF-8", "WCHAR_T", reinterpret_cast<const char*>(text.data()),
                        (text.size() + 1) * sizeof(wchar_t));
