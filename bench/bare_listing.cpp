@@ -18,8 +18,9 @@ void list_folders(int folder, std::string& names) {
       const auto* entry = reinterpret_cast<const dirent64*>(block + at);
       at += entry->d_reclen;
       const char* name = entry->d_name;
-      if (entry->d_type == DT_DIR && strcmp(name, ".") != 0 && strcmp(name, "..") != 0)
+      if (entry->d_type == DT_DIR && strcmp(name, ".") != 0 && strcmp(name, "..") != 0) {
         names.append(name, strlen(name) + 1);
+      }
     }
   }
 }
@@ -32,8 +33,9 @@ long walk(int parent, const char* name) {
   list_folders(folder, names);
   long count = 1;
   const char* const end = names.data() + names.size();
-  for (const char* one = names.data(); one != end; one += strlen(one) + 1)
+  for (const char* one = names.data(); one != end; one += strlen(one) + 1) {
     count += walk(folder, one);
+  }
   close(folder);
   return count;
 }

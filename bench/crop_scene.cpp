@@ -16,8 +16,9 @@ std::shared_ptr<Surface> colorful_picture(SIZE size) {
   auto picture = std::make_shared<Surface>(size.cx, size.cy);
   for (int y = 0; y < size.cy; ++y) {
     Pixel* const row = picture->row(y);
-    for (int x = 0; x < size.cx; ++x)
+    for (int x = 0; x < size.cx; ++x) {
       row[x] = 0xFF000000 | (static_cast<Pixel>(x * 7 + y * 3) * 2654435761u >> 8);
+    }
   }
   return picture;
 }

@@ -37,8 +37,9 @@ class CairoImage {
     auto* pixels = reinterpret_cast<Pixel*>(cairo_image_surface_get_data(surface_));
     const int count =
         cairo_image_surface_get_stride(surface_) / 4 * cairo_image_surface_get_height(surface_);
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
       if ((pixels[i] & 0x00FFFFFF) == key) pixels[i] = 0;
+    }
     cairo_surface_mark_dirty(surface_);
   }
 

@@ -24,8 +24,9 @@ class Program {
   explicit Program(const std::vector<std::string>& command) : process_(fork()) {
     if (process_ != 0) return;
     std::vector<char*> arguments;
-    for (const std::string& argument : command)
+    for (const std::string& argument : command) {
       arguments.push_back(const_cast<char*>(argument.c_str()));
+    }
     arguments.push_back(nullptr);
     execvp(arguments.front(), arguments.data());
     std::perror(arguments.front());

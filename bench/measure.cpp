@@ -33,12 +33,13 @@ Options options_of(int argc, char** argv) {
   Options options;
   for (int i = 1; i < argc; ++i) {
     const std::string argument = argv[i];
-    if (argument == "--smoke")
+    if (argument == "--smoke") {
       options.smoke = true;
-    else if (argument == "--check")
+    } else if (argument == "--check") {
       options.check = true;
-    else
+    } else {
       options.rest.push_back(argument);
+    }
   }
   return options;
 }

@@ -42,8 +42,9 @@ void post_and_dispatch(HWND window, int batches) {
   for (int i = 0; i < batches; ++i) {
     for (int j = 0; j < batch; ++j) ::PostMessageW(window, WM_APP, 0, 0);
     const long wanted = received + batch;
-    while (received<wanted&& ::GetMessageW(&message, nullptr, 0, 0)> 0)
+    while (wanted > received && ::GetMessageW(&message, nullptr, 0, 0)) {
       ::DispatchMessageW(&message);
+    }
   }
 }
 

@@ -126,8 +126,9 @@ void Desktop::play(ByteStream& stream) {
 }
 
 void Desktop::close() {
-  for (const HWND window : all_windows())
+  for (const HWND window : all_windows()) {
     if (IsWindow(window)) DestroyWindow(window);
+  }
   desktop_.own().windows.process_pending();
 }
 
@@ -266,10 +267,11 @@ void Desktop::run_timer(ByteStream& stream) {
   const HWND target = window(stream);
   const UINT_PTR id = stream.byte() % 4u;
   if (target == nullptr) return;  // a timer without a window outlives all windows
-  if (stream.flag())
+  if (stream.flag()) {
     SetTimer(target, id, stream.word(), nullptr);
-  else
+  } else {
     KillTimer(target, id);
+  }
 }
 
 void Desktop::show_crop(ByteStream& stream) {

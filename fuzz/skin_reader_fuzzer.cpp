@@ -37,8 +37,9 @@ void require_sane(const _MYCONTROL& control) {
           "a rectangle's width and height are not negative");
   for (const auto* name :
        {&control.image, &control.hover_image, &control.pressed_image, &control.disabled_image,
-        &control.selected_image, &control.forward_image, &control.backward_image})
+        &control.selected_image, &control.forward_image, &control.backward_image}) {
     require_below_image_folder(name->GetString());
+  }
 }
 
 void read_controls(const std::string& path) {

@@ -74,10 +74,11 @@ void TreePlay::add_node(ByteStream& stream) {
 }
 
 void TreePlay::remove_node(ByteStream& stream) {
-  if (stream.flag())
+  if (stream.flag()) {
     tree_.DelNode(node(stream));
-  else
+  } else {
     tree_.DelNode(path(stream));
+  }
 }
 
 void TreePlay::load(ByteStream& stream) {
@@ -86,12 +87,13 @@ void TreePlay::load(ByteStream& stream) {
 }
 
 void TreePlay::choose(ByteStream& stream) {
-  if (stream.flag())
+  if (stream.flag()) {
     tree_.SetCurPath(path(stream));
-  else if (stream.flag())
+  } else if (stream.flag()) {
     tree_.SetCurPath(nullptr);
-  else
+  } else {
     tree_.ClearCurPath();
+  }
 }
 
 void TreePlay::expand(ByteStream& stream) { tree_.Expand(path(stream)); }
@@ -124,20 +126,22 @@ void TreePlay::lay_out(ByteStream& stream) {
 void TreePlay::draw(ByteStream& stream) {
   corvane::CBufferDC buffer;
   buffer.CreateBufferDC(nullptr, CRect(0, 0, 100, 100));
-  if (stream.flag())
+  if (stream.flag()) {
     tree_.DoDraw(buffer, rect(stream));
-  else
+  } else {
     tree_.DrawItem(buffer, node(stream));
+  }
 }
 
 void TreePlay::scroll(ByteStream& stream) {
   const UINT message = kMessages[stream.below(std::size(kMessages))];
   const auto wparam = static_cast<WPARAM>(static_cast<UINT>(number(stream)));
   const LPARAM lparam = number(stream);
-  if (stream.flag())
+  if (stream.flag()) {
     tree_.SendMessageW(message, wparam, lparam);
-  else
+  } else {
     tree_.PostMessageW(message, wparam, lparam);
+  }
 }
 
 void TreePlay::set_scroll(ByteStream& stream) {

@@ -91,8 +91,9 @@ Status StringFormat::SetFormatFlags(INT flags) {
 Status Graphics::DrawString(const WCHAR* text, INT length, const Font* font, const RectF& layout,
                             const StringFormat* format, const Brush* brush) {
   const auto* solid = dynamic_cast<const SolidBrush*>(brush);
-  if (text == nullptr || length < -1 || font == nullptr || solid == nullptr)
+  if (text == nullptr || length < -1 || font == nullptr || solid == nullptr) {
     return state_->done(InvalidParameter);
+  }
   const std::wstring_view shown(text,
                                 length < 0 ? std::wcslen(text) : static_cast<std::size_t>(length));
   if (shown.empty()) return state_->done(Ok);

@@ -71,7 +71,7 @@ std::int64_t little_endian(const std::uint8_t* bytes, int count) {
 // The rows must be there unless they are run-length coded, where the decoder looks for the end.
 bool is_complete_bmp(std::FILE* file) {
   std::array<std::uint8_t, 34> head{};
-  std::rewind(file);
+  if (std::fseek(file, 0, SEEK_SET) != 0) return false;
   if (std::fread(head.data(), 1, head.size(), file) != head.size()) return false;
   const bool old_header = little_endian(&head[14], 4) == 12;
   const int size = old_header ? 2 : 4;
@@ -91,7 +91,7 @@ bool is_complete_bmp(std::FILE* file) {
 
 bool is_complete_image(std::FILE* file) {
   std::array<std::uint8_t, 8> start{};
-  std::rewind(file);
+  if (std::fseek(file, 0, SEEK_SET) != 0) return false;
   const std::size_t read = std::fread(start.data(), 1, start.size(), file);
   if (read == start.size() && start == kPngStart) return is_complete_png(file);
   if (read >= 2 && start[0] == 0xFF && start[1] == kStartOfImage) {

@@ -40,10 +40,12 @@ HGDIOBJ SelectObject(HDC dc, HGDIOBJ object) {
   if (context == nullptr) return nullptr;
   Gdi::Impl& tables = *current_tables();
   if (tables.get<PenObject>(object) != nullptr) return exchange(tables, context->state.pen, object);
-  if (tables.get<BrushObject>(object) != nullptr)
+  if (tables.get<BrushObject>(object) != nullptr) {
     return exchange(tables, context->state.brush, object);
-  if (tables.get<FontObject>(object) != nullptr)
+  }
+  if (tables.get<FontObject>(object) != nullptr) {
     return exchange(tables, context->state.font, object);
+  }
   if (tables.get<BitmapObject>(object) != nullptr) return select_bitmap(tables, *context, object);
   SetLastError(ERROR_INVALID_HANDLE);
   return nullptr;

@@ -196,8 +196,9 @@ BOOL TextOutW(HDC dc, int x, int y, LPCWSTR text, int length) {
 BOOL GetTextExtentPoint32W(HDC dc, LPCWSTR text, int length, LPSIZE size) {
   const DeviceContext* context = find_dc(dc);
   std::wstring_view measured;
-  if (context == nullptr || size == nullptr || length < 0 || !take_text(text, length, &measured))
+  if (context == nullptr || size == nullptr || length < 0 || !take_text(text, length, &measured)) {
     return FALSE;
+  }
   return softly(FALSE, [&] {
     const auto layout = engine().layout(font_of(*context), {with_line_breaks(measured, true)});
     *size = {measured.empty() ? 0 : layout->width(), layout->metrics().height};

@@ -13,11 +13,14 @@
 
 #include "corvane/platform/system/gdi/gdi_api.h"
 
+// The drawing library's own declarations, which only the sources include.
+// NOLINTBEGIN(readability-identifier-naming)
 typedef struct _PangoLayout PangoLayout;
 typedef struct _PangoLayoutLine PangoLayoutLine;
 typedef struct _PangoFontMap PangoFontMap;
 typedef struct _PangoContext PangoContext;
 typedef struct _PangoFontDescription PangoFontDescription;
+// NOLINTEND(readability-identifier-naming)
 
 namespace corvane::system {
 

@@ -123,8 +123,9 @@ void SdlDisplay::Native::present(const Surface& frame, const Region& damage) {
 
 // The window surface still holds what was presented.
 void SdlDisplay::Native::repaint() {
-  if (has_content && (SDL_GetWindowSurface(window.get()) != nullptr))
+  if (has_content && (SDL_GetWindowSurface(window.get()) != nullptr)) {
     SDL_UpdateWindowSurface(window.get());
+  }
 }
 
 std::unique_ptr<SdlDisplay> SdlDisplay::open(SIZE size) {

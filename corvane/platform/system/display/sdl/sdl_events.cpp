@@ -41,14 +41,14 @@ std::wstring wide(const char* utf8) {
 
 }  // namespace
 
-const SdlEvents::Row SdlEvents::rows_[] = {
+const SdlEvents::Row SdlEvents::kRows[] = {
     {SDL_MOUSEMOTION, &SdlEvents::motion},   {SDL_MOUSEBUTTONDOWN, &SdlEvents::button},
     {SDL_MOUSEBUTTONUP, &SdlEvents::button}, {SDL_MOUSEWHEEL, &SdlEvents::wheel},
     {SDL_KEYDOWN, &SdlEvents::key},          {SDL_KEYUP, &SdlEvents::key},
     {SDL_TEXTINPUT, &SdlEvents::text},       {SDL_WINDOWEVENT, &SdlEvents::window}};
 
 void SdlEvents::translate(const SDL_Event& event, std::vector<InputEvent>& events) {
-  for (const Row& row : rows_) {
+  for (const Row& row : kRows) {
     if (row.type == event.type) (this->*row.handler)(event, events);
   }
 }

@@ -18,7 +18,7 @@ class SdlEvents {
     Uint32 type;
     Handler handler;
   };
-  static const Row rows_[];
+  static const Row kRows[];
 
   void motion(const SDL_Event& event, std::vector<InputEvent>& events);
   void button(const SDL_Event& event, std::vector<InputEvent>& events);

@@ -59,6 +59,7 @@ Hit hit_test(POINT point, DisabledTops disabled_tops) {
   System* state = system();
   if (state == nullptr) return {};
   std::vector<HWND> tops;
+  tops.reserve(state->desktop->children.size());
   for (const Window* top : state->desktop->children) tops.push_back(top->handle);
   for (HWND handle : tops) {
     Window* top = state->find(handle);
