@@ -4,8 +4,10 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
+#include "corvane/platform/drawing/buffer_dc.h"
 #include "corvane/platform/framework/framework.h"
 #include "tests/support/desktop.h"
 #include "tests/support/temporary_folder.h"
@@ -33,6 +35,19 @@ class ControlHost : public CWnd {
   void OnPaint();
 };
 
+LOGFONTW font_of(int height, int weight, const wchar_t* face);
+
+// What a button shows: its face, from edge to edge, and its caption in the middle of a box. A plain
+// button has an edge of another colour.
+struct Shown {
+  COLORREF face = 0;
+  std::optional<COLORREF> edge;
+  const wchar_t* caption = L"";
+  LOGFONTW font = font_of(-14, FW_NORMAL, L"宋体");
+  CRect box;
+  COLORREF text = 0;
+};
+
 // Screen coordinates are the host's client coordinates.
 class ControlTest : public testing::Test, protected Desktop {
  protected:
@@ -43,6 +58,9 @@ class ControlTest : public testing::Test, protected Desktop {
 
   // A picture of one colour in the skin's image folder.
   void write_picture(const std::string& name, int width, int height, COLORREF color);
+  // The window at that place shows exactly what plain calls draw, and nothing beside it.
+  void expect_shown(const CRect& place, const Shown& shown);
+
   TemporaryFolder folder_;
   CWinApp app_;
   std::unique_ptr<ControlHost> host_ = std::make_unique<ControlHost>();
