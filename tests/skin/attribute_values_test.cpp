@@ -63,6 +63,14 @@ TEST(AttributeValues, Colors) {
   for (const auto& each : cases) EXPECT_EQ(parse_color(each.text), each.expected) << each.text;
 }
 
+TEST(AttributeValues, Switches) {
+  const std::pair<const char*, std::optional<bool>> cases[] = {
+      {"true", true},    {"1", true},           {" false\n", false},
+      {"0", false},      {"yes", std::nullopt}, {"True", std::nullopt},
+      {"", std::nullopt}};
+  for (const auto& [text, expected] : cases) EXPECT_EQ(parse_switch(text), expected) << text;
+}
+
 TEST(AttributeValues, ImageNamesStayInTheImageFolder) {
   struct Case {
     const char* text;
@@ -72,6 +80,8 @@ TEST(AttributeValues, ImageNamesStayInTheImageFolder) {
                         {"icons/save.png", L"icons\\save.png"},
                         {"icons\\save.png", L"icons\\save.png"},
                         {"\xE4\xBF\x9D\xE5\xAD\x98.png", L"保存.png"},
+                        {"two words.png", L"two words.png"},
+                        {"i/j/k", L"i\\j\\k"},
                         {".hidden..png", L".hidden..png"},
                         {"...", L"..."},
                         {"", std::nullopt},

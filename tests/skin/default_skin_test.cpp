@@ -38,9 +38,7 @@ TEST_F(DefaultSkin, EveryButtonHasItsSizeImagesCaptionAndFont) {
   for (const auto& each : cases) {
     SCOPED_TRACE(testing::Message() << "list " << each.list << " control " << each.control);
     CXmlListMgr skin;
-    skin.LoadCtrlList(L"ui_control.xml", each.list);
-    skin.LoadLanguageList(L"ui_language.xml", each.list);
-    skin.LoadLogfontList(L"ui_logfont.xml");
+    skin.Load({each.list});
     const _MYCONTROL* const control = skin.GetCtrl(each.control);
     ASSERT_TRUE(control);
     EXPECT_EQ(CRect(control->rect), each.rect);
@@ -60,7 +58,7 @@ TEST_F(DefaultSkin, EveryButtonHasItsSizeImagesCaptionAndFont) {
 
 TEST_F(DefaultSkin, TheTreesPicturesFillTheirCellsAndDiffer) {
   CXmlListMgr skin;
-  skin.LoadCtrlList(L"ui_control.xml", 1);
+  skin.Load(kFolderTreeList);
   const CString folder = skin.GetBgImgPath(-1);
   std::set<std::vector<std::uint32_t>> seen;
   for (const int id : {1, 2}) {

@@ -7,6 +7,7 @@
 #include "corvane/platform/controls/list_bar.h"
 #include "corvane/platform/controls/list_tab.h"
 #include "corvane/platform/controls/picture_ex.h"
+#include "corvane/platform/controls/ui_ctrl_mgr.h"
 #include "corvane/skin/xml_list_mgr.h"
 #include "tests/platform/controls/control_test.h"
 
@@ -14,23 +15,27 @@ namespace corvane {
 namespace {
 
 constexpr int kUnknown = 99;
-constexpr COLORREF kMain = RGB(10, 20, 30), kDown = RGB(40, 50, 60), kEnd = RGB(70, 80, 90);
+constexpr COLORREF kMain = RGB(10, 20, 30), kForward = RGB(40, 50, 60), kBackward = RGB(70, 80, 90);
 
 class SkinControls : public test::ControlTest {
  protected:
   SkinControls() {
     folder_.file("ui_control.xml", R"(<controls><list id="4">
         <control id="1" x="10" y="20" width="30" height="40" image="main.bmp"
-                 image-pressed="down.bmp" image-forward="end.bmp" image-backward="end.bmp"
-                 caption="1"/>
+                 image-pressed="down.bmp" image-forward="forward.bmp"
+                 image-backward="backward.bmp" caption="1" text-color="#FFFFFF"
+                 text-color-hover="#FFFF00" padding-left="2" padding-bottom="4"/>
         <control id="2" x="50" y="20" width="30" height="40" caption="404"/></list></controls>)");
-    folder_.file("ui_language.xml",
-                 R"(<captions><list id="4"><caption id="1" text="保存"/></list></captions>)");
+    folder_.file(
+        "ui_language.xml",
+        R"(<captions><list id="4"><caption id="1" text="保" font="3"/></list></captions>)");
+    folder_.file("ui_logfont.xml",
+                 R"(<fonts><font id="3" face="黑体" size="20" weight="700"/></fonts>)");
     write_picture("main.bmp", 30, 40, kMain);
-    write_picture("down.bmp", 12, 14, kDown);
-    write_picture("end.bmp", 8, 10, kEnd);
-    skin_.LoadCtrlList(L"ui_control.xml", 4);
-    skin_.LoadLanguageList(L"ui_language.xml", 4);
+    write_picture("down.bmp", 12, 14, 0);
+    write_picture("forward.bmp", 8, 10, kForward);
+    write_picture("backward.bmp", 6, 12, kBackward);
+    skin_.Load({4});
   }
 
   bool is_child(const CWnd& window, int id) const {
@@ -46,6 +51,21 @@ class SkinControls : public test::ControlTest {
     window.GetWindowRect(rect);
     host_->ScreenToClient(rect);
     return rect;
+  }
+
+  // A click there comes to the host as a control of the bar has sent it, a menu's command does not.
+  void expect_click_from(CWnd& bar, int id, POINT point) {
+    host_->commands.clear();
+    EXPECT_EQ(bar.SendMessageW(WM_COMMAND, static_cast<WPARAM>(id), 0), FALSE);
+    EXPECT_TRUE(host_->commands.empty());
+    click(point);
+    ASSERT_EQ(host_->commands.size(), 1u);
+    const auto command = host_->commands[0];
+    EXPECT_EQ(command.sender, ::GetDlgItem(bar, id));
+    EXPECT_EQ(command.wparam, MAKEWPARAM(id, BN_CLICKED));
+    EXPECT_EQ(
+        bar.SendMessageW(WM_COMMAND, command.wparam, reinterpret_cast<LPARAM>(command.sender)),
+        TRUE);
   }
 
   CXmlListMgr skin_;
@@ -68,70 +88,71 @@ TEST_F(SkinControls, ImagesOfAControl) {
   EXPECT_EQ(image.GetWidth(), 0);
 }
 
-TEST_F(SkinControls, CopiesOfAnImageShareThePicture) {
+TEST_F(SkinControls, CopiesShareAPictureAndFilesThatAreNoneLeaveNoImage) {
   CGdiImage image, copy;
   skin_.LoadGdiImage(image, rect_, 1);
   copy = image;
   EXPECT_EQ(copy.GetImage(), image.GetImage());
   image.DelImage();
-  EXPECT_EQ(image.GetImage(), nullptr);
   EXPECT_EQ(copy.GetWidth(), 30);
-}
-
-TEST_F(SkinControls, FilesThatAreNoPicturesLeaveNoImage) {
   folder_.file("image/main.bmp", "BM, but no bitmap");
-  CGdiImage image;
-  skin_.LoadGdiImage(image, rect_, 1);
-  EXPECT_EQ(image.GetImage(), nullptr);
+  skin_.LoadGdiImage(copy, rect_, 1);
+  for (const CGdiImage& each : {image, copy}) EXPECT_EQ(each.GetImage(), nullptr);
   EXPECT_EQ(image.Load(nullptr), 0);
   EXPECT_EQ(image.Load(folder_.wide().c_str()), 0);
 }
 
-TEST_F(SkinControls, AButtonGetsItsCaptionRectangleAndId) {
-  CGdiBtnEx button, bare, unknown;
-  skin_.LoadGdiBtn(button, rect_, host_.get(), 1);
-  EXPECT_EQ(rect_, CRect(10, 20, 40, 60));
-  EXPECT_EQ(place_of(button), rect_);
-  EXPECT_TRUE(is_child(button, 1));
-  EXPECT_TRUE(button.IsWindowVisible());
-  EXPECT_EQ(text_of(button), L"保存");
-  pump();
-  EXPECT_EQ(pixel(11, 21), kMain);
-  skin_.LoadGdiBtn(bare, rect_, host_.get(), 2);
-  EXPECT_EQ(rect_, CRect(50, 20, 80, 60));
-  EXPECT_EQ(text_of(bare), L"");
-  skin_.LoadGdiBtn(unknown, rect_, host_.get(), kUnknown);
-  EXPECT_TRUE(rect_.IsRectNull());
-  EXPECT_TRUE(is_child(unknown, kUnknown));
-}
-
-TEST_F(SkinControls, LoadingAButtonAgainKeepsItsWindow) {
+TEST_F(SkinControls, AButtonShowsItsCaptionInItsFontAndColours) {
   CGdiBtnEx button;
   skin_.LoadGdiBtn(button, rect_, host_.get(), 1);
-  const HWND window = button;
-  skin_.LoadGdiBtn(button, rect_, host_.get(), 2);
-  EXPECT_EQ(button.GetSafeHwnd(), window);
-  EXPECT_EQ(place_of(button), CRect(50, 20, 80, 60));
-  EXPECT_EQ(text_of(button), L"");
+  test::Shown shown{.face = kMain,
+                    .edge = {},
+                    .caption = L"保",
+                    .font = test::font_of(-20, FW_BOLD, L"黑体"),
+                    .box = CRect(12, 20, 40, 56),
+                    .text = RGB(255, 255, 255)};
+  expect_shown(CRect(10, 20, 40, 60), shown);
+  move_to(20, 30);
+  shown.text = RGB(255, 255, 0);
+  expect_shown(CRect(10, 20, 40, 60), shown);
 }
 
 template <typename Control>
 using Loader = void (CXmlListMgr::*)(Control&, CRect&, CWnd*, int) const;
 
-TEST_F(SkinControls, OtherControlsAreCreatedAndShowTheirImage) {
+TEST_F(SkinControls, ControlsAreMadeFromTheirRecordsAndLoadedAgainKeepTheirWindow) {
   const auto check = [&]<typename Control>(const char* name, Loader<Control> load) {
     SCOPED_TRACE(name);
     Control control, unknown;
     (skin_.*load)(control, rect_, host_.get(), 1);
+    const HWND window = control;
     EXPECT_EQ(rect_, CRect(10, 20, 40, 60));
     EXPECT_EQ(place_of(control), rect_);
     EXPECT_TRUE(is_child(control, 1));
+    EXPECT_EQ(control.GetStyle() & (WS_VISIBLE | WS_TABSTOP), WS_VISIBLE | WS_TABSTOP);
     pump();
-    EXPECT_EQ(frame().count_other_than(rect_, kMain), 0);
+    EXPECT_EQ(pixel(11, 21), kMain);
     (skin_.*load)(unknown, rect_, host_.get(), kUnknown);
     EXPECT_TRUE(rect_.IsRectNull());
     EXPECT_TRUE(is_child(unknown, kUnknown));
+    // Control 2 has neither an image nor a caption that is known.
+    (skin_.*load)(control, rect_, host_.get(), 2);
+    EXPECT_EQ(control.GetSafeHwnd(), window);
+    EXPECT_EQ(place_of(control), CRect(50, 20, 80, 60));
+    pump();
+    EXPECT_NE(pixel(65, 40), kMain);
+    if constexpr (std::is_base_of_v<CSkinnedWnd, Control>) {
+      EXPECT_EQ(frame().count_other_than(rect_, ::GetSysColor(COLOR_BTNFACE)), 0);
+    } else {
+      EXPECT_EQ(text_of(control), L"");
+    }
+    (skin_.*load)(control, rect_, host_.get(), 1);
+    EXPECT_EQ(text_of(control), L"保");
+    control.MoveWindow(CRect(10, 20, 100, 120));
+    pump();
+    EXPECT_EQ(pixel(98, 118), kMain);
   };
+  check("skinned button", &CXmlListMgr::LoadGdiBtn);
   check("button", &CXmlListMgr::LoadHdcBtn);
   check("slider", &CXmlListMgr::LoadGdiSlider);
   check("combo box", &CXmlListMgr::LoadGdiComboBox);
@@ -143,7 +164,7 @@ TEST_F(SkinControls, ATabStripNeedsARecord) {
   skin_.LoadListTab(strip, rect_, host_.get(), kUnknown);
   EXPECT_EQ(strip.GetSafeHwnd(), nullptr);
   EXPECT_EQ(rect_, CRect(1, 2, 3, 4));
-  skin_.AddListTabBtn(strip, 1);
+  EXPECT_EQ(CUICtrlMgr().LoadTabBtn(strip, 1, {}), 0);
   EXPECT_EQ(strip.GetBtnCount(), 0);
 
   skin_.LoadListTab(strip, rect_, host_.get(), 2);
@@ -152,37 +173,37 @@ TEST_F(SkinControls, ATabStripNeedsARecord) {
   skin_.AddListTabBtn(strip, 1);
   skin_.AddListTabBtn(strip, kUnknown);
   EXPECT_EQ(strip.GetBtnCount(), 2);
-  const HWND tab = ::GetDlgItem(strip, 1);
-  ASSERT_NE(tab, nullptr);
   strip.MoveWindow(0, 0, 200, 100);
   pump();
-  click(15, 25);
-  ASSERT_EQ(host_->commands.size(), 1u);
-  EXPECT_EQ(host_->commands[0].sender, tab);
+  EXPECT_EQ(pixel(11, 21), kMain);
+  expect_click_from(strip, 1, {15, 25});
 }
 
 TEST_F(SkinControls, AListBarIsShownWithItsPagingButtonsWhenThereIsARecord) {
   CListBar bar, unknown;
+  EXPECT_EQ(bar.CreateForwardBtn(L""), 0) << "no bar yet";
   skin_.LoadListBar(bar, rect_, host_.get(), 1);
   EXPECT_EQ(rect_, CRect(10, 20, 40, 60));
   EXPECT_TRUE(is_child(bar, 1));
   EXPECT_EQ(text_of(bar), L"listBar");
   EXPECT_TRUE(bar.IsWindowVisible());
   EXPECT_EQ(place_of(bar), CRect());
+  EXPECT_EQ(bar.CreateForwardBtn(skin_.GetBgImgPath(1)), 0) << "has one";
   bar.MoveWindow(rect_);
   pump();
-  EXPECT_EQ(pixel(11, 36), kEnd);
-  EXPECT_EQ(pixel(38, 36), kEnd);
-  EXPECT_NE(pixel(25, 36), kEnd);
-  click(38, 38);
-  ASSERT_EQ(host_->commands.size(), 1u);
-  EXPECT_EQ(host_->commands[0].sender, ::GetDlgItem(bar, CListBar::kForwardId));
+  const auto shown = frame();
+  EXPECT_EQ(shown.count_other_than(CRect(32, 35, 40, 45), kForward), 0);
+  EXPECT_EQ(shown.count_other_than(CRect(10, 34, 16, 46), kBackward), 0);
+  EXPECT_EQ(shown.count_other_than(rect_, ::GetSysColor(COLOR_BTNFACE)), 8 * 10 + 6 * 12);
+  expect_click_from(bar, 1, {38, 38});
+  expect_click_from(bar, 2, {11, 38});
 
   skin_.LoadListBar(unknown, rect_, host_.get(), kUnknown);
   EXPECT_TRUE(rect_.IsRectNull());
   EXPECT_TRUE(is_child(unknown, kUnknown));
   EXPECT_FALSE(unknown.IsWindowVisible());
   EXPECT_EQ(::GetWindow(unknown, GW_CHILD), nullptr);
+  EXPECT_EQ(unknown.CreateBackwardBtn(skin_.GetBgImgPath(1)), 1);
 }
 
 TEST_F(SkinControls, AnAnimatedPictureIsShownWhenThereIsARecord) {
@@ -196,6 +217,10 @@ TEST_F(SkinControls, AnAnimatedPictureIsShownWhenThereIsARecord) {
   picture.MoveWindow(rect_);
   pump();
   EXPECT_EQ(frame().count_other_than(rect_, kMain), 0);
+  EXPECT_EQ(picture.Load((folder_.wide() + L"\\image\\forward.bmp").c_str()), 1);
+  pump();
+  EXPECT_EQ(frame().count_other_than(rect_, kForward), 0);
+  EXPECT_EQ(picture.SendMessageW(WM_ERASEBKGND), TRUE);
   click(20, 30);
   EXPECT_EQ(host_->presses.size(), 1u) << "the picture lets the mouse through";
 
@@ -230,7 +255,7 @@ TEST_F(SkinControls, TheListsMayBeReleasedWhileAControlIsCreated) {
   CGdiBtnEx button;
   skin_.LoadGdiBtn(button, rect_, &parent, 1);
   EXPECT_EQ(rect_, CRect(10, 20, 40, 60));
-  EXPECT_EQ(text_of(button), L"保存");
+  EXPECT_EQ(text_of(button), L"保");
   EXPECT_EQ(skin_.GetCtrl(1), nullptr);
   CListBar bar;
   skin_.LoadListBar(bar, rect_, &parent, 1);

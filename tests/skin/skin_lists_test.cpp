@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <optional>
 
 namespace corvane {
@@ -90,15 +91,16 @@ TEST(SkinLists, ReleasingOneListKeepsTheOthersAndTheBackground) {
   SkinLists lists;
   fill(lists);
   lists.background = RGB(1, 2, 3);
+  const auto sizes = [&lists] {
+    return std::array{lists.controls.size(), lists.captions.size(), lists.fonts.size()};
+  };
   lists.release_controls();
-  EXPECT_TRUE(lists.controls.empty());
-  EXPECT_EQ(lists.captions.size(), 6u);
-  EXPECT_EQ(lists.background, RGB(1, 2, 3));
+  EXPECT_EQ(sizes(), (std::array<std::size_t, 3>{0, 6, 4}));
   lists.release_captions();
-  EXPECT_TRUE(lists.captions.empty());
-  EXPECT_EQ(lists.fonts.size(), 4u);
+  EXPECT_EQ(sizes(), (std::array<std::size_t, 3>{0, 0, 4}));
   lists.release_fonts();
-  EXPECT_TRUE(lists.fonts.empty());
+  EXPECT_EQ(sizes(), (std::array<std::size_t, 3>{0, 0, 0}));
+  EXPECT_EQ(lists.background, RGB(1, 2, 3));
   lists.release_controls();
 }
 

@@ -80,49 +80,51 @@ TEST_F(SkinReader, ReadsEveryAttributeOfAControl) {
   EXPECT_EQ(control.caption_ids[0], 12);
 }
 
-TEST_F(SkinReader, AControlWithAnIdAloneGetsTheDefaults) {
-  ASSERT_EQ(read_controls(kWholeControl), 2u);
-  const auto& control = controls.at(1);
-  EXPECT_EQ(control.id, -1);
-  EXPECT_TRUE(IsRectEmpty(&control.rect));
-  EXPECT_TRUE(control.image.IsEmpty());
-  EXPECT_TRUE(control.hover_image.IsEmpty());
-  EXPECT_EQ(control.text_color, RGB(0, 0, 0));
-  EXPECT_EQ(control.disabled_text_color, RGB(128, 128, 128));
-  EXPECT_FALSE(control.caption_ids);
-}
-
-TEST_F(SkinReader, WrongValuesCountAsAbsent) {
+TEST_F(SkinReader, WhatIsMissingOrWrongOrOutOfRangeCountsAsAbsent) {
   ASSERT_EQ(read_controls(R"(<controls><list id="4" background="red">
       <control/><control id="x"/><control id="99999999999"/>
-      <control id="1" x="99999" y="1e2" width="-3" height="40" caption="first" padding-left="-1"
-               images="no_place.png" image-pressed="../../secret.png" text-color="#12"/>
-      <button id="2"/>
+      <control id="-1"/>
+      <control id="1" x="32768" y="-32769" width="-1" height="32768" caption="first"
+               padding-left="-1" padding-top="32768" images="no_place.png"
+               image-pressed="../../secret.png" text-color="#12"/>
+      <control id="2" x="-32768" y="32767" width="32767" height="0" padding-left="32767"/>
+      <button id="3"/>
       </list></controls>)"),
-            1u);
-  const auto& control = controls.at(0);
-  const RECT expected{0, 0, 0, 40};
-  EXPECT_TRUE(EqualRect(&control.rect, &expected));
-  EXPECT_TRUE(control.image.IsEmpty());
-  EXPECT_TRUE(control.pressed_image.IsEmpty());
-  EXPECT_FALSE(control.caption_ids);
-  EXPECT_EQ(control.padding_left, 0);
-  EXPECT_EQ(control.text_color, RGB(0, 0, 0));
-  EXPECT_EQ(background, RGB(255, 255, 255));
-}
-
-TEST_F(SkinReader, AppendsToWhatTheListHolds) {
-  ASSERT_EQ(read_controls(kWholeControl), 2u);
-  ASSERT_EQ(read_controls(kWholeControl), 2u);
-  EXPECT_EQ(controls.records.size(), 4u);
-}
-
-TEST_F(SkinReader, RecordsOfOneIdAreAllKeptInOrder) {
-  ASSERT_EQ(read_controls(R"(<controls><list id="4">
-      <control id="1" x="1"/><control id="2"/><control id="1" x="3"/></list></controls>)"),
             3u);
-  EXPECT_EQ(controls.at(0).rect.left, 1);
-  EXPECT_EQ(controls.at(2).rect.left, 3);
+  EXPECT_EQ(background, RGB(255, 255, 255));
+  EXPECT_EQ(controls.at(0).id, -1);
+  for (const std::size_t index : {0u, 1u}) {
+    SCOPED_TRACE(index);
+    const auto& control = controls.at(index);
+    const RECT none{};
+    EXPECT_TRUE(EqualRect(&control.rect, &none));
+    for (const CString* const image :
+         {&control.image, &control.hover_image, &control.pressed_image, &control.disabled_image,
+          &control.selected_image, &control.forward_image, &control.backward_image}) {
+      EXPECT_TRUE(image->IsEmpty());
+    }
+    for (const COLORREF color : {control.text_color, control.hover_text_color,
+                                 control.pressed_text_color, control.selected_text_color}) {
+      EXPECT_EQ(color, RGB(0, 0, 0));
+    }
+    EXPECT_EQ(control.disabled_text_color, RGB(128, 128, 128));
+    EXPECT_EQ(control.padding_left + control.padding_top, 0);
+    EXPECT_FALSE(control.caption_ids);
+  }
+  const RECT farthest{-32768, 32767, -1, 32767};
+  EXPECT_TRUE(EqualRect(&controls.at(2).rect, &farthest));
+  EXPECT_EQ(controls.at(2).padding_left, 32767);
+}
+
+TEST_F(SkinReader, AppendsEveryRecordInTheFilesOrder) {
+  for (const std::size_t count : {3u, 6u}) {
+    ASSERT_EQ(read_controls(R"(<controls><list id="4">
+        <control id="1" x="1"/><control id="2"/><control id="1" x="3"/></list></controls>)"),
+              3u);
+    EXPECT_EQ(controls.records.size(), count);
+    EXPECT_EQ(controls.at(count - 3).rect.left, 1);
+    EXPECT_EQ(controls.at(count - 1).rect.left, 3);
+  }
 }
 
 TEST_F(SkinReader, FilesThatAreNoSkinGiveNothing) {
@@ -157,12 +159,12 @@ TEST_F(SkinReader, FilesThatAreNoSkinGiveNothing) {
   EXPECT_TRUE(controls.records.empty());
 }
 
-TEST_F(SkinReader, DeepButWholeFilesAreRead) {
+TEST_F(SkinReader, DeepButWholeFilesAreReadWithOrWithoutAByteOrderMark) {
   std::string text = R"(<controls><list id="4"><control id="1">)";
   constexpr int kDepth = 100000;
   for (int i = 0; i < kDepth; ++i) text += "<a>";
   for (int i = 0; i < kDepth; ++i) text += "</a>";
-  EXPECT_EQ(read_controls(text + "</control></list></controls>"), 1u);
+  EXPECT_EQ(read_controls("\xEF\xBB\xBF" + text + "</control></list></controls>"), 1u);
 }
 
 TEST_F(SkinReader, FilesAboveTheLimitAreRefused) {
@@ -173,12 +175,6 @@ TEST_F(SkinReader, FilesAboveTheLimitAreRefused) {
   EXPECT_EQ(read_controls(head + filler + tail), 1u);
   EXPECT_EQ(read_controls(head + filler + "x" + tail), 0u);
   EXPECT_EQ(loaded, 0);
-}
-
-TEST_F(SkinReader, AByteOrderMarkIsNoText) {
-  EXPECT_EQ(
-      read_controls("\xEF\xBB\xBF<controls><list id=\"4\"><control id=\"1\"/></list></controls>"),
-      1u);
 }
 
 TEST_F(SkinReader, AFileCutAtAnyByteGivesAllOrNothing) {
@@ -214,20 +210,12 @@ TEST_F(SkinReader, PathsThatNameNoFileGiveNothing) {
   EXPECT_EQ(reader.Load(nullptr), 0);
 }
 
-TEST_F(SkinReader, AFailedLoadForgetsTheFormerFile) {
+TEST_F(SkinReader, ACopyKeepsTheFileThatAFailedLoadForgets) {
   CControlMgr reader;
   ASSERT_EQ(reader.Load(folder.file("whole.xml", kWholeControl).c_str()), 1);
+  const CControlMgr copy = reader;
   ASSERT_EQ(reader.Load("no such file"), 0);
   EXPECT_EQ(reader.ReadControl(controls.records, 4, &background), 0u);
-}
-
-TEST_F(SkinReader, ACopiedReaderReadsTheSameFile) {
-  CControlMgr copy;
-  {
-    CControlMgr reader;
-    ASSERT_EQ(reader.Load(folder.file("whole.xml", kWholeControl).c_str()), 1);
-    copy = reader;
-  }
   EXPECT_EQ(copy.ReadControl(controls.records, 4, nullptr), 2u);
 }
 
@@ -248,33 +236,43 @@ TEST_F(SkinReader, ReadsCaptionsOfOneList) {
   EXPECT_TRUE(captions.at(1).text.IsEmpty());
   EXPECT_EQ(captions.at(1).font_id, 0);
   EXPECT_EQ(reader.ReadLanguage(captions.records, 6), 0u);
+  EXPECT_EQ(reader.Load("no such file"), 0);
 }
 
 TEST_F(SkinReader, ReadsFontsWithLimits) {
-  CLogfontMgr reader;
   const std::string longest(31, 'f');
-  ASSERT_EQ(reader.Load(folder
-                            .file("ui_logfont.xml", R"(<fonts>
-      <font id="1" face="黑体" size="14" weight="700" italic="true" underline="1"/>
-      <font id="2" size="0" weight="2000" italic="yes" face="f)" +
-                                                        longest + R"("/>
-      <font id="3" face=")" + longest + R"("/><font face="no id"/></fonts>)")
-                            .c_str()),
-            1);
+  const struct {
+    std::string attributes;
+    int height, weight;
+    std::wstring face;
+    bool italic = false, underline = false;
+  } cases[] = {{R"(face="黑体" size="20" weight="700" italic="true" underline="1")", -20, 700,
+                L"黑体", true, true},
+               {R"(underline="true")", -14, 400, L"宋体", false, true},
+               {R"(size="0" weight="0" italic="yes" face="f)" + longest + '"', -14, 400, L"宋体"},
+               {R"(size="1001" weight="1001")", -14, 400, L"宋体"},
+               {R"(size="1" weight="1" face=")" + longest + '"', -1, 1, std::wstring(31, L'f')},
+               {R"(size="1000" weight="1000" face="a")", -1000, 1000, L"a"}};
+  std::string text = R"(<fonts><font face="no id"/>)";
+  for (const auto& each : cases) text += "<font id=\"1\" " + each.attributes + "/>";
+  CLogfontMgr reader;
   OwnedList<_MYFONT> fonts;
-  ASSERT_EQ(reader.ReadLogfont(fonts.records), 3u);
-  const LOGFONTW& whole = *fonts.at(0).description;
-  EXPECT_STREQ(whole.lfFaceName, L"黑体");
-  EXPECT_EQ(whole.lfHeight, -14);
-  EXPECT_EQ(whole.lfWeight, 700);
-  EXPECT_EQ(whole.lfItalic, 1);
-  EXPECT_EQ(whole.lfUnderline, 1);
-  const LOGFONTW& defaults = *fonts.at(1).description;
-  EXPECT_STREQ(defaults.lfFaceName, L"宋体");
-  EXPECT_EQ(defaults.lfHeight, -14);
-  EXPECT_EQ(defaults.lfWeight, 400);
-  EXPECT_EQ(defaults.lfItalic, 0);
-  EXPECT_EQ(std::wstring(fonts.at(2).description->lfFaceName), std::wstring(31, L'f'));
+  EXPECT_EQ(reader.ReadLogfont(fonts.records), 0u);
+  ASSERT_EQ(reader.Load(folder.file("ui_logfont.xml", text + "</fonts>").c_str()), 1);
+  ASSERT_EQ(reader.ReadLogfont(fonts.records), std::size(cases));
+  for (std::size_t index = 0; index < std::size(cases); ++index) {
+    const auto& expected = cases[index];
+    SCOPED_TRACE(expected.attributes);
+    EXPECT_EQ(fonts.at(index).id, 1);
+    const LOGFONTW& font = *fonts.at(index).description;
+    EXPECT_EQ(font.lfFaceName, expected.face);
+    EXPECT_EQ(font.lfHeight, expected.height);
+    EXPECT_EQ(font.lfWeight, expected.weight);
+    EXPECT_EQ(font.lfItalic != 0, expected.italic);
+    EXPECT_EQ(font.lfUnderline != 0, expected.underline);
+    EXPECT_EQ(font.lfCharSet, DEFAULT_CHARSET);
+  }
+  EXPECT_EQ(reader.Load("no such file"), 0);
 }
 
 }  // namespace

@@ -47,11 +47,34 @@ TEST_F(XmlListMgr, IsEmptyAtFirst) {
   EXPECT_EQ(skin_.GetBgImgPath(1), folder_.wide() + L"\\image\\");
 }
 
-TEST_F(XmlListMgr, ReadsOnlyTheControlsOfSomeWindows) {
-  skin_.Load({4, SkinReads::controls});
-  EXPECT_NE(skin_.GetCtrl(1), nullptr);
-  EXPECT_EQ(skin_.GetLanguage(5), nullptr);
-  EXPECT_EQ(skin_.GetMyFont(1), nullptr);
+TEST_F(XmlListMgr, EachWindowReadsItsListOfTheSkin) {
+  const struct {
+    SkinList list;
+    int id;
+    bool captions;
+  } cases[] = {
+      {kFolderTreeList, 1, false}, {kSplitScreenList, 3, true},     {kCropBarList, 4, true},
+      {kDataPathList, 5, true},    {kMessageBoxList, 7, true},      {kRotateKnobList, 9, true},
+      {kGestureList, 10, true},    {kAutoPhotographList, 11, true}, {kPaintList, 12, false}};
+  std::string controls, captions;
+  for (int id = 0; id < 20; ++id) {
+    const std::string list = "<list id='" + std::to_string(id) + "'>", x = std::to_string(id);
+    controls += list + "<control id='1' x='" + x + "'/></list>";
+    captions += list + "<caption id='1' font='" + x + "'/></list>";
+  }
+  folder_.file("ui_control.xml", "<controls>" + controls + "</controls>");
+  folder_.file("ui_language.xml", "<captions>" + captions + "</captions>");
+  for (const auto& each : cases) {
+    SCOPED_TRACE(each.id);
+    CXmlListMgr skin;
+    skin.Load(each.list);
+    EXPECT_EQ(skin.GetBgRect(1).left, each.id);
+    ASSERT_EQ(skin.GetLanguage(1) != nullptr, each.captions);
+    EXPECT_EQ(skin.GetMyFont(1) != nullptr, each.captions);
+    if (each.captions) {
+      EXPECT_EQ(skin.GetLanguage(1)->font_id, each.id);
+    }
+  }
 }
 
 TEST_F(XmlListMgr, AnswersFromTheLoadedList) {
