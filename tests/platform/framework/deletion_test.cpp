@@ -2,6 +2,8 @@
 // address sanitizer these fail on any touch of what is gone.
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "tests/platform/framework/watched_wnd.h"
 #include "tests/support/desktop.h"
 
@@ -10,129 +12,83 @@ namespace {
 
 enum class Deed { delete_self, destroy_self, delete_parent };
 
-struct Count {
+// What happens at the first message `trigger`; none at WM_NULL.
+struct Session {
+  UINT trigger = WM_NULL;
+  Deed deed = Deed::delete_self;
+  WatchedWnd* parent = nullptr;
+  std::set<UINT> seen;
   int alive = 0;
   int deeds = 0;
 };
 
-// Does the deed at the first message `trigger`, in the handler that the message map names.
+// Does the deed in the handler that the message map names.
 class FragileWnd : public WatchedWnd {
  public:
-  FragileWnd(UINT trigger, Deed deed, WatchedWnd* parent, Count* count)
-      : trigger_(trigger), deed_(deed), parent_(parent), count_(count) {
-    ++count_->alive;
-  }
-  ~FragileWnd() override { --count_->alive; }
+  explicit FragileWnd(Session& session) : session_(session) { ++session_.alive; }
+  ~FragileWnd() override { --session_.alive; }
   const MessageMap* GetMessageMap() const override;
 
  protected:
-  void Plain() { act_or_default(); }
-  void Mouse(UINT, CPoint) { act_or_default(); }
-  BOOL Wheel(UINT, short, CPoint) { return act(), FALSE; }
-  int Create(LPCREATESTRUCT) { return act(), 0; }
-  void Size(UINT, int, int) { act(); }
-  void Move(int, int) { act(); }
-  BOOL Erase(CDC*) { return act(), FALSE; }
-  void Timer(UINT_PTR) { act(); }
-  BOOL Cursor(CWnd*, UINT, UINT) { return act(), FALSE; }
-  void Focus(CWnd*) { act(); }
-  void Capture(CWnd*) { act(); }
-  void Key(UINT, UINT, UINT) { act(); }
-  void Show(BOOL, UINT) { act(); }
-  void Enable(BOOL) { act(); }
-  void Activate(UINT, CWnd*, BOOL) { act(); }
-  void SysCommand(UINT, LPARAM) { act(); }
-  void Position(WINDOWPOS*) { act_or_default(); }
-  LRESULT Generic(WPARAM, LPARAM) { return act(), TRUE; }
+  // What gives no answer goes on to the default handling, whose nested messages may delete the
+  // object.
+  template <class Result, class... Arguments>
+  Result Act(Arguments...) {
+    const UINT message = GetCurrentMessage()->message;
+    const bool goes_on = std::is_void_v<Result> && message != session_.trigger;
+    act(message);
+    if (goes_on) Default();
+    return Result();
+  }
+  LRESULT Generic(WPARAM, LPARAM) { return act(GetCurrentMessage()->message), TRUE; }
   void Paint() {
     CPaintDC dc(this);
-    act();
+    act(WM_PAINT);
     dc.FillSolidRect(CRect(0, 0, 5, 5), RGB(1, 2, 3));
   }
   BOOL OnCommand(WPARAM, LPARAM) override { return act(WM_COMMAND), FALSE; }
   BOOL OnNotify(WPARAM, LPARAM, LRESULT*) override { return act(WM_NOTIFY), FALSE; }
-  void PostNcDestroy() override {
-    if (trigger_ == WM_NULL) delete this;
-  }
 
  private:
-  // The default handling may bring a nested message that deletes the object.
-  void act_or_default() {
-    if (GetCurrentMessage()->message == trigger_)
-      act();
-    else
-      Default();
-  }
-  void act() { act(GetCurrentMessage()->message); }
   void act(UINT message) {
-    if (message != trigger_ || count_->deeds > 0) return;
-    ++count_->deeds;
-    if (deed_ == Deed::delete_self)
+    session_.seen.insert(message);
+    if (message != session_.trigger || session_.deeds > 0) return;
+    ++session_.deeds;
+    if (session_.deed == Deed::delete_self) {
       delete this;
-    else if (deed_ == Deed::destroy_self)
+    } else if (session_.deed == Deed::destroy_self) {
       DestroyWindow();
-    else
-      delete parent_;
+    } else {
+      delete session_.parent;
+    }
+  }
+  template <class Result, class... Arguments>
+  static constexpr auto handler(Result (*)(Arguments...)) {
+    return &FragileWnd::Act<Result, Arguments...>;
+  }
+  template <UINT... messages>
+  static consteval auto acting_table() {
+    return MessageTable(
+        OnMessage<WM_NCCREATE>(&FragileWnd::Generic), OnMessage<WM_USER>(&FragileWnd::Generic),
+        On<WM_PAINT>(&FragileWnd::Paint),
+        On<messages>(
+            handler(static_cast<typename MessageTraits<messages>::Signature*>(nullptr)))...);
   }
 
-  UINT trigger_;
-  Deed deed_;
-  WatchedWnd* parent_;
-  Count* count_;
+  Session& session_;
 };
 
 const MessageMap* FragileWnd::GetMessageMap() const {
-  using W = FragileWnd;
-  static constexpr auto kMessages = MessageTable(
-      OnMessage<WM_NCCREATE>(&W::Generic), On<WM_CREATE>(&W::Create), On<WM_DESTROY>(&W::Plain),
-      On<WM_SIZE>(&W::Size), On<WM_MOVE>(&W::Move), On<WM_PAINT>(&W::Paint),
-      On<WM_CLOSE>(&W::Plain), On<WM_ERASEBKGND>(&W::Erase), On<WM_TIMER>(&W::Timer),
-      On<WM_SETCURSOR>(&W::Cursor), On<WM_SETFOCUS>(&W::Focus), On<WM_KILLFOCUS>(&W::Focus),
-      On<WM_CAPTURECHANGED>(&W::Capture), On<WM_KEYDOWN>(&W::Key), On<WM_KEYUP>(&W::Key),
-      On<WM_CHAR>(&W::Key), On<WM_SHOWWINDOW>(&W::Show), On<WM_ENABLE>(&W::Enable),
-      On<WM_ACTIVATE>(&W::Activate), On<WM_SYSCOMMAND>(&W::SysCommand),
-      On<WM_WINDOWPOSCHANGING>(&W::Position), On<WM_WINDOWPOSCHANGED>(&W::Position),
-      On<WM_MOUSEMOVE>(&W::Mouse), On<WM_LBUTTONDOWN>(&W::Mouse), On<WM_LBUTTONUP>(&W::Mouse),
-      On<WM_LBUTTONDBLCLK>(&W::Mouse), On<WM_RBUTTONDOWN>(&W::Mouse), On<WM_MOUSEWHEEL>(&W::Wheel),
-      On<WM_CANCELMODE>(&W::Plain), OnMessage<WM_USER>(&W::Generic));
+  static constexpr auto kMessages =
+      acting_table<WM_CREATE, WM_DESTROY, WM_SIZE, WM_MOVE, WM_CLOSE, WM_ERASEBKGND, WM_TIMER,
+                   WM_SETCURSOR, WM_SETFOCUS, WM_KILLFOCUS, WM_CAPTURECHANGED, WM_KEYDOWN, WM_KEYUP,
+                   WM_CHAR, WM_SHOWWINDOW, WM_ENABLE, WM_ACTIVATE, WM_SYSCOMMAND, WM_MOUSEMOVE,
+                   WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_RBUTTONDOWN, WM_MOUSEWHEEL,
+                   WM_CANCELMODE, WM_WINDOWPOSCHANGING, WM_WINDOWPOSCHANGED>();
   static const MessageMap map = kMessages.extending(WatchedWnd::GetMessageMap());
   return &map;
 }
-
-constexpr UINT kTriggers[] = {
-    WM_NCCREATE,
-    WM_CREATE,
-    WM_DESTROY,
-    WM_SIZE,
-    WM_MOVE,
-    WM_PAINT,
-    WM_CLOSE,
-    WM_ERASEBKGND,
-    WM_TIMER,
-    WM_SETCURSOR,
-    WM_SETFOCUS,
-    WM_KILLFOCUS,
-    WM_CAPTURECHANGED,
-    WM_KEYDOWN,
-    WM_KEYUP,
-    WM_CHAR,
-    WM_SHOWWINDOW,
-    WM_ENABLE,
-    WM_ACTIVATE,
-    WM_SYSCOMMAND,
-    WM_COMMAND,
-    WM_NOTIFY,
-    WM_MOUSEMOVE,
-    WM_LBUTTONDOWN,
-    WM_LBUTTONUP,
-    WM_LBUTTONDBLCLK,
-    WM_RBUTTONDOWN,
-    WM_MOUSEWHEEL,
-    WM_CANCELMODE,
-    WM_USER,
-    WM_WINDOWPOSCHANGING,
-    WM_WINDOWPOSCHANGED,
-};
+constexpr std::size_t kHandled = 32;
 
 // Makes the window system send or post every message above to the window; stops caring when it is
 // gone. WM_NCCREATE to WM_MOVE come with the creation.
@@ -152,15 +108,13 @@ void go_through_everything(test::Desktop& desktop, HWND window) {
   turn();
   desktop.send_mouse(MOUSEEVENTF_LEFTDOWN);
   turn();
-  desktop.send_mouse(MOUSEEVENTF_LEFTUP);
-  desktop.send_mouse(MOUSEEVENTF_LEFTDOWN);
-  desktop.send_mouse(MOUSEEVENTF_LEFTUP);
-  desktop.send_mouse(MOUSEEVENTF_RIGHTDOWN);
-  desktop.send_mouse(MOUSEEVENTF_RIGHTUP);
+  for (const DWORD flag : {MOUSEEVENTF_LEFTUP, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP,
+                           MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP}) {
+    desktop.send_mouse(flag);
+  }
   desktop.send_mouse(MOUSEEVENTF_WHEEL, 120);
   turn();
-  desktop.send_key('A', true);
-  desktop.send_key('A', false);
+  desktop.key('A');
   turn();
   ::SetCapture(window);
   ::ReleaseCapture();
@@ -179,61 +133,72 @@ void go_through_everything(test::Desktop& desktop, HWND window) {
   ::DestroyWindow(window);
 }
 
-class FrameworkDeletion : public testing::TestWithParam<std::tuple<UINT, Deed>> {};
-
-TEST_P(FrameworkDeletion, LeavesNoTraceBehind) {
-  const auto [trigger, deed] = GetParam();
-  Count count;
+void play(Session& session) {
   test::Desktop desktop;
   {
     WatchedWnd main;
     ASSERT_TRUE(main.create(nullptr, WS_POPUP | WS_VISIBLE, CRect(0, 0, 600, 500)));
-    auto* parent = new WatchedWnd;
-    ASSERT_TRUE(parent->create(main, WS_CHILD | WS_VISIBLE));
-    const HWND parent_handle = *parent;
-    auto* fragile = new FragileWnd(trigger, deed, parent, &count);
-    HWND handle = nullptr;
-    fragile->create(parent_handle, WS_CHILD, CRect(40, 40, 120, 120));
-    handle = ::GetWindow(parent_handle, GW_CHILD);
+    session.parent = new WatchedWnd;
+    ASSERT_TRUE(session.parent->create(main, WS_CHILD | WS_VISIBLE));
+    const HWND parent = *session.parent;
+    auto* const fragile = new FragileWnd(session);
+    fragile->create(parent, WS_CHILD, CRect(40, 40, 120, 120));
+    const HWND handle = ::GetWindow(parent, GW_CHILD);
     go_through_everything(desktop, handle);
     EXPECT_FALSE(::IsWindow(handle));
-    EXPECT_EQ(count.deeds, 1);
-    EXPECT_EQ(::IsWindow(parent_handle), deed != Deed::delete_parent);
-    EXPECT_EQ(count.alive, deed == Deed::delete_self ? 0 : 1);
-    if (count.alive) {
+    const bool parent_gone = session.deeds > 0 && session.deed == Deed::delete_parent;
+    EXPECT_EQ(::IsWindow(parent), !parent_gone);
+    if (session.alive > 0) {
       EXPECT_EQ(fragile->GetSafeHwnd(), nullptr);
       delete fragile;
+    } else {
+      EXPECT_EQ(session.deed, Deed::delete_self);
     }
-    if (deed != Deed::delete_parent) delete parent;
+    if (!parent_gone) delete session.parent;
     EXPECT_EQ(desktop.living_windows(), 1);
   }
   EXPECT_EQ(desktop.living_windows(), 0);
 }
 
-std::string name_of(const testing::TestParamInfo<std::tuple<UINT, Deed>>& info) {
-  constexpr const char* kDeeds[] = {"DeleteSelf", "DestroySelf", "DeleteParent"};
-  char text[64];
-  std::snprintf(text, sizeof text, "%s_0x%04X", kDeeds[static_cast<int>(std::get<1>(info.param))],
-                std::get<0>(info.param));
-  return text;
+class FrameworkDeletion : public testing::TestWithParam<Deed> {};
+
+TEST_P(FrameworkDeletion, LeavesNoTraceBehind) {
+  Session undisturbed;
+  play(undisturbed);
+  ASSERT_EQ(undisturbed.seen.size(), kHandled);
+  for (const UINT message : undisturbed.seen) {
+    SCOPED_TRACE(message);
+    Session session{.trigger = message, .deed = GetParam(), .seen = {}};
+    play(session);
+    EXPECT_EQ(session.deeds, 1);
+  }
 }
 
-INSTANTIATE_TEST_SUITE_P(EveryMessage, FrameworkDeletion,
-                         testing::Combine(testing::ValuesIn(kTriggers),
-                                          testing::Values(Deed::delete_self, Deed::destroy_self,
-                                                          Deed::delete_parent)),
-                         name_of);
+INSTANTIATE_TEST_SUITE_P(InEveryMessage, FrameworkDeletion,
+                         testing::Values(Deed::delete_self, Deed::destroy_self,
+                                         Deed::delete_parent));
 
 TEST(FrameworkDeletionAtTheEnd, PostNcDestroyMayDeleteTheObject) {
-  Count count;
-  test::Desktop desktop;
-  auto* window = new FragileWnd(WM_NULL, Deed::delete_self, nullptr, &count);
+  class SelfDeleting : public WatchedWnd {
+   public:
+    explicit SelfDeleting(int& deleted) : deleted_(deleted) {}
+    ~SelfDeleting() override { ++deleted_; }
+
+   protected:
+    void PostNcDestroy() override { delete this; }
+
+   private:
+    int& deleted_;
+  };
+  int deleted = 0;
+  const test::Desktop desktop;
+  auto* const window = new SelfDeleting(deleted);
   ASSERT_TRUE(window->create());
   window->DestroyWindow();
-  EXPECT_EQ(count.alive, 0);
-  auto* failing = new FragileWnd(WM_NULL, Deed::delete_self, nullptr, &count);
+  EXPECT_EQ(deleted, 1);
+  auto* const failing = new SelfDeleting(deleted);
   EXPECT_FALSE(failing->CreateEx(0, L"no such class", L"", 0, CRect(), nullptr, 0));
-  EXPECT_EQ(count.alive, 0);
+  EXPECT_EQ(deleted, 2);
 }
 
 }  // namespace

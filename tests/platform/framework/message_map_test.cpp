@@ -98,66 +98,50 @@ LPARAM packed(int low, int high) {
   return MAKELPARAM(static_cast<WORD>(low), static_cast<WORD>(high));
 }
 
-TEST(FrameworkMessageMap, GivesTheHandlerTheMessagesParts) {
+TEST(FrameworkMessageMap, GivesTheHandlerTheMessagesPartsAndTheMessageItsResult) {
+  constexpr LRESULT kNone = -99;
+  CREATESTRUCT creation{};
+  creation.cx = 30;
+  creation.cy = 40;
   const struct {
     UINT message;
     WPARAM wparam;
     LPARAM lparam;
     const char* arguments;
+    LRESULT result = kNone;
+    int answer = 0;
+    bool handled = true;
   } cases[] = {
       {WM_CLOSE, 1, 2, "plain"},
       {WM_RBUTTONUP, MK_SHIFT, packed(-3, 700), "4 -3 700"},
       {WM_MOUSEWHEEL, MAKEWPARAM(MK_CONTROL, static_cast<WORD>(-240)), packed(-1, -2),
-       "8 -240 -1 -2"},
+       "8 -240 -1 -2", TRUE, TRUE},
+      {WM_MOUSEWHEEL, 0, 0, "0 0 0 0", FALSE, FALSE, false},
+      {WM_CREATE, 0, reinterpret_cast<LPARAM>(&creation), "30 40", -1, -1},
       {WM_SIZE, SIZE_MAXIMIZED, packed(40000, 3), "2 40000 3"},
       {WM_MOVE, 0, packed(-40, 30), "-40 30"},
-      {WM_ERASEBKGND, 0x1234, 0, "4660"},
+      {WM_ERASEBKGND, 0x1234, 0, "4660", FALSE, FALSE},
+      {WM_ERASEBKGND, 0, 0, "0", TRUE, TRUE},
       {WM_TIMER, 0x100000000u, 0, "4294967296"},
-      {WM_SETCURSOR, 0, packed(HTCLIENT, WM_MOUSEMOVE), "1 1 512"},
-      {WM_SETCURSOR, 0, packed(HTERROR, WM_LBUTTONDOWN), "1 -2 513"},
+      {WM_SETCURSOR, 0, packed(HTCLIENT, WM_MOUSEMOVE), "1 1 512", TRUE, TRUE},
+      {WM_SETCURSOR, 0, packed(HTERROR, WM_LBUTTONDOWN), "1 -2 513", FALSE, FALSE},
       {WM_CHAR, 0x4E2D, 0xC0010003, "20013 3 49153"},
       {WM_SHOWWINDOW, TRUE, 3, "1 3"},
       {WM_ACTIVATE, MAKEWPARAM(WA_CLICKACTIVE, 1), 0, "2 1 1"},
-      {WM_NCHITTEST, 0, packed(-5, 6), "-5 6"},
+      {WM_NCHITTEST, 0, packed(-5, 6), "-5 6", HTTRANSPARENT},
+      {WM_GETDLGCODE, 0, 0, "", DLGC_WANTARROWS},
       {WM_VSCROLL, MAKEWPARAM(5, 65000), 0, "5 65000 1"},
-      {kDraw, 1, -1, "1 -1"},
-      {WM_PAINT, 0, 0, "none"},
-  };
-  Recorder recorder;
-  for (const auto& each : cases)
-    EXPECT_EQ(recorder.send(each.message, each.wparam, each.lparam), each.arguments)
-        << "message " << each.message;
-}
-
-TEST(FrameworkMessageMap, GivesTheMessageTheHandlersResult) {
-  CREATESTRUCT creation{};
-  creation.cx = 30;
-  creation.cy = 40;
-  const auto record = reinterpret_cast<LPARAM>(&creation);
-  const struct {
-    UINT message;
-    LPARAM lparam;
-    int answer;
-    bool handled;
-    LRESULT result;
-  } cases[] = {
-      {WM_CREATE, record, -1, true, -1},
-      {WM_ERASEBKGND, 0, FALSE, true, FALSE},
-      {WM_ERASEBKGND, 0, TRUE, true, TRUE},
-      {WM_SETCURSOR, 0, TRUE, true, TRUE},
-      {WM_MOUSEWHEEL, 0, TRUE, true, TRUE},
-      {WM_MOUSEWHEEL, 0, FALSE, false, FALSE},
-      {WM_NCHITTEST, 0, 0, true, HTTRANSPARENT},
-      {WM_GETDLGCODE, 0, 0, true, DLGC_WANTARROWS},
-      {kDraw, 0, 0, true, 5},
+      {kDraw, 1, -1, "1 -1", 5},
   };
   Recorder recorder;
   for (const auto& each : cases) {
+    SCOPED_TRACE(each.message);
     recorder.answer = each.answer;
-    recorder.send(each.message, 0, each.lparam);
-    EXPECT_EQ(recorder.handled, each.handled) << "message " << each.message;
-    EXPECT_EQ(recorder.result, each.result) << "message " << each.message;
+    EXPECT_EQ(recorder.send(each.message, each.wparam, each.lparam), each.arguments);
+    EXPECT_EQ(recorder.handled, each.handled);
+    EXPECT_EQ(recorder.result, each.result);
   }
+  EXPECT_EQ(recorder.send(WM_PAINT, 0, 0), "none");
 }
 
 class Base : public CWnd {

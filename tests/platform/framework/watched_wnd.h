@@ -18,11 +18,13 @@ class WatchedWnd : public CWnd {
                     place.Height(), parent, nullptr);
   }
 
-  int ends = 0;  // calls of PostNcDestroy
+  int ends = 0;            // calls of PostNcDestroy
+  UINT refuses = WM_NULL;  // WM_NCCREATE or WM_CREATE: answered so that the creation fails
 
  protected:
   LRESULT WindowProc(UINT message, WPARAM wparam, LPARAM lparam) override {
     if (watch_) watch_(message, wparam, lparam);
+    if (refuses != WM_NULL && message == refuses) return message == WM_CREATE ? -1 : 0;
     return CWnd::WindowProc(message, wparam, lparam);
   }
   void PostNcDestroy() override { ++ends; }

@@ -1,5 +1,4 @@
-#include <random>
-#include <vector>
+#include <optional>
 
 #include "tests/platform/gdi/gdi_fixture.h"
 
@@ -43,15 +42,14 @@ TEST_F(GdiBlits, OverlappingCopiesReadBeforeTheyWrite) {
       HDC both = numbered(own);
       if (complex) ExcludeClipRect(both, 18, 18, 20, 20);
       BitBlt(both, 10 + shift.x, 10 + shift.y, 20, 20, both, 10, 10, SRCCOPY);
-      for (int y = 0; y < 40; ++y)
-        for (int x = 0; x < 40; ++x) {
-          const bool excluded = complex && x >= 18 && x < 20 && y >= 18 && y < 20;
-          const bool copied = x >= 10 + shift.x && x < 30 + shift.x && y >= 10 + shift.y &&
-                              y < 30 + shift.y && !excluded;
-          const Pixel expected = copied ? number(x - shift.x, y - shift.y) : number(x, y);
-          ASSERT_EQ(own->at(x, y), expected)
-              << x << "," << y << " shift " << shift.x << "," << shift.y;
-        }
+      Region copied(RECT{10 + shift.x, 10 + shift.y, 30 + shift.x, 30 + shift.y});
+      if (complex) copied.subtract(RECT{18, 18, 20, 20});
+      for (int at = 0; at < 40 * 40; ++at) {
+        const int x = at % 40, y = at / 40;
+        const bool moved = copied.contains({x, y});
+        ASSERT_EQ(own->at(x, y), moved ? number(x - shift.x, y - shift.y) : number(x, y))
+            << x << "," << y << " shift " << shift.x << "," << shift.y;
+      }
       gdi.close_dc(both);
     }
 }
@@ -108,25 +106,20 @@ TEST_F(GdiBlits, CombiningModesUseAllPixelsWhenShrinking) {
 
 TEST_F(GdiBlits, SmallSourceOfOneColourBecomesAFill) {
   HDC memory = CreateCompatibleDC(dc);
-  HBITMAP bitmap = CreateCompatibleBitmap(dc, 10, 10);
-  HGDIOBJ before = SelectObject(memory, bitmap);
-  const RECT all{0, 0, 10, 10};
-  HBRUSH brush = CreateSolidBrush(RGB(10, 20, 30));
-  FillRect(memory, &all, brush);
-  MoveToEx(memory, 0, 0, nullptr);
-  LineTo(memory, 5, 0);
-  FillRect(memory, &all, brush);
-  StretchBlt(dc, 0, 0, kSize, kSize, memory, 0, 0, 10, 10, SRCCOPY);
+  {
+    const Selected bitmap(memory, CreateCompatibleBitmap(dc, 10, 10));
+    const Selected brush(memory, CreateSolidBrush(RGB(10, 20, 30)));
+    PatBlt(memory, 0, 0, 10, 10, PATCOPY);
+    LineTo(memory, 5, 0);
+    PatBlt(memory, 0, 0, 10, 10, PATCOPY);
+    StretchBlt(dc, 0, 0, kSize, kSize, memory, 0, 0, 10, 10, SRCCOPY);
+  }
   EXPECT_EQ(surface->uniform(), 0x0A141Eu);
-  SelectObject(memory, before);
-  DeleteObject(brush);
-  DeleteObject(bitmap);
   DeleteDC(memory);
 }
 
 TEST_F(GdiBlits, PatternOperations) {
-  HBRUSH brush = CreateSolidBrush(RGB(1, 2, 3));
-  HGDIOBJ before = SelectObject(dc, brush);
+  const Selected brush(dc, CreateSolidBrush(RGB(1, 2, 3)));
   EXPECT_TRUE(PatBlt(dc, 10, 10, 5, 5, PATCOPY));
   EXPECT_EQ(surface->at(14, 14), 0x010203u);
   EXPECT_TRUE(BitBlt(dc, 10, 10, 5, 5, nullptr, 0, 0, BLACKNESS));
@@ -136,8 +129,6 @@ TEST_F(GdiBlits, PatternOperations) {
   EXPECT_FALSE(PatBlt(dc, 10, 10, 5, 5, 0x12345678));
   EXPECT_FALSE(BitBlt(dc, 10, 10, 5, 5, dc, 0, 0, 0x12345678));
   EXPECT_FALSE(BitBlt(dc, 10, 10, 5, 5, nullptr, 0, 0, SRCCOPY));
-  SelectObject(dc, before);
-  DeleteObject(brush);
 }
 
 TEST_F(GdiBlits, FreshMemoryContextIsMonochrome) {
@@ -159,18 +150,15 @@ TEST_F(GdiBlits, FreshMemoryContextIsMonochrome) {
     EXPECT_NE(GetObjectW(made, sizeof bitmap, &bitmap), 0);
     EXPECT_EQ(bitmap.bmWidth, item.got_width);
     EXPECT_EQ(bitmap.bmBitsPixel, item.bits);
-    HGDIOBJ before = SelectObject(memory, made);
+    const Selected bitmap_of(memory, made);
     EXPECT_EQ(GetPixel(memory, 0, 0), 0u);  // new bitmaps are black
-    SelectObject(memory, before);
-    EXPECT_TRUE(DeleteObject(made));
   }
   DeleteDC(memory);
 }
 
 TEST_F(GdiBlits, MonochromeKeepsTwoColours) {
   HDC memory = CreateCompatibleDC(nullptr);
-  HBITMAP mono = CreateCompatibleBitmap(memory, 4, 1);
-  HGDIOBJ before = SelectObject(memory, mono);
+  std::optional<Selected> mono(std::in_place, memory, CreateCompatibleBitmap(memory, 4, 1));
   SetPixel(memory, 0, 0, RGB(200, 200, 200));
   EXPECT_EQ(GetPixel(memory, 0, 0), static_cast<COLORREF>(RGB(255, 255, 255)));
   SetTextColor(dc, RGB(255, 0, 0));
@@ -181,8 +169,7 @@ TEST_F(GdiBlits, MonochromeKeepsTwoColours) {
   BitBlt(memory, 0, 0, 4, 1, dc, 10, 10, SRCCOPY);  // the background colour becomes white
   EXPECT_EQ(GetPixel(memory, 0, 0), static_cast<COLORREF>(RGB(255, 255, 255)));
   EXPECT_EQ(GetPixel(memory, 1, 0), 0u);
-  SelectObject(memory, before);
-  DeleteObject(mono);
+  mono.reset();
   DeleteDC(memory);
 }
 

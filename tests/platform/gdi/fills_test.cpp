@@ -10,39 +10,40 @@ class GdiFills : public GdiTest {
   ~GdiFills() override { DeleteObject(brush); }
 };
 
-enum class Fill { FillRect, FrameRect, Rectangle, ExtTextOut };
-
 TEST_F(GdiFills, RectanglesIncludeLeftTopAndExcludeRightBottom) {
-  struct {
+  using Fill = std::function<void(const RECT&)>;
+  const Fill fill = [&](const RECT& rect) { FillRect(dc, &rect, brush); };
+  const Fill frame = [&](const RECT& rect) { FrameRect(dc, &rect, brush); };
+  const Fill rectangle = [&](const RECT& rect) {
+    Rectangle(dc, rect.left, rect.top, rect.right, rect.bottom);
+  };
+  const Fill opaque = [&](const RECT& rect) {
+    ExtTextOutW(dc, 0, 0, ETO_OPAQUE, &rect, nullptr, 0, nullptr);
+  };
+  const struct {
     Fill fill;
     RECT rect;
     const char* covered;
-  } const cases[] = {
-      {Fill::FillRect, {10, 10, 30, 25}, "10,10,30,25 300"},
-      {Fill::FillRect, {10, 10, 10, 25}, "nothing"},
-      {Fill::FillRect, {30, 10, 10, 25}, "11,10,31,25 300"},
-      {Fill::FillRect, {30, 25, 10, 10}, "11,11,31,26 300"},
-      {Fill::FillRect, {-2147483647 - 1, 5, 2147483647, 6}, "0,5,100,6 100"},
-      {Fill::FrameRect, {10, 10, 30, 25}, "10,10,30,25 66"},
-      {Fill::FrameRect, {10, 10, 11, 25}, "10,10,11,25 15"},
-      {Fill::FrameRect, {10, 10, 30, 10}, "nothing"},
-      {Fill::Rectangle, {10, 10, 30, 25}, "10,10,30,25 300"},
-      {Fill::Rectangle, {10, 10, 11, 11}, "10,10,11,11 1"},
-      {Fill::ExtTextOut, {10, 10, 30, 25}, "10,10,30,25 300"},
-      {Fill::ExtTextOut, {10, 25, 30, 25}, "nothing"},
+  } cases[] = {
+      {fill, {10, 10, 30, 25}, "10,10,30,25 300"},
+      {fill, {10, 10, 10, 25}, "nothing"},
+      {fill, {30, 10, 10, 25}, "11,10,31,25 300"},
+      {fill, {30, 25, 10, 10}, "11,11,31,26 300"},
+      {fill, {-2147483647 - 1, 5, 2147483647, 6}, "0,5,100,6 100"},
+      {frame, {10, 10, 30, 25}, "10,10,30,25 66"},
+      {frame, {10, 10, 11, 25}, "10,10,11,25 15"},
+      {frame, {10, 10, 30, 10}, "nothing"},
+      {rectangle, {10, 10, 30, 25}, "10,10,30,25 300"},
+      {rectangle, {10, 10, 11, 11}, "10,10,11,11 1"},
+      {opaque, {10, 10, 30, 25}, "10,10,30,25 300"},
+      {opaque, {10, 25, 30, 25}, "nothing"},
   };
   SetBkColor(dc, RGB(9, 9, 9));
   HGDIOBJ before = SelectObject(dc, brush);
   for (const auto& item : cases) {
     wipe();
-    const RECT& rect = item.rect;
-    if (item.fill == Fill::FillRect) FillRect(dc, &rect, brush);
-    if (item.fill == Fill::FrameRect) FrameRect(dc, &rect, brush);
-    if (item.fill == Fill::Rectangle) Rectangle(dc, rect.left, rect.top, rect.right, rect.bottom);
-    if (item.fill == Fill::ExtTextOut)
-      ExtTextOutW(dc, 0, 0, ETO_OPAQUE, &rect, nullptr, 0, nullptr);
-    EXPECT_EQ(drawn(), item.covered)
-        << static_cast<int>(item.fill) << " at " << rect.left << "," << rect.top;
+    item.fill(item.rect);
+    EXPECT_EQ(drawn(), item.covered) << item.rect.left << "," << item.rect.top;
   }
   SelectObject(dc, before);
 }
@@ -60,25 +61,21 @@ TEST_F(GdiFills, SolidDrawingWritesAZeroAlphaByte) {
 }
 
 TEST_F(GdiFills, RectangleDrawsOutlineWithThePenAndInsideWithTheBrush) {
-  HPEN pen = CreatePen(PS_SOLID, 1, RGB(7, 0, 0));
-  HGDIOBJ old_pen = SelectObject(dc, pen);
-  HGDIOBJ old_brush = SelectObject(dc, brush);
+  const Selected pen(dc, CreatePen(PS_SOLID, 1, RGB(7, 0, 0)));
+  const HGDIOBJ before = SelectObject(dc, brush);
   Rectangle(dc, 10, 10, 20, 20);
-  EXPECT_EQ(surface->at(10, 10), 0x070000u);
-  EXPECT_EQ(surface->at(19, 19), 0x070000u);
-  EXPECT_EQ(surface->at(11, 11), 0x010203u);
-  wipe();
-  SelectObject(dc, GetStockObject(NULL_PEN));
-  Rectangle(dc, 10, 10, 20, 20);
-  EXPECT_EQ(drawn(), "10,10,19,19 81");
-  wipe();
-  SelectObject(dc, pen);
-  SelectObject(dc, GetStockObject(NULL_BRUSH));
-  Rectangle(dc, 10, 10, 20, 20);
-  EXPECT_EQ(drawn(), "10,10,20,20 36");
-  SelectObject(dc, old_pen);
-  SelectObject(dc, old_brush);
-  DeleteObject(pen);
+  EXPECT_EQ(count([](int, int, Pixel color) { return color == 0x070000; }), 36);
+  EXPECT_EQ(count([](int, int, Pixel color) { return color == 0x010203; }), 64);
+  const std::pair<int, const char*> cases[] = {{NULL_PEN, "10,10,19,19 81"},
+                                               {NULL_BRUSH, "10,10,20,20 36"}};
+  for (const auto& [without, covered] : cases) {
+    wipe();
+    const HGDIOBJ with = SelectObject(dc, GetStockObject(without));
+    Rectangle(dc, 10, 10, 20, 20);
+    EXPECT_EQ(drawn(), covered);
+    SelectObject(dc, with);
+  }
+  SelectObject(dc, before);
 }
 
 TEST_F(GdiFills, ClipRegionLimitsAndMarksExactly) {

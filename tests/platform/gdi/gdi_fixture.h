@@ -2,12 +2,31 @@
 // A drawing system with one white surface and a device context on it.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "corvane/platform/system/gdi/gdi.h"
 
 namespace corvane::system {
+
+// An object that is in the context for as long as this lives, and is deleted then.
+class Selected {
+ public:
+  Selected(HDC dc, HGDIOBJ object) : dc_(dc), object_(object), before_(SelectObject(dc, object)) {}
+  ~Selected() {
+    SelectObject(dc_, before_);
+    DeleteObject(object_);
+  }
+  Selected(const Selected&) = delete;
+  Selected& operator=(const Selected&) = delete;
+
+ private:
+  HDC dc_;
+  HGDIOBJ object_, before_;
+};
 
 class GdiTest : public testing::Test {
  protected:
@@ -24,24 +43,41 @@ class GdiTest : public testing::Test {
     EXPECT_EQ(gdi.live_objects(), 0) << "objects left behind";
   }
 
-  // The smallest rectangle around the pixels that are not white, as "left,top,right,bottom" with
-  // the last two outside, and their number.
-  std::string drawn(const Surface& on) const {
-    RECT box{on.width(), on.height(), 0, 0};
-    int count = 0;
-    for (int y = 0; y < on.height(); ++y)
-      for (int x = 0; x < on.width(); ++x) {
-        if ((on.at(x, y) & 0xFFFFFF) == kWhite) continue;
-        ++count;
-        box = {std::min(box.left, x), std::min(box.top, y), std::max(box.right, x + 1),
-               std::max(box.bottom, y + 1)};
+  using Condition = std::function<bool(int x, int y, Pixel color)>;  // the alpha byte left out
+  // How many of the surface's pixels are so; `box` becomes the smallest rectangle around them.
+  int count(const Condition& condition, RECT* box = nullptr) const {
+    RECT around{kSize, kSize, 0, 0};
+    int found = 0;
+    for (int y = 0; y < kSize; ++y) {
+      for (int x = 0; x < kSize; ++x) {
+        if (!condition(x, y, seen(x, y))) continue;
+        ++found;
+        around = {std::min(around.left, x), std::min(around.top, y), std::max(around.right, x + 1),
+                  std::max(around.bottom, y + 1)};
       }
-    if (count == 0) return "nothing";
+    }
+    if (box != nullptr) *box = around;
+    return found;
+  }
+  // What is not white, as "left,top,right,bottom", the last two outside, and the pixels' number.
+  std::string drawn() const {
+    RECT box{};
+    const int number = count([](int, int, Pixel color) { return color != kWhite; }, &box);
+    if (number == 0) return "nothing";
     return std::to_string(box.left) + "," + std::to_string(box.top) + "," +
            std::to_string(box.right) + "," + std::to_string(box.bottom) + " " +
-           std::to_string(count);
+           std::to_string(number);
   }
-  std::string drawn() const { return drawn(*surface); }
+  // How many pixels are not white outside of these rectangles, or white inside.
+  int differing_from(const std::vector<RECT>& rects) const {
+    return count([&rects](int x, int y, Pixel color) {
+      const bool inside = std::any_of(rects.begin(), rects.end(), [&](const RECT& rect) {
+        return PtInRect(&rect, {x, y});
+      });
+      return inside != (color != kWhite);
+    });
+  }
+  Pixel seen(int x, int y) const { return surface->at(x, y) & 0xFFFFFF; }
   void wipe() {
     surface->fill(surface->rect(), kWhite);
     surface->take_marks();

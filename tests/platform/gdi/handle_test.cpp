@@ -44,32 +44,27 @@ TEST(HandleTable, ObjectsKeepTheirPlaceWhileTheTableGrows) {
 }
 
 TEST(RectFunctions, PlatformRules) {
-  const RECT rect{10, 20, 30, 40};
-  const RECT inverted{30, 40, 10, 20};
-  struct {
-    POINT point;
-    BOOL inside;
-  } const points[] = {{{10, 20}, TRUE}, {{29, 39}, TRUE}, {{30, 20}, FALSE}, {{10, 40}, FALSE}};
-  for (const auto& point : points) EXPECT_EQ(PtInRect(&rect, point.point), point.inside);
+  const RECT rect{10, 20, 30, 40}, inverted{30, 40, 10, 20}, flat{5, 5, 5, 9}, none{};
+  const std::pair<POINT, BOOL> points[] = {
+      {{10, 20}, TRUE}, {{29, 39}, TRUE}, {{30, 20}, FALSE}, {{10, 40}, FALSE}};
+  for (const auto& [point, inside] : points) EXPECT_EQ(PtInRect(&rect, point), inside);
   EXPECT_FALSE(PtInRect(&inverted, {20, 30}));
   EXPECT_TRUE(IsRectEmpty(&inverted));
-  const RECT flat{5, 5, 5, 9};
   EXPECT_TRUE(IsRectEmpty(&flat));
 
-  RECT result{1, 1, 1, 1};
-  const RECT touching{30, 20, 50, 40};
-  EXPECT_FALSE(IntersectRect(&result, &rect, &touching));
-  EXPECT_EQ(result.right, 0);
-  const RECT overlapping{25, 35, 50, 60};
-  EXPECT_TRUE(IntersectRect(&result, &rect, &overlapping));
-  EXPECT_EQ(result.left, 25);
-  EXPECT_EQ(result.bottom, 40);
-  EXPECT_TRUE(UnionRect(&result, &rect, &flat));
-  EXPECT_TRUE(EqualRect(&result, &rect));
-  EXPECT_TRUE(UnionRect(&result, &flat, &rect));
-  EXPECT_TRUE(EqualRect(&result, &rect));
-  EXPECT_FALSE(UnionRect(&result, &flat, &inverted));
-  EXPECT_EQ(result.left, 0);
+  const struct {
+    BOOL (*combine)(LPRECT, const RECT*, const RECT*);
+    RECT first, second, expected;
+  } cases[] = {{IntersectRect, rect, {30, 20, 50, 40}, none},  // they only touch
+               {IntersectRect, rect, {25, 35, 50, 60}, {25, 35, 30, 40}},
+               {UnionRect, rect, flat, rect},
+               {UnionRect, flat, rect, rect},
+               {UnionRect, flat, inverted, none}};
+  for (const auto& each : cases) {
+    RECT result{1, 1, 1, 1};
+    EXPECT_EQ(each.combine(&result, &each.first, &each.second), !IsRectEmpty(&each.expected));
+    EXPECT_TRUE(EqualRect(&result, &each.expected));
+  }
   EXPECT_FALSE(CopyRect(nullptr, &rect));
   RECT moved{0, 0, 0x7FFFFFFF, 5};
   EXPECT_TRUE(OffsetRect(&moved, 1, 0));  // wraps as the platform's arithmetic does

@@ -5,13 +5,10 @@ namespace {
 
 class GdiLines : public GdiTest {
  protected:
-  void draw(int width, const std::vector<POINT>& points, COLORREF color = RGB(255, 0, 0)) {
-    HPEN pen = CreatePen(PS_SOLID, width, color);
-    HGDIOBJ before = SelectObject(dc, pen);
+  void draw(int width, const std::vector<POINT>& points) {
+    const Selected pen(dc, CreatePen(PS_SOLID, width, RGB(255, 0, 0)));
     MoveToEx(dc, points.front().x, points.front().y, nullptr);
     for (std::size_t at = 1; at < points.size(); ++at) LineTo(dc, points[at].x, points[at].y);
-    SelectObject(dc, before);
-    DeleteObject(pen);
   }
 };
 
@@ -50,35 +47,21 @@ TEST_F(GdiLines, PensCoverExactPixels) {
   }
 }
 
-TEST_F(GdiLines, FrameOfTheTwoPixelPenOvershootsAtItsFirstCorner) {
+TEST_F(GdiLines, FramesOfTheTwoPixelPenOvershootAtTheirFirstCorner) {
   draw(2, {{19, 15}, {60, 15}, {60, 45}, {20, 45}, {20, 14}});
-  for (int y = 0; y < kSize; ++y)
-    for (int x = 0; x < kSize; ++x) {
-      const bool column = (x == 19 || x == 20 || x == 59 || x == 60) && y >= 14 && y <= 45;
-      const bool row = (y == 14 || y == 15 || y == 44 || y == 45) && x >= 19 && x <= 60;
-      const bool corner = (x == 18 && (y == 14 || y == 15)) || (y == 13 && (x == 19 || x == 20));
-      EXPECT_EQ(surface->at(x, y) != kWhite, column || row || corner) << x << "," << y;
-    }
-}
-
-TEST_F(GdiLines, RowFrame) {
+  EXPECT_EQ(
+      differing_from({{18, 14, 61, 16}, {19, 44, 61, 46}, {19, 13, 21, 46}, {59, 14, 61, 46}}), 0);
+  wipe();
   draw(2, {{1, 12}, {98, 12}, {98, 38}, {2, 38}, {2, 11}});
-  for (int y = 0; y < kSize; ++y)
-    for (int x = 0; x < kSize; ++x) {
-      const bool row = (y == 11 || y == 12) && x <= 98;
-      const bool bottom = (y == 37 || y == 38) && x >= 1 && x <= 98;
-      const bool column = (x == 1 || x == 2 || x == 97 || x == 98) && y >= 11 && y <= 38;
-      const bool overshoot = y == 10 && (x == 1 || x == 2);
-      EXPECT_EQ(surface->at(x, y) != kWhite, row || bottom || column || overshoot) << x << "," << y;
-    }
+  EXPECT_EQ(differing_from({{0, 11, 99, 13}, {1, 37, 99, 39}, {1, 10, 3, 39}, {97, 11, 99, 39}}),
+            0);
 }
 
 TEST_F(GdiLines, ObliqueWidePenIsAsWideAsItSays) {
   draw(10, {{20, 20}, {80, 80}});
-  for (int at = 25; at < 75; ++at) {
-    int across = 0;
-    for (int x = 0; x < kSize; ++x) across += surface->at(x, at) != kWhite;
-    EXPECT_NEAR(across, 14, 1) << "row " << at;  // 10 * sqrt(2)
+  for (int row = 25; row < 75; ++row) {
+    const auto in_row = [row](int, int y, Pixel color) { return y == row && color != kWhite; };
+    EXPECT_NEAR(count(in_row), 14, 1) << "row " << row;  // 10 * sqrt(2)
   }
 }
 
@@ -105,19 +88,15 @@ TEST_F(GdiLines, CurrentPositionMovesAlsoWithoutAPen) {
 }
 
 TEST_F(GdiLines, DashesLeaveGapsAndFillThemWhenOpaque) {
-  HPEN pen = CreatePen(PS_DOT, 1, RGB(255, 0, 0));
-  HGDIOBJ before = SelectObject(dc, pen);
-  SetBkMode(dc, TRANSPARENT);
-  MoveToEx(dc, 0, 10, nullptr);
-  LineTo(dc, 12, 10);
-  EXPECT_EQ(drawn(), "0,10,9,11 6");
-  SetBkMode(dc, OPAQUE);
+  const Selected pen(dc, CreatePen(PS_DOT, 1, RGB(255, 0, 0)));
   SetBkColor(dc, RGB(0, 0, 255));
-  MoveToEx(dc, 0, 10, nullptr);
-  LineTo(dc, 12, 10);
-  EXPECT_EQ(drawn(), "0,10,12,11 12");
-  SelectObject(dc, before);
-  DeleteObject(pen);
+  for (const auto& [mode, covered] :
+       {std::pair(TRANSPARENT, "0,10,9,11 6"), std::pair(OPAQUE, "0,10,12,11 12")}) {
+    SetBkMode(dc, mode);
+    MoveToEx(dc, 0, 10, nullptr);
+    LineTo(dc, 12, 10);
+    EXPECT_EQ(drawn(), covered);
+  }
 }
 
 TEST_F(GdiLines, ComplexClipAndOriginHold) {
@@ -126,17 +105,12 @@ TEST_F(GdiLines, ComplexClipAndOriginHold) {
   HDC shifted = gdi.open_dc(surface, {10, 10}, clip);
   for (const int width : {1, 2}) {
     wipe();
-    HPEN pen = CreatePen(PS_SOLID, width, 0);
-    HGDIOBJ before = SelectObject(shifted, pen);
+    const Selected pen(shifted, CreatePen(PS_SOLID, width, 0));
     MoveToEx(shifted, 0, 20, nullptr);
     LineTo(shifted, 80, 20);
-    SelectObject(shifted, before);
-    DeleteObject(pen);
-    EXPECT_EQ(surface->at(10, 30), 0u);
-    EXPECT_EQ(surface->at(39, 30), 0u);
-    EXPECT_EQ(surface->at(40, 30), kWhite);
-    EXPECT_EQ(surface->at(59, 30), kWhite);
-    EXPECT_EQ(surface->at(60, 30), 0u);
+    const int wider = width - 1;  // on each side but the lower and right one
+    EXPECT_EQ(differing_from({{10 - wider, 30 - wider, 40, 31}, {60, 30 - wider, 90 + wider, 31}}),
+              0);
     const Region marks = surface->take_marks();
     EXPECT_TRUE(marks.covers({10, 30, 40, 31}));
     EXPECT_FALSE(marks.intersects({40, 0, 60, 100}));

@@ -11,21 +11,24 @@ namespace {
 constexpr int kSide = 24;
 using Grid = std::array<bool, kSide * kSide>;
 
+template <class Contains>
+Grid grid(Contains contains) {
+  Grid result{};
+  for (int at = 0; at < kSide * kSide; ++at) {
+    result[static_cast<std::size_t>(at)] = contains(POINT{at % kSide, at / kSide});
+  }
+  return result;
+}
+
 Grid grid_of(const Region& region) {
-  Grid grid{};
-  for (int y = 0; y < kSide; ++y)
-    for (int x = 0; x < kSide; ++x)
-      grid[static_cast<std::size_t>(y * kSide + x)] = region.contains({x, y});
-  return grid;
+  return grid([&region](POINT point) { return region.contains(point); });
 }
 
 Grid grid_of(const RECT& rect) {
-  Grid grid{};
-  for (int y = 0; y < kSide; ++y)
-    for (int x = 0; x < kSide; ++x)
-      grid[static_cast<std::size_t>(y * kSide + x)] =
-          x >= rect.left && x < rect.right && y >= rect.top && y < rect.bottom;
-  return grid;
+  return grid([&rect](POINT point) {
+    return point.x >= rect.left && point.x < rect.right && point.y >= rect.top &&
+           point.y < rect.bottom;
+  });
 }
 
 template <class Combine>
@@ -58,30 +61,20 @@ TEST(GdiRegion, SetOperationsMatchPixelSets) {
     const Region first = random.region(random.below(5));
     const Region second = random.region(random.below(5));
     const RECT rect = random.next();
-    const Grid a = grid_of(first);
-    const Grid b = grid_of(second);
-    const Grid r = grid_of(rect);
-    const auto unite = [](bool x, bool y) { return x || y; };
-    const auto subtract = [](bool x, bool y) { return x && !y; };
-    const auto intersect = [](bool x, bool y) { return x && y; };
-    Region result = first;
-    result.unite(second);
-    EXPECT_EQ(grid_of(result), combined(a, b, unite));
-    result = first;
-    result.subtract(second);
-    EXPECT_EQ(grid_of(result), combined(a, b, subtract));
-    result = first;
-    result.intersect(second);
-    EXPECT_EQ(grid_of(result), combined(a, b, intersect));
-    result = first;
-    result.unite(rect);
-    EXPECT_EQ(grid_of(result), combined(a, r, unite));
-    result = first;
-    result.subtract(rect);
-    EXPECT_EQ(grid_of(result), combined(a, r, subtract));
-    result = first;
-    result.intersect(rect);
-    EXPECT_EQ(grid_of(result), combined(a, r, intersect));
+    const auto check = [&](auto change, auto combine) {
+      for (const bool by_rect : {false, true}) {
+        Region result = first;
+        by_rect ? change(result, rect) : change(result, second);
+        EXPECT_EQ(grid_of(result),
+                  combined(grid_of(first), by_rect ? grid_of(rect) : grid_of(second), combine));
+      }
+    };
+    check([](Region& region, const auto& other) { region.unite(other); },
+          [](bool x, bool y) { return x || y; });
+    check([](Region& region, const auto& other) { region.subtract(other); },
+          [](bool x, bool y) { return x && !y; });
+    check([](Region& region, const auto& other) { region.intersect(other); },
+          [](bool x, bool y) { return x && y; });
   }
 }
 
