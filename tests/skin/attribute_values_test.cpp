@@ -11,95 +11,57 @@ constexpr auto kMin = std::numeric_limits<std::int32_t>::min();
 constexpr auto kLargest = std::numeric_limits<std::int32_t>::max();
 
 TEST(AttributeValues, Numbers) {
-  struct Case {
-    const char* text;
-    std::optional<std::int32_t> expected;
-  };
-  const Case cases[] = {{"0", 0},
-                        {"-7", -7},
-                        {"+7", 7},
-                        {" 12\n", 12},
-                        {"2147483647", kLargest},
-                        {"-2147483648", kMin},
-                        {"2147483648", std::nullopt},
-                        {"99999999999999999999999999", std::nullopt},
-                        {"", std::nullopt},
-                        {" ", std::nullopt},
-                        {"-", std::nullopt},
-                        {"+-1", std::nullopt},
-                        {"++1", std::nullopt},
-                        {"1.5", std::nullopt},
-                        {"1e3", std::nullopt},
-                        {"0x10", std::nullopt},
-                        {"12px", std::nullopt},
-                        {"1 2", std::nullopt}};
-  for (const auto& each : cases) {
-    EXPECT_EQ(parse_number(each.text, kMin, kLargest), each.expected) << each.text;
+  const std::pair<const char*, std::int32_t> numbers[] = {{"0", 0},
+                                                          {"-7", -7},
+                                                          {"+7", 7},
+                                                          {" 12\n", 12},
+                                                          {"2147483647", kLargest},
+                                                          {"-2147483648", kMin}};
+  for (const auto& [text, number] : numbers) {
+    EXPECT_EQ(parse_number(text, kMin, kLargest), number) << text;
   }
-}
-
-TEST(AttributeValues, NumbersOutsideTheRangeCountAsAbsent) {
-  EXPECT_EQ(parse_number("0", 1, 10), std::nullopt);
-  EXPECT_EQ(parse_number("1", 1, 10), 1);
-  EXPECT_EQ(parse_number("10", 1, 10), 10);
-  EXPECT_EQ(parse_number("11", 1, 10), std::nullopt);
+  for (const char* const text : {"2147483648", "99999999999999999999999999", "", " ", "-", "+-1",
+                                 "++1", "1.5", "1e3", "0x10", "12px", "1 2"}) {
+    EXPECT_EQ(parse_number(text, kMin, kLargest), std::nullopt) << text;
+  }
+  for (const char* const text : {"1", "10"}) EXPECT_TRUE(parse_number(text, 1, 10)) << text;
+  for (const char* const text : {"0", "11"}) EXPECT_FALSE(parse_number(text, 1, 10)) << text;
 }
 
 TEST(AttributeValues, Colors) {
-  struct Case {
-    const char* text;
-    std::optional<COLORREF> expected;
-  };
-  const Case cases[] = {{"#FF8000", RGB(0xFF, 0x80, 0x00)},
-                        {"#0000ff", RGB(0, 0, 0xFF)},
-                        {" #010203 ", RGB(1, 2, 3)},
-                        {"FF8000", std::nullopt},
-                        {"#FFF", std::nullopt},
-                        {"#FF80000", std::nullopt},
-                        {"#GG0000", std::nullopt},
-                        {"#-10000", std::nullopt},
-                        {"red", std::nullopt},
-                        {"", std::nullopt}};
-  for (const auto& each : cases) EXPECT_EQ(parse_color(each.text), each.expected) << each.text;
+  const std::pair<const char*, COLORREF> colors[] = {{"#FF8000", RGB(0xFF, 0x80, 0x00)},
+                                                     {"#0000ff", RGB(0, 0, 0xFF)},
+                                                     {" #010203 ", RGB(1, 2, 3)}};
+  for (const auto& [text, color] : colors) EXPECT_EQ(parse_color(text), color) << text;
+  for (const char* const text : {"FF8000", "#FFF", "#FF80000", "#GG0000", "#-10000", "red", ""}) {
+    EXPECT_EQ(parse_color(text), std::nullopt) << text;
+  }
 }
 
 TEST(AttributeValues, Switches) {
-  const std::pair<const char*, std::optional<bool>> cases[] = {
-      {"true", true},    {"1", true},           {" false\n", false},
-      {"0", false},      {"yes", std::nullopt}, {"True", std::nullopt},
-      {"", std::nullopt}};
-  for (const auto& [text, expected] : cases) EXPECT_EQ(parse_switch(text), expected) << text;
+  for (const char* const text : {"true", "1"}) EXPECT_EQ(parse_switch(text), true) << text;
+  for (const char* const text : {" false\n", "0"}) EXPECT_EQ(parse_switch(text), false) << text;
+  for (const char* const text : {"yes", "True", ""}) {
+    EXPECT_EQ(parse_switch(text), std::nullopt) << text;
+  }
 }
 
 TEST(AttributeValues, ImageNamesStayInTheImageFolder) {
-  struct Case {
-    const char* text;
-    std::optional<std::wstring> expected;
-  };
-  const Case cases[] = {{"save.png", L"save.png"},
-                        {"icons/save.png", L"icons\\save.png"},
-                        {"icons\\save.png", L"icons\\save.png"},
-                        {"\xE4\xBF\x9D\xE5\xAD\x98.png", L"保存.png"},
-                        {"two words.png", L"two words.png"},
-                        {"i/j/k", L"i\\j\\k"},
-                        {".hidden..png", L".hidden..png"},
-                        {"...", L"..."},
-                        {"", std::nullopt},
-                        {"/save.png", std::nullopt},
-                        {"\\save.png", std::nullopt},
-                        {"\\\\server\\save.png", std::nullopt},
-                        {"C:save.png", std::nullopt},
-                        {"save.png:stream", std::nullopt},
-                        {"..", std::nullopt},
-                        {"../save.png", std::nullopt},
-                        {"icons\\..\\..\\save.png", std::nullopt},
-                        {"icons/./save.png", std::nullopt},
-                        {"icons//save.png", std::nullopt},
-                        {"icons/", std::nullopt},
-                        {"a\nb.png", std::nullopt},
-                        {"\xFF.png", std::nullopt}};
-  for (const auto& each : cases) {
-    EXPECT_EQ(parse_image_name(each.text), each.expected) << each.text;
+  const std::pair<const char*, const wchar_t*> names[] = {
+      {"save.png", L"save.png"},
+      {"icons/save.png", L"icons\\save.png"},
+      {"icons\\save.png", L"icons\\save.png"},
+      {"\xE4\xBF\x9D\xE5\xAD\x98.png", L"保存.png"},
+      {"two words.png", L"two words.png"},
+      {"i/j/k", L"i\\j\\k"},
+      {".hidden..png", L".hidden..png"},
+      {"...", L"..."}};
+  for (const auto& [text, name] : names) EXPECT_EQ(parse_image_name(text), name) << text;
+  for (const char* const text :
+       {"", "/save.png", "\\save.png", "\\\\server\\save.png", "C:save.png", "save.png:stream",
+        "..", "../save.png", "icons\\..\\..\\save.png", "icons/./save.png", "icons//save.png",
+        "icons/", "a\nb.png", "\xFF.png"}) {
+    EXPECT_EQ(parse_image_name(text), std::nullopt) << text;
   }
 }
 

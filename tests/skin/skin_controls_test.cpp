@@ -25,10 +25,11 @@ class SkinControls : public test::ControlTest {
                  image-pressed="down.bmp" image-forward="forward.bmp"
                  image-backward="backward.bmp" caption="1" text-color="#FFFFFF"
                  text-color-hover="#FFFF00" padding-left="2" padding-bottom="4"/>
-        <control id="2" x="50" y="20" width="30" height="40" caption="404"/></list></controls>)");
-    folder_.file(
-        "ui_language.xml",
-        R"(<captions><list id="4"><caption id="1" text="保" font="3"/></list></captions>)");
+        <control id="2" x="50" y="20" width="30" height="40" caption="404"/>
+        <control id="3" width="30" height="40" image="main.bmp" caption="2"/></list></controls>)");
+    folder_.file("ui_language.xml",
+                 R"(<captions><list id="4"><caption id="1" text="保" font="3"/>
+                 <caption id="2" text="文" font="404"/></list></captions>)");
     folder_.file("ui_logfont.xml",
                  R"(<fonts><font id="3" face="黑体" size="20" weight="700"/></fonts>)");
     write_picture("main.bmp", 30, 40, kMain);
@@ -115,6 +116,11 @@ TEST_F(SkinControls, AButtonShowsItsCaptionInItsFontAndColours) {
   move_to(20, 30);
   shown.text = RGB(255, 255, 0);
   expect_shown(CRect(10, 20, 40, 60), shown);
+  CGdiBtnEx other;
+  skin_.LoadGdiBtn(other, rect_, host_.get(), 3);
+  move_to(200, 200);
+  button.MoveWindow(200, 200, 10, 10);
+  expect_shown(rect_, {.face = kMain, .edge = {}, .caption = L"文", .box = rect_});
 }
 
 template <typename Control>

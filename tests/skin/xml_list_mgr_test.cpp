@@ -33,6 +33,12 @@ class XmlListMgr : public testing::Test {
   ~XmlListMgr() override { SetSkinFolder(L""); }
 
   void load(int list) { skin_.Load({list}); }
+  // Whether there are a control, a caption and a font of list 4.
+  void expect_records(bool control, bool caption, bool font) const {
+    EXPECT_EQ(skin_.GetCtrl(1) != nullptr, control);
+    EXPECT_EQ(skin_.GetLanguage(5) != nullptr, caption);
+    EXPECT_EQ(skin_.GetMyFont(1) != nullptr, font);
+  }
 
   test::TemporaryFolder folder_;
   CXmlListMgr skin_;
@@ -40,9 +46,7 @@ class XmlListMgr : public testing::Test {
 
 TEST_F(XmlListMgr, IsEmptyAtFirst) {
   EXPECT_EQ(skin_.GetBgColor(), 0u);
-  EXPECT_EQ(skin_.GetCtrl(1), nullptr);
-  EXPECT_EQ(skin_.GetLanguage(5), nullptr);
-  EXPECT_EQ(skin_.GetMyFont(1), nullptr);
+  expect_records(false, false, false);
   EXPECT_TRUE(skin_.GetBgRect(1).IsRectNull());
   EXPECT_EQ(skin_.GetBgImgPath(1), folder_.wide() + L"\\image\\");
 }
@@ -89,50 +93,45 @@ TEST_F(XmlListMgr, AnswersFromTheLoadedList) {
   EXPECT_EQ(skin_.GetBgImgPath(8), folder_.wide() + L"\\image\\");
 }
 
-TEST_F(XmlListMgr, AReloadReplaces) {
+TEST_F(XmlListMgr, AReloadReplacesWhateverItFinds) {
   load(4);
+  load(4);
+  for (const int left : {1, 9}) {  // one copy of the file's two controls of that id, in its order
+    ASSERT_NE(skin_.GetCtrl(1), nullptr);
+    EXPECT_EQ(skin_.GetBgRect(1).left, left);
+    skin_.GetCtrl(1)->id = 100;
+  }
+  expect_records(false, true, true);
   load(5);
-  EXPECT_EQ(skin_.GetCtrl(1), nullptr);
   EXPECT_NE(skin_.GetCtrl(8), nullptr);
   EXPECT_EQ(skin_.GetLanguage(5)->text, L"other");
   EXPECT_EQ(skin_.GetBgColor(), RGB(255, 255, 255));
   EXPECT_NE(skin_.GetMyFont(2), nullptr);  // fonts belong to no list
-}
-
-TEST_F(XmlListMgr, LoadingTheSameListTwiceKeepsOneCopy) {
-  load(4);
-  load(4);
-  skin_.GetCtrl(1)->id = 100;  // the next of that id is now the file's second one
-  EXPECT_EQ(skin_.GetBgRect(1).left, 9);
-  skin_.GetCtrl(1)->id = 100;
-  EXPECT_EQ(skin_.GetCtrl(1), nullptr);
-}
-
-TEST_F(XmlListMgr, MissingFilesAndListsEmptyTheLists) {
   load(4);
   load(77);
-  EXPECT_EQ(skin_.GetCtrl(1), nullptr);
-  EXPECT_EQ(skin_.GetLanguage(5), nullptr);
+  expect_records(false, false, true);
   EXPECT_EQ(skin_.GetBgColor(), RGB(0x10, 0x20, 0x30));
-  load(4);
-  SetSkinFolder(L"Z:\\no such folder");
-  load(4);
-  EXPECT_EQ(skin_.GetCtrl(1), nullptr);
-  EXPECT_EQ(skin_.GetLanguage(5), nullptr);
-  EXPECT_EQ(skin_.GetMyFont(1), nullptr);
-  SetSkinFolder(L"Q:\\not mounted");
-  load(4);
-  EXPECT_EQ(skin_.GetBgColor(), RGB(0x10, 0x20, 0x30));
+  for (const wchar_t* const missing : {L"Z:\\no such folder", L"Q:\\not mounted"}) {
+    SetSkinFolder(folder_.wide());
+    load(4);
+    expect_records(true, true, true);
+    SetSkinFolder(missing);
+    load(4);
+    expect_records(false, false, false);
+  }
 }
 
 TEST_F(XmlListMgr, ReleasingKeepsOnlyTheBackground) {
   load(4);
   skin_.CtrlRelease();
-  EXPECT_EQ(skin_.GetCtrl(1), nullptr);
-  EXPECT_NE(skin_.GetLanguage(5), nullptr);
+  expect_records(false, true, true);
+  skin_.LanguageRelease();
+  expect_records(false, false, true);
+  skin_.LogfontRelease();
+  expect_records(false, false, false);
+  load(4);
   skin_.Release();
-  EXPECT_EQ(skin_.GetLanguage(5), nullptr);
-  EXPECT_EQ(skin_.GetMyFont(1), nullptr);
+  expect_records(false, false, false);
   EXPECT_EQ(skin_.GetBgColor(), RGB(0x10, 0x20, 0x30));
 }
 

@@ -1,4 +1,7 @@
+#include <sstream>
+
 #include "tests/platform/gdi/gdi_fixture.h"
+#include "tests/support/golden_file.h"
 
 namespace corvane::system {
 namespace {
@@ -13,37 +16,16 @@ class GdiLines : public GdiTest {
 };
 
 TEST_F(GdiLines, PensCoverExactPixels) {
-  struct {
-    int width;
-    POINT from;
-    POINT to;
-    const char* covered;  // box and number of pixels
-  } const cases[] = {
-      {1, {10, 20}, {30, 20}, "10,20,30,21 20"},
-      {0, {10, 20}, {30, 20}, "10,20,30,21 20"},
-      {1, {30, 20}, {10, 20}, "11,20,31,21 20"},
-      {1, {10, 20}, {10, 30}, "10,20,11,30 10"},
-      {1, {10, 30}, {10, 20}, "10,21,11,31 10"},
-      {1, {10, 20}, {10, 20}, "nothing"},
-      {1, {10, 10}, {20, 20}, "10,10,20,20 10"},
-      {1, {10, 10}, {20, 15}, "10,10,20,16 10"},
-      {2, {10, 20}, {30, 20}, "9,19,31,21 44"},
-      {2, {30, 20}, {10, 20}, "9,19,31,21 44"},
-      {2, {10, 20}, {10, 30}, "9,19,11,31 24"},
-      {2, {10, 20}, {10, 20}, "9,19,11,21 4"},
-      {3, {10, 20}, {30, 20}, "9,19,32,22 65"},
-      {3, {20, 10}, {20, 30}, "19,9,22,32 65"},
-      {3, {10, 20}, {10, 20}, "9,19,12,22 5"},
-      {1, {-50, 20}, {150, 20}, "0,20,100,21 100"},
-      {2, {20, -500}, {20, 500}, "19,0,21,100 200"},
-      {1, {-2000000000, 50}, {2000000000, 50}, "0,50,100,51 100"},
-      {1, {-1000000, -1000000}, {1000000, 1000000}, "0,0,100,100 100"},
-  };
-  for (const auto& line : cases) {
+  for (const auto& row : test::golden_rows("tests/platform/gdi/pen_lines.txt")) {
+    const auto point = [](const std::string& text) {
+      std::istringstream in(text);
+      POINT read{};
+      in >> read.x >> read.y;
+      return read;
+    };
     wipe();
-    draw(line.width, {line.from, line.to});
-    EXPECT_EQ(drawn(), line.covered) << "width " << line.width << " from " << line.from.x << ","
-                                     << line.from.y << " to " << line.to.x << "," << line.to.y;
+    draw(std::stoi(row.at(0)), {point(row.at(1)), point(row.at(2))});
+    EXPECT_EQ(drawn(), row.at(3)) << row.at(0) << " from " << row.at(1) << " to " << row.at(2);
   }
 }
 

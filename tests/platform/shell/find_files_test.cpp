@@ -13,6 +13,7 @@
 #include "corvane/platform/system/shell/name_pattern.h"
 #include "corvane/platform/system/shell/shell_api.h"
 #include "corvane/platform/system/shell/wide_path.h"
+#include "tests/support/golden_file.h"
 #include "tests/support/temporary_folder.h"
 
 namespace corvane::system {
@@ -64,43 +65,9 @@ DWORD error_of(const std::wstring& pattern) {
 }
 
 TEST(NamePattern, FitsAsOnThePlatform) {
-  struct {
-    const wchar_t* pattern;
-    const wchar_t* name;
-    bool fits;
-  } const cases[] = {
-      {L"*", L"any.thing", true},
-      {L"*.*", L"no extension", true},
-      {L"*.jpg", L"a.jpg", true},
-      {L"*.jpg", L"a.b.jpg", true},
-      {L"*.jpg", L"a.jpg.bak", false},
-      {L"*.jpg", L"ajpg", false},
-      {L"*.jpg", L".jpg", true},
-      {L"*.JPG", L"A.jpg", true},
-      {L"\x00C9t*", L"\x00E9t\x00E9", true},
-      {L"图*", L"图片", true},
-      {L"图*", L"片图", false},
-      {L"*.", L"folder", true},
-      {L"*.", L"a.jpg", false},
-      {L"a*.*", L"abc", true},
-      {L"a*.*", L"abc.d.e", true},
-      {L"a*.?", L"a.txt", false},
-      {L"*a*b*", L"xaxbx", true},
-      {L"*a*b*", L"xbxax", false},
-      {L"?", L"a", true},
-      {L"?", L"ab", false},
-      {L"???", L"ab", true},
-      {L"a?c", L"abc", true},
-      {L"a?c", L"ac", false},
-      {L"a??.txt", L"a.txt", true},
-      {L"a?txt", L"a.txt", false},
-      {L"*aab", L"aaaaaaaaaaaaaaaaaab", true},
-      {L"a*", L"", false},
-      {L"*?*", L"", true},
-  };
-  for (const auto& item : cases) {
-    EXPECT_EQ(NamePattern(item.pattern).fits(item.name), item.fits)
-        << testing::PrintToString(item.pattern) << testing::PrintToString(item.name);
+  for (const auto& row : test::golden_rows("tests/platform/shell/name_patterns.txt")) {
+    EXPECT_EQ(NamePattern(wide_name(row.at(0))).fits(wide_name(row.at(1))), row.at(2) == "fits")
+        << row.at(0) << " and " << row.at(1);
   }
 }
 

@@ -1,0 +1,13 @@
+#pragma once
+// Tables beside the tests: what goes in, and what is expected to come out.
+#include <string>
+#include <vector>
+
+namespace corvane::test {
+
+// The rows of a file, named from the sources' folder: fields between bars, without the blanks
+// around them. Empty lines and those that begin with // do not count. The test fails when there are
+// none.
+std::vector<std::vector<std::string>> golden_rows(const std::string& name);
+
+}  // namespace corvane::test
