@@ -16,10 +16,12 @@ class FilterWnd : public WatchedWnd {
         name_(std::move(name)),
         log_(log) {}
   bool swallows = false;
+  CWnd* victim = nullptr;  // destroyed when it filters
 
   BOOL PreTranslateMessage(MSG* message) override {
     if (message->message != WM_KEYDOWN) return FALSE;
     *log_ += name_ + " ";
+    if (victim != nullptr) victim->DestroyWindow();
     return swallows;
   }
 
@@ -56,20 +58,22 @@ class FrameworkApp : public testing::Test {
       popup_{"popup", &log_}, button_{"button", &log_};
 };
 
-TEST_F(FrameworkApp, FiltersAreAskedFromTheWindowUp) {
-  EXPECT_EQ(press(grandchild_), "grandchild child main grandchild! ");
-  EXPECT_EQ(press(main_), "main main! ");
-  child_.swallows = true;
-  EXPECT_EQ(press(grandchild_), "grandchild child ");
-}
-
-TEST_F(FrameworkApp, APopUpsFiltersComeBeforeTheMainWindows) {
-  EXPECT_EQ(press(button_), "button popup main button! ");
-  popup_.swallows = true;
-  EXPECT_EQ(press(button_), "button popup ");
-  popup_.swallows = false;
-  main_.swallows = true;
-  EXPECT_EQ(press(popup_), "popup main ");
+TEST_F(FrameworkApp, FiltersAreAskedFromTheWindowUpAndThoseOfAPopUpBeforeTheMainWindows) {
+  const struct {
+    CWnd& window;
+    FilterWnd* swallowing;
+    const char* seen;
+  } cases[] = {{grandchild_, nullptr, "grandchild child main grandchild! "},
+               {main_, nullptr, "main main! "},
+               {grandchild_, &child_, "grandchild child "},
+               {button_, nullptr, "button popup main button! "},
+               {button_, &popup_, "button popup "},
+               {popup_, &main_, "popup main "}};
+  for (const auto& each : cases) {
+    if (each.swallowing != nullptr) each.swallowing->swallows = true;
+    EXPECT_EQ(press(each.window), each.seen);
+    if (each.swallowing != nullptr) each.swallowing->swallows = false;
+  }
 }
 
 TEST_F(FrameworkApp, WindowsWithoutObjectsAreSteppedOver) {
@@ -79,20 +83,8 @@ TEST_F(FrameworkApp, WindowsWithoutObjectsAreSteppedOver) {
 }
 
 TEST_F(FrameworkApp, AFilterMayDestroyWhatItGuards) {
-  class Fatal : public WatchedWnd {
-   public:
-    explicit Fatal(CWnd& victim) : victim_(victim) {}
-    BOOL PreTranslateMessage(MSG* message) override {
-      if (message->message == WM_KEYDOWN) victim_.DestroyWindow();
-      return FALSE;
-    }
-
-   private:
-    CWnd& victim_;
-  };
-  Fatal fatal(main_);
-  ASSERT_TRUE(fatal.create(child_, WS_CHILD | WS_VISIBLE));
-  ::SetFocus(fatal);
+  grandchild_.victim = &main_;
+  ::SetFocus(grandchild_);
   desktop_.send_key(VK_SPACE, true);
   EXPECT_FALSE(desktop_.pump()) << "the main window's end quits";
   EXPECT_EQ(desktop_.living_windows(), 0);
@@ -156,22 +148,35 @@ class TestApp : public CWinApp {
   bool starts_;
 };
 
-TEST(FrameworkAppRun, EndsWithTheCodeOfTheQuitMessage) {
-  const test::Desktop desktop;
-  TestApp app(true);
-  app.at_third_tick = [] { ::PostQuitMessage(42); };
-  EXPECT_EQ(RunApp(app), 42);
-  EXPECT_EQ(app.calls, "init exit ");
-  EXPECT_EQ(app.ticks, 3);
-  EXPECT_GE(app.idle_turns, 3);
+TEST(FrameworkAppRun, EndsWithTheCodeOfTheQuitMessageOrTheMainWindow) {
+  for (const int code : {42, 0}) {
+    const test::Desktop desktop;
+    TestApp app(true);
+    app.at_third_tick = [&app, code] {
+      code == 0 ? static_cast<void>(app.window.DestroyWindow()) : ::PostQuitMessage(code);
+    };
+    EXPECT_EQ(RunApp(app), code);
+    EXPECT_EQ(app.calls, "init exit ");
+    EXPECT_EQ(app.ticks, 3);
+    EXPECT_GE(app.idle_turns, 3);
+    EXPECT_EQ(app.m_pMainWnd == nullptr, code == 0);
+  }
 }
 
-TEST(FrameworkAppRun, EndsWithTheMainWindow) {
+TEST(FrameworkAppRun, ATurnHandlesWhatWaitsAndTellsOfTheQuitMessage) {
   const test::Desktop desktop;
-  TestApp app(true);
-  app.at_third_tick = [&app] { app.window.DestroyWindow(); };
-  EXPECT_EQ(RunApp(app), 0);
-  EXPECT_EQ(app.m_pMainWnd, nullptr);
+  std::vector<UINT> seen;
+  WatchedWnd window([&seen](UINT message, WPARAM, LPARAM) {
+    if (message == WM_CHAR || message == WM_USER) seen.push_back(message);
+  });
+  ASSERT_TRUE(window.create());
+  window.PostMessageW(WM_USER);
+  window.PostMessageW(WM_KEYDOWN, 'A');
+  EXPECT_TRUE(seen.empty()) << "only posted";
+  EXPECT_TRUE(PumpMessages());
+  EXPECT_EQ(seen, (std::vector<UINT>{WM_USER, WM_CHAR}));
+  ::PostQuitMessage(0);
+  EXPECT_FALSE(PumpMessages());
 }
 
 TEST(FrameworkAppRun, DoesNotRunWhatDidNotStart) {
@@ -182,18 +187,15 @@ TEST(FrameworkAppRun, DoesNotRunWhatDidNotStart) {
 }
 
 // The tests' environment names the display in memory.
-TEST(FrameworkAppSession, MakesAWindowSystemWhereThereIsNone) {
-  ASSERT_EQ(system::WindowSystem::current(), nullptr);
+TEST(FrameworkAppSession, UsesTheWindowSystemThatThereIsOrMakesOne) {
+  EXPECT_EQ(system::WindowSystem::current(), nullptr);
   {
     const CWinApp app;
-    ASSERT_NE(system::WindowSystem::current(), nullptr);
+    EXPECT_NE(system::WindowSystem::current(), nullptr);
     WatchedWnd window;
     EXPECT_TRUE(window.create());
   }
   EXPECT_EQ(system::WindowSystem::current(), nullptr);
-}
-
-TEST(FrameworkAppSession, UsesTheOneThatThereIs) {
   test::Desktop desktop;
   {
     const CWinApp app;

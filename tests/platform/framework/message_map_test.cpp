@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <concepts>
 #include <string>
 #include <vector>
 
+#include "corvane/platform/framework/scroll_bar.h"
 #include "corvane/platform/framework/wnd.h"
 
 namespace corvane {
@@ -13,10 +15,17 @@ namespace {
 constexpr UINT kDraw = WM_USER + 0x4B1;
 constexpr UINT kCommand = 7;
 
-std::string words(std::initializer_list<long long> values) {
-  std::string text;
-  for (const long long each : values) text += (text.empty() ? "" : " ") + std::to_string(each);
-  return text;
+std::string text_of(CPoint point) {
+  return std::to_string(point.x) + " " + std::to_string(point.y);
+}
+std::string text_of(LPCREATESTRUCT creation) { return text_of(CPoint(creation->cx, creation->cy)); }
+std::string text_of(CDC* dc) {
+  return std::to_string(reinterpret_cast<LONG_PTR>(dc->GetSafeHdc()));
+}
+std::string text_of(const CWnd* window) { return window == nullptr ? "none" : "a window"; }
+template <std::integral Number>
+std::string text_of(Number number) {
+  return std::to_string(number);
 }
 
 // Writes down the arguments of its handlers.
@@ -24,11 +33,11 @@ class Recorder : public CWnd {
  public:
   const MessageMap* GetMessageMap() const override;
 
-  // What the map's handler was called with; "none" when no row was found.
+  // What the map's handler was called with; "no row" when none was found.
   std::string send(UINT message, WPARAM wparam, LPARAM lparam) {
     const MessageMatch match = GetMessageMap()->find(message);
-    if (!match) return "none";
-    seen.clear();
+    if (!match) return "no row";
+    seen = "not called";
     result = -99;
     handled = match.call(*this, wparam, lparam, result);
     return seen;
@@ -40,56 +49,32 @@ class Recorder : public CWnd {
   int answer = 0;
 
  protected:
-  void Plain() { seen = "plain"; }
-  void Mouse(UINT flags, CPoint point) { seen = words({flags, point.x, point.y}); }
-  BOOL Wheel(UINT flags, short distance, CPoint point) {
-    seen = words({flags, distance, point.x, point.y});
-    return answer;
+  template <class Result, class... Arguments>
+  Result Record(Arguments... arguments) {
+    seen.clear();
+    ((seen += (seen.empty() ? "" : " ") + text_of(arguments)), ...);
+    return static_cast<Result>(answer);
   }
-  int Create(LPCREATESTRUCT creation) {
-    seen = words({creation->cx, creation->cy});
-    return answer;
+
+ private:
+  template <class Result, class... Arguments>
+  static constexpr auto handler(Result (*)(Arguments...)) {
+    return &Recorder::Record<Result, Arguments...>;
   }
-  void Size(UINT kind, int width, int height) { seen = words({kind, width, height}); }
-  void Move(int x, int y) { seen = words({x, y}); }
-  BOOL Erase(CDC* dc) {
-    seen = words({reinterpret_cast<LONG_PTR>(dc->GetSafeHdc())});
-    return answer;
-  }
-  void Timer(UINT_PTR id) { seen = std::to_string(id); }
-  BOOL Cursor(CWnd* window, UINT hit, UINT message) {
-    seen = words({window == nullptr, static_cast<int>(hit), message});
-    return answer;
-  }
-  void Key(UINT key, UINT repeats, UINT flags) { seen = words({key, repeats, flags}); }
-  void Show(BOOL shown, UINT reason) { seen = words({shown, reason}); }
-  void Active(UINT state, CWnd* other, BOOL minimized) {
-    seen = words({state, other == nullptr, minimized});
-  }
-  LRESULT HitTest(CPoint point) {
-    seen = words({point.x, point.y});
-    return HTTRANSPARENT;
-  }
-  UINT DialogCode() { return DLGC_WANTARROWS; }
-  void Scroll(UINT code, UINT position, CScrollBar* bar) {
-    seen = words({code, position, bar == nullptr});
-  }
-  LRESULT Draw(WPARAM wparam, LPARAM lparam) {
-    seen = words({static_cast<long long>(wparam), lparam});
-    return 5;
+  template <UINT... messages>
+  static consteval auto table_of() {
+    return MessageTable(
+        OnMessage<kDraw>(&Recorder::Record<LRESULT, WPARAM, LPARAM>),
+        On<messages>(
+            handler(static_cast<typename MessageTraits<messages>::Signature*>(nullptr)))...);
   }
 };
 
 const MessageMap* Recorder::GetMessageMap() const {
   static constexpr auto kMessages =
-      MessageTable(On<WM_CLOSE>(&Recorder::Plain), On<WM_RBUTTONUP>(&Recorder::Mouse),
-                   On<WM_MOUSEWHEEL>(&Recorder::Wheel), On<WM_CREATE>(&Recorder::Create),
-                   On<WM_SIZE>(&Recorder::Size), On<WM_MOVE>(&Recorder::Move),
-                   On<WM_ERASEBKGND>(&Recorder::Erase), On<WM_TIMER>(&Recorder::Timer),
-                   On<WM_SETCURSOR>(&Recorder::Cursor), On<WM_CHAR>(&Recorder::Key),
-                   On<WM_SHOWWINDOW>(&Recorder::Show), On<WM_ACTIVATE>(&Recorder::Active),
-                   On<WM_NCHITTEST>(&Recorder::HitTest), On<WM_GETDLGCODE>(&Recorder::DialogCode),
-                   On<WM_VSCROLL>(&Recorder::Scroll), OnMessage<kDraw>(&Recorder::Draw));
+      table_of<WM_CLOSE, WM_RBUTTONUP, WM_MOUSEWHEEL, WM_CREATE, WM_SIZE, WM_MOVE, WM_ERASEBKGND,
+               WM_TIMER, WM_SETCURSOR, WM_CHAR, WM_SHOWWINDOW, WM_ACTIVATE, WM_NCHITTEST,
+               WM_GETDLGCODE, WM_VSCROLL>();
   static const MessageMap map = kMessages.extending(CWnd::GetMessageMap());
   return &map;
 }
@@ -112,7 +97,7 @@ TEST(FrameworkMessageMap, GivesTheHandlerTheMessagesPartsAndTheMessageItsResult)
     int answer = 0;
     bool handled = true;
   } cases[] = {
-      {WM_CLOSE, 1, 2, "plain"},
+      {WM_CLOSE, 1, 2, ""},
       {WM_RBUTTONUP, MK_SHIFT, packed(-3, 700), "4 -3 700"},
       {WM_MOUSEWHEEL, MAKEWPARAM(MK_CONTROL, static_cast<WORD>(-240)), packed(-1, -2),
        "8 -240 -1 -2", TRUE, TRUE},
@@ -123,15 +108,15 @@ TEST(FrameworkMessageMap, GivesTheHandlerTheMessagesPartsAndTheMessageItsResult)
       {WM_ERASEBKGND, 0x1234, 0, "4660", FALSE, FALSE},
       {WM_ERASEBKGND, 0, 0, "0", TRUE, TRUE},
       {WM_TIMER, 0x100000000u, 0, "4294967296"},
-      {WM_SETCURSOR, 0, packed(HTCLIENT, WM_MOUSEMOVE), "1 1 512", TRUE, TRUE},
-      {WM_SETCURSOR, 0, packed(HTERROR, WM_LBUTTONDOWN), "1 -2 513", FALSE, FALSE},
+      {WM_SETCURSOR, 0, packed(HTCLIENT, WM_MOUSEMOVE), "none 1 512", TRUE, TRUE},
+      {WM_SETCURSOR, 0, packed(HTERROR, WM_LBUTTONDOWN), "none 4294967294 513", FALSE, FALSE},
       {WM_CHAR, 0x4E2D, 0xC0010003, "20013 3 49153"},
       {WM_SHOWWINDOW, TRUE, 3, "1 3"},
-      {WM_ACTIVATE, MAKEWPARAM(WA_CLICKACTIVE, 1), 0, "2 1 1"},
-      {WM_NCHITTEST, 0, packed(-5, 6), "-5 6", HTTRANSPARENT},
-      {WM_GETDLGCODE, 0, 0, "", DLGC_WANTARROWS},
-      {WM_VSCROLL, MAKEWPARAM(5, 65000), 0, "5 65000 1"},
-      {kDraw, 1, -1, "1 -1", 5},
+      {WM_ACTIVATE, MAKEWPARAM(WA_CLICKACTIVE, 1), 0, "2 none 1"},
+      {WM_NCHITTEST, 0, packed(-5, 6), "-5 6", HTTRANSPARENT, HTTRANSPARENT},
+      {WM_GETDLGCODE, 0, 0, "", DLGC_WANTARROWS, DLGC_WANTARROWS},
+      {WM_VSCROLL, MAKEWPARAM(5, 65000), 0, "5 65000 none"},
+      {kDraw, 1, -1, "1 -1", 5, 5},
   };
   Recorder recorder;
   for (const auto& each : cases) {
@@ -141,7 +126,7 @@ TEST(FrameworkMessageMap, GivesTheHandlerTheMessagesPartsAndTheMessageItsResult)
     EXPECT_EQ(recorder.handled, each.handled);
     EXPECT_EQ(recorder.result, each.result);
   }
-  EXPECT_EQ(recorder.send(WM_PAINT, 0, 0), "none");
+  EXPECT_EQ(recorder.send(WM_PAINT, 0, 0), "no row");
 }
 
 class Base : public CWnd {

@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <optional>
 #include <stdexcept>
+#include <utility>
 
 #include "corvane/platform/framework/thread_state.h"
 #include "tests/platform/framework/watched_wnd.h"
@@ -15,6 +17,18 @@ using Messages = std::vector<UINT>;
 
 class FrameworkWnd : public testing::Test {
  protected:
+  void expect_failure(const char* name, WatchedWnd& window,
+                      const std::function<bool(WatchedWnd&)>& create) {
+    SCOPED_TRACE(name);
+    EXPECT_FALSE(create(window));
+    EXPECT_EQ(window.ends, 1);
+    EXPECT_EQ(window.GetSafeHwnd(), nullptr);
+    EXPECT_EQ(desktop_.living_windows(), 0);
+    window.refuses = WM_NULL;
+    EXPECT_TRUE(window.create()) << "the failure leaves no hook behind";
+    window.DestroyWindow();
+  }
+
   test::Desktop desktop_;
 };
 
@@ -50,34 +64,26 @@ TEST_F(FrameworkWnd, RefusesASecondWindow) {
 
 TEST_F(FrameworkWnd, FailedCreationLeavesNothingAndEndsOnce) {
   const auto stale = reinterpret_cast<HWND>(static_cast<LONG_PTR>(0x77777));
-  WatchedWnd no_class, no_parent, childless, refused_early, refused_late;
-  refused_early.refuses = WM_NCCREATE;
-  refused_late.refuses = WM_CREATE;
-  EXPECT_FALSE(no_class.CreateEx(0, L"no such class", L"", WS_POPUP, CRect(), nullptr, 0));
-  EXPECT_FALSE(no_parent.create(stale));
-  EXPECT_FALSE(childless.create(nullptr, WS_CHILD));
-  EXPECT_FALSE(refused_early.create());
-  EXPECT_FALSE(refused_late.create());
-  for (const auto* each : {&no_class, &no_parent, &childless, &refused_early, &refused_late}) {
-    EXPECT_EQ(each->ends, 1);
-    EXPECT_EQ(each->GetSafeHwnd(), nullptr);
+  const std::pair<const char*, std::function<bool(WatchedWnd&)>> cases[] = {
+      {"no class",
+       [](auto& window) {
+         return window.CreateEx(0, L"no such class", L"", WS_POPUP, CRect(), nullptr, 0);
+       }},
+      {"stale parent", [stale](auto& window) { return window.create(stale); }},
+      {"child of none", [](auto& window) { return window.create(nullptr, WS_CHILD); }}};
+  for (const auto& [name, create] : cases) {
+    WatchedWnd window;
+    expect_failure(name, window, create);
   }
-  EXPECT_EQ(desktop_.living_windows(), 0);
-  WatchedWnd next;
-  EXPECT_TRUE(next.create()) << "the failures leave no hook behind";
-}
-
-TEST_F(FrameworkWnd, AnExceptionMakesTheCreationFailCleanly) {
-  for (UINT thrown_in : {WM_NCCREATE, WM_CREATE}) {
+  for (const UINT message : {WM_NCCREATE, WM_CREATE}) {
+    WatchedWnd refusing;
+    refusing.refuses = message;
+    expect_failure("refused", refusing, [](auto& window) { return window.create(); });
     bool throws = true;
-    WatchedWnd window([&](UINT message, WPARAM, LPARAM) {
-      if (throws && message == thrown_in) throw std::runtime_error("no such path");
+    WatchedWnd throwing([&](UINT received, WPARAM, LPARAM) {
+      if (received == message && std::exchange(throws, false)) throw std::runtime_error("no path");
     });
-    EXPECT_FALSE(window.create());
-    EXPECT_EQ(window.GetSafeHwnd(), nullptr);
-    EXPECT_EQ(desktop_.living_windows(), 0);
-    throws = false;
-    EXPECT_TRUE(window.create());
+    expect_failure("thrown", throwing, [](auto& window) { return window.create(); });
   }
 }
 
@@ -264,28 +270,29 @@ TEST_F(FrameworkWnd, AControlMayDeleteItsParent) {
 
 // --- Temporary objects
 
+HWND plain_window() {
+  return ::CreateWindowExW(0, AfxRegisterWndClass(0), L"plain", WS_POPUP, 0, 0, 5, 5, nullptr,
+                           nullptr, nullptr, nullptr);
+}
+
 TEST_F(FrameworkWnd, TemporaryObjectsLastThroughTheHandler) {
   HandleMaps& maps = ThreadState::current().handles;
-  maps.release_temporaries();
-  const HWND plain = ::CreateWindowExW(0, AfxRegisterWndClass(0), L"plain", WS_POPUP, 0, 0, 5, 5,
-                                       nullptr, nullptr, nullptr, nullptr);
+  desktop_.filter_messages(&PreTranslateInput);
+  const HWND plain = plain_window();
   std::size_t inside = 0;
   bool same = false;
   WatchedWnd window([&](UINT message, WPARAM, LPARAM) {
     if (message != WM_USER) return;
-    CWnd* temporary = CWnd::FromHandle(plain);
-    MSG nested{};
-    while (::PeekMessageW(&nested, nullptr, 0, 0, PM_REMOVE))
-      if (!PreTranslateInput(&nested)) ::DispatchMessageW(&nested);
+    maps.release_temporaries();
+    CWnd* const temporary = CWnd::FromHandle(plain);
+    desktop_.pump();
     same = temporary == CWnd::FromHandle(plain) && temporary->GetSafeHwnd() == plain;
     inside = maps.temporaries();
   });
   ASSERT_TRUE(window.create());
   window.PostMessageW(WM_USER);
   window.PostMessageW(WM_USER + 1);
-  MSG message{};
-  while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
-    if (!PreTranslateInput(&message)) ::DispatchMessageW(&message);
+  desktop_.pump();
   EXPECT_TRUE(same);
   EXPECT_EQ(inside, 1u);
   MSG later{};
@@ -295,21 +302,16 @@ TEST_F(FrameworkWnd, TemporaryObjectsLastThroughTheHandler) {
   EXPECT_EQ(CWnd::FromHandle(nullptr), nullptr);
 }
 
-TEST_F(FrameworkWnd, TemporaryObjectsOfDeadWindowsDoNotPileUp) {
-  const wchar_t* window_class = AfxRegisterWndClass(0);
+TEST_F(FrameworkWnd, TemporaryObjectsOfTheDeadDoNotPileUp) {
+  HandleMaps& maps = ThreadState::current().handles;
   for (int i = 0; i < 1000; ++i) {
-    const HWND window = ::CreateWindowExW(0, window_class, L"", WS_POPUP, 0, 0, 5, 5, nullptr,
-                                          nullptr, nullptr, nullptr);
+    const HWND window = plain_window();
     CWnd::FromHandle(window);
     ::DestroyWindow(window);
   }
-  EXPECT_LT(ThreadState::current().handles.temporaries(), 100u);
-}
-
-TEST_F(FrameworkWnd, ReleasedDeviceContextsDoNotPileUp) {
+  EXPECT_LT(maps.temporaries(), 100u);
   WatchedWnd window;
   ASSERT_TRUE(window.create());
-  HandleMaps& maps = ThreadState::current().handles;
   maps.release_temporaries();
   for (int i = 0; i < 10; ++i) EXPECT_EQ(window.ReleaseDC(window.GetDC()), 1);
   EXPECT_EQ(maps.temporaries(), 0u);
@@ -349,7 +351,7 @@ TEST_F(FrameworkWnd, ObjectsOfTwoSystemsStayApart) {
 
 // --- Operations
 
-TEST_F(FrameworkWnd, StylesChangeInTheGivenBits) {
+TEST_F(FrameworkWnd, TellsAndChangesItsStylesPlaceAndText) {
   WatchedWnd window;
   ASSERT_TRUE(window.create());
   EXPECT_TRUE(window.ModifyStyle(0, WS_DISABLED));
@@ -358,19 +360,15 @@ TEST_F(FrameworkWnd, StylesChangeInTheGivenBits) {
   EXPECT_TRUE(window.ModifyStyleEx(WS_EX_APPWINDOW, WS_EX_LAYERED));
   EXPECT_EQ(window.GetExStyle() & (WS_EX_LAYERED | WS_EX_APPWINDOW), WS_EX_LAYERED);
   EXPECT_TRUE(window.GetStyle() & WS_POPUP);
-}
-
-TEST_F(FrameworkWnd, TellsAndChangesItsPlaceAndText) {
-  WatchedWnd window;
-  ASSERT_TRUE(window.create());
-  window.MoveWindow(CRect(10, 20, 110, 70));
+  const CRect place(10, 20, 110, 70);
+  window.MoveWindow(place);
   CRect rect;
   window.GetWindowRect(rect);
-  EXPECT_TRUE(rect == CRect(10, 20, 110, 70));
+  EXPECT_TRUE(rect == place);
   window.ScreenToClient(&rect);
   EXPECT_TRUE(rect == CRect(0, 0, 100, 50));
   window.ClientToScreen(&rect);
-  EXPECT_TRUE(rect == CRect(10, 20, 110, 70));
+  EXPECT_TRUE(rect == place);
   window.SetWindowTextW(L"标题 of this window");
   CString text(L"former");
   window.GetWindowTextW(text);
