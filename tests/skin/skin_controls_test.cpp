@@ -10,6 +10,7 @@
 #include "corvane/platform/controls/ui_ctrl_mgr.h"
 #include "corvane/skin/xml_list_mgr.h"
 #include "tests/platform/controls/control_test.h"
+#include "tests/support/golden_file.h"
 
 namespace corvane {
 namespace {
@@ -20,18 +21,9 @@ constexpr COLORREF kMain = RGB(10, 20, 30), kForward = RGB(40, 50, 60), kBackwar
 class SkinControls : public test::ControlTest {
  protected:
   SkinControls() {
-    folder_.file("ui_control.xml", R"(<controls><list id="4">
-        <control id="1" x="10" y="20" width="30" height="40" image="main.bmp"
-                 image-pressed="down.bmp" image-forward="forward.bmp"
-                 image-backward="backward.bmp" caption="1" text-color="#FFFFFF"
-                 text-color-hover="#FFFF00" padding-left="2" padding-bottom="4"/>
-        <control id="2" x="50" y="20" width="30" height="40" caption="404"/>
-        <control id="3" width="30" height="40" image="main.bmp" caption="2"/></list></controls>)");
-    folder_.file("ui_language.xml",
-                 R"(<captions><list id="4"><caption id="1" text="保" font="3"/>
-                 <caption id="2" text="文" font="404"/></list></captions>)");
-    folder_.file("ui_logfont.xml",
-                 R"(<fonts><font id="3" face="黑体" size="20" weight="700"/></fonts>)");
+    for (const char* const name : {"ui_control.xml", "ui_language.xml", "ui_logfont.xml"}) {
+      folder_.file(name, test::golden_text(std::string("tests/skin/data/buttons/") + name));
+    }
     write_picture("main.bmp", 30, 40, kMain);
     write_picture("down.bmp", 12, 14, 0);
     write_picture("forward.bmp", 8, 10, kForward);

@@ -7,7 +7,7 @@
 
 #include "corvane/platform/base_services/installation.h"
 #include "corvane/platform/base_services/system_paths.h"
-#include "tests/support/temporary_folder.h"
+#include "tests/support/source_folder.h"
 
 namespace corvane {
 namespace {
@@ -17,21 +17,13 @@ static_assert(!std::is_copy_assignable_v<CXmlListMgr>);
 
 class XmlListMgr : public testing::Test {
  protected:
-  XmlListMgr() {
-    SetSkinFolder(folder_.wide());
-    folder_.file("ui_control.xml", R"(<controls>
-        <list id="4" background="#102030">
-          <control id="1" x="1" y="2" width="10" height="20" image="one.png" caption="5"/>
-          <control id="2" image="two.png"/><control id="1" x="9" image="later.png"/></list>
-        <list id="5"><control id="8"/></list></controls>)");
-    folder_.file("ui_language.xml", R"(<captions>
-        <list id="4"><caption id="5" text="保存" font="1"/></list>
-        <list id="5"><caption id="5" text="other"/><caption id="6" text="more"/></list>
-        </captions>)");
-    folder_.file("ui_logfont.xml", R"(<fonts><font id="1" size="20"/><font id="2"/></fonts>)");
-  }
+  XmlListMgr() { use("lists"); }
   ~XmlListMgr() override { SetSkinFolder(L""); }
 
+  static void use(const char* skin) { SetSkinFolder(folder(skin)); }
+  static CString folder(const char* skin) {
+    return wide_path_of(test::source_folder() / "tests/skin/data" / skin);
+  }
   void load(int list) { skin_.Load({list}); }
   // Whether there are a control, a caption and a font of list 4.
   void expect_records(bool control, bool caption, bool font) const {
@@ -40,7 +32,6 @@ class XmlListMgr : public testing::Test {
     EXPECT_EQ(skin_.GetMyFont(1) != nullptr, font);
   }
 
-  test::TemporaryFolder folder_;
   CXmlListMgr skin_;
 };
 
@@ -48,7 +39,7 @@ TEST_F(XmlListMgr, IsEmptyAtFirst) {
   EXPECT_EQ(skin_.GetBgColor(), 0u);
   expect_records(false, false, false);
   EXPECT_TRUE(skin_.GetBgRect(1).IsRectNull());
-  EXPECT_EQ(skin_.GetBgImgPath(1), folder_.wide() + L"\\image\\");
+  EXPECT_EQ(skin_.GetBgImgPath(1), folder("lists") + L"\\image\\");
 }
 
 TEST_F(XmlListMgr, EachWindowReadsItsListOfTheSkin) {
@@ -60,14 +51,7 @@ TEST_F(XmlListMgr, EachWindowReadsItsListOfTheSkin) {
       {kFolderTreeList, 1, false}, {kSplitScreenList, 3, true},     {kCropBarList, 4, true},
       {kDataPathList, 5, true},    {kMessageBoxList, 7, true},      {kRotateKnobList, 9, true},
       {kGestureList, 10, true},    {kAutoPhotographList, 11, true}, {kPaintList, 12, false}};
-  std::string controls, captions;
-  for (int id = 0; id < 20; ++id) {
-    const std::string list = "<list id='" + std::to_string(id) + "'>", x = std::to_string(id);
-    controls += list + "<control id='1' x='" + x + "'/></list>";
-    captions += list + "<caption id='1' font='" + x + "'/></list>";
-  }
-  folder_.file("ui_control.xml", "<controls>" + controls + "</controls>");
-  folder_.file("ui_language.xml", "<captions>" + captions + "</captions>");
+  use("windows");
   for (const auto& each : cases) {
     SCOPED_TRACE(each.id);
     CXmlListMgr skin;
@@ -85,12 +69,12 @@ TEST_F(XmlListMgr, AnswersFromTheLoadedList) {
   load(4);
   EXPECT_EQ(skin_.GetBgColor(), RGB(0x10, 0x20, 0x30));
   EXPECT_EQ(skin_.GetBgRect(1), CRect(1, 2, 11, 22));
-  EXPECT_EQ(skin_.GetBgImgPath(1), folder_.wide() + L"\\image\\one.png");
+  EXPECT_EQ(skin_.GetBgImgPath(1), folder("lists") + L"\\image\\one.png");
   EXPECT_EQ(skin_.GetLanguage(5)->text, L"保存");
   EXPECT_EQ(skin_.GetMyFont(1)->description->lfHeight, -20);
   EXPECT_EQ(skin_.GetCtrl(8), nullptr);
   EXPECT_TRUE(skin_.GetBgRect(8).IsRectNull());
-  EXPECT_EQ(skin_.GetBgImgPath(8), folder_.wide() + L"\\image\\");
+  EXPECT_EQ(skin_.GetBgImgPath(8), folder("lists") + L"\\image\\");
 }
 
 TEST_F(XmlListMgr, AReloadReplacesWhateverItFinds) {
@@ -112,7 +96,7 @@ TEST_F(XmlListMgr, AReloadReplacesWhateverItFinds) {
   expect_records(false, false, true);
   EXPECT_EQ(skin_.GetBgColor(), RGB(0x10, 0x20, 0x30));
   for (const wchar_t* const missing : {L"Z:\\no such folder", L"Q:\\not mounted"}) {
-    SetSkinFolder(folder_.wide());
+    use("lists");
     load(4);
     expect_records(true, true, true);
     SetSkinFolder(missing);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <iterator>
 #include <sstream>
 
 #include "tests/support/source_folder.h"
@@ -18,9 +19,16 @@ std::string without_blanks_around(const std::string& text) {
 
 }  // namespace
 
+std::string golden_text(const std::string& name) {
+  std::ifstream file(source_folder() / name, std::ios::binary);
+  const std::string text(std::istreambuf_iterator<char>(file), {});
+  EXPECT_FALSE(text.empty()) << name;
+  return text;
+}
+
 std::vector<std::vector<std::string>> golden_rows(const std::string& name) {
   std::vector<std::vector<std::string>> rows;
-  std::ifstream file(source_folder() / name);
+  std::istringstream file(golden_text(name));
   for (std::string line; std::getline(file, line);) {
     if (line.empty() || line.starts_with("//")) continue;
     std::istringstream fields(line);
@@ -29,7 +37,6 @@ std::vector<std::vector<std::string>> golden_rows(const std::string& name) {
       row.push_back(without_blanks_around(field));
     }
   }
-  EXPECT_FALSE(rows.empty()) << name;
   return rows;
 }
 

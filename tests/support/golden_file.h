@@ -5,6 +5,9 @@
 
 namespace corvane::test {
 
+// All of a file, named from the sources' folder. The test fails when there is nothing.
+std::string golden_text(const std::string& name);
+
 // The rows of a file, named from the sources' folder: fields between bars, without the blanks
 // around them. Empty lines and those that begin with // do not count. The test fails when there are
 // none.

@@ -4,13 +4,14 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <vector>
+#include <sstream>
 
 #include "corvane/platform/base_services/default_skin.h"
 #include "corvane/platform/base_services/installation.h"
 #include "corvane/platform/base_services/language_text.h"
 #include "corvane/platform/base_services/system_paths.h"
 #include "corvane/platform/base_services/utf8.h"
+#include "tests/support/golden_file.h"
 #include "tests/support/temporary_folder.h"
 
 namespace corvane {
@@ -45,38 +46,16 @@ TEST_F(InstallationPaths, SeparatorsAtTheEndAreDropped) {
 }
 
 TEST_F(InstallationPaths, TheDefaultSkinIsFoundNearTheLibraryOrTheProgram) {
-  const struct {
-    const char* library;  // folders below the temporary one; empty: unknown
-    const char* program;
-    std::vector<const char*> skins;
-    const char* expected;  // null: none
-  } cases[] = {
-      {"usr/lib",
-       "opt/bin",
-       {"usr/share/corvane/skins/default"},
-       "usr/share/corvane/skins/default"},
-      {"", "opt/bin", {"opt/share/corvane/skins/default"}, "opt/share/corvane/skins/default"},
-      {"usr/lib",
-       "opt/bin",
-       {"usr/share/corvane/skins/default", "opt/share/corvane/skins/default"},
-       "usr/share/corvane/skins/default"},
-      {"", "program", {"program/skins/default"}, "program/skins/default"},
-      {"", "tree/build/debug/apps/capture", {"tree/skins/default"}, "tree/skins/default"},
-      {"", "a/b/c/d/e/f/g/h", {"a/skins/default"}, nullptr},
-      {"usr/lib", "opt/bin", {"usr/lib/share/corvane/skins/default"}, nullptr},
-      {"", "", {"skins/default"}, nullptr},
-  };
-  for (const auto& each : cases) {
+  for (auto& row : test::golden_rows("tests/platform/base_services/default_skins.txt")) {
+    row.resize(4);
     const test::TemporaryFolder tree;
-    const auto below = [&tree](std::string_view folder) {
+    const auto below = [&tree](const std::string& folder) {
       return folder.empty() ? std::filesystem::path() : tree.path() / folder;
     };
-    for (const char* const skin : each.skins) {
-      tree.file(std::string(skin) + "/ui_control.xml", "<controls/>");
-    }
-    const auto found = find_default_skin(below(each.library), below(each.program));
-    const auto expected = each.expected ? std::optional(below(each.expected)) : std::nullopt;
-    EXPECT_EQ(found, expected) << each.library << ", " << each.program;
+    std::istringstream skins(row[2]);
+    for (std::string skin; skins >> skin;) tree.file(skin + "/ui_control.xml", "<controls/>");
+    const auto found = find_default_skin(below(row[0]), below(row[1]));
+    EXPECT_EQ(found.value_or(std::filesystem::path()), below(row[3])) << row[0] << ", " << row[1];
   }
 }
 

@@ -5,6 +5,8 @@
 #include <climits>
 #include <random>
 
+#include "tests/support/golden_file.h"
+
 namespace corvane::system {
 namespace {
 
@@ -147,40 +149,20 @@ TEST(Compositor, RoundsEveryBlendToTheNearest) {
   }
 }
 
-struct Single {
-  const char* what;
-  Pixel source;
-  bool keyed;
-  Pixel key;
-  int alpha;
-  bool pixel_alpha;
-  Pixel expected;
-};
-
 TEST(Compositor, BlendsOnePixelOverTheBackground) {
-  const Single cases[] = {
-
-      {"an opaque layer's alpha byte does not count", 0x00112233, false, 0, 255, false, 0xFF112233},
-      {"the key shows the background", 0xFFFFFFFF, true, 0x00FFFFFF, 120, false, 0xFF406080},
-      {"the key's own alpha byte does not count", 0xFFFFFFFF, true, 0x77FFFFFF, 120, false,
-       0xFF406080},
-      {"a key that is off is a colour", 0xFFFFFFFF, false, 0x00FFFFFF, 255, false, 0xFFFFFFFF},
-      {"nearly the key is not the key", 0xFFFFFFFE, true, 0x00FFFFFF, 255, false, 0xFFFFFFFE},
-      {"black at 120", 0xFF000000, true, 0x00FFFFFF, 120, false, 0xFF223344},
-      {"alpha 1 changes by at most one", 0xFFFFFFFF, false, 0, 1, false, 0xFF416180},
-      {"pixel alpha", 0x80800000, false, 0, 255, true, 0xFFA03040},
-      {"pixel alpha and constant alpha", 0x80800000, false, 0, 128, true, 0xFF704860},
-      {"colour without alpha adds and saturates", 0x00FF0080, false, 0, 255, true, 0xFFFF60FF}};
-  for (const Single& single : cases) {
-    Layer layer{std::make_shared<Surface>(1, 1, single.source), {}, {0, 0, 1, 1}};
-    layer.keyed = single.keyed;
-    layer.key = single.key;
-    layer.alpha = static_cast<std::uint8_t>(single.alpha);
-    layer.pixel_alpha = single.pixel_alpha;
+  const auto pixel = [](const std::string& text) {
+    return static_cast<Pixel>(std::stoul(text, nullptr, 16));
+  };
+  for (const auto& row : test::golden_rows("tests/platform/compositor/single_pixels.txt")) {
+    Layer layer{std::make_shared<Surface>(1, 1, pixel(row.at(1))), {}, {0, 0, 1, 1}};
+    layer.keyed = row.at(2) != "none";
+    layer.key = layer.keyed ? pixel(row.at(2)) : 0x00FFFFFF;
+    layer.alpha = static_cast<std::uint8_t>(std::stoi(row.at(3)));
+    layer.pixel_alpha = row.at(4) == "pixels";
     for (const auto& composing : {compose, compose_reference}) {
       Surface frame(1, 1);
       composing(frame, Region({0, 0, 1, 1}), {layer}, 0x00406080);
-      EXPECT_EQ(frame.at(0, 0), single.expected) << single.what;
+      EXPECT_EQ(frame.at(0, 0), pixel(row.at(5))) << row.at(0);
     }
   }
 }
