@@ -40,4 +40,9 @@ std::vector<std::vector<std::string>> golden_rows(const std::string& name) {
   return rows;
 }
 
+std::vector<int> numbers_of(const std::string& field) {
+  std::istringstream in(field);
+  return {std::istream_iterator<int>(in), {}};
+}
+
 }  // namespace corvane::test

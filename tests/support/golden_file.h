@@ -13,4 +13,7 @@ std::string golden_text(const std::string& name);
 // none.
 std::vector<std::vector<std::string>> golden_rows(const std::string& name);
 
+// The whole numbers in a field, between blanks.
+std::vector<int> numbers_of(const std::string& field);
+
 }  // namespace corvane::test

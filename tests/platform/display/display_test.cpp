@@ -6,6 +6,7 @@
 
 #include "corvane/platform/system/display/headless_display.h"
 #include "corvane/platform/system/display/open_display.h"
+#include "tests/support/golden_file.h"
 
 namespace corvane::system {
 namespace {
@@ -79,68 +80,46 @@ TEST(HeadlessDisplay, DescriptorTellsOfInput) {
   EXPECT_FALSE(readable(display.event_fd()));
 }
 
+// Changes the environment for as long as it lives; no other window system is named in it.
 class Environment {
  public:
-  void set(const char* name, const char* value) {
-    const char* const old = std::getenv(name);
-    saved_.push_back({name, old ? old : "", old != nullptr});
-    if (value)
-      setenv(name, value, 1);
-    else
-      unsetenv(name);
+  Environment() {
+    for (const char* const name : {"WAYLAND_DISPLAY", "SDL_VIDEODRIVER"}) set(name, nullptr);
   }
   ~Environment() {
-    for (auto one = saved_.rbegin(); one != saved_.rend(); ++one)
-      one->was_set ? setenv(one->name, one->value.c_str(), 1) : unsetenv(one->name);
+    for (auto one = saved_.rbegin(); one != saved_.rend(); ++one) {
+      put(one->first, one->second ? one->second->c_str() : nullptr);
+    }
+  }
+  void set(const char* name, const char* value) {
+    const char* const old = std::getenv(name);
+    saved_.emplace_back(name, old != nullptr ? std::optional<std::string>(old) : std::nullopt);
+    put(name, value);
   }
 
  private:
-  struct Saved {
-    const char* name;
-    std::string value;
-    bool was_set;
-  };
-  std::vector<Saved> saved_;
-};
-
-struct Choice {
-  const char* kind;
-  const char* screen;
-  const char* native;
-  SIZE size;
+  static void put(const char* name, const char* value) {
+    value != nullptr ? setenv(name, value, 1) : unsetenv(name);
+  }
+  std::vector<std::pair<const char*, std::optional<std::string>>> saved_;
 };
 
 TEST(OpenDisplay, ChoosesMemoryAndSize) {
-  const Choice choices[] = {
-      {"headless", nullptr, nullptr, {1280, 800}},
-      {nullptr, nullptr, nullptr, {1280, 800}},
-      {nullptr, "640x480", ":no-such-server", {640, 480}},
-      {"unknown", "16384x1", nullptr, {16384, 1}},
-      {"headless", "16385x100", nullptr, {1280, 800}},
-      {"headless", "0x100", nullptr, {1280, 800}},
-      {"headless", "-5x100", nullptr, {1280, 800}},
-      {"headless", "640x480x2", nullptr, {1280, 800}},
-      {"headless", "640", nullptr, {1280, 800}},
-      {"headless", "x", nullptr, {1280, 800}},
-  };
-  for (const Choice& choice : choices) {
+  for (const auto& row : test::golden_rows("tests/platform/display/memory_displays.txt")) {
     Environment environment;
-    environment.set("WAYLAND_DISPLAY", nullptr);
-    environment.set("SDL_VIDEODRIVER", nullptr);
-    environment.set("CORVANE_DISPLAY", choice.kind);
-    environment.set("CORVANE_SCREEN", choice.screen);
-    environment.set("DISPLAY", choice.native);
+    constexpr const char* kNames[] = {"CORVANE_DISPLAY", "CORVANE_SCREEN", "DISPLAY"};
+    for (std::size_t at = 0; at < std::size(kNames); ++at) {
+      environment.set(kNames[at], row.at(at) == "unset" ? nullptr : row.at(at).c_str());
+    }
     const std::unique_ptr<Display> display = open_display();
     ASSERT_NE(dynamic_cast<HeadlessDisplay*>(display.get()), nullptr);
-    EXPECT_EQ(display->size().cx, choice.size.cx) << (choice.screen ? choice.screen : "");
-    EXPECT_EQ(display->size().cy, choice.size.cy) << (choice.screen ? choice.screen : "");
+    const SIZE size = display->size();
+    EXPECT_EQ((std::vector<int>{size.cx, size.cy}), test::numbers_of(row.at(3))) << row.at(1);
   }
 }
 
 TEST(OpenDisplay, AWindowThatCannotBeOpenedIsNone) {
   Environment environment;
-  environment.set("WAYLAND_DISPLAY", nullptr);
-  environment.set("SDL_VIDEODRIVER", nullptr);
   environment.set("CORVANE_DISPLAY", "sdl");
   environment.set("DISPLAY", ":no-such-server");
   testing::internal::CaptureStderr();

@@ -4,6 +4,8 @@
 
 #include <limits>
 
+#include "tests/support/golden_file.h"
+
 namespace corvane {
 
 void PrintTo(const CRect& rect, std::ostream* out) {
@@ -15,54 +17,37 @@ namespace {
 constexpr int kLeast = std::numeric_limits<LONG>::min();
 constexpr int kMost = std::numeric_limits<LONG>::max();
 
-struct PairCase {
-  const char* name;
-  CRect a, b, common, around;
-};
-
-constexpr PairCase kPairs[] = {
-    {"overlapping", {0, 0, 10, 10}, {5, 6, 20, 30}, {5, 6, 10, 10}, {0, 0, 20, 30}},
-    {"inside", {0, 0, 10, 10}, {2, 3, 4, 5}, {2, 3, 4, 5}, {0, 0, 10, 10}},
-    {"touching", {0, 0, 10, 10}, {10, 0, 20, 10}, {0, 0, 0, 0}, {0, 0, 20, 10}},
-    {"apart", {0, 0, 1, 1}, {5, 5, 6, 6}, {0, 0, 0, 0}, {0, 0, 6, 6}},
-    {"one empty", {1, 2, 3, 4}, {7, 7, 7, 9}, {0, 0, 0, 0}, {1, 2, 3, 4}},
-    {"one inside out", {1, 2, 3, 4}, {9, 9, 0, 0}, {0, 0, 0, 0}, {1, 2, 3, 4}},
-    {"both empty", {3, 3, 3, 3}, {4, 4, 1, 1}, {0, 0, 0, 0}, {0, 0, 0, 0}},
-    {"everything",
-     {kLeast, kLeast, kMost, kMost},
-     {-5, -5, 5, 5},
-     {-5, -5, 5, 5},
-     {kLeast, kLeast, kMost, kMost}},
-};
+CRect rect_of(const std::string& field) {
+  const auto numbers = test::numbers_of(field);
+  return {numbers.at(0), numbers.at(1), numbers.at(2), numbers.at(3)};
+}
 
 TEST(FrameworkRect, IntersectsAndUnites) {
-  for (const PairCase& each : kPairs) {
-    SCOPED_TRACE(each.name);
+  for (const auto& row : test::golden_rows("tests/platform/rect_pairs.txt")) {
+    SCOPED_TRACE(row.at(0));
     for (const bool swapped : {false, true}) {
-      const CRect& first = swapped ? each.b : each.a;
-      const CRect& second = swapped ? each.a : each.b;
-      CRect common(9, 9, 9, 9), around(9, 9, 9, 9);
-      EXPECT_EQ(common.IntersectRect(first, second), !each.common.IsRectEmpty());
-      EXPECT_EQ(common, each.common);
-      EXPECT_EQ(around.UnionRect(first, second), !each.around.IsRectEmpty());
-      EXPECT_EQ(around, each.around);
-      EXPECT_EQ(first & second, each.common);
-      EXPECT_EQ(first | second, each.around);
+      const CRect first = rect_of(row.at(swapped ? 2 : 1)),
+                  second = rect_of(row.at(swapped ? 1 : 2));
+      const CRect expected_common = rect_of(row.at(3)), expected_around = rect_of(row.at(4));
+      CRect common(first), around(9, 9, 9, 9);
+      EXPECT_EQ(common.IntersectRect(common, second), !expected_common.IsRectEmpty());
+      EXPECT_EQ(common, expected_common);
+      EXPECT_EQ(around.UnionRect(first, second), !expected_around.IsRectEmpty());
+      EXPECT_EQ(around, expected_around);
+      EXPECT_EQ(first & second, expected_common);
+      EXPECT_EQ(first | second, expected_around);
     }
-    CRect own(each.a);
-    own.IntersectRect(own, each.b);
-    EXPECT_EQ(own, each.common) << "into itself";
   }
 }
 
 TEST(FrameworkRect, ContainsItsLeftAndTopEdgesOnly) {
   constexpr CRect rect(10, 20, 30, 40);
-  const struct {
-    CPoint point;
-    bool inside;
-  } cases[] = {{{10, 20}, true}, {{29, 39}, true},  {{30, 39}, false}, {{29, 40}, false},
-               {{9, 20}, false}, {{10, 19}, false}, {{20, 30}, true}};
-  for (const auto& each : cases) EXPECT_EQ(rect.PtInRect(each.point), each.inside);
+  for (const CPoint inside : {CPoint(10, 20), CPoint(29, 39), CPoint(20, 30)}) {
+    EXPECT_TRUE(rect.PtInRect(inside));
+  }
+  for (const CPoint outside : {CPoint(30, 39), CPoint(29, 40), CPoint(9, 20), CPoint(10, 19)}) {
+    EXPECT_FALSE(rect.PtInRect(outside));
+  }
   EXPECT_FALSE(CRect(30, 40, 10, 20).PtInRect({20, 30})) << "inside out";
 }
 
@@ -76,16 +61,9 @@ TEST(FrameworkRect, TellsEmptyFromNull) {
 }
 
 TEST(FrameworkRect, NormalizesEachDirectionByItself) {
-  const struct {
-    CRect before, after;
-  } cases[] = {{{5, 6, 1, 2}, {1, 2, 5, 6}},
-               {{5, 2, 1, 6}, {1, 2, 5, 6}},
-               {{1, 6, 5, 2}, {1, 2, 5, 6}},
-               {{1, 2, 5, 6}, {1, 2, 5, 6}}};
-  for (const auto& each : cases) {
-    CRect rect = each.before;
+  for (CRect rect : {CRect(5, 6, 1, 2), CRect(5, 2, 1, 6), CRect(1, 6, 5, 2), CRect(1, 2, 5, 6)}) {
     rect.NormalizeRect();
-    EXPECT_EQ(rect, each.after);
+    EXPECT_EQ(rect, CRect(1, 2, 5, 6));
   }
 }
 

@@ -11,40 +11,16 @@ class GdiFills : public GdiTest {
 };
 
 TEST_F(GdiFills, RectanglesIncludeLeftTopAndExcludeRightBottom) {
-  using Fill = std::function<void(const RECT&)>;
-  const Fill fill = [&](const RECT& rect) { FillRect(dc, &rect, brush); };
-  const Fill frame = [&](const RECT& rect) { FrameRect(dc, &rect, brush); };
-  const Fill rectangle = [&](const RECT& rect) {
-    Rectangle(dc, rect.left, rect.top, rect.right, rect.bottom);
-  };
-  const Fill opaque = [&](const RECT& rect) {
-    ExtTextOutW(dc, 0, 0, ETO_OPAQUE, &rect, nullptr, 0, nullptr);
-  };
-  const struct {
-    Fill fill;
-    RECT rect;
-    const char* covered;
-  } cases[] = {
-      {fill, {10, 10, 30, 25}, "10,10,30,25 300"},
-      {fill, {10, 10, 10, 25}, "nothing"},
-      {fill, {30, 10, 10, 25}, "11,10,31,25 300"},
-      {fill, {30, 25, 10, 10}, "11,11,31,26 300"},
-      {fill, {-2147483647 - 1, 5, 2147483647, 6}, "0,5,100,6 100"},
-      {frame, {10, 10, 30, 25}, "10,10,30,25 66"},
-      {frame, {10, 10, 11, 25}, "10,10,11,25 15"},
-      {frame, {10, 10, 30, 10}, "nothing"},
-      {rectangle, {10, 10, 30, 25}, "10,10,30,25 300"},
-      {rectangle, {10, 10, 11, 11}, "10,10,11,11 1"},
-      {opaque, {10, 10, 30, 25}, "10,10,30,25 300"},
-      {opaque, {10, 25, 30, 25}, "nothing"},
-  };
   SetBkColor(dc, RGB(9, 9, 9));
-  HGDIOBJ before = SelectObject(dc, brush);
-  for (const auto& item : cases) {
-    wipe();
-    item.fill(item.rect);
-    EXPECT_EQ(drawn(), item.covered) << item.rect.left << "," << item.rect.top;
-  }
+  const HGDIOBJ before = SelectObject(dc, brush);
+  expect_drawn(
+      "tests/platform/gdi/rectangles.txt",
+      {{"FillRect", [&](const RECT& rect) { FillRect(dc, &rect, brush); }},
+       {"FrameRect", [&](const RECT& rect) { FrameRect(dc, &rect, brush); }},
+       {"Rectangle",
+        [&](const RECT& rect) { Rectangle(dc, rect.left, rect.top, rect.right, rect.bottom); }},
+       {"ExtTextOut",
+        [&](const RECT& rect) { ExtTextOutW(dc, 0, 0, ETO_OPAQUE, &rect, nullptr, 0, nullptr); }}});
   SelectObject(dc, before);
 }
 

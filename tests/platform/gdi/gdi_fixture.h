@@ -4,11 +4,13 @@
 
 #include <algorithm>
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "corvane/platform/system/gdi/gdi.h"
+#include "tests/support/golden_file.h"
 
 namespace corvane::system {
 
@@ -76,6 +78,16 @@ class GdiTest : public testing::Test {
       });
       return inside != (color != kWhite);
     });
+  }
+  // Each row of a golden file: what to draw, a rectangle for it, and what is drawn then.
+  void expect_drawn(const std::string& file,
+                    const std::map<std::string, std::function<void(const RECT&)>>& draw) {
+    for (const auto& row : test::golden_rows(file)) {
+      const auto numbers = test::numbers_of(row.at(1));
+      wipe();
+      draw.at(row.at(0))({numbers.at(0), numbers.at(1), numbers.at(2), numbers.at(3)});
+      EXPECT_EQ(drawn(), row.at(2)) << row.at(0) << " in " << row.at(1);
+    }
   }
   Pixel seen(int x, int y) const { return surface->at(x, y) & 0xFFFFFF; }
   void wipe() {

@@ -4,6 +4,7 @@
 
 #include "corvane/platform/system/handle_table.h"
 #include "corvane/platform/system/types.h"
+#include "tests/support/golden_file.h"
 
 namespace corvane::system {
 namespace {
@@ -44,26 +45,22 @@ TEST(HandleTable, ObjectsKeepTheirPlaceWhileTheTableGrows) {
 }
 
 TEST(RectFunctions, PlatformRules) {
-  const RECT rect{10, 20, 30, 40}, inverted{30, 40, 10, 20}, flat{5, 5, 5, 9}, none{};
-  const std::pair<POINT, BOOL> points[] = {
-      {{10, 20}, TRUE}, {{29, 39}, TRUE}, {{30, 20}, FALSE}, {{10, 40}, FALSE}};
-  for (const auto& [point, inside] : points) EXPECT_EQ(PtInRect(&rect, point), inside);
+  const RECT rect{10, 20, 30, 40}, inverted{30, 40, 10, 20};
+  for (const POINT inside : {POINT{10, 20}, POINT{29, 39}}) EXPECT_TRUE(PtInRect(&rect, inside));
+  for (const POINT outside : {POINT{30, 20}, POINT{10, 40}}) EXPECT_FALSE(PtInRect(&rect, outside));
   EXPECT_FALSE(PtInRect(&inverted, {20, 30}));
   EXPECT_TRUE(IsRectEmpty(&inverted));
-  EXPECT_TRUE(IsRectEmpty(&flat));
-
-  const struct {
-    BOOL (*combine)(LPRECT, const RECT*, const RECT*);
-    RECT first, second, expected;
-  } cases[] = {{IntersectRect, rect, {30, 20, 50, 40}, none},  // they only touch
-               {IntersectRect, rect, {25, 35, 50, 60}, {25, 35, 30, 40}},
-               {UnionRect, rect, flat, rect},
-               {UnionRect, flat, rect, rect},
-               {UnionRect, flat, inverted, none}};
-  for (const auto& each : cases) {
+  for (const auto& row : test::golden_rows("tests/platform/rect_pairs.txt")) {
+    const auto part = [&row](std::size_t field) {
+      const auto numbers = test::numbers_of(row.at(field));
+      return RECT{numbers.at(0), numbers.at(1), numbers.at(2), numbers.at(3)};
+    };
+    const RECT first = part(1), second = part(2), common = part(3), around = part(4);
     RECT result{1, 1, 1, 1};
-    EXPECT_EQ(each.combine(&result, &each.first, &each.second), !IsRectEmpty(&each.expected));
-    EXPECT_TRUE(EqualRect(&result, &each.expected));
+    EXPECT_EQ(IntersectRect(&result, &first, &second), !IsRectEmpty(&common)) << row.at(0);
+    EXPECT_TRUE(EqualRect(&result, &common)) << row.at(0);
+    EXPECT_EQ(UnionRect(&result, &second, &first), !IsRectEmpty(&around)) << row.at(0);
+    EXPECT_TRUE(EqualRect(&result, &around)) << row.at(0);
   }
   EXPECT_FALSE(CopyRect(nullptr, &rect));
   RECT moved{0, 0, 0x7FFFFFFF, 5};

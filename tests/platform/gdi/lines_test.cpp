@@ -1,5 +1,3 @@
-#include <sstream>
-
 #include "tests/platform/gdi/gdi_fixture.h"
 #include "tests/support/golden_file.h"
 
@@ -17,14 +15,9 @@ class GdiLines : public GdiTest {
 
 TEST_F(GdiLines, PensCoverExactPixels) {
   for (const auto& row : test::golden_rows("tests/platform/gdi/pen_lines.txt")) {
-    const auto point = [](const std::string& text) {
-      std::istringstream in(text);
-      POINT read{};
-      in >> read.x >> read.y;
-      return read;
-    };
+    const auto from = test::numbers_of(row.at(1)), to = test::numbers_of(row.at(2));
     wipe();
-    draw(std::stoi(row.at(0)), {point(row.at(1)), point(row.at(2))});
+    draw(std::stoi(row.at(0)), {{from.at(0), from.at(1)}, {to.at(0), to.at(1)}});
     EXPECT_EQ(drawn(), row.at(3)) << row.at(0) << " from " << row.at(1) << " to " << row.at(2);
   }
 }
