@@ -193,7 +193,7 @@ TEST_F(SkinReader, ReadsCaptionsOfOneListAndAllFonts) {
   for (const _MYFONT* const each : fonts.records) {
     const LOGFONTW& font = *each->description;
     read << each->id << ": " << font.lfHeight << ' ' << font.lfWeight
-         << (font.lfItalic != 0 ? " italic" : "") << (font.lfUnderline != 0 ? " underlined" : "")
+         << (font.lfItalic == 1 ? " italic" : "") << (font.lfUnderline == 1 ? " underlined" : "")
          << ' ' << narrow_path(font.lfFaceName) << '\n';
     EXPECT_EQ(font.lfCharSet, DEFAULT_CHARSET);
   }

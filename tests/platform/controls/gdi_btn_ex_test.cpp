@@ -260,6 +260,8 @@ TEST_F(GdiBtnEx, EachLookIsItsImageAndTheCaptionInItsColour) {
   }
   button_->SetText(L"");
   expect_shown(control_.rect, {.face = kNormal, .edge = {}, .box = {}});
+  button_->SetSkin(ButtonSkin());
+  expect_shown(control_.rect, {.face = RGB(232, 234, 236), .edge = RGB(184, 186, 188), .box = {}});
 }
 
 TEST_F(GdiBtnEx, WithoutImagesItIsPlainAndItsFaceSuitsTheCaption) {

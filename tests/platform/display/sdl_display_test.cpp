@@ -146,19 +146,22 @@ TEST_F(SdlDisplayTest, RepaintsWhatWasExposed) {
   EXPECT_TRUE(happens([&] { return server_.pixel(window_, 320, 240) == 0x203040; }));
 }
 
-TEST_F(SdlDisplayTest, BringsMouseMovesAndButtons) {
+TEST_F(SdlDisplayTest, BringsMouseMovesButtonsAndModifiers) {
   show();
   tool("mousemove " + at(123, 45));
   EXPECT_TRUE(arrives(is_at(InputKind::mouse_move, 123, 45)));
   const struct {
-    const char* xdotool_button;
+    const char *device, *name;  // for xdotool
+    Condition (*is_change)(int, bool);
     int virtual_key;
-  } buttons[] = {{"1", 0x01}, {"2", 0x04}, {"3", 0x02}};
-  for (const auto& [button, virtual_key] : buttons) {
-    tool(std::string("mousedown ") + button);
-    EXPECT_TRUE(arrives(is_button(virtual_key, true))) << button;
-    tool(std::string("mouseup ") + button);
-    EXPECT_TRUE(arrives(is_button(virtual_key, false))) << button;
+  } cases[] = {{"mouse", "1", is_button, 0x01},    {"mouse", "2", is_button, 0x04},
+               {"mouse", "3", is_button, 0x02},    {"key", "Shift_R", is_key, 0x10},
+               {"key", "Control_L", is_key, 0x11}, {"key", "Alt_L", is_key, 0x12}};
+  for (const auto& [device, name, is_change, virtual_key] : cases) {
+    for (const bool down : {true, false}) {
+      tool(std::string(device) + (down ? "down " : "up ") + name);
+      EXPECT_TRUE(arrives(is_change(virtual_key, down))) << name << down;
+    }
   }
   const InputEvent* const press = find(events_, is_button(0x01, true));
   ASSERT_NE(press, nullptr);
@@ -228,20 +231,6 @@ TEST_F(SdlDisplayTest, BringsKeysAndText) {
   }
 }
 
-TEST_F(SdlDisplayTest, BringsModifiersAsKeys) {
-  show();
-  const struct {
-    const char* key;
-    int virtual_key;
-  } modifiers[] = {{"Shift_R", 0x10}, {"Control_L", 0x11}, {"Alt_L", 0x12}};
-  for (const auto& [key, virtual_key] : modifiers) {
-    tool(std::string("keydown ") + key);
-    EXPECT_TRUE(arrives(is_key(virtual_key, true))) << key;
-    tool(std::string("keyup ") + key);
-    EXPECT_TRUE(arrives(is_key(virtual_key, false))) << key;
-  }
-}
-
 TEST_F(SdlDisplayTest, BringsTextOfOtherScripts) {
   show();
   const struct {
@@ -269,23 +258,23 @@ TEST_F(SdlDisplayTest, TellsOfAutomaticRepeats) {
   EXPECT_FALSE(find(events_, is_key('X', true))->repeat) << "the first press is none";
 }
 
-TEST_F(SdlDisplayTest, FollowsTheWindowsSize) {
+TEST_F(SdlDisplayTest, FollowsTheWindowsSizeButIsNeverSmallerThanTheLeastWindow) {
   show();
-  tool("windowsize " + std::to_string(window_) + " 800 333");
-  ASSERT_TRUE(arrives(is_at(InputKind::resize, 800, 333)));
-  EXPECT_EQ(display_->size().cx, 800);
-  EXPECT_EQ(display_->size().cy, 333);
-  present_color(0xFF010203);
-  EXPECT_TRUE(happens([&] { return server_.pixel(window_, 799, 332) == 0x010203; }));
-}
-
-TEST_F(SdlDisplayTest, DesktopIsNeverSmallerThanTheLeastWindow) {
-  show();
-  tool("windowsize " + std::to_string(window_) + " 200 400");
-  ASSERT_TRUE(arrives(is_at(InputKind::resize, 320, 400)));
-  EXPECT_EQ(display_->size().cx, 320);
-  present_color(0xFF0A0B0C);
-  EXPECT_TRUE(happens([&] { return server_.pixel(window_, 199, 399) == 0x0A0B0C; }));
+  const struct {
+    SIZE window, desktop;
+    Pixel color;
+  } cases[] = {{{800, 333}, {800, 333}, 0x010203}, {{200, 400}, {320, 400}, 0x0A0B0C}};
+  for (const auto& [window, desktop, color] : cases) {
+    tool("windowsize " + std::to_string(window_) + " " + std::to_string(window.cx) + " " +
+         std::to_string(window.cy));
+    ASSERT_TRUE(arrives(is_at(InputKind::resize, desktop.cx, desktop.cy)));
+    EXPECT_EQ(display_->size().cx, desktop.cx);
+    EXPECT_EQ(display_->size().cy, desktop.cy);
+    present_color(0xFF000000 | color);
+    EXPECT_TRUE(happens([&, edge = window, shown = color] {
+      return server_.pixel(window_, edge.cx - 1, edge.cy - 1) == shown;
+    }));
+  }
 }
 
 TEST_F(SdlDisplayTest, TellsOfClosingAndLostFocus) {

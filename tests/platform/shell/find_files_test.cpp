@@ -135,21 +135,33 @@ TEST(FindFiles, WhatCannotBeFound) {
   const TemporaryFolder folder;
   folder.folder("a");
   folder.file("file");
-  struct {
-    const wchar_t* pattern;
-    DWORD error;
-  } const cases[] = {
-      {L"gone", ERROR_FILE_NOT_FOUND},    {L"gone*", ERROR_FILE_NOT_FOUND},
-      {L"a\\", ERROR_FILE_NOT_FOUND},     {L"gone\\*", ERROR_PATH_NOT_FOUND},
-      {L"gone\\x", ERROR_PATH_NOT_FOUND}, {L"file\\*", ERROR_PATH_NOT_FOUND},
-      {L"file\\x", ERROR_PATH_NOT_FOUND}, {L"x\x110000", ERROR_FILE_NOT_FOUND},
-  };
-  for (const auto& item : cases)
-    EXPECT_EQ(error_of(in(folder, item.pattern)), item.error)
-        << testing::PrintToString(item.pattern);
+  constexpr DWORD kFile = ERROR_FILE_NOT_FOUND, kPath = ERROR_PATH_NOT_FOUND;
+  const struct {
+    const wchar_t* path;
+    DWORD of_search;  // 0: none is made
+    DWORD of_query;
+  } cases[] = {{L"gone", kFile, kFile}, {L"gone*", kFile, 0},   {L"a\\", kFile, 0},
+               {L"gone\\", 0, kFile},   {L"gone\\*", kPath, 0}, {L"gone\\x", kPath, kPath},
+               {L"file\\", 0, kPath},   {L"file\\*", kPath, 0}, {L"file\\x", kPath, kPath},
+               {L"x\x110000", kFile, 0}};
+  for (const auto& item : cases) {
+    const std::wstring path = in(folder, item.path);
+    const auto name = testing::PrintToString(item.path);
+    if (item.of_search != 0) {
+      EXPECT_EQ(error_of(path), item.of_search) << name;
+    }
+    if (item.of_query == 0) continue;
+    SetLastError(ERROR_SUCCESS);
+    EXPECT_FALSE(PathFileExistsW(path.c_str()));
+    EXPECT_EQ(GetLastError(), item.of_query) << name;
+  }
+  for (const wchar_t* path : {L"", L"Q:\\x", static_cast<const wchar_t*>(nullptr)}) {
+    EXPECT_FALSE(PathFileExistsW(path));
+    EXPECT_EQ(GetFileAttributesW(path), INVALID_FILE_ATTRIBUTES);
+  }
   EXPECT_EQ(error_of(in(folder, std::wstring(256, L'n'))), ERROR_FILENAME_EXCED_RANGE);
-  EXPECT_EQ(error_of(L""), ERROR_PATH_NOT_FOUND);
-  EXPECT_EQ(error_of(L"Q:\\*"), ERROR_PATH_NOT_FOUND);
+  EXPECT_EQ(error_of(L""), kPath);
+  EXPECT_EQ(error_of(L"Q:\\*"), kPath);
   WIN32_FIND_DATAW data;
   EXPECT_EQ(FindFirstFileW(nullptr, &data), INVALID_HANDLE_VALUE);
   EXPECT_EQ(FindFirstFileW(L"Z:\\*", nullptr), INVALID_HANDLE_VALUE);
@@ -202,28 +214,6 @@ TEST(FindFiles, Attributes) {
   ASSERT_GT(found.size(), 2u);
   EXPECT_EQ(found[0].dwFileAttributes, FILE_ATTRIBUTE_DIRECTORY);
   EXPECT_EQ(found[1].dwFileAttributes, FILE_ATTRIBUTE_DIRECTORY);
-}
-
-TEST(FindFiles, ErrorsOfQueries) {
-  const TemporaryFolder folder;
-  folder.file("file");
-  struct {
-    const wchar_t* path;
-    DWORD error;
-  } const cases[] = {
-      {L"gone", ERROR_FILE_NOT_FOUND},    {L"gone\\", ERROR_FILE_NOT_FOUND},
-      {L"gone\\x", ERROR_PATH_NOT_FOUND}, {L"file\\", ERROR_PATH_NOT_FOUND},
-      {L"file\\x", ERROR_PATH_NOT_FOUND},
-  };
-  for (const auto& item : cases) {
-    SetLastError(ERROR_SUCCESS);
-    EXPECT_FALSE(PathFileExistsW(in(folder, item.path).c_str()));
-    EXPECT_EQ(GetLastError(), item.error) << testing::PrintToString(item.path);
-  }
-  for (const wchar_t* path : {L"", L"Q:\\x", static_cast<const wchar_t*>(nullptr)}) {
-    EXPECT_FALSE(PathFileExistsW(path));
-    EXPECT_EQ(GetFileAttributesW(path), INVALID_FILE_ATTRIBUTES);
-  }
 }
 
 std::uint64_t whole(DWORD high, DWORD low) { return (std::uint64_t{high} << 32) | low; }
