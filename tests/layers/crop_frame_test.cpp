@@ -4,10 +4,12 @@
 
 #include <limits>
 #include <random>
+#include <string>
 #include <vector>
 
 #include "corvane/platform/geometry.h"
 #include "tests/support/rects.h"
+#include "tests/support/source_folder.h"
 
 namespace {
 
@@ -28,56 +30,26 @@ CropFrame drawn(const RECT& rect) {
   return frame;
 }
 
-struct HitCase {
-  RECT rect;
-  POINT point;
-  int code;
-};
+// The code at each point around the rectangle, '.' for outside, a line for each row.
+std::string zones(const RECT& rect) {
+  const CropFrame frame = drawn(rect);
+  std::string text;
+  for (LONG y = rect.top - 5; y < rect.bottom + 5; ++y) {
+    for (LONG x = rect.left - 5; x < rect.right + 5; ++x) {
+      const int code = frame.hit_test({x, y});
+      text += code == corvane::crop_hit::outside ? "." : std::to_string(code);
+    }
+    text += '\n';
+  }
+  return text;
+}
 
 TEST(CropFrame, TellsTheZoneOfAPoint) {
-  constexpr RECT plain = {100, 100, 200, 181};  // handles at x 100, 150, 200 and y 100, 140, 181
-  constexpr RECT smallest = {0, 0, 8, 8};
-  constexpr RECT left_of_zero = {-31, -41, 0, 0};  // middle of the top edge at x -15
-  const std::vector<HitCase> cases = {{plain, {96, 96}, 1},
-                                      {plain, {95, 96}, 0},
-                                      {plain, {103, 103}, 1},
-                                      {plain, {104, 103}, 9},
-                                      {plain, {146, 96}, 2},
-                                      {plain, {153, 103}, 2},
-                                      {plain, {154, 103}, 9},
-                                      {plain, {145, 99}, 0},
-                                      {plain, {196, 96}, 3},
-                                      {plain, {203, 103}, 3},
-                                      {plain, {204, 103}, 0},
-                                      {plain, {196, 136}, 4},
-                                      {plain, {203, 143}, 4},
-                                      {plain, {203, 144}, 0},
-                                      {plain, {199, 144}, 9},
-                                      {plain, {203, 184}, 5},
-                                      {plain, {203, 185}, 0},
-                                      {plain, {150, 177}, 6},
-                                      {plain, {150, 176}, 9},
-                                      {plain, {96, 184}, 7},
-                                      {plain, {96, 136}, 8},
-                                      {plain, {103, 140}, 8},
-                                      {plain, {104, 140}, 9},
-                                      {plain, {170, 180}, 9},
-                                      {plain, {170, 181}, 0},
-                                      {plain, {400, 400}, 0},
-                                      {smallest, {2, 2}, 1},
-                                      {smallest, {5, 2}, 2},
-                                      {smallest, {9, 2}, 3},
-                                      {smallest, {4, 4}, 4},
-                                      {smallest, {3, 5}, 6},
-                                      {smallest, {-1, 5}, 7},
-                                      {left_of_zero, {-20, -41}, 9},
-                                      {left_of_zero, {-12, -41}, 2},
-                                      {{50, 50, 57, 200}, {53, 100}, 0},
-                                      {{50, 50, 200, 57}, {50, 50}, 0}};
-  for (const HitCase& test : cases) {
-    EXPECT_EQ(drawn(test.rect).hit_test(test.point), test.code)
-        << "point " << test.point.x << ", " << test.point.y << " of the rectangle at "
-        << test.rect.left << ", " << test.rect.top;
+  // Odd sizes, the smallest with zones, and one left of and above zero, where halves round up.
+  EXPECT_EQ(zones({20, 15, 61, 46}) + '\n' + zones({0, 0, 8, 8}) + '\n' + zones({-25, -11, 0, 0}),
+            corvane::test::source_text("tests/layers/crop_zones.txt"));
+  for (const RECT& small : {RECT{50, 50, 57, 200}, RECT{50, 50, 200, 57}}) {
+    EXPECT_EQ(zones(small).find_first_not_of(".\n"), std::string::npos);
   }
 }
 
@@ -180,18 +152,13 @@ TEST(CropFrame, HoveringAndClearing) {
   EXPECT_THAT(frame.rectangle(), is_rect(5, 2, 5, 2));
 }
 
-TEST(CropFrame, HandlesAndOutline) {
-  const CropFrame frame = drawn({20, 15, 61, 46});
-  EXPECT_THAT(frame.handle_squares(),
-              testing::ElementsAre(is_rect(16, 11, 24, 19), is_rect(36, 11, 44, 19),
-                                   is_rect(57, 11, 65, 19), is_rect(57, 26, 65, 34),
-                                   is_rect(57, 42, 65, 50), is_rect(36, 42, 44, 50),
-                                   is_rect(16, 42, 24, 50), is_rect(16, 26, 24, 34)));
-  const auto outline = frame.outline();
-  EXPECT_EQ(outline.front().x, 19);
-  EXPECT_EQ(outline.front().y, 15);
-  EXPECT_EQ(outline.back().x, 20);
-  EXPECT_EQ(outline.back().y, 14);
+TEST(CropFrame, OutlineClosesItsFirstCorner) {
+  const auto outline = drawn({20, 15, 61, 46}).outline();
+  const std::vector<POINT> expected = {{19, 15}, {61, 15}, {61, 46}, {20, 46}, {20, 14}};
+  for (std::size_t i = 0; i < outline.size(); ++i) {
+    EXPECT_EQ(outline[i].x, expected[i].x);
+    EXPECT_EQ(outline[i].y, expected[i].y);
+  }
 }
 
 TEST(CropFrame, CursorsByCode) {
@@ -210,25 +177,14 @@ TEST(CropFrame, BearsEveryCoordinate) {
   for (int step = 0; step < 20000; ++step) {
     const POINT point = {any(), any()};
     const RECT area = {any(), any(), any(), any()};
-    switch (random() % 3) {
-      case 0:
-        frame.press(point);
-        break;
-      case 1: {
-        const int code = frame.move(point, area);
-        ASSERT_TRUE(code >= 0 && code <= 9) << code;
-        if (frame.drag_mode() == 0) {
-          ASSERT_LE(frame.rectangle().left, frame.rectangle().right);
-          ASSERT_LE(frame.rectangle().top, frame.rectangle().bottom);
-        }
-        break;
-      }
-      default:
-        frame.release();
+    const int code = step % 3 == 0 ? frame.press(point) : frame.move(point, area);
+    ASSERT_TRUE(code >= 0 && code <= 9) << code;
+    if (frame.drag_mode() == 0) {
+      ASSERT_LE(frame.rectangle().left, frame.rectangle().right);
+      ASSERT_LE(frame.rectangle().top, frame.rectangle().bottom);
     }
-    for (const RECT& square : frame.handle_squares()) {
-      ASSERT_TRUE(corvane::has_area(square));
-    }
+    if (random() % 5 == 0) frame.release();
+    for (const RECT& square : frame.handle_squares()) ASSERT_TRUE(corvane::has_area(square));
     frame.outline();
     const RECT bar = place_crop_bar(frame.rectangle(), {any(), any()}, area);
     ASSERT_LE(bar.bottom, std::max(bar.top, area.bottom));

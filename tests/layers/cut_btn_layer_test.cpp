@@ -1,16 +1,17 @@
 #include "corvane/layers/crop/cut_btn_layer.h"
 
-#include <numeric>
 #include <vector>
 
 #include "corvane/frame/layer_messages.h"
-#include "tests/support/host_test.h"
+#include "tests/layers/support/crop_scene.h"
 
 namespace corvane::test {
 namespace {
 
 using corvane::CCutBtnLayer;
 using corvane::WM_CUT_CMD;
+
+constexpr COLORREF white = RGB(255, 255, 255);
 
 class CutBtnLayerTest : public HostTest {
  protected:
@@ -26,30 +27,36 @@ class CutBtnLayerTest : public HostTest {
   }
 
   HWND button(int number) const { return ::GetDlgItem(bar_, number); }
+  LRESULT command(HWND sender) const {
+    return bar_.SendMessageW(WM_COMMAND, 3, reinterpret_cast<LPARAM>(sender));
+  }
 
   std::vector<int> shown_buttons() const {
     std::vector<int> shown;
     for (int number = 1; number <= 6; ++number) {
       const auto style = static_cast<DWORD>(::GetWindowLongW(button(number), GWL_STYLE));
-      if (style & WS_VISIBLE) shown.push_back(number);
+      if ((style & WS_VISIBLE) != 0) shown.push_back(number);
     }
     return shown;
-  }
-
-  void click_middle_of(int number) {
-    const RECT place = window_rect(button(number));
-    desktop_.click(std::midpoint(place.left, place.right), std::midpoint(place.top, place.bottom));
   }
 
   CCutBtnLayer bar_;
 };
 
-TEST_F(CutBtnLayerTest, NewBarShowsTheNormalRow) {
+TEST_F(CutBtnLayerTest, ShowsItsRowsInTheCornerTheNormalOneFirst) {
   bar_.SetOCRMode(1);  // without a window it changes nothing
   create();
-  EXPECT_THAT(shown_buttons(), testing::ElementsAre(1, 2, 3, 4));
-  EXPECT_THAT(window_rect(bar_), is_rect(0, 0, 180, 32));
-  EXPECT_EQ(bar_.GetStyle() & WS_THICKFRAME, 0U);
+  EXPECT_EQ(bar_.GetStyle(), DWORD{WS_POPUP | WS_CLIPSIBLINGS});
+  for (int round = 0; round < 2; ++round) {
+    EXPECT_THAT(shown_buttons(), testing::ElementsAre(1, 2, 3, 4));
+    EXPECT_THAT(window_rect(bar_), is_rect(0, 0, 180, 32));
+    show_at(200, 200);
+    bar_.SetOCRMode(1);
+    EXPECT_THAT(shown_buttons(), testing::ElementsAre(5, 6));
+    EXPECT_THAT(window_rect(bar_), is_rect(0, 0, 150, 34));
+    show_at(200, 200);
+    bar_.SetOCRMode(0);
+  }
 }
 
 TEST_F(CutBtnLayerTest, ButtonsStandInTheirRows) {
@@ -62,16 +69,35 @@ TEST_F(CutBtnLayerTest, ButtonsStandInTheirRows) {
   }
 }
 
-TEST_F(CutBtnLayerTest, SwitchesBetweenItsRows) {
+TEST_F(CutBtnLayerTest, BackgroundIsWhiteAlsoBehindItsButtonsAndAfterAChangeOfSize) {
   create();
-  for (int round = 0; round < 2; ++round) {
-    show_at(200, 200);
-    bar_.SetOCRMode(1);
-    EXPECT_THAT(shown_buttons(), testing::ElementsAre(5, 6));
-    EXPECT_THAT(window_rect(bar_), is_rect(0, 0, 150, 34));
-    bar_.SetOCRMode(0);
-    EXPECT_THAT(shown_buttons(), testing::ElementsAre(1, 2, 3, 4));
-    EXPECT_THAT(window_rect(bar_), is_rect(0, 0, 180, 32));
+  show_at(200, 200);
+  EXPECT_EQ(desktop_.pixel(200 + 100, 200 + 31), white) << "below button 1";
+  bar_.SetOCRMode(1);
+  desktop_.pump();
+  EXPECT_EQ(desktop_.pixel(3, 3), white) << "button 5 is clear there";
+  EXPECT_EQ(desktop_.pixel(100, 32), white) << "below button 6";
+  expect_caption_of_the_skin(desktop_, button(5));
+  EXPECT_EQ(bar_.SendMessageW(WM_ERASEBKGND), 1);
+}
+
+TEST_F(CutBtnLayerTest, ButtonsReturnToTheirPlacesWhenTheSizeChangesOrWhenTold) {
+  create();
+  show_at(200, 200);
+  for (const bool told : {false, true}) {
+    ::MoveWindow(button(3), 70, 10, 20, 10, TRUE);
+    bar_.Invalidate(TRUE);
+    desktop_.pump();
+    EXPECT_THAT(window_rect(button(3)), is_rect(270, 210, 290, 220)) << "the size is the same";
+    if (told) {
+      bar_.SetRect();
+    } else {
+      bar_.SetWindowPos(nullptr, 0, 0, 180, 40, SWP_NOMOVE | SWP_NOZORDER);
+    }
+    desktop_.pump();
+    EXPECT_THAT(window_rect(button(3)), is_rect(200, 200, 260, 232));
+    EXPECT_NE(desktop_.pixel(203, 203), white) << "drawn";
+    EXPECT_EQ(desktop_.pixel(280, 229), white) << "below button 4";
   }
 }
 
@@ -82,7 +108,7 @@ TEST_F(CutBtnLayerTest, EachClickPostsItsOwnNumber) {
     bar_.SetOCRMode(number >= 5);
     show_at(200, 200);
     host_.forget();
-    click_middle_of(number);
+    click_middle_of(desktop_, button(number));
     const auto commands = host_.of(WM_CUT_CMD);
     ASSERT_EQ(commands.size(), 1U) << number;
     EXPECT_EQ(commands[0].wparam, static_cast<WPARAM>(number));
@@ -90,51 +116,31 @@ TEST_F(CutBtnLayerTest, EachClickPostsItsOwnNumber) {
   }
 }
 
-TEST_F(CutBtnLayerTest, WithoutAParentClicksPostNothingButAreHandled) {
+TEST_F(CutBtnLayerTest, CommandsOfItsButtonsArePostedOthersAreNot) {
   create();
-  show_at(200, 200);
-  click_middle_of(3);
-  EXPECT_EQ(host_.count(WM_CUT_CMD), 0U);
-  EXPECT_EQ(bar_.SendMessageW(WM_COMMAND, 3, reinterpret_cast<LPARAM>(button(3))), 1);
-}
-
-TEST_F(CutBtnLayerTest, CommandsOfOthers) {
-  create();
+  EXPECT_EQ(command(button(3)), 1) << "handled, though there is nobody to hear of it";
+  desktop_.pump();
   bar_.SetParentHwnd(host_);
-  EXPECT_EQ(bar_.SendMessageW(WM_COMMAND, 3, 0), 0) << "menus are left to the default";
-  EXPECT_EQ(bar_.SendMessageW(WM_COMMAND, 3, reinterpret_cast<LPARAM>(host_.GetSafeHwnd())), 1);
+  EXPECT_EQ(command(nullptr), 0) << "menus are left to the default";
+  EXPECT_EQ(command(host_), 1);
   desktop_.pump();
   EXPECT_EQ(host_.count(WM_CUT_CMD), 0U);
+  EXPECT_EQ(command(button(3)), 1);
+  EXPECT_EQ(host_.count(WM_CUT_CMD), 0U) << "it comes with the next turn";
+  desktop_.pump();
+  EXPECT_EQ(host_.count(WM_CUT_CMD), 1U);
 }
 
-TEST_F(CutBtnLayerTest, KeysOfItsButtonsGoToItsOwner) {
-  create();
-  show_at(200, 200);
-  ::SetFocus(button(3));
-  host_.forget();
-  desktop_.key(VK_ESCAPE);
-  desktop_.key(VK_RETURN);
-  EXPECT_EQ(host_.count(WM_KEYDOWN), 1U);
-  EXPECT_EQ(host_.count(WM_KEYUP), 0U);
-}
-
-TEST_F(CutBtnLayerTest, MissingSkinLeavesAnEmptyBar) {
+TEST_F(CutBtnLayerTest, MissingSkinLeavesAnEmptyBarUntilItIsCreatedAgain) {
   skin_.remove_files();
   create();
   EXPECT_THAT(client_rect(bar_), is_rect(0, 0, 0, 0));
   bar_.SetOCRMode(1);
   show_at(200, 200);
-}
-
-TEST_F(CutBtnLayerTest, DestroyedAndCreatedAgain) {
-  create();
-  show_at(200, 200);
   bar_.DestroyWindow();
+  const TestSkin skin;
   create();
-  bar_.SetParentHwnd(host_);
-  show_at(200, 200);
-  click_middle_of(4);
-  EXPECT_EQ(host_.count(WM_CUT_CMD), 1U);
+  EXPECT_THAT(client_rect(bar_), is_rect(0, 0, 180, 32));
 }
 
 }  // namespace

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "corvane/frame/layer_messages.h"
-#include "tests/support/host_test.h"
+#include "tests/layers/support/crop_scene.h"
 
 namespace corvane::test {
 namespace {
@@ -67,9 +67,13 @@ class WindowLayerTest : public HostTest {
     desktop_.pump();
   }
 
+  LRESULT command(HWND sender) const {
+    return layer_.SendMessageW(WM_COMMAND, 12, reinterpret_cast<LPARAM>(sender));
+  }
   COLORREF background_pixel() { return desktop_.pixel(on_screen(200, 80)); }
 
   CXmlListMgr lists_;
+  PlainImage image_{0xFF0000FF};
   CWindowLayer layer_;
 };
 
@@ -80,8 +84,7 @@ TEST_F(WindowLayerTest, KeepsItsButtonsInAList) {
   layer_.SetBtnRect(11, CRect(1, 2, 3, 4));
   layer_.SetBtnRect(99, CRect(5, 6, 7, 8));
   EXPECT_THAT(layer_.GetBtnRect(11), is_rect(1, 2, 3, 4));
-  EXPECT_THAT(layer_.GetBtnRect(12), is_rect(0, 0, 0, 0));
-  EXPECT_THAT(layer_.GetBtnRect(99), is_rect(0, 0, 0, 0));
+  for (const int id : {12, 99}) EXPECT_THAT(layer_.GetBtnRect(id), is_rect(0, 0, 0, 0));
   layer_.DelAllBtn();
   EXPECT_EQ(layer_.AddBtn(12), 1);
 }
@@ -95,15 +98,9 @@ TEST_F(WindowLayerTest, ButtonsComeFromTheSkin) {
   ASSERT_NE(button, nullptr);
   const POINT corner = on_screen(TestSkin::button_12.left, TestSkin::button_12.top);
   EXPECT_THAT(window_rect(button), is_rect(corner.x, corner.y, corner.x + 60, corner.y + 30));
-  EXPECT_NE(desktop_.pixel(corner.x + 5, corner.y + 5), background_pixel()) << "drawn at once";
-}
-
-TEST_F(WindowLayerTest, ButtonAddedAfterCreationHasNoWindow) {
-  create({11});
-  EXPECT_EQ(layer_.AddBtn(12), 2);
-  layer_.SetBtnRect(12, CRect(5, 6, 7, 8));
-  EXPECT_THAT(layer_.GetBtnRect(12), is_rect(5, 6, 7, 8));
-  EXPECT_EQ(::GetDlgItem(layer_, 12), nullptr);
+  EXPECT_NE(desktop_.pixel(corner.x + 5, corner.y + 5), white) << "drawn at once";
+  EXPECT_EQ(layer_.AddBtn(13), 4);
+  EXPECT_EQ(::GetDlgItem(layer_, 13), nullptr) << "too late for a window";
 }
 
 TEST_F(WindowLayerTest, SetBtnRectMovesTheFirstButtonOfThatId) {
@@ -113,30 +110,45 @@ TEST_F(WindowLayerTest, SetBtnRectMovesTheFirstButtonOfThatId) {
   const POINT corner = on_screen(200, 50);
   EXPECT_THAT(window_rect(first), is_rect(corner.x, corner.y, corner.x + 40, corner.y + 20));
   desktop_.pump();
+  EXPECT_NE(desktop_.pixel(corner.x + 5, corner.y + 5), white);
   desktop_.click(corner.x + 5, corner.y + 5);
   desktop_.click(on_screen(20, 20));  // the second stands where it stood
   const auto clicks = host_.of(WM_LAYER_BTN_CLICK);
   ASSERT_EQ(clicks.size(), 2U);
-  EXPECT_EQ(clicks[0].wparam, 11U);
-  EXPECT_EQ(clicks[1].wparam, 11U);
+  for (const auto& click : clicks) EXPECT_EQ(click.wparam, 11U);
   EXPECT_EQ(clicks[0].lparam, reinterpret_cast<LPARAM>(first));
   EXPECT_NE(clicks[1].lparam, reinterpret_cast<LPARAM>(first));
+  layer_.SetBtnRect(11, CRect(250, 50, 290, 70));
+  desktop_.pump();
+  EXPECT_EQ(desktop_.pixel(corner), white) << "no longer covered";
 }
 
 TEST_F(WindowLayerTest, ClickPostsOnceAndDragsNothing) {
   create({11, 12});
-  const POINT point = on_screen(120, 20);
-  desktop_.click(point.x, point.y);
+  const HWND button = ::GetDlgItem(layer_, 12);
+  click_middle_of(desktop_, button);
   const auto clicks = host_.of(WM_LAYER_BTN_CLICK);
   ASSERT_EQ(clicks.size(), 1U);
   EXPECT_EQ(clicks[0].wparam, 12U);
-  EXPECT_EQ(clicks[0].lparam, reinterpret_cast<LPARAM>(::GetDlgItem(layer_, 12)));
+  EXPECT_EQ(clicks[0].lparam, reinterpret_cast<LPARAM>(button));
   EXPECT_EQ(host_.count(WM_SYSCOMMAND), 0U);
-  EXPECT_THAT(window_rect(host_), same_rect(host_place));
+  EXPECT_EQ(command(button), 1);
+  EXPECT_EQ(host_.count(WM_LAYER_BTN_CLICK), 1U) << "the next comes with the next turn";
+  desktop_.pump();
+  EXPECT_EQ(host_.count(WM_LAYER_BTN_CLICK), 2U);
 }
 
-TEST_F(WindowLayerTest, PressBesideTheButtonsDragsTheParent) {
+TEST_F(WindowLayerTest, CommandsOfOthersAreLeftToTheDefault) {
   create({11});
+  EXPECT_EQ(command(nullptr), 0);
+  EXPECT_EQ(command(host_), 0);
+  desktop_.pump();
+  EXPECT_EQ(host_.count(WM_LAYER_BTN_CLICK), 0U);
+}
+
+TEST_F(WindowLayerTest, PressBesideTheButtonsDragsTheParentInFull) {
+  create({11});
+  ::SystemParametersInfoW(SPI_SETDRAGFULLWINDOWS, FALSE, nullptr, 0);
   drag_by_layer(on_screen(200, 80), on_screen(225, 70));
   EXPECT_THAT(window_rect(host_), is_rect(host_place.left + 25, host_place.top - 10,
                                           host_place.right + 25, host_place.bottom - 10));
@@ -145,12 +157,14 @@ TEST_F(WindowLayerTest, PressBesideTheButtonsDragsTheParent) {
   ASSERT_EQ(commands.size(), 1U);
   EXPECT_EQ(commands[0].wparam, 0xF012U);
   EXPECT_EQ(commands[0].lparam, 0);
+  BOOL in_full = FALSE;
+  ::SystemParametersInfoW(SPI_GETDRAGFULLWINDOWS, 0, &in_full, 0);
+  EXPECT_TRUE(in_full);
 }
 
 TEST_F(WindowLayerTest, WithoutASkinTheSurfaceStillDrags) {
   layer_.AddBtn(11);
   create_window();
-  EXPECT_EQ(::GetDlgItem(layer_, 11), nullptr);
   drag_by_layer(on_screen(20, 20), on_screen(23, 20));
   EXPECT_EQ(window_rect(host_).left, host_place.left + 3);
 }
@@ -161,41 +175,34 @@ TEST_F(WindowLayerTest, OnlyShowCountsAsShown) {
   const std::vector<std::pair<int, int>> cases = {
       {SW_SHOWNORMAL, 0}, {SW_SHOW, 1}, {SW_SHOWNA, 0}, {SW_HIDE, 0}};
   for (const auto& [command, shown] : cases) {
-    layer_.ShowWindow(command);
+    EXPECT_NE(layer_.ShowWindow(command), 0) << "was visible";
     EXPECT_EQ(layer_.IsShowWindow(), shown) << command;
   }
   EXPECT_EQ(layer_.ShowWindow(SW_SHOW), 0) << "was hidden";
-  EXPECT_NE(layer_.ShowWindow(SW_SHOW), 0);
 }
 
-TEST_F(WindowLayerTest, ImageSetBeforeCreationIsShownAtOnce) {
-  PlainImage image(0xFF0000FF);
-  layer_.SetBgImage(image.get(), CRect(0, 0, 1, 1));
-  create({11});
+TEST_F(WindowLayerTest, ImageFillsTheLayerAndShowsThroughItsButtonsFromTheFirst) {
+  layer_.SetBgImage(image_.get(), CRect(0, 0, 1, 1));
+  create({13, 11});
   EXPECT_EQ(background_pixel(), blue);
   EXPECT_EQ(desktop_.pixel(on_screen(2, 95)), blue) << "the rectangle has no effect";
-}
-
-TEST_F(WindowLayerTest, BackgroundShowsThroughItsButtons) {
-  PlainImage image(0xFF0000FF);
-  layer_.SetBgImage(image.get(), CRect());
-  create({13});
-  ASSERT_NE(::GetDlgItem(layer_, 13), nullptr);
-  EXPECT_EQ(desktop_.pixel(on_screen(30, 75)), blue);
+  EXPECT_EQ(desktop_.pixel(on_screen(12, 52)), blue) << "button 13 is clear there";
+  expect_caption_of_the_skin(desktop_, ::GetDlgItem(layer_, 13));
 }
 
 TEST_F(WindowLayerTest, BackgroundIsBuiltAnewOnlyWhenTheSizeChanges) {
-  PlainImage image(0xFF0000FF);
   create({11});
   EXPECT_EQ(background_pixel(), white);
-  layer_.SetBgImage(image.get(), CRect());
+  layer_.SetBgImage(image_.get(), CRect());
+  EXPECT_FALSE(waits_for_paint(layer_));
+  EXPECT_EQ(layer_.SendMessageW(WM_ERASEBKGND), 1);
   layer_.Invalidate(TRUE);
   desktop_.pump();
   EXPECT_EQ(background_pixel(), white);
   resize_layer(300, 100);
   EXPECT_EQ(background_pixel(), white) << "the same size";
   resize_layer(301, 100);
-  EXPECT_EQ(background_pixel(), blue);
+  EXPECT_EQ(background_pixel(), blue) << "also where the window was before";
 }
 
 TEST_F(WindowLayerTest, ChangeOfSizePutsButtonsBackToTheirRectangles) {
@@ -207,56 +214,33 @@ TEST_F(WindowLayerTest, ChangeOfSizePutsButtonsBackToTheirRectangles) {
   EXPECT_EQ(client_rect(button).right, 20) << "the second erase at the same size does nothing";
   resize_layer(310, 110);
   const POINT corner = on_screen(TestSkin::button_11.left, TestSkin::button_11.top);
-  EXPECT_EQ(window_rect(button).left, corner.x);
-  EXPECT_EQ(client_rect(button).right, 60);
+  EXPECT_THAT(window_rect(button), is_rect(corner.x, corner.y, corner.x + 60, corner.y + 30));
 }
 
-TEST_F(WindowLayerTest, EnterIsSwallowedAndEscapeReachesTheMainWindowOnce) {
-  create({11});
-  for (const HWND focus : {layer_.GetSafeHwnd(), ::GetDlgItem(layer_, 11)}) {
-    ::SetFocus(focus);
-    host_.forget();
-    desktop_.key(VK_RETURN);
-    EXPECT_EQ(host_.count(WM_KEYDOWN) + host_.count(WM_KEYUP), 0U);
-    desktop_.key(VK_ESCAPE);
-    const auto downs = host_.of(WM_KEYDOWN);
-    ASSERT_EQ(downs.size(), 1U);
-    EXPECT_EQ(downs[0].wparam, static_cast<WPARAM>(VK_ESCAPE));
-    EXPECT_EQ(host_.count(WM_KEYUP), 0U);
-    EXPECT_EQ(host_.count(WM_LAYER_BTN_CLICK), 0U);
-  }
-}
-
-TEST_F(WindowLayerTest, EscapeGoesToTheMainWindowNotToTheParent) {
+TEST_F(WindowLayerTest, EscapeGoesToTheMainWindowNotToTheParentAndEnterToNobody) {
   HostWindow parent;
   ASSERT_TRUE(parent.open({0, 0, 400, 300}));
+  layer_.SetXmlListMgr(&lists_);
+  layer_.AddBtn(11);
   ASSERT_TRUE(
       layer_.CreateEx(0, nullptr, L"layer", WS_CHILD | WS_VISIBLE, layer_place, &parent, 0));
-  layer_.SetFocus();
-  desktop_.pump();
-  host_.forget();
-  desktop_.key(VK_ESCAPE);
-  EXPECT_EQ(host_.count(WM_KEYDOWN), 1U);
-  EXPECT_EQ(parent.count(WM_KEYDOWN), 0U);
+  for (const HWND focus : {layer_.GetSafeHwnd(), ::GetDlgItem(layer_, 11)}) {
+    ::SetFocus(focus);
+    desktop_.key(VK_RETURN);
+    desktop_.key(VK_ESCAPE);
+    EXPECT_THAT(desktop_.take_keys(),
+                testing::ElementsAre(AppDesktop::Key(host_, WM_KEYDOWN, VK_ESCAPE)));
+  }
   desktop_.app().m_pMainWnd = nullptr;
   desktop_.key(VK_ESCAPE);
-  EXPECT_EQ(host_.count(WM_KEYDOWN) + parent.count(WM_KEYDOWN), 1U) << "there is nobody to get it";
-}
-
-TEST_F(WindowLayerTest, CommandsOfOthersAreLeftToTheDefault) {
-  create({11});
-  EXPECT_EQ(layer_.SendMessageW(WM_COMMAND, 11, 0), 0);
-  EXPECT_EQ(layer_.SendMessageW(WM_COMMAND, 11, reinterpret_cast<LPARAM>(host_.GetSafeHwnd())), 0);
-  desktop_.pump();
-  EXPECT_EQ(host_.count(WM_LAYER_BTN_CLICK), 0U);
+  EXPECT_THAT(desktop_.take_keys(), testing::IsEmpty()) << "there is nobody to get it";
 }
 
 TEST_F(WindowLayerTest, DestroyedAndCreatedAgain) {
   create({11});
   layer_.DestroyWindow();
   EXPECT_EQ(layer_.AddBtn(12), 1) << "the buttons went with the window";
-  PlainImage image(0xFF0000FF);
-  layer_.SetBgImage(image.get(), CRect());
+  layer_.SetBgImage(image_.get(), CRect());
   create_window();
   EXPECT_NE(::GetDlgItem(layer_, 12), nullptr);
   EXPECT_EQ(background_pixel(), blue);

@@ -31,21 +31,20 @@ class Scene {
   HostWindow host_;
 };
 
-enum class Deed { delete_layer, destroy_layer, destroy_host, destroy_first, destroy_second };
-
 struct DestroyCase {
-  Deed deed;
-  TrapSide side;
+  const char* name;
+  std::function<void(Scene&)> deed;
 };
-// Every deed before and after the handling of a message.
+// For a parameterised test.
 std::vector<DestroyCase> destroy_cases();
-std::string name_of(const DestroyCase& destroy_case);  // for a parameterised test
+inline std::string name_of(const DestroyCase& destroy_case) { return destroy_case.name; }
 
 // The desktop that the sessions take place on.
 inline constexpr SIZE session_screen = {240, 180};
 inline constexpr RECT session_host = {10, 10, 230, 170};
 
 using SceneMaker = std::function<std::unique_ptr<Scene>(Desktop& desktop, MessageTrap& trap)>;
+// Before and after the handling of each message.
 void destroy_at_every_message(const SceneMaker& make_scene, const DestroyCase& destroy_case);
 
 }  // namespace corvane::test

@@ -1,7 +1,5 @@
 #include "tests/support/message_trap.h"
 
-#include <utility>
-
 namespace corvane::test {
 namespace {
 
@@ -11,9 +9,8 @@ WNDPROC replace_procedure(HWND window, WNDPROC procedure) {
 }
 
 std::string name_of(const CREATESTRUCTW& creation) {
-  if (!creation.lpszName || !*creation.lpszName) return "button";
-  const std::wstring text = creation.lpszName;
-  return {text.begin(), text.end()};
+  const std::wstring text = creation.lpszName != nullptr ? creation.lpszName : L"";
+  return text.empty() ? "button" : std::string(text.begin(), text.end());
 }
 
 }  // namespace
@@ -30,48 +27,55 @@ MessageTrap::~MessageTrap() {
   live = nullptr;
 }
 
-void MessageTrap::set(const TrapPoint& point, int occurrence, TrapSide side,
-                      std::function<void()> action) {
+void MessageTrap::set(const TrapPoint& point, TrapSide side, std::function<void()> action) {
   point_ = point;
-  occurrence_ = occurrence;
   side_ = side;
   action_ = std::move(action);
+}
+
+void MessageTrap::begin_phase() {
+  ++phase_;
+  if (sprung_ && ++phases_since_ > 1) throw SessionOver();
 }
 
 // A window's object takes the window over after this hook, so the trap first stands where the
 // class's procedure was; with the first message that comes through it goes before the object.
 LRESULT CALLBACK MessageTrap::on_creation(int code, WPARAM wparam, LPARAM lparam) {
   if (code != HCBT_CREATEWND) return 0;
-  const HWND window = reinterpret_cast<HWND>(wparam);
-  const auto* creation = reinterpret_cast<const CBT_CREATEWNDW*>(lparam);
-  live->names_[window] = name_of(*creation->lpcs);
-  live->object_procedures_.erase(window);
-  live->class_procedures_[window] = replace_procedure(window, &innermost);
+  const auto window = reinterpret_cast<HWND>(wparam);
+  const auto* const creation = reinterpret_cast<const CBT_CREATEWNDW*>(lparam);
+  live->windows_[window] = {name_of(*creation->lpcs), replace_procedure(window, &innermost)};
   return 0;
 }
 
 LRESULT CALLBACK MessageTrap::innermost(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
-  if (!live) return ::DefWindowProcW(window, message, wparam, lparam);
-  const bool first = !live->object_procedures_.contains(window);
-  if (first) live->object_procedures_[window] = replace_procedure(window, &outermost);
-  return ::CallWindowProcW(live->class_procedures_[window], window, message, wparam, lparam);
+  if (live == nullptr) return ::DefWindowProcW(window, message, wparam, lparam);
+  Window& known = live->windows_[window];
+  if (known.object_procedure == nullptr) {
+    known.object_procedure = replace_procedure(window, &outermost);
+  }
+  return ::CallWindowProcW(known.class_procedure, window, message, wparam, lparam);
 }
 
 LRESULT CALLBACK MessageTrap::outermost(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
-  const WNDPROC handler = live->object_procedures_[window];
-  const TrapPoint point = {live->names_[window], message};
-  const int occurrence = live->count(point);
-  const bool now = point == live->point_ && occurrence == live->occurrence_;
+  const Window& known = live->windows_[window];
+  const bool now = live->is_set_on(known.name, message);
   if (now && live->side_ == TrapSide::before_handling) live->spring();
-  const LRESULT result = ::CallWindowProcW(handler, window, message, wparam, lparam);
+  ++live->depth_;
+  const LRESULT result = ::CallWindowProcW(known.object_procedure, window, message, wparam, lparam);
+  --live->depth_;
   if (now && live->side_ == TrapSide::after_handling) live->spring();
   return result;
 }
 
-int MessageTrap::count(const TrapPoint& point) {
-  const int occurrence = ++seen_[point];
-  if (seen_in_phase_.insert(point).second) firsts_[point].push_back(occurrence);
-  return occurrence;
+bool MessageTrap::is_set_on(const std::string& window, UINT message) {
+  Seen& seen = seen_[{message, window}];
+  ++seen.times;
+  const bool first_in_phase = std::exchange(seen.phase, phase_) != phase_;
+  if (seen.times == 1 || (first_in_phase && depth_ > 0)) {
+    points_.push_back({window, message, seen.times});
+  }
+  return seen.times == point_.occurrence && message == point_.message && window == point_.window;
 }
 
 void MessageTrap::spring() {

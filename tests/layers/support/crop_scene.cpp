@@ -1,19 +1,8 @@
 #include "tests/layers/support/crop_scene.h"
 
-#include <string>
+#include <numeric>
 
 namespace corvane::test {
-namespace {
-
-// The first window after `first` in z-order, upwards, that the owner owns.
-HWND owned_by(HWND owner) {
-  for (HWND each = ::GetWindow(owner, GW_HWNDFIRST); each; each = ::GetWindow(each, GW_HWNDNEXT)) {
-    if (::GetWindow(each, GW_OWNER) == owner) return each;
-  }
-  return nullptr;
-}
-
-}  // namespace
 
 bool create_over(corvane::CCutBgLayer& background, HWND host) {
   const wchar_t* window_class =
@@ -26,11 +15,33 @@ bool create_over(corvane::CCutBgLayer& background, HWND host) {
                              nullptr);
 }
 
-HWND rect_layer_of(HWND background) { return background ? owned_by(background) : nullptr; }
+HWND rect_layer_of(HWND background) {
+  if (background == nullptr) return nullptr;
+  for (HWND each = ::GetWindow(background, GW_HWNDFIRST); each != nullptr;
+       each = ::GetWindow(each, GW_HWNDNEXT)) {
+    if (::GetWindow(each, GW_OWNER) == background) return each;
+  }
+  return nullptr;
+}
 
-HWND bar_of(HWND background) {
-  const HWND layer = rect_layer_of(background);
-  return layer ? owned_by(layer) : nullptr;
+void expect_caption_of_the_skin(Desktop& desktop, HWND button) {
+  const RECT place = window_rect(button);
+  // Inside of the letter's strokes; a smaller or thinner one has far fewer.
+  const auto shows = [&](COLORREF color) {
+    return desktop.frame().count(place, [color](COLORREF seen) { return seen == color; }) > 150;
+  };
+  EXPECT_TRUE(shows(TestSkin::caption));
+  desktop.move_to(place.left + 2, place.top + 2);
+  EXPECT_TRUE(shows(TestSkin::caption_hover));
+  desktop.press();
+  EXPECT_TRUE(shows(TestSkin::caption_pressed));
+  desktop.release_at(0, 0);
+}
+
+void click_middle_of(Desktop& desktop, HWND window) {
+  RECT place{};
+  ::GetWindowRect(window, &place);
+  desktop.click(std::midpoint(place.left, place.right), std::midpoint(place.top, place.bottom));
 }
 
 void CropTest::SetUp() {
@@ -50,7 +61,5 @@ void CropTest::start(bool with_bar, bool text_recognition) {
 void CropTest::drag(POINT from, POINT to) {
   desktop_.drag(on_screen(from.x, from.y), on_screen(to.x, to.y));
 }
-
-COLORREF CropTest::pixel(int x, int y) { return desktop_.pixel(on_screen(x, y)); }
 
 }  // namespace corvane::test
