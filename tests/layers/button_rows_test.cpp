@@ -27,25 +27,10 @@ TEST(ButtonRows, StandInTheOrderOfTheBar) {
                            is_rect(30, 0, 70, 25), is_rect(0, 0, 50, 22), is_rect(50, 0, 110, 40)));
 }
 
-TEST(ButtonRows, LayingOutAgainChangesNothing) {
-  const auto once = corvane::lay_out_crop_buttons(skin_rects);
-  const auto twice = corvane::lay_out_crop_buttons(once);
-  for (std::size_t i = 0; i < once.size(); ++i) {
-    EXPECT_THAT(twice[i], corvane::test::same_rect(once[i]));
-  }
-}
-
 TEST(ButtonRows, ARowIsAsHighAsItsFirstButton) {
   const auto laid = corvane::lay_out_crop_buttons(skin_rects);
   EXPECT_THAT(corvane::crop_row_bounds(laid, CropRow::normal), is_rect(0, 0, 100, 40));
   EXPECT_THAT(corvane::crop_row_bounds(laid, CropRow::text_recognition), is_rect(0, 0, 110, 22));
-}
-
-TEST(ButtonRows, AMissingSkinGivesAnEmptyBar) {
-  const auto laid = corvane::lay_out_crop_buttons({});
-  for (const CropRow row : {CropRow::normal, CropRow::text_recognition}) {
-    EXPECT_THAT(corvane::crop_row_bounds(laid, row), is_rect(0, 0, 0, 0));
-  }
 }
 
 TEST(ButtonRows, AbsurdSkinRectanglesStayInRange) {

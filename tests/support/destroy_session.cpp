@@ -15,21 +15,22 @@ void play(Scene& scene) {
 }
 
 // The messages of an undisturbed session.
-std::vector<TrapPoint> listen(const SceneMaker& make_scene) {
+auto listen(const SceneMaker& make_scene) {
   AppDesktop desktop(session_screen);
   MessageTrap trap;
   play(*make_scene(desktop, trap));
-  return trap.points();
+  return trap.firsts();
 }
 
 void play_disturbed(const SceneMaker& make_scene, const DestroyCase& destroy_case,
-                    const TrapPoint& point, TrapSide side) {
+                    const TrapPoint& point, int occurrence, TrapSide side) {
   AppDesktop desktop(session_screen);
   const int windows = desktop.living_windows();
   {
     MessageTrap trap;
     const auto scene = make_scene(desktop, trap);
-    trap.set(point, side, [&] { destroy_case.deed(*scene); });
+    trap.break_off_sessions();
+    trap.set(point, occurrence, side, [&] { destroy_case.deed(*scene); });
     play(*scene);
     EXPECT_TRUE(trap.sprung());
     scene->delete_layer();
@@ -42,14 +43,15 @@ void play_disturbed(const SceneMaker& make_scene, const DestroyCase& destroy_cas
 }  // namespace
 
 void destroy_at_every_message(const SceneMaker& make_scene, const DestroyCase& destroy_case) {
-  const auto points = listen(make_scene);
-  ASSERT_GT(points.size(), 50U);
-  for (const TrapPoint& point : points) {
-    for (const TrapSide side : {TrapSide::before_handling, TrapSide::after_handling}) {
+  const auto messages = listen(make_scene);
+  ASSERT_GT(messages.size(), 50U);
+  for (const auto& [point, occurrences] : messages) {
+    for (const int occurrence : occurrences) {
       SCOPED_TRACE(point.window + " at message " + std::to_string(point.message) + ", occurrence " +
-                   std::to_string(point.occurrence) +
-                   (side == TrapSide::before_handling ? ", before" : ", after"));
-      play_disturbed(make_scene, destroy_case, point, side);
+                   std::to_string(occurrence));
+      for (const TrapSide side : {TrapSide::before_handling, TrapSide::after_handling}) {
+        play_disturbed(make_scene, destroy_case, point, occurrence, side);
+      }
     }
   }
 }

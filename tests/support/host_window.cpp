@@ -3,20 +3,10 @@
 #include <algorithm>
 #include <iterator>
 
-#include "corvane/frame/layer_messages.h"
-
 namespace corvane::test {
 namespace {
 
 constexpr int square = 16;
-
-bool is_kept(UINT message) {
-  constexpr UINT kept[] = {corvane::WM_CUT_CMD, corvane::WM_LAYER_BTN_CLICK,
-                           WM_KEYDOWN,          WM_KEYUP,
-                           WM_SYSCOMMAND,       WM_MOVING,
-                           WM_MOUSEWHEEL,       corvane::WM_TREE_SELECT};
-  return std::find(std::begin(kept), std::end(kept), message) != std::end(kept);
-}
 
 }  // namespace
 
@@ -39,7 +29,7 @@ std::vector<HostWindow::Received> HostWindow::of(UINT message) const {
 }
 
 LRESULT HostWindow::WindowProc(UINT message, WPARAM wparam, LPARAM lparam) {
-  if (is_kept(message)) received_.push_back({message, wparam, lparam});
+  received_.push_back({message, wparam, lparam});
   if (message == WM_ENTERSIZEMOVE && on_drag_begin) on_drag_begin();
   if (message == WM_CAPTURECHANGED && on_capture_lost) on_capture_lost();
   if (message == WM_ERASEBKGND) return 1;

@@ -1,6 +1,6 @@
 #pragma once
 // The host of the layers under test: shows a picture that is known everywhere and keeps the
-// library's messages and the keys that reach it.
+// messages that reach it.
 #include <functional>
 #include <vector>
 

@@ -1,5 +1,7 @@
 #include "tests/support/message_trap.h"
 
+#include <utility>
+
 namespace corvane::test {
 namespace {
 
@@ -27,15 +29,17 @@ MessageTrap::~MessageTrap() {
   live = nullptr;
 }
 
-void MessageTrap::set(const TrapPoint& point, TrapSide side, std::function<void()> action) {
+void MessageTrap::set(const TrapPoint& point, int occurrence, TrapSide side,
+                      std::function<void()> action) {
   point_ = point;
+  occurrence_ = occurrence;
   side_ = side;
   action_ = std::move(action);
 }
 
 void MessageTrap::begin_phase() {
   ++phase_;
-  if (sprung_ && ++phases_since_ > 1) throw SessionOver();
+  if (breaks_off_ && sprung() && ++phases_since_ > 1) throw SessionOver();
 }
 
 // A window's object takes the window over after this hook, so the trap first stands where the
@@ -59,27 +63,24 @@ LRESULT CALLBACK MessageTrap::innermost(HWND window, UINT message, WPARAM wparam
 
 LRESULT CALLBACK MessageTrap::outermost(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
   const Window& known = live->windows_[window];
-  const bool now = live->is_set_on(known.name, message);
-  if (now && live->side_ == TrapSide::before_handling) live->spring();
+  const bool now = live->is_set_on({known.name, message});
+  if (now && live->side_ == TrapSide::before_handling) live->spring(window);
   ++live->depth_;
   const LRESULT result = ::CallWindowProcW(known.object_procedure, window, message, wparam, lparam);
   --live->depth_;
-  if (now && live->side_ == TrapSide::after_handling) live->spring();
+  if (now && live->side_ == TrapSide::after_handling) live->spring(window);
   return result;
 }
 
-bool MessageTrap::is_set_on(const std::string& window, UINT message) {
-  Seen& seen = seen_[{message, window}];
-  ++seen.times;
+bool MessageTrap::is_set_on(const TrapPoint& point) {
+  Seen& seen = seen_[point];
   const bool first_in_phase = std::exchange(seen.phase, phase_) != phase_;
-  if (seen.times == 1 || (first_in_phase && depth_ > 0)) {
-    points_.push_back({window, message, seen.times});
-  }
-  return seen.times == point_.occurrence && message == point_.message && window == point_.window;
+  if (++seen.times == 1 || (first_in_phase && depth_ > 0)) firsts_[point].push_back(seen.times);
+  return seen.times == occurrence_ && point == point_;
 }
 
-void MessageTrap::spring() {
-  sprung_ = true;
+void MessageTrap::spring(HWND window) {
+  sprung_at_ = window;
   std::exchange(action_, nullptr)();
 }
 
