@@ -9,6 +9,7 @@
 #include "corvane/platform/framework/win_app.h"
 #include "corvane/platform/system/display/headless_display.h"
 #include "corvane/platform/system/user/window_system.h"
+#include "tests/support/host_window.h"
 
 namespace corvane {
 namespace {
@@ -86,18 +87,6 @@ class CHostWindow : public CPlainWindow {
 constexpr CRuntimeClass CHostWindow::classCHostWindow{"CHostWindow",
                                                       &CPlainWindow::classCPlainWindow};
 
-// Deletes its child when it hears that the child's window is about to be destroyed.
-class CDeletingParent : public CWnd {
- public:
-  std::unique_ptr<CWnd> child;
-
- protected:
-  LRESULT WindowProc(UINT message, WPARAM wparam, LPARAM lparam) override {
-    if (message == WM_PARENTNOTIFY && LOWORD(wparam) == WM_DESTROY) child.reset();
-    return CWnd::WindowProc(message, wparam, lparam);
-  }
-};
-
 class LibraryWindowTest : public testing::Test {
  protected:
   template <class Window>
@@ -118,11 +107,14 @@ TEST_F(LibraryWindowTest, TheWindowEndsBeforeTheMembers) {
 }
 
 TEST_F(LibraryWindowTest, DeletedWhileItsWindowIsBeingDestroyedItHandlesNothingMore) {
-  CDeletingParent parent;
-  ASSERT_TRUE(parent.CreateEx(0, nullptr, L"", WS_POPUP, CRect(0, 0, 9, 9), nullptr, 0));
-  parent.child = std::make_unique<CPlainWindow>(log_, std::nullopt);
-  ASSERT_TRUE(parent.child->Create(nullptr, L"", WS_CHILD, CRect(0, 0, 5, 5), &parent, 1));
-  ::DestroyWindow(*parent.child);
+  test::HostWindow parent;
+  ASSERT_TRUE(parent.open({0, 0, 9, 9}));
+  std::unique_ptr<CWnd> child = std::make_unique<CPlainWindow>(log_, std::nullopt);
+  parent.on_message = [&](UINT message, WPARAM wparam) {
+    if (message == WM_PARENTNOTIFY && LOWORD(wparam) == WM_DESTROY) child.reset();
+  };
+  ASSERT_TRUE(child->Create(nullptr, L"", WS_CHILD, CRect(0, 0, 5, 5), &parent, 1));
+  ::DestroyWindow(*child);
   EXPECT_EQ(log_, "member ended;");
   EXPECT_EQ(windows_.live_windows(), 1);
 }

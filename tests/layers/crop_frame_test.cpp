@@ -53,101 +53,74 @@ TEST(CropFrame, TellsTheZoneOfAPoint) {
   }
 }
 
-TEST(CropFrame, DragFromAHandleMovesItsEdgesOnly) {
-  struct DragCase {
-    POINT from;
-    int code;
-    RECT after;  // dragged by (7, -5)
-  };
+// A press and moves after it, of which each goes on from where the pointer was.
+struct DragCase {
+  RECT before;
+  std::vector<POINT> points;
+  int code;
+  RECT after;
+};
+
+TEST(CropFrame, DragDrawsMovesOrResizesByWhereItBegins) {
+  constexpr RECT plain = {100, 100, 200, 180};
   const std::vector<DragCase> cases = {
-      {{100, 100}, 1, {107, 95, 200, 180}},  {{150, 101}, 2, {100, 95, 200, 180}},
-      {{199, 99}, 3, {100, 95, 207, 180}},   {{202, 140}, 4, {100, 100, 207, 180}},
-      {{201, 182}, 5, {100, 100, 207, 175}}, {{149, 178}, 6, {100, 100, 200, 175}},
-      {{97, 183}, 7, {107, 100, 200, 175}},  {{100, 141}, 8, {107, 100, 200, 180}},
-      {{170, 120}, 9, {107, 95, 207, 175}}};
+      // Handles, each by (7, -5).
+      {plain, {{100, 100}, {120, 111}, {107, 95}}, 1, {107, 95, 200, 180}},
+      {plain, {{150, 101}, {170, 112}, {157, 96}}, 2, {100, 95, 200, 180}},
+      {plain, {{199, 99}, {219, 110}, {206, 94}}, 3, {100, 95, 207, 180}},
+      {plain, {{202, 140}, {222, 151}, {209, 135}}, 4, {100, 100, 207, 180}},
+      {plain, {{201, 182}, {221, 193}, {208, 177}}, 5, {100, 100, 207, 175}},
+      {plain, {{149, 178}, {169, 189}, {156, 173}}, 6, {100, 100, 200, 175}},
+      {plain, {{97, 183}, {117, 194}, {104, 178}}, 7, {107, 100, 200, 175}},
+      {plain, {{100, 141}, {120, 152}, {107, 136}}, 8, {107, 100, 200, 180}},
+      {plain, {{100, 140}, {260, 140}}, 8, {260, 100, 200, 180}},  // past the opposite edge
+      // The whole, which stops at the area; right and bottom win.
+      {plain, {{170, 120}, {190, 131}, {177, 115}}, 9, {107, 95, 207, 175}},
+      {plain, {{170, 150}, {-330, 150}}, 9, {0, 100, 100, 180}},
+      {plain, {{170, 150}, {-330, 150}, {-320, 150}}, 9, {10, 100, 110, 180}},
+      {plain, {{170, 150}, {170, 49}}, 9, {100, 0, 200, 80}},
+      {plain, {{170, 150}, {770, 150}}, 9, {700, 100, 800, 180}},
+      {plain, {{170, 150}, {771, 571}}, 9, {700, 520, 800, 600}},
+      {{-100, 100, 900, 180}, {{170, 150}, {670, 160}}, 9, {-200, 110, 800, 190}},
+      {{-100, 100, 900, 180}, {{170, 150}, {-330, 150}}, 9, {-200, 100, 800, 180}},
+      {{100, -300, 200, 700}, {{170, 150}, {173, 150}}, 9, {103, -400, 203, 600}},
+      // A new rectangle, to any side and beyond the area.
+      {plain, {{220, 200}, {250, 250}, {340, 260}}, 0, {220, 200, 340, 260}},
+      {plain, {{220, 200}, {250, 250}, {340, 120}}, 0, {220, 120, 340, 200}},
+      {plain, {{220, 200}, {250, 250}, {-60, 120}}, 0, {-60, 120, 220, 200}},
+      {plain, {{220, 200}, {250, 250}, {-60, 900}}, 0, {-60, 200, 220, 900}},
+      {{100, 100, 107, 180}, {{103, 140}}, 0, {103, 140, 103, 140}}};  // too thin for zones
   for (const DragCase& test : cases) {
-    CropFrame frame = drawn({100, 100, 200, 180});
-    EXPECT_EQ(frame.press(test.from), test.code);
-    // In two moves: each goes on from where the last one ended.
-    EXPECT_EQ(frame.move({test.from.x + 20, test.from.y + 11}, client), test.code);
-    EXPECT_EQ(frame.move({test.from.x + 7, test.from.y - 5}, client), test.code);
-    EXPECT_THAT(frame.rectangle(), same_rect(test.after)) << "code " << test.code;
-    EXPECT_FALSE(frame.release()) << "only a new rectangle brings the bar";
-    EXPECT_EQ(frame.drag_mode(), -1);
-  }
-}
-
-TEST(CropFrame, DrawsFromAnyCornerAndBeyondTheArea) {
-  const std::vector<POINT> ends = {{340, 260}, {340, 120}, {-60, 120}, {-60, 900}};
-  for (const POINT& end : ends) {
-    CropFrame frame;
-    EXPECT_EQ(frame.press({200, 200}), 0);
-    frame.move({250, 250}, client);
-    EXPECT_EQ(frame.move(end, client), 0);
-    EXPECT_THAT(frame.rectangle(), is_rect(std::min(200, int{end.x}), std::min(200, int{end.y}),
-                                           std::max(200, int{end.x}), std::max(200, int{end.y})));
-    EXPECT_TRUE(frame.release());
-  }
-}
-
-TEST(CropFrame, MovingTheWholeStopsAtTheArea) {
-  struct MoveCase {
-    RECT before;
-    SIZE by;
-    RECT after;
-  };
-  const std::vector<MoveCase> cases = {
-      {{100, 100, 200, 180}, {-500, 0}, {0, 100, 100, 180}},
-      {{100, 100, 200, 180}, {0, -101}, {100, 0, 200, 80}},
-      {{100, 100, 200, 180}, {600, 0}, {700, 100, 800, 180}},
-      {{100, 100, 200, 180}, {601, 421}, {700, 520, 800, 600}},
-      {{-100, 100, 900, 180}, {500, 10}, {-200, 110, 800, 190}},  // wider: right bound wins
-      {{-100, 100, 900, 180}, {-500, 0}, {-200, 100, 800, 180}},
-      {{100, -300, 200, 700}, {3, 0}, {103, -400, 203, 600}}};  // higher: bottom bound wins
-  for (const MoveCase& test : cases) {
+    SCOPED_TRACE("to " + corvane::test::text_of(test.after));
     CropFrame frame = drawn(test.before);
-    const POINT grip = {150 + 20, 150};
-    ASSERT_EQ(frame.press(grip), 9);
-    frame.move({grip.x + test.by.cx, grip.y + test.by.cy}, client);
+    EXPECT_EQ(frame.press(test.points[0]), test.code);
+    for (std::size_t i = 1; i < test.points.size(); ++i) {
+      EXPECT_EQ(frame.move(test.points[i], client), test.code);
+    }
     EXPECT_THAT(frame.rectangle(), same_rect(test.after));
+    EXPECT_EQ(frame.release(), test.code == 0 && test.points.size() > 1) << "brings the bar";
+    EXPECT_FALSE(frame.dragging());
   }
 }
 
-TEST(CropFrame, GoesOnFromThePointerAfterBeingStoppedAtTheArea) {
-  CropFrame frame = drawn({100, 100, 200, 180});
-  frame.press({150, 120});
-  frame.move({-50, 120}, client);
-  frame.move({-40, 120}, client);
-  EXPECT_THAT(frame.rectangle(), is_rect(10, 100, 110, 180));
-}
-
-TEST(CropFrame, HandleDraggedPastTheOppositeEdgeLeavesItInverted) {
+TEST(CropFrame, InvertedRectangleIsEmptyAndHasNoZones) {
   CropFrame frame = drawn({100, 100, 200, 180});
   frame.press({100, 140});
   frame.move({260, 140}, client);
   EXPECT_FALSE(frame.release());
-  EXPECT_THAT(frame.rectangle(), is_rect(260, 100, 200, 180));
   EXPECT_TRUE(frame.empty());
-  EXPECT_EQ(frame.press({230, 140}), 0);
-  EXPECT_THAT(frame.rectangle(), is_rect(230, 140, 230, 140));
+  EXPECT_EQ(frame.hit_test({230, 140}), 0);
 }
 
-TEST(CropFrame, PressInARectangleTooSmallForZonesStartsANewOne) {
-  CropFrame frame = drawn({100, 100, 107, 180});
-  EXPECT_EQ(frame.press({103, 140}), 0);
-  EXPECT_FALSE(frame.release()) << "a click frames nothing";
-  EXPECT_THAT(frame.rectangle(), is_rect(103, 140, 103, 140));
-}
-
-TEST(CropFrame, HoveringAndClearing) {
+TEST(CropFrame, HoveringChangesNothingAndClearingEndsNoDrag) {
   CropFrame frame = drawn({100, 100, 200, 180});
   EXPECT_EQ(frame.move({200, 180}, client), 5);
   EXPECT_EQ(frame.move({10, 10}, client), 0);
   EXPECT_THAT(frame.rectangle(), is_rect(100, 100, 200, 180));
   frame.press({150, 140});
   frame.clear();
-  EXPECT_THAT(frame.rectangle(), is_rect(0, 0, 0, 0));
-  EXPECT_EQ(frame.drag_mode(), 9) << "clearing does not end a drag";
+  EXPECT_TRUE(frame.empty());
+  EXPECT_EQ(frame.drag_mode(), 9);
   frame.move({155, 142}, client);
   EXPECT_THAT(frame.rectangle(), is_rect(5, 2, 5, 2));
 }

@@ -60,7 +60,8 @@ class ButtonLayerSession : public Scene {
   void play() override {
     lists_.LoadCtrlList(L"ui_control.xml", TestSkin::button_list);
     host_.open(session_host);
-    host_.on_drag_begin = [this] {
+    host_.on_message = [this](UINT message, WPARAM) {
+      if (message != WM_ENTERSIZEMOVE) return;
       ::SetCursorPos(100, 110);
       desktop_.send_mouse(MOUSEEVENTF_LEFTUP);
     };

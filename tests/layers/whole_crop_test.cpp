@@ -163,31 +163,30 @@ TEST_F(WholeCropTest, FrameIsDrawnOnAnyDeviceContextAndLeavesItsPen) {
   ::ReleaseDC(host_, dc);
 }
 
-TEST_F(WholeCropTest, MouseInTheClearFrameMovesIt) {
-  start();
-  drag({100, 80}, {400, 280});
-  const POINT inside = on_screen(300, 150);
-  EXPECT_EQ(::WindowFromPoint(inside), background_.GetSafeHwnd()) << "through the clear frame";
-  EXPECT_EQ(::WindowFromPoint(on_screen(50, 50)), rect_layer());
-  drag({300, 150}, {330, 140});
-  EXPECT_THAT(background_.GetCutRect(), is_rect(130, 70, 430, 270));
-  EXPECT_EQ(::GetCapture(), nullptr);
-  EXPECT_EQ(layer_pixel(425, 200), white);
-  EXPECT_EQ(layer_pixel(105, 200), black) << "where it was";
-}
-
-TEST_F(WholeCropTest, BarFollowsMovesAndIsHiddenWhileANewFrameIsDrawn) {
+TEST_F(WholeCropTest, MouseInTheClearFrameMovesItAndItsBar) {
   start();
   drag({100, 80}, {400, 280});
   ASSERT_TRUE(bar_is_shown());
   const COLORREF button = pixel(400 - 175, 285);
-  desktop_.press_at(on_screen(300, 150));
+  const POINT inside = on_screen(300, 150);
+  EXPECT_EQ(::WindowFromPoint(inside), background_.GetSafeHwnd()) << "through the clear frame";
+  EXPECT_EQ(::WindowFromPoint(on_screen(50, 50)), rect_layer());
+  desktop_.press_at(inside);
   desktop_.move_to(on_screen(310, 160));
+  EXPECT_THAT(background_.GetCutRect(), is_rect(110, 90, 410, 290));
+  EXPECT_EQ(layer_pixel(408, 200), white);
+  EXPECT_EQ(layer_pixel(103, 200), black) << "where it was";
   const POINT corner = on_screen(410 - 180, 290);
   EXPECT_THAT(window_rect(bar()), is_rect(corner.x, corner.y, corner.x + 180, corner.y + 32));
   EXPECT_EQ(pixel(410 - 175, 295), button);
   desktop_.release();
   EXPECT_TRUE(bar_is_shown());
+  EXPECT_EQ(::GetCapture(), nullptr);
+}
+
+TEST_F(WholeCropTest, BarIsHiddenWhileANewFrameIsDrawn) {
+  start();
+  drag({100, 80}, {400, 280});
   desktop_.press_at(on_screen(600, 450));
   EXPECT_FALSE(bar_is_shown());
   desktop_.move_to(on_screen(500, 490));
@@ -254,39 +253,21 @@ TEST_F(WholeCropTest, ShowingAndHidingEmptyTheFrame) {
 TEST_F(WholeCropTest, OnlyADragIsRepaintedAndNotBeforeTheNextTurn) {
   start();
   drag({100, 80}, {400, 280});
-  struct PaintCase {
-    const char* what;
-    std::function<void()> act;
-    bool repaints;
-  };
-  const std::vector<PaintCase> cases = {
-      {"the bar is not used", [&] { background_.ShowBtn(0); }, false},
-      {"text recognition", [&] { background_.SetOCRMode(1); }, false},
-      {"hovering",
-       [&] {
-         background_.OnMouseMove(0, {50, 50});
-       },
-       false},
-      {"a press",
-       [&] {
-         background_.OnLButtonDown(MK_LBUTTON, {300, 150});
-       },
-       false},
-      {"a drag",
-       [&] {
-         background_.OnMouseMove(MK_LBUTTON, {310, 150});
-       },
-       true},
-      {"a release",
-       [&] {
-         background_.OnLButtonUp(0, {310, 150});
-       },
-       false}};
-  for (const PaintCase& test : cases) {
-    test.act();
-    EXPECT_EQ(waits_for_paint(rect_layer()), test.repaints) << test.what;
+  const auto repaints = [this] {
+    const bool waits = waits_for_paint(rect_layer());
     desktop_.pump();
-  }
+    return waits;
+  };
+  background_.ShowBtn(0);
+  background_.SetOCRMode(1);
+  EXPECT_FALSE(repaints());
+  background_.OnMouseMove(0, {50, 50});
+  background_.OnLButtonDown(MK_LBUTTON, {300, 150});
+  EXPECT_FALSE(repaints());
+  background_.OnMouseMove(MK_LBUTTON, {310, 150});
+  EXPECT_TRUE(repaints());
+  background_.OnLButtonUp(0, {310, 150});
+  EXPECT_FALSE(repaints());
   EXPECT_EQ(::SendMessageW(rect_layer(), WM_ERASEBKGND, 0, 0), 0) << "painting covers everything";
 }
 
@@ -332,15 +313,13 @@ TEST_F(WholeCropTest, BearsPointsFarOutsideTheScreen) {
   start();
   constexpr int lowest = std::numeric_limits<int>::min();
   constexpr int highest = std::numeric_limits<int>::max();
-  const std::vector<corvane::CPoint> points = {
-      {lowest, lowest}, {highest, highest}, {lowest, 50}, {50, highest}};
-  for (const auto& from : points) {
-    for (const auto& to : points) {
-      background_.OnLButtonDown(MK_LBUTTON, from);
-      background_.OnMouseMove(MK_LBUTTON, to);
-      desktop_.pump();
-      background_.OnLButtonUp(0, to);
-    }
+  const std::pair<POINT, POINT> drags[] = {{{lowest, lowest}, {highest, highest}},
+                                           {{50, highest}, {lowest, 50}}};
+  for (const auto& [from, to] : drags) {
+    background_.OnLButtonDown(MK_LBUTTON, from);
+    background_.OnMouseMove(MK_LBUTTON, to);
+    desktop_.pump();
+    background_.OnLButtonUp(0, to);
   }
   background_.ShowWindow(SW_SHOW);
   drag({100, 80}, {400, 280});
@@ -350,7 +329,9 @@ TEST_F(WholeCropTest, BearsPointsFarOutsideTheScreen) {
 TEST_F(WholeCropTest, BackgroundDeletedWhileItTakesTheCapture) {
   auto background = std::make_unique<corvane::CCutBgLayer>();
   ASSERT_TRUE(create_over(*background, host_));
-  host_.on_capture_lost = [&] { background.reset(); };
+  host_.on_message = [&](UINT message, WPARAM) {
+    if (message == WM_CAPTURECHANGED) background.reset();
+  };
   host_.SetCapture();
   background->OnLButtonDown(MK_LBUTTON, {10, 10});
   EXPECT_EQ(background, nullptr);

@@ -55,7 +55,8 @@ class WindowLayerTest : public HostTest {
 
   // Presses the layer and drags what the press takes hold of.
   void drag_by_layer(POINT from, POINT to) {
-    host_.on_drag_begin = [this, to] {
+    host_.on_message = [this, to](UINT message, WPARAM) {
+      if (message != WM_ENTERSIZEMOVE) return;
       ::SetCursorPos(to.x, to.y);
       desktop_.send_mouse(MOUSEEVENTF_LEFTUP);
     };
@@ -240,35 +241,15 @@ TEST_F(WindowLayerTest, DestroyedAndCreatedAgain) {
   EXPECT_EQ(background_pixel(), blue);
 }
 
-// A host that takes the skin back, and empties the list, while buttons are being created.
-class InterferingHost : public HostWindow {
- public:
-  CWindowLayer* layer = nullptr;
-  bool empties = false;
-
- protected:
-  LRESULT WindowProc(UINT message, WPARAM wparam, LPARAM lparam) override {
-    if (message == WM_PARENTNOTIFY && LOWORD(wparam) == WM_CREATE && HIWORD(wparam) == 11) {
-      empties ? layer->DelAllBtn() : layer->SetXmlListMgr(nullptr);
-    }
-    return HostWindow::WindowProc(message, wparam, lparam);
-  }
-};
-
-TEST_F(WindowLayerTest, HostInterferesWhileButtonsAreCreated) {
-  InterferingHost host;
-  ASSERT_TRUE(host.open({0, 0, 400, 300}));
-  host.layer = &layer_;
+TEST_F(WindowLayerTest, HostTakesTheSkinBackOrEmptiesTheListWhileButtonsAreCreated) {
   for (const bool empties : {false, true}) {
-    host.empties = empties;
-    layer_.SetXmlListMgr(&lists_);
-    layer_.AddBtn(11);
-    layer_.AddBtn(12);
-    ASSERT_TRUE(
-        layer_.CreateEx(0, nullptr, L"layer", WS_CHILD | WS_VISIBLE, layer_place, &host, 0));
-    EXPECT_EQ(::GetDlgItem(layer_, 12), nullptr);
-    desktop_.pump();
     layer_.DestroyWindow();
+    host_.on_message = [&](UINT message, WPARAM wparam) {
+      if (message != WM_PARENTNOTIFY || wparam != MAKEWPARAM(WM_CREATE, 11)) return;
+      empties ? layer_.DelAllBtn() : layer_.SetXmlListMgr(nullptr);
+    };
+    create({11, 12});
+    EXPECT_EQ(::GetDlgItem(layer_, 12), nullptr);
   }
 }
 

@@ -10,20 +10,13 @@ COLORREF Frame::at(int x, int y) const {
   return ((pixel & 0xFF) << 16) | (pixel & 0xFF00) | ((pixel >> 16) & 0xFF);
 }
 
-int Frame::count(const RECT& rect, const std::function<bool(COLORREF)>& condition) const {
-  int number = 0;
-  for (int y = rect.top; y < rect.bottom; ++y) {
-    for (int x = rect.left; x < rect.right; ++x) number += condition(at(x, y)) ? 1 : 0;
-  }
-  return number;
-}
-
-int Frame::count_other_than(const RECT& rect, COLORREF color, RECT* bounds) const {
+int Frame::count(const RECT& rect, const std::function<bool(COLORREF)>& condition,
+                 RECT* bounds) const {
   int number = 0;
   RECT around{rect.right, rect.bottom, rect.left, rect.top};
   for (int y = rect.top; y < rect.bottom; ++y) {
     for (int x = rect.left; x < rect.right; ++x) {
-      if (at(x, y) == color) continue;
+      if (!condition(at(x, y))) continue;
       ++number;
       around = {std::min<LONG>(around.left, x), std::min<LONG>(around.top, y),
                 std::max<LONG>(around.right, x + 1), std::max<LONG>(around.bottom, y + 1)};

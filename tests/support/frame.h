@@ -15,10 +15,14 @@ class Frame {
 
   COLORREF at(int x, int y) const;  // screen coordinates; CLR_INVALID outside
   COLORREF at(POINT point) const { return at(point.x, point.y); }
-  // Of the rectangle's pixels, which may lie outside of the screen.
-  int count(const RECT& rect, const std::function<bool(COLORREF)>& condition) const;
-  // `bounds` becomes the smallest rectangle around the counted ones.
-  int count_other_than(const RECT& rect, COLORREF color, RECT* bounds = nullptr) const;
+  // Of the rectangle's pixels, which may lie outside of the screen. `bounds` becomes the smallest
+  // rectangle around the counted ones.
+  int count(const RECT& rect, const std::function<bool(COLORREF)>& condition,
+            RECT* bounds = nullptr) const;
+  int count_other_than(const RECT& rect, COLORREF color, RECT* bounds = nullptr) const {
+    return count(
+        rect, [color](COLORREF each) { return each != color; }, bounds);
+  }
 
  private:
   SIZE size_;

@@ -30,8 +30,7 @@ std::vector<HostWindow::Received> HostWindow::of(UINT message) const {
 
 LRESULT HostWindow::WindowProc(UINT message, WPARAM wparam, LPARAM lparam) {
   received_.push_back({message, wparam, lparam});
-  if (message == WM_ENTERSIZEMOVE && on_drag_begin) on_drag_begin();
-  if (message == WM_CAPTURECHANGED && on_capture_lost) on_capture_lost();
+  if (on_message) on_message(message, wparam);
   if (message == WM_ERASEBKGND) return 1;
   if (message != WM_PAINT) return corvane::CWnd::WindowProc(message, wparam, lparam);
   paint();

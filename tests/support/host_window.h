@@ -26,9 +26,8 @@ class HostWindow : public corvane::CWnd {
   std::vector<Received> of(UINT message) const;
   std::size_t count(UINT message) const { return of(message).size(); }
   void forget() { received_.clear(); }
-  // Called when the window begins to be dragged, which keeps the loop until the release.
-  std::function<void()> on_drag_begin;
-  std::function<void()> on_capture_lost;
+  // Called with each message and its wParam before it is handled.
+  std::function<void(UINT, WPARAM)> on_message;
 
  protected:
   LRESULT WindowProc(UINT message, WPARAM wparam, LPARAM lparam) override;
