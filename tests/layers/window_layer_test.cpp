@@ -20,24 +20,11 @@ constexpr COLORREF blue = RGB(0, 0, 255);
 
 POINT on_screen(int x, int y) { return {layer_corner.x + x, layer_corner.y + y}; }
 
-// A picture of one colour.
-class PlainImage {
- public:
-  explicit PlainImage(DWORD argb) : pixel_(argb) {}
-  Gdiplus::Image* get() { return &image_; }
-
- private:
-  DWORD pixel_;
-  Gdiplus::Bitmap image_{1, 1, 4, PixelFormat32bppARGB, reinterpret_cast<BYTE*>(&pixel_)};
-};
-
 class WindowLayerTest : public HostTest {
  protected:
   void SetUp() override {
     HostTest::SetUp();
-    lists_.LoadCtrlList(L"ui_control.xml", TestSkin::button_list);
-    lists_.LoadLanguageList(L"ui_language.xml", TestSkin::button_list);
-    lists_.LoadLogfontList(L"ui_logfont.xml");
+    lists_.Load({TestSkin::button_list});
   }
 
   void create(const std::vector<int>& ids) {
@@ -74,7 +61,8 @@ class WindowLayerTest : public HostTest {
   COLORREF background_pixel() { return desktop_.pixel(on_screen(200, 80)); }
 
   CXmlListMgr lists_;
-  PlainImage image_{0xFF0000FF};
+  DWORD pixel_ = 0xFF0000FF;  // of the image, which is blue
+  Gdiplus::Bitmap image_{1, 1, 4, PixelFormat32bppARGB, reinterpret_cast<BYTE*>(&pixel_)};
   CWindowLayer layer_;
 };
 
@@ -157,13 +145,6 @@ TEST_F(WindowLayerTest, PressBesideTheButtonsDragsTheParentInFull) {
   EXPECT_TRUE(in_full);
 }
 
-TEST_F(WindowLayerTest, WithoutASkinTheSurfaceStillDrags) {
-  layer_.AddBtn(11);
-  create_window();
-  drag_by_layer(on_screen(20, 20), on_screen(23, 20));
-  EXPECT_EQ(window_rect(host_).left, host_place.left + 3);
-}
-
 TEST_F(WindowLayerTest, OnlyShowCountsAsShown) {
   EXPECT_EQ(layer_.IsShowWindow(), 0);
   create({});
@@ -177,7 +158,7 @@ TEST_F(WindowLayerTest, OnlyShowCountsAsShown) {
 }
 
 TEST_F(WindowLayerTest, ImageFillsTheLayerAndShowsThroughItsButtonsFromTheFirst) {
-  layer_.SetBgImage(image_.get(), CRect(0, 0, 1, 1));
+  layer_.SetBgImage(&image_, CRect(0, 0, 1, 1));
   create({13, 11});
   EXPECT_EQ(background_pixel(), blue);
   EXPECT_EQ(desktop_.pixel(on_screen(2, 95)), blue) << "the rectangle has no effect";
@@ -188,7 +169,7 @@ TEST_F(WindowLayerTest, ImageFillsTheLayerAndShowsThroughItsButtonsFromTheFirst)
 TEST_F(WindowLayerTest, BackgroundIsBuiltAnewOnlyWhenTheSizeChanges) {
   create({11});
   EXPECT_EQ(background_pixel(), white);
-  layer_.SetBgImage(image_.get(), CRect());
+  layer_.SetBgImage(&image_, CRect());
   EXPECT_FALSE(waits_for_paint(layer_));
   EXPECT_EQ(layer_.SendMessageW(WM_ERASEBKGND), 1);
   layer_.Invalidate(TRUE);
@@ -226,16 +207,13 @@ TEST_F(WindowLayerTest, EscapeGoesToTheMainWindowNotToTheParentAndEnterToNobody)
     EXPECT_THAT(desktop_.take_keys(),
                 testing::ElementsAre(AppDesktop::Key(host_, WM_KEYDOWN, VK_ESCAPE)));
   }
-  desktop_.app().m_pMainWnd = nullptr;
-  desktop_.key(VK_ESCAPE);
-  EXPECT_THAT(desktop_.take_keys(), testing::IsEmpty()) << "there is nobody to get it";
 }
 
 TEST_F(WindowLayerTest, DestroyedAndCreatedAgain) {
   create({11});
   layer_.DestroyWindow();
   EXPECT_EQ(layer_.AddBtn(12), 1) << "the buttons went with the window";
-  layer_.SetBgImage(image_.get(), CRect());
+  layer_.SetBgImage(&image_, CRect());
   create_window();
   EXPECT_NE(::GetDlgItem(layer_, 12), nullptr);
   EXPECT_EQ(background_pixel(), blue);

@@ -43,8 +43,6 @@ void Desktop::press(DWORD flag) {
   pump();
 }
 
-void Desktop::release(DWORD flag) { press(flag); }
-
 void Desktop::press_at(int x, int y) {
   move_to(x, y);
   press();
@@ -103,7 +101,5 @@ void Desktop::drag(POINT from, POINT to, int steps) {
   release();
   pause();
 }
-
-void Desktop::pause() { advance(2 * ::GetDoubleClickTime()); }
 
 }  // namespace corvane::test

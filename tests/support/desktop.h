@@ -46,7 +46,7 @@ class Desktop {
   void move_to(int x, int y);
   void move_to(POINT point) { move_to(point.x, point.y); }
   void press(DWORD flag = MOUSEEVENTF_LEFTDOWN);
-  void release(DWORD flag = MOUSEEVENTF_LEFTUP);
+  void release(DWORD flag = MOUSEEVENTF_LEFTUP) { press(flag); }
   void press_at(int x, int y);
   void press_at(POINT point) { press_at(point.x, point.y); }
   void release_at(int x, int y);
@@ -65,7 +65,7 @@ class Desktop {
   OwnSystem& own() { return *system_; }
 
  private:
-  void pause();
+  void pause() { advance(2 * ::GetDoubleClickTime()); }
 
   std::unique_ptr<OwnSystem> system_;
   Filter filter_;
