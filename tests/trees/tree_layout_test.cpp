@@ -6,177 +6,155 @@
 #include <limits>
 #include <random>
 
+#include "tests/support/rects.h"
+
 namespace corvane::test {
 namespace {
 
-using corvane::_NODE;
-using corvane::kTreeRowHeight;
-using corvane::row_in_client;
-using corvane::TreeLayout;
-using corvane::TreeModel;
+constexpr int kWidth = 200;
+constexpr int kFarthest = std::numeric_limits<int>::max();
 
-constexpr int width = 200;
-
-std::vector<_NODE*> visible_below(const TreeModel& model, _NODE& node) {
+// The nodes below one, each before what is below it; or the visible ones among them.
+std::vector<_NODE*> nodes_below(const _NODE& node, bool all) {
   std::vector<_NODE*> found;
   for (const _NODE& child : node.children()) {
-    if (!node.expanded()) break;
+    if (!all && !node.expanded()) break;
     found.push_back(const_cast<_NODE*>(&child));
-    const auto deeper = visible_below(model, *found.back());
+    const auto deeper = nodes_below(child, all);
     found.insert(found.end(), deeper.begin(), deeper.end());
   }
   return found;
 }
 
-TEST(TreeLayout, NumbersTheVisibleRows) {
-  TreeModel model;
-  TreeLayout layout;
-  EXPECT_EQ(layout.arrange(model, width), 0);
-  _NODE* root = model.add_child(L"root", nullptr);
-  _NODE* a = model.add_child(L"a", root);
-  model.add_child(L"a1", a);
-  _NODE* a2 = model.add_child(L"a2", a);
-  _NODE* b = model.add_child(L"b", root);
-  _NODE* hidden = model.add_child(L"b1", b);
-  model.set_expanded(*a, true);
-  EXPECT_EQ(layout.arrange(model, width), 150);
-  EXPECT_EQ(root->row().bottom, 30);
-  EXPECT_EQ(a2->row().top, 90);
-  EXPECT_EQ(a2->row().right, width);
-  EXPECT_EQ(b->row().bottom, 150);
-  EXPECT_EQ(hidden->row().bottom, 0);
+class TreeLayoutTest : public testing::Test {
+ protected:
+  _NODE* node_at(LONG x, LONG y) { return layout_.node_at(model_, {x, y}); }
 
-  model.set_expanded(*root, false);
-  EXPECT_EQ(layout.arrange(model, 100), 30);
-  EXPECT_EQ(root->row().right, 100);
-  EXPECT_EQ(b->row().right, width) << "not laid out";
-  EXPECT_EQ(layout.arrange_below(a, 50, 7), 9);
-  EXPECT_EQ(a2->row().top, 240);
-  model.remove_all();
-  EXPECT_EQ(layout.arrange(model, width), 0);
+  TreeModel model_;
+  TreeLayout layout_;
+  _NODE* root_ = model_.add_child(L"root", nullptr);
+  _NODE* a_ = model_.add_child(L"a", root_);
+  _NODE* a1_ = model_.add_child(L"a1", a_);
+  _NODE* b_ = model_.add_child(L"b", root_);
+};
+
+TEST_F(TreeLayoutTest, NumbersTheVisibleRows) {
+  EXPECT_EQ(layout_.arrange(model_, kWidth), 90);
+  EXPECT_THAT(root_->row(), is_rect(0, 0, kWidth, 30));
+  EXPECT_THAT(b_->row(), is_rect(0, 60, kWidth, 90));
+  EXPECT_THAT(a1_->row(), is_rect(0, 0, 0, 0)) << "has not been shown";
+  EXPECT_EQ(layout_.arrange(model_, 100), 90) << "the tree has not changed";
+  EXPECT_THAT(b_->row(), is_rect(0, 60, 100, 90));
+  EXPECT_EQ(node_at(99, 65), b_);
+  EXPECT_EQ(node_at(100, 65), nullptr);
+
+  model_.set_expanded(*a_, true);
+  EXPECT_EQ(layout_.arrange_below(a_, 50, 7), 8);
+  EXPECT_THAT(a1_->row(), is_rect(0, 210, 50, 240));
+  EXPECT_EQ(layout_.arrange_below(root_, -1, kFarthest), kFarthest);
+  EXPECT_THAT(b_->row(), is_rect(0, kFarthest, 0, kFarthest));
+  EXPECT_EQ(layout_.arrange_below(nullptr, 50, 7), 7);
 }
 
-TEST(TreeLayout, TheRowsAreThoseOfTheLastLayout) {
-  TreeModel model;
-  TreeLayout layout;
-  _NODE* root = model.add_child(L"root", nullptr);
-  _NODE* a = model.add_child(L"a", root);
-  _NODE* b = model.add_child(L"b", root);
-  EXPECT_EQ(layout.node_at(model, {5, 5}), nullptr) << "nothing has been laid out";
-  layout.arrange(model, width);
-  EXPECT_EQ(layout.node_at(model, {5, 65}), b);
-  model.add_child(L"a1", a);
-  model.set_expanded(*a, true);
-  EXPECT_EQ(layout.node_at(model, {5, 65}), b) << "what the screen still shows";
-  EXPECT_EQ(layout.node_at(model, {5, 95}), nullptr);
-  layout.arrange(model, width);
-  EXPECT_EQ(layout.node_at(model, {5, 95}), b);
-  model.remove(b);
-  EXPECT_EQ(layout.node_at(model, {5, 95}), nullptr);
-  layout.arrange_below(root, width, 11);
-  EXPECT_EQ(layout.node_at(model, {5, 335}), a);
-  EXPECT_EQ(layout.node_at(model, {5, 35}), nullptr);
+TEST_F(TreeLayoutTest, TheRowsAreThoseOfTheLastLayout) {
+  EXPECT_EQ(node_at(5, 5), nullptr) << "nothing has been laid out";
+  layout_.arrange(model_, kWidth);
+  EXPECT_EQ(node_at(5, 65), b_);
+  model_.set_expanded(*a_, true);
+  EXPECT_EQ(node_at(5, 65), b_) << "what the screen still shows";
+  EXPECT_EQ(node_at(5, 95), nullptr);
+  layout_.arrange(model_, kWidth);
+  EXPECT_EQ(node_at(5, 95), b_);
+  model_.remove(b_);
+  EXPECT_EQ(node_at(5, 95), nullptr) << "a row that outlived its node";
+  EXPECT_EQ(layout_.arrange(model_, kWidth), 90);
+  model_.add_child(L"new root", nullptr);
+  EXPECT_THAT(root_->row(), is_rect(0, 0, 0, 0));
+  EXPECT_EQ(node_at(5, 35), nullptr);
+  EXPECT_EQ(layout_.arrange(model_, kWidth), 30);
+  EXPECT_EQ(node_at(5, 35), nullptr);
+  model_.remove_all();
+  EXPECT_EQ(layout_.arrange(model_, kWidth), 0);
 }
 
-TEST(TreeLayout, EdgesOfARow) {
-  TreeModel model;
-  TreeLayout layout;
-  _NODE* root = model.add_child(L"root", nullptr);
-  _NODE* a = model.add_child(L"a", root);
-  layout.arrange(model, width);
-  struct Case {
-    POINT point;
-    _NODE* hit;
-  };
-  const Case cases[] = {{{0, 0}, root},         {{width - 1, 29}, root}, {{0, 30}, a},
-                        {{width, 40}, nullptr}, {{-1, 40}, nullptr},     {{0, 59}, a},
-                        {{0, 60}, nullptr},     {{0, 65}, nullptr},      {{0, -1}, nullptr}};
-  for (const Case& each : cases) {
-    EXPECT_EQ(layout.node_at(model, each.point), each.hit) << each.point.x << ", " << each.point.y;
-  }
-  EXPECT_EQ(layout.node_below_at(model, nullptr, {0, 0}), nullptr);
-  EXPECT_EQ(layout.node_below_at(model, root, {0, 0}), nullptr) << "the node itself is not below";
-}
-
-TEST(TreeLayout, PlacesRowsInTheClientAreaByTheScrollPosition) {
-  constexpr int farthest = std::numeric_limits<int>::max();
-  TreeModel model;
-  TreeLayout layout;
-  _NODE* root = model.add_child(L"root", nullptr);
-  _NODE* a = model.add_child(L"a", root);
-  layout.arrange(model, width);
-  struct Case {
-    _NODE* node;
+TEST_F(TreeLayoutTest, PlacesRowsInTheClientAreaByTheScrollPosition) {
+  layout_.arrange(model_, kWidth);
+  const struct {
+    const _NODE* node;
     int position;
     LONG top;
     LONG bottom;
-  };
-  const Case cases[] = {{root, 0, 0, 30},
-                        {a, 0, 30, 60},
-                        {a, 45, -15, 15},
-                        {root, 45, -45, -15},
-                        {a, farthest, 30 - farthest, 60 - farthest},
-                        {a, -farthest, farthest, farthest}};
-  for (const Case& each : cases) {
-    const RECT row = row_in_client(*each.node, each.position);
-    EXPECT_EQ(row.left, 0);
-    EXPECT_EQ(row.right, width);
-    EXPECT_EQ(row.top, each.top) << "case " << &each - cases;
-    EXPECT_EQ(row.bottom, each.bottom) << "case " << &each - cases;
+  } cases[] = {{root_, 0, 0, 30},
+               {a_, 0, 30, 60},
+               {a_, 45, -15, 15},
+               {root_, 45, -45, -15},
+               {a_, kFarthest, 30 - kFarthest, 60 - kFarthest},
+               {a_, -kFarthest, kFarthest, kFarthest}};
+  for (const auto& each : cases) {
+    EXPECT_THAT(row_in_client(*each.node, each.position),
+                is_rect(0, each.top, kWidth, each.bottom));
   }
 }
 
 // A tree that changes at random: every answer against the plain walk, before and after the layout.
-TEST(TreeLayout, AnswersAsAWalkOverTheWholeTreeWould) {
+TEST_F(TreeLayoutTest, AnswersAsAWalkOverTheWholeTreeWould) {
   std::mt19937 random(7);
-  const auto below = [&random](std::size_t count) { return random() % count; };
-  TreeModel model;
-  TreeLayout layout;
-  std::vector<_NODE*> nodes = {model.add_child(L"root", nullptr)};
-  for (int round = 0; round < 300; ++round) {
-    if (below(3) > 0) {
-      _NODE* parent = nodes[below(nodes.size())];
-      nodes.push_back(model.add_child(std::to_wstring(round).c_str(), parent));
-    } else {
-      _NODE* node = nodes[below(nodes.size())];
-      model.set_expanded(*node, !node->expanded());
-    }
-    if (below(2) > 0) layout.arrange(model, width);
-    _NODE* node = nodes[below(nodes.size())];
-    const LONG top = static_cast<LONG>(below(900)) - 50;
-    const LONG bottom = top + static_cast<LONG>(below(200));
-    std::vector<const _NODE*> expected;
+  const auto below = [&random](std::size_t count) { return static_cast<int>(random() % count); };
+  const auto any_node = [&] {
+    const auto nodes = nodes_below(*root_, true);
+    return nodes.empty() ? root_ : nodes[static_cast<std::size_t>(below(nodes.size()))];
+  };
+  for (int round = 0; round < 1000; ++round) {
+    SCOPED_TRACE(round);
+    _NODE* const changed = any_node();
+    const int change = below(20);
+    if (change < 12) model_.add_child(std::to_wstring(round).c_str(), changed);
+    if (change >= 12 && change < 18) model_.set_expanded(*changed, !changed->expanded());
+    if (change == 18 && changed != root_) model_.remove(changed);
+    if (change == 19) layout_.arrange_below(changed, kWidth, below(30));
+    if (below(2) > 0) layout_.arrange(model_, below(2) > 0 ? kWidth : 100);
+
+    _NODE* const node = below(3) > 0 ? root_ : any_node();
+    const auto visible = nodes_below(*node, false);
+    const LONG top = 15 * below(2 * visible.size() + 6) - 30;
+    const LONG bottom = top + 15 * below(14);
+    constexpr int kEdges[] = {-1, 0, 99, 100, kWidth - 1, kWidth};
+    const POINT point = {kEdges[below(std::size(kEdges))], top};
+    std::vector<const _NODE*> touching;
     _NODE* hit = nullptr;
-    for (_NODE* each : visible_below(model, *node)) {
-      if (!hit && each->row().top <= top && each->row().bottom > top) hit = each;
-      if (each->row().top < bottom && each->row().bottom > top) expected.push_back(each);
+    for (_NODE* const each : visible) {
+      const RECT& row = each->row();
+      if (hit == nullptr && ::PtInRect(&row, point) != FALSE) hit = each;
+      if (top < bottom && row.top < bottom && row.bottom > top) touching.push_back(each);
     }
-    EXPECT_EQ(layout.node_below_at(model, node, {5, top}), hit) << "round " << round;
-    EXPECT_EQ(layout.rows_below(model, *node, top, bottom), expected) << "round " << round;
+    EXPECT_EQ(layout_.node_below_at(model_, node, point), hit);
+    EXPECT_EQ(layout_.rows_below(model_, *node, top, bottom), touching);
+    if (node != root_) continue;
+    EXPECT_EQ(node_at(point.x, point.y), ::PtInRect(&root_->row(), point) != FALSE ? root_ : hit);
   }
 }
 
 // So deep that a call for each level would not fit on the stack.
 TEST(TreeLayout, AChainOfAnyDepth) {
-  constexpr int depth = 300000;
+  constexpr int kDepth = 300000;
   TreeModel model;
   TreeLayout layout;
   _NODE* deepest = model.add_child(L"root", nullptr);
   _NODE* second = nullptr;
-  for (int level = 0; level < depth; ++level) {
+  for (int level = 0; level < kDepth; ++level) {
     model.set_expanded(*deepest, true);
     deepest = model.add_child(L"x", deepest);
-    if (!second) second = deepest;
+    if (second == nullptr) second = deepest;
   }
   for (int laid_out = 0; laid_out < 2; ++laid_out) {
-    const LONG top = layout.arrange(model, width) - kTreeRowHeight;
-    EXPECT_EQ(top, depth * kTreeRowHeight);
-    if (laid_out == 1) layout.arrange_below(&model.root(), width, 1);  // nothing is looked up
+    const LONG top = layout.arrange(model, kWidth) - kTreeRowHeight;
+    EXPECT_EQ(top, kDepth * kTreeRowHeight);
+    if (laid_out == 1) layout.arrange_below(&model.root(), kWidth, 1);  // nothing is looked up
     EXPECT_EQ(layout.node_at(model, {5, top}), deepest);
     EXPECT_EQ(layout.rows_below(model, model.root(), top, top + 1).size(), 1u);
   }
   EXPECT_TRUE(model.remove(second));
-  EXPECT_EQ(layout.arrange(model, width), kTreeRowHeight);
+  EXPECT_EQ(layout.arrange(model, kWidth), kTreeRowHeight);
 }
 
 }  // namespace

@@ -7,8 +7,6 @@
 namespace corvane::test {
 namespace {
 
-using corvane::ScrollState;
-
 TEST(TreeScrolling, Codes) {
   struct Case {
     UINT code;
@@ -24,7 +22,7 @@ TEST(TreeScrolling, Codes) {
                         {SB_PAGEDOWN, 301, 301}};
   for (const Case& each : cases) {
     const ScrollState state{0, 301, 300, each.position};
-    EXPECT_EQ(corvane::scrolled_by_bar(each.code, 77, state), each.moved)
+    EXPECT_EQ(scrolled_by_bar(each.code, 77, state), each.moved)
         << "code " << each.code << " at " << each.position;
   }
 }
@@ -40,20 +38,20 @@ TEST(TreeScrolling, Wheel) {
                         {-23, 100, 101},  {23, 100, 99},   {-32768, 0, 301}};
   for (const Case& each : cases) {
     const ScrollState state{0, 301, 300, each.position};
-    EXPECT_EQ(corvane::scrolled_by_wheel(each.distance, state), each.moved)
+    EXPECT_EQ(scrolled_by_wheel(each.distance, state), each.moved)
         << each.distance << " at " << each.position;
   }
-  EXPECT_EQ(corvane::scrolled_by_wheel(-120, {0, 0, 0, 0}), 0) << "nothing to scroll";
+  EXPECT_EQ(scrolled_by_wheel(-120, {0, 0, 0, 0}), 0) << "nothing to scroll";
 }
 
 TEST(TreeScrolling, EndsOfTheNumbers) {
   using Limits = std::numeric_limits<int>;
   const ScrollState first{Limits::min(), Limits::max(), Limits::max(), Limits::min() + 1};
   const ScrollState last{Limits::min(), Limits::max(), Limits::max(), Limits::max() - 1};
-  EXPECT_EQ(corvane::scrolled_by_bar(SB_PAGEUP, 0, first), first.minimum);
-  EXPECT_EQ(corvane::scrolled_by_bar(SB_PAGEDOWN, 0, last), last.limit);
-  EXPECT_EQ(corvane::scrolled_by_wheel(120, first), first.minimum);
-  EXPECT_EQ(corvane::scrolled_by_wheel(-120, last), last.limit);
+  EXPECT_EQ(scrolled_by_bar(SB_PAGEUP, 0, first), first.minimum);
+  EXPECT_EQ(scrolled_by_bar(SB_PAGEDOWN, 0, last), last.limit);
+  EXPECT_EQ(scrolled_by_wheel(120, first), first.minimum);
+  EXPECT_EQ(scrolled_by_wheel(-120, last), last.limit);
 }
 
 }  // namespace
