@@ -79,21 +79,9 @@ TEST_F(TreeLayoutTest, TheRowsAreThoseOfTheLastLayout) {
 
 TEST_F(TreeLayoutTest, PlacesRowsInTheClientAreaByTheScrollPosition) {
   layout_.arrange(model_, kWidth);
-  const struct {
-    const _NODE* node;
-    int position;
-    LONG top;
-    LONG bottom;
-  } cases[] = {{root_, 0, 0, 30},
-               {a_, 0, 30, 60},
-               {a_, 45, -15, 15},
-               {root_, 45, -45, -15},
-               {a_, kFarthest, 30 - kFarthest, 60 - kFarthest},
-               {a_, -kFarthest, kFarthest, kFarthest}};
-  for (const auto& each : cases) {
-    EXPECT_THAT(row_in_client(*each.node, each.position),
-                is_rect(0, each.top, kWidth, each.bottom));
-  }
+  EXPECT_THAT(row_in_client(*a_, 45), is_rect(0, -15, kWidth, 15));
+  EXPECT_THAT(row_in_client(*a_, kFarthest), is_rect(0, 30 - kFarthest, kWidth, 60 - kFarthest));
+  EXPECT_THAT(row_in_client(*a_, -kFarthest), is_rect(0, kFarthest, kWidth, kFarthest));
 }
 
 // A tree that changes at random: every answer against the plain walk, before and after the layout.
@@ -135,26 +123,22 @@ TEST_F(TreeLayoutTest, AnswersAsAWalkOverTheWholeTreeWould) {
 }
 
 // So deep that a call for each level would not fit on the stack.
-TEST(TreeLayout, AChainOfAnyDepth) {
+TEST_F(TreeLayoutTest, AChainOfAnyDepth) {
   constexpr int kDepth = 300000;
-  TreeModel model;
-  TreeLayout layout;
-  _NODE* deepest = model.add_child(L"root", nullptr);
-  _NODE* second = nullptr;
-  for (int level = 0; level < kDepth; ++level) {
-    model.set_expanded(*deepest, true);
-    deepest = model.add_child(L"x", deepest);
-    if (second == nullptr) second = deepest;
+  _NODE* deepest = b_;
+  for (int level = 1; level < kDepth; ++level) {
+    model_.set_expanded(*deepest, true);
+    deepest = model_.add_child(L"x", deepest);
   }
   for (int laid_out = 0; laid_out < 2; ++laid_out) {
-    const LONG top = layout.arrange(model, kWidth) - kTreeRowHeight;
-    EXPECT_EQ(top, kDepth * kTreeRowHeight);
-    if (laid_out == 1) layout.arrange_below(&model.root(), kWidth, 1);  // nothing is looked up
-    EXPECT_EQ(layout.node_at(model, {5, top}), deepest);
-    EXPECT_EQ(layout.rows_below(model, model.root(), top, top + 1).size(), 1u);
+    const LONG top = layout_.arrange(model_, kWidth) - kTreeRowHeight;
+    EXPECT_EQ(top, (kDepth + 1) * kTreeRowHeight);
+    if (laid_out == 1) layout_.arrange_below(root_, kWidth, 1);  // nothing is looked up
+    EXPECT_EQ(node_at(5, top), deepest);
+    EXPECT_EQ(layout_.rows_below(model_, *root_, top, top + 1).size(), 1u);
   }
-  EXPECT_TRUE(model.remove(second));
-  EXPECT_EQ(layout.arrange(model, kWidth), kTreeRowHeight);
+  EXPECT_TRUE(model_.remove(b_));
+  EXPECT_EQ(layout_.arrange(model_, kWidth), 2 * kTreeRowHeight);
 }
 
 }  // namespace

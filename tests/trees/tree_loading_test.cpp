@@ -3,8 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
+#include <fstream>
 
+#include "tests/support/source_folder.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/trees/support/fake_listing.h"
 #include "tests/trees/support/tree_text.h"
@@ -18,7 +21,6 @@ class LoadingTest : public testing::Test {
  protected:
   std::wstring load(const wchar_t* path = kPhotos) {
     loaded_ = load_folders(model_, listing_, path, nullptr);
-    EXPECT_EQ(listing_.open_folders(), 0) << "all are closed again";
     return tree_text(model_);
   }
 
@@ -27,30 +29,22 @@ class LoadingTest : public testing::Test {
   bool loaded_ = false;
 };
 
-TEST_F(LoadingTest, AddsEveryFolderInTheOrderOfTheListing) {
-  for (const wchar_t* path : {L"D:\\Lib\\Photos\\z\\y\\x", L"D:\\Lib\\Photos\\.cache\\inner",
-                              L"D:\\Lib\\Photos\\a", L"D:\\Lib\\Photos\\z\\b", L"D:\\Lib\\Other"}) {
+TEST_F(LoadingTest, AddsEveryFolderInTheOrderOfTheListingBelowRootsOfEveryKind) {
+  for (const wchar_t* path : {L"D:\\Lib\\z\\y\\x", L"D:\\Lib\\.cache\\inner", L"D:\\Lib\\a",
+                              L"D:\\Lib\\z\\b", L"E:\\\\a"}) {
     listing_.add(path);
   }
-  EXPECT_EQ(load(), L"-Photos 0\n z 1\n  y 2\n   x 3\n  b 2\n a 1\n");
-  EXPECT_TRUE(loaded_);
-  EXPECT_EQ(model_.base_path(), L"D:\\Lib");
-}
-
-TEST_F(LoadingTest, RootsOfEveryKind) {
-  listing_.add(L"D:\\Lib");
-  listing_.add(L"E:\\\\a");  // below what a separator at the end names
-  struct Case {
+  const struct {
     const wchar_t* path;
     bool loaded;
     const wchar_t* base;
     const wchar_t* tree;
-  };
-  const Case cases[] = {{L"D:", true, L"", L"-D: 0\n Lib 1\n"},
-                        {L"E:\\", true, L"E:", L"- 0\n a 1\n"},
-                        {L"D:\\gone", false, L"D:", L"-gone 0\n"},
-                        {L"gone", false, L"", L"-gone 0\n"}};
-  for (const Case& each : cases) {
+  } cases[] = {{L"D:", true, L"", L"-D: 0\n Lib 1\n  z 2\n   y 3\n    x 4\n   b 3\n  a 2\n"},
+               {L"D:\\Lib\\z", true, L"D:\\Lib", L"-z 0\n y 1\n  x 2\n b 1\n"},
+               {L"E:\\", true, L"E:", L"- 0\n a 1\n"},  // what a separator at the end names
+               {L"D:\\gone", false, L"D:", L"-gone 0\n"},
+               {L"gone", false, L"", L"-gone 0\n"}};
+  for (const auto& each : cases) {
     EXPECT_EQ(load(each.path), each.tree);
     EXPECT_EQ(loaded_, each.loaded) << each.tree;
     EXPECT_EQ(model_.base_path(), each.base) << each.tree;
@@ -112,74 +106,45 @@ TEST_F(LoadingTest, AFolderIsReadThroughAHundredLinksAndNoMore) {
   EXPECT_EQ(followed, 100);
 }
 
-// What is missing is what lay below the failure, nothing else.
+// What is missing is what lay below the failure, nothing else. The root is opened first, then the
+// folders above it; then its listing begins.
 TEST_F(LoadingTest, FailingAtEveryPointLosesOnlyWhatCouldNotBeRead) {
-  const auto fill = [](FakeListing& listing) {
-    listing.add_comb(kPhotos, 15);
-    listing.add(L"D:\\Lib\\Photos\\z\\y");
-  };
-  fill(listing_);
-  load();
-  const int count = listing_.operations();
-  for (int failing = 1; failing <= count; ++failing) {
-    FakeListing listing;
-    fill(listing);
-    listing.fail_at(failing);
-    TreeModel model;
-    const bool loaded = load_folders(model, listing, kPhotos, nullptr);
-    ASSERT_TRUE(listing.failure());
-    const auto& failure = *listing.failure();
-    // The root is opened first, then the two folders above it; then its listing begins.
-    EXPECT_EQ(loaded, failing != 1 && failing != 4) << failing;
-    EXPECT_EQ(listing.open_folders(), 0);
-    if (failure.folder.starts_with(kPhotos)) {
-      EXPECT_EQ(model.find(failure.folder.c_str())->children().size(), failure.names) << failing;
-    }
-    std::vector<const _NODE*> left = {&model_.root()};
-    while (!left.empty()) {
-      const _NODE& node = *left.back();
-      left.pop_back();
-      const std::wstring path = model_.path_of(&node).AsStdString();
-      const bool is_below = path.starts_with(failure.folder + L'\\');
-      if (!is_below && !model.find(path.c_str())) ADD_FAILURE() << failing << " loses too much";
-      for (const _NODE& child : node.children()) left.push_back(&child);
-    }
+  for (const wchar_t* path : {L"\\a\\b", L"\\c", L"\\d\\e"})
+    listing_.add(kPhotos + std::wstring(path));
+  std::wstring outcomes;
+  for (int failing = 1; listing_.has_failed(); ++failing) {
+    listing_.fail_at(failing);
+    std::wstring tree = load();
+    std::replace(tree.begin(), tree.end(), L'\n', L',');
+    outcomes += std::to_wstring(failing) + (loaded_ ? L": " : L" failed: ") + tree + L'\n';
   }
+  std::wifstream expected(source_folder() / "tests/trees/failures.txt");
+  EXPECT_EQ(outcomes, std::wstring(std::istreambuf_iterator<wchar_t>(expected), {}));
 }
 
-class RealLoadingTest : public testing::Test {
- protected:
-  bool load() {
-    const auto listing = system_folder_listing();
-    return load_folders(model_, *listing, folder_.wide().c_str(), nullptr);
-  }
-
-  TemporaryFolder folder_{TemporaryFolder::Place::memory};
-  TreeModel model_;
-};
-
-TEST_F(RealLoadingTest, OddNamesLinksAndFiles) {
+TEST(RealLoading, OddNamesLinksFilesAndAChainOfFiveThousandFolders) {
+  const TemporaryFolder disk(TemporaryFolder::Place::memory);
   const std::string deepest =
       "only/2024年/旅行/line\nbreak/back\\slash/\xFF/" + std::string(255, 'n');
-  std::filesystem::create_directories(folder_ / deepest);
-  folder_.folder("only/.hidden");
-  folder_.file("only/photo.jpg");
-  std::filesystem::create_directory_symlink("..", folder_ / deepest / "up");
-  EXPECT_TRUE(load());
+  std::filesystem::create_directories(disk / deepest);
+  disk.folder("only/.hidden");
+  disk.file("only/photo.jpg");
+  std::filesystem::create_directory_symlink("..", disk / deepest / "up");
+  TreeModel model;
+  EXPECT_TRUE(
+      load_folders(model, *system_folder_listing(), (disk.wide() + L"\\only").c_str(), nullptr));
   EXPECT_EQ(
-      tree_text(model_.root().children().front()),
-      L"only 1\n 2024年 2\n  旅行 3\n   line\nbreak 4\n    back\xF75Cslash 5\n     \xF7FF 6\n" +
-          (L"      " + std::wstring(255, L'n') + L" 7\n       up 8\n"));
-}
+      tree_text(model),
+      L"-only 0\n 2024年 1\n  旅行 2\n   line\nbreak 3\n    back\xF75Cslash 4\n     \xF7FF 5\n" +
+          (L"      " + std::wstring(255, L'n') + L" 6\n       up 7\n"));
 
-TEST_F(RealLoadingTest, AChainOfFiveThousandFolders) {
-  constexpr int depth = 5000;
-  folder_.chain("chain", depth);
-  EXPECT_TRUE(load());
-  const _NODE* node = &model_.root();
+  constexpr int kDepth = 5000;
+  disk.chain("chain", kDepth);
+  const std::wstring chain = disk.wide() + L"\\chain";
+  EXPECT_TRUE(load_folders(model, *system_folder_listing(), chain.c_str(), nullptr));
+  const _NODE* node = &model.root();
   while (!node->children().empty()) node = &node->children().front();
-  EXPECT_EQ(node->level(), depth);
-  model_.remove_all();
+  EXPECT_EQ(node->level(), kDepth - 1);
 }
 
 }  // namespace

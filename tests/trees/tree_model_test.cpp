@@ -149,16 +149,5 @@ TEST_F(TreeModelTest, RemovesANodeByItsPathAndMovesTheCurrentPath) {
   }
 }
 
-TEST_F(TreeModelTest, RemovingANodeLeavesThePaths) {
-  model_.set_current_path(L"D:\\Lib\\Photos\\a");
-  EXPECT_TRUE(model_.remove(a_));
-  EXPECT_EQ(tree_text(model_), L"-Photos 0\n");
-  EXPECT_FALSE(model_.remove(static_cast<_NODE*>(nullptr)));
-  EXPECT_TRUE(model_.remove(root_));
-  EXPECT_TRUE(model_.empty());
-  EXPECT_EQ(model_.current_path(), L"D:\\Lib\\Photos\\a");
-  EXPECT_EQ(model_.base_path(), L"D:\\Lib");
-}
-
 }  // namespace
 }  // namespace corvane::test

@@ -1,27 +1,21 @@
 #include "tests/trees/support/fake_listing.h"
 
-namespace corvane::test {
+#include <functional>
 
-using corvane::FolderIdentity;
-using corvane::OpenFolder;
+namespace corvane::test {
 
 class FakeFolder : public OpenFolder {
  public:
-  FakeFolder(FakeListing& listing, std::wstring path)
-      : listing_(listing), path_(std::move(path)), identity_(listing.identities_.at(path_)) {
-    ++listing_.open_;
-  }
-  ~FakeFolder() override { --listing_.open_; }
+  FakeFolder(FakeListing& listing, std::wstring path) : listing_(listing), path_(std::move(path)) {}
 
-  FolderIdentity identity() const override { return {1, identity_}; }
+  FolderIdentity identity() const override { return {1, std::hash<std::wstring>()(path_)}; }
 
-  bool list_folders(const corvane::FoundFolder& found) override {
-    if (listing_.fails(path_, 0)) return false;
-    std::size_t count = 0;
+  bool list_folders(const FoundFolder& found) override {
+    if (listing_.fails()) return false;
     for (const std::wstring& name : listing_.names_.at(path_)) {
-      if (listing_.fails(path_, count++)) break;
-      const bool is_link = listing_.links_.count(path_ + L'\\' + name) > 0;
-      found(name, is_link ? corvane::FolderKind::link : corvane::FolderKind::folder);
+      if (listing_.fails()) break;
+      const bool is_link = listing_.links_.contains(path_ + L'\\' + name);
+      found(name, is_link ? FolderKind::link : FolderKind::folder);
     }
     return true;
   }
@@ -33,18 +27,14 @@ class FakeFolder : public OpenFolder {
  private:
   FakeListing& listing_;
   std::wstring path_;
-  std::uint64_t identity_;
 };
 
 void FakeListing::add(const std::wstring& path) {
-  if (names_.count(path)) return;
+  if (!names_.try_emplace(path).second) return;
   const std::size_t separator = path.rfind(L'\\');
-  if (separator != std::wstring::npos) {
-    add(path.substr(0, separator));
-    names_[path.substr(0, separator)].push_back(path.substr(separator + 1));
-  }
-  names_[path];
-  identities_[path] = ++last_identity_;
+  if (separator == std::wstring::npos) return;
+  add(path.substr(0, separator));
+  names_[path.substr(0, separator)].push_back(path.substr(separator + 1));
 }
 
 void FakeListing::add_link(const std::wstring& path, const std::wstring& target) {
@@ -52,32 +42,17 @@ void FakeListing::add_link(const std::wstring& path, const std::wstring& target)
   links_[path] = target;
 }
 
-void FakeListing::add_comb(const std::wstring& path, int depth) {
-  std::wstring inner = path;
-  for (int level = 0; level < depth; ++level) {
-    add(inner + L"\\d");
-    add(inner + L"\\last");
-    inner += L"\\d";
-  }
-}
-
 std::unique_ptr<OpenFolder> FakeListing::open(const wchar_t* path) {
   std::wstring folder = path;
-  while (!names_.count(folder) && folder.ends_with(L'\\')) folder.pop_back();
+  while (!names_.contains(folder) && folder.ends_with(L'\\')) folder.pop_back();
   return open_path(folder);
 }
 
 std::unique_ptr<OpenFolder> FakeListing::open_path(std::wstring path) {
-  if (fails(path, 0)) return nullptr;
+  if (fails()) return nullptr;
   if (const auto link = links_.find(path); link != links_.end()) path = link->second;
-  if (!names_.count(path)) return nullptr;
+  if (!names_.contains(path)) return nullptr;
   return std::make_unique<FakeFolder>(*this, path);
-}
-
-bool FakeListing::fails(const std::wstring& folder, std::size_t names) {
-  if (++operations_ != failing_) return false;
-  failure_ = {folder, names};
-  return true;
 }
 
 }  // namespace corvane::test

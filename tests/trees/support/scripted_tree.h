@@ -7,15 +7,18 @@
 namespace corvane::test {
 
 // Its scroll bar keeps the loop while the mouse button is held; a step follows each message of it.
-class ScriptedTree : public corvane::CTreeCtrlEx2 {
+// Keeps the keys that have come through to it.
+class ScriptedTree : public CTreeCtrlEx2 {
  public:
   ~ScriptedTree() override { DestroyWindow(); }
   std::vector<std::function<void()>> steps;  // one for each WM_VSCROLL
+  std::vector<WPARAM> keys;
 
  protected:
   LRESULT WindowProc(UINT message, WPARAM wparam, LPARAM lparam) override {
     if (message == WM_VSCROLL && next_ < steps.size()) steps[next_++]();
-    return corvane::CTreeCtrlEx2::WindowProc(message, wparam, lparam);
+    if (message == WM_KEYDOWN || message == WM_KEYUP) keys.push_back(wparam);
+    return CTreeCtrlEx2::WindowProc(message, wparam, lparam);
   }
 
  private:
