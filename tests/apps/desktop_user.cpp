@@ -21,8 +21,6 @@ void Tool(const std::string& arguments) {
   [[maybe_unused]] int status = std::system(("xdotool " + arguments).c_str());
 }
 
-int Channel(std::uint32_t color, int shift) { return static_cast<int>((color >> shift) & 0xFF); }
-
 }  // namespace
 
 DesktopUser::DesktopUser(const std::string& program, const std::string& picture) {
@@ -57,29 +55,38 @@ bool DesktopUser::SeesWindow(const std::string& title) {
 
 bool DesktopUser::SeesPixel(POINT point, std::uint32_t color, int tolerance) const {
   return Waits([&] {
-    std::uint32_t seen = Pixel(point);
-    for (int shift : {0, 8, 16}) {
-      if (std::abs(Channel(seen, shift) - Channel(color, shift)) > tolerance) return false;
-    }
-    return true;
+    const std::uint32_t seen = screen_.pixel(window_, point.x, point.y);
+    const auto differs = [&](int shift) {
+      const int difference = static_cast<int>((seen >> shift & 0xFF) - (color >> shift & 0xFF));
+      return std::abs(difference) > tolerance;
+    };
+    return !differs(0) && !differs(8) && !differs(16);
   });
 }
 
-void DesktopUser::MoveTo(POINT point) const {
-  auto place = Place();
-  Tool("mousemove " + std::to_string(place.x + point.x) + " " + std::to_string(place.y + point.y));
+void DesktopUser::MoveTo(POINT point) {
+  if (!pressed_) place_ = Place();
+  Tool("mousemove " + std::to_string(place_.x + point.x) + " " +
+       std::to_string(place_.y + point.y));
 }
 
-void DesktopUser::Press() const { Tool("mousedown 1"); }
-void DesktopUser::Release() const { Tool("mouseup 1"); }
+void DesktopUser::Press() {
+  Tool("mousedown 1");
+  pressed_ = true;
+}
 
-void DesktopUser::Click(POINT point) const {
+void DesktopUser::Release() {
+  Tool("mouseup 1");
+  pressed_ = false;
+}
+
+void DesktopUser::Click(POINT point) {
   MoveTo(point);
   Press();
   Release();
 }
 
-void DesktopUser::Drag(POINT from, POINT to) const {
+void DesktopUser::Drag(POINT from, POINT to) {
   MoveTo(from);
   Press();
   for (int i = 1; i <= kStepsOfADrag; ++i) {

@@ -4,8 +4,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <fstream>
-
 #include "corvane/platform/base_services/system_paths.h"
 #include "tests/support/temporary_folder.h"
 
@@ -13,7 +11,6 @@ namespace capture {
 namespace {
 
 using corvane::test::TemporaryFolder;
-
 using testing::ElementsAre;
 
 TEST(PictureEnding, IsKnownInAnyCase) {
@@ -26,19 +23,20 @@ TEST(PictureEnding, IsKnownInAnyCase) {
 }
 
 TEST(NameFrom, GoesRoundAndStandsBetweenNeighboursWhenItIsNotThere) {
-  const std::vector<std::wstring> names = {L"a", L"c", L"甲"};
+  const std::vector<std::wstring> some = {L"a", L"c", L"甲"};
+  const std::vector<std::wstring> one = {L"only"};
   const struct {
+    const std::vector<std::wstring>& names;
     const wchar_t* from;
     int step;
     const wchar_t* to;
-  } cases[] = {{L"a", 1, L"c"},  {L"a", -1, L"甲"}, {L"甲", 1, L"a"}, {L"b", 1, L"c"},
-               {L"b", -1, L"a"}, {L"", 1, L"a"},    {L"", -1, L"甲"}};
+  } cases[] = {{some, L"a", 1, L"c"},  {some, L"a", -1, L"甲"}, {some, L"甲", 1, L"a"},
+               {some, L"b", 1, L"c"},  {some, L"b", -1, L"a"},  {some, L"", 1, L"a"},
+               {some, L"", -1, L"甲"}, {one, L"only", 1, L""},  {one, L"gone", 1, L"only"},
+               {{}, L"gone", -1, L""}};
   for (const auto& each : cases) {
-    EXPECT_EQ(name_from(names, each.from, each.step), each.to);
+    EXPECT_EQ(name_from(each.names, each.from, each.step), each.to);
   }
-  EXPECT_EQ(name_from({L"only"}, L"only", 1), L"");
-  EXPECT_EQ(name_from({L"only"}, L"gone", 1), L"only");
-  EXPECT_EQ(name_from({}, L"gone", -1), L"");
 }
 
 TEST(LiesIn, CountsWholeNames) {
@@ -48,38 +46,31 @@ TEST(LiesIn, CountsWholeNames) {
   EXPECT_FALSE(lies_in(L"Z:\\lib", L"Z:"));
 }
 
-class LibraryFolders : public testing::Test {
- protected:
-  void Make(const std::string& path) {
-    std::filesystem::create_directories((folder_ / path).parent_path());
-    std::ofstream(folder_ / path) << "a file";
+TEST(LibraryFolders, AreReadInOrderAndWithoutWhatIsHiddenOrLinked) {
+  const TemporaryFolder folder;
+  for (const char* path : {"乙/x", "甲/x", "b_10.png", "b_2.png", "b_02.png", "b.png", "a.JPG",
+                           "notes.txt", ".hidden/x"}) {
+    folder.file(path);
   }
-  std::wstring root() const { return corvane::wide_path_of(folder_.path()); }
-
-  TemporaryFolder folder_;
-};
-
-TEST_F(LibraryFolders, AreReadInOrderAndWithoutWhatIsHiddenOrLinked) {
-  for (const char* path :
-       {"乙/x", "甲/x", "b_10.png", "b_2.png", "a.JPG", "notes.txt", ".hidden/x"})
-    Make(path);
-  std::filesystem::create_directory_symlink(folder_.path(), folder_ / "link");
-  auto entries = read_folder(root());
+  folder.link("link", ".");
+  const auto entries = read_folder(folder.wide());
   ASSERT_TRUE(entries);
   EXPECT_THAT(entries->folders, ElementsAre(L"乙", L"甲"));
-  EXPECT_THAT(entries->pictures, ElementsAre(L"a.JPG", L"b_2.png", L"b_10.png"));
-  EXPECT_FALSE(read_folder(root() + L"\\missing"));
-  EXPECT_FALSE(read_folder(root() + L"\\notes.txt"));
+  EXPECT_THAT(entries->pictures,
+              ElementsAre(L"a.JPG", L"b.png", L"b_02.png", L"b_2.png", L"b_10.png"));
+  EXPECT_FALSE(read_folder(folder.wide() + L"\\missing"));
+  EXPECT_FALSE(read_folder(folder.wide() + L"\\notes.txt"));
 }
 
-TEST_F(LibraryFolders, TheFirstOneWithPicturesIsFoundFromTheTopInOrder) {
-  EXPECT_EQ(first_folder_with_pictures(root()), L"");
-  Make("c/late.png");
-  Make("b/deep/deeper/first.png");
-  Make("a/notes.txt");
-  EXPECT_EQ(first_folder_with_pictures(root()), root() + L"\\b\\deep\\deeper");
-  Make("top.png");
-  EXPECT_EQ(first_folder_with_pictures(root()), root());
+TEST(LibraryFolders, TheFirstOneWithPicturesIsFoundFromTheTopInOrder) {
+  const TemporaryFolder folder;
+  EXPECT_EQ(first_folder_with_pictures(folder.wide()), L"");
+  for (const char* path : {"c/late.png", "b/deep/deeper/first.png", "a/notes.txt"}) {
+    folder.file(path);
+  }
+  EXPECT_EQ(first_folder_with_pictures(folder.wide()), folder.wide() + L"\\b\\deep\\deeper");
+  folder.file("top.png");
+  EXPECT_EQ(first_folder_with_pictures(folder.wide()), folder.wide());
 }
 
 }  // namespace

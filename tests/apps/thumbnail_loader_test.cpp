@@ -5,10 +5,9 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
-#include <fstream>
 #include <future>
+#include <semaphore>
 
-#include "corvane/platform/base_services/system_paths.h"
 #include "tests/apps/test_pictures.h"
 #include "tests/support/source_folder.h"
 #include "tests/support/temporary_folder.h"
@@ -17,7 +16,6 @@ namespace capture {
 namespace {
 
 using corvane::test::TemporaryFolder;
-
 using testing::ElementsAre;
 
 constexpr auto kPatience = std::chrono::seconds(20);
@@ -28,33 +26,22 @@ std::vector<ThumbnailRequest> Requests(const std::vector<std::wstring>& names) {
   return requests;
 }
 
-// Takes until that many have come; counts how often the loader called.
+// Takes until that many have come.
 class Collector {
  public:
   std::function<void()> Ready() {
-    return [this] {
-      std::lock_guard guard(lock_);
-      ++calls_;
-      called_.notify_one();
-    };
+    return [this] { calls_.release(); };
   }
   std::vector<LoadedThumbnail> Take(CThumbnailLoader& loader, std::size_t count) {
     std::vector<LoadedThumbnail> taken;
-    while (taken.size() < count) {
-      {
-        std::unique_lock guard(lock_);
-        if (!called_.wait_for(guard, kPatience, [this] { return calls_ > 0; })) break;
-        calls_ = 0;
-      }
+    while (taken.size() < count && calls_.try_acquire_for(kPatience)) {
       for (LoadedThumbnail& loaded : loader.TakeLoaded()) taken.push_back(std::move(loaded));
     }
     return taken;
   }
 
  private:
-  std::mutex lock_;
-  std::condition_variable called_;
-  int calls_ = 0;
+  std::counting_semaphore<> calls_{0};
 };
 
 std::vector<std::wstring> Names(const std::vector<LoadedThumbnail>& loaded) {
@@ -95,27 +82,20 @@ class HeldDecoding {
   std::atomic<bool> stopped_ = false;
 };
 
-TEST(ThumbnailLoader, GivesUpWhatIsNoLongerWished) {
-  HeldDecoding decoding;
-  Collector collector;
-  CThumbnailLoader loader(decoding.Decode(), collector.Ready());
-  loader.Want(Requests({L"slow", L"never"}));
-  decoding.WaitUntilBegun();
-  loader.Want(Requests({L"new"}));
-  EXPECT_THAT(Names(collector.Take(loader, 1)), ElementsAre(L"new"));
-  EXPECT_TRUE(decoding.stopped_);
-}
-
-TEST(ThumbnailLoader, GoesOnWithWhatIsWishedAgain) {
-  HeldDecoding decoding;
-  Collector collector;
-  CThumbnailLoader loader(decoding.Decode(), collector.Ready());
-  loader.Want(Requests({L"slow"}));
-  decoding.WaitUntilBegun();
-  loader.Want(Requests({L"new", L"slow"}));
-  decoding.go_on_ = true;
-  EXPECT_THAT(Names(collector.Take(loader, 2)), ElementsAre(L"slow", L"new"));
-  EXPECT_FALSE(decoding.stopped_);
+TEST(ThumbnailLoader, GivesUpWhatIsNoLongerWishedAndGoesOnWithWhatIsWishedAgain) {
+  for (const bool wished_again : {false, true}) {
+    HeldDecoding decoding;
+    Collector collector;
+    CThumbnailLoader loader(decoding.Decode(), collector.Ready());
+    loader.Want(Requests({L"slow", L"never"}));
+    decoding.WaitUntilBegun();
+    loader.Want(wished_again ? Requests({L"new", L"slow"}) : Requests({L"new"}));
+    decoding.go_on_ = wished_again;
+    const std::vector<std::wstring> kept = {L"slow", L"new"};
+    EXPECT_THAT(Names(collector.Take(loader, wished_again ? 2 : 1)),
+                testing::ElementsAreArray(kept.begin() + (wished_again ? 0 : 1), kept.end()));
+    EXPECT_EQ(decoding.stopped_, !wished_again);
+  }
 }
 
 TEST(ThumbnailLoader, EndsWithoutWaitingForTheDecoding) {
@@ -130,34 +110,30 @@ TEST(ThumbnailLoader, EndsWithoutWaitingForTheDecoding) {
 
 // Pictures at once with a user-interface thread that decodes too: what ThreadSanitizer looks at.
 TEST(ThumbnailLoader, DecodesRealPicturesBesideTheUserInterface) {
-  TemporaryFolder folder;
+  const TemporaryFolder folder;
   std::vector<ThumbnailRequest> requests;
-  std::wstring wide_folder = corvane::wide_path_of(folder.path());
   for (int i = 0; i < 12; ++i) {
-    std::string name = std::to_string(i) + ".png";
-    WriteTestPicture(folder / name, 300 + i, 200);
-    requests.push_back({wide_folder, corvane::wide_path_of(name), {90, 90}});
+    WriteTestPicture(folder / (std::to_string(i) + ".png"), 300 + i, 200);
+    requests.push_back({folder.wide(), std::to_wstring(i) + L".png", {90, 90}});
   }
   std::filesystem::copy(corvane::test::source_folder() / "apps/capture/sample/sample_page.jpg",
                         folder / "7.jpg");
-  requests.push_back({wide_folder, L"7.jpg", {90, 90}});
-  std::ofstream(folder / "broken.png") << "no picture";
-  requests.push_back({wide_folder, L"broken.png", {90, 90}});
-  requests.push_back({wide_folder, L"missing.png", {90, 90}});
+  folder.file("broken.png", "no picture");
+  for (const wchar_t* name : {L"7.jpg", L"broken.png", L"missing.png"}) {
+    requests.push_back({folder.wide(), name, {90, 90}});
+  }
   Collector collector;
   CThumbnailLoader loader(decode_thumbnail, collector.Ready());
   loader.Want(requests);
-  for (int i = 0; i < 12; ++i) {
-    Gdiplus::Image whole(
-        (wide_folder + L"\\" + requests[static_cast<std::size_t>(i)].name).c_str());
-    EXPECT_EQ(whole.GetWidth(), 300u + static_cast<UINT>(i));
+  for (UINT i = 0; i < 12; ++i) {
+    Gdiplus::Image whole((folder.wide() + L"\\" + requests[i].name).c_str());
+    EXPECT_EQ(whole.GetWidth(), 300 + i);
   }
-  std::vector<LoadedThumbnail> loaded = collector.Take(loader, requests.size());
+  const std::vector<LoadedThumbnail> loaded = collector.Take(loader, requests.size());
   ASSERT_EQ(loaded.size(), requests.size());
   for (const LoadedThumbnail& each : loaded) {
-    bool readable = each.request.name[0] <= L'9';
-    ASSERT_EQ(each.thumbnail != nullptr, readable);
-    if (!readable) continue;
+    ASSERT_EQ(each.thumbnail != nullptr, each.request.name[0] <= L'9');
+    if (each.thumbnail == nullptr) continue;
     EXPECT_EQ(each.thumbnail->GetWidth(), 90u);
     EXPECT_LT(each.thumbnail->GetHeight(), 69u);
   }
