@@ -7,11 +7,13 @@
 #include "apps/capture/thumbnail_cache.h"
 #include "apps/capture/thumbnail_order.h"
 #include "apps/capture/window_layout.h"
+#include "tests/support/rects.h"
 
 namespace capture {
 namespace {
 
-using testing::ElementsAre;
+using corvane::test::is_rect;
+using corvane::test::same_rect;
 
 CStripLayout Strip(int count, SIZE area = {1000, 144}) {
   CStripLayout layout;
@@ -25,25 +27,37 @@ POINT MiddleOf(const RECT& rect) {
 }
 
 TEST(StripLayout, PicturesAndNamesStandInTheirCellsAndCellsSideBySide) {
-  for (SIZE area : {SIZE{1000, 144}, SIZE{3000, 200}, SIZE{200, 104}}) {
-    CStripLayout layout = Strip(50, area);
-    for (int cell : {0, 1, 49}) {
-      RECT place = layout.Cell(cell);
-      RECT picture = layout.Picture(cell);
-      RECT name = layout.Name(cell);
-      SIZE box = layout.PictureBox();
-      EXPECT_EQ(picture.right - picture.left, box.cx);
-      EXPECT_EQ(picture.bottom - picture.top, box.cy);
-      EXPECT_LT(place.left, picture.left);
-      EXPECT_GT(place.right, picture.right);
-      EXPECT_LE(picture.bottom, name.top);
-      EXPECT_LE(name.bottom, place.bottom);
-      EXPECT_LE(place.bottom, layout.ScrollTrack().top);
-      EXPECT_EQ(layout.CellAt(MiddleOf(place)), place.left < area.cx ? cell : -1);
-    }
-    EXPECT_LT(layout.Cell(0).right, layout.Cell(1).left) << "a gap";
-    EXPECT_EQ(layout.CellAt({layout.Cell(0).right + 1, 40}), -1);
-    EXPECT_LE(layout.ScrollTrack().bottom, area.cy);
+  const struct {
+    SIZE area;
+    RECT cell;
+    RECT picture;
+    RECT name;
+    LONG next_cell;
+    RECT track;
+  } cases[] = {
+      {{1000, 144},
+       {10, 10, 136, 130},
+       {16, 16, 130, 102},
+       {16, 105, 130, 127},
+       142,
+       {10, 134, 990, 140}},
+      {{3000, 200},
+       {10, 10, 211, 186},
+       {16, 16, 205, 158},
+       {16, 161, 205, 183},
+       217,
+       {10, 190, 2990, 196}},
+      {{200, 60}, {10, 10, 54, 68}, {16, 16, 48, 40}, {16, 43, 48, 65}, 60, {10, 50, 190, 56}}};
+  for (const auto& each : cases) {
+    const CStripLayout layout = Strip(100, each.area);
+    EXPECT_THAT(layout.Cell(0), same_rect(each.cell));
+    EXPECT_THAT(layout.Picture(0), same_rect(each.picture));
+    EXPECT_THAT(layout.Name(0), same_rect(each.name));
+    EXPECT_THAT(layout.Cell(1), is_rect(each.next_cell, 10, each.next_cell + each.cell.right - 10,
+                                        each.cell.bottom));
+    EXPECT_THAT(layout.ScrollTrack(), same_rect(each.track));
+    EXPECT_EQ(layout.CellAt({each.next_cell, 10}), 1);
+    EXPECT_EQ(layout.CellAt({each.cell.right, 40}), -1) << "a gap";
   }
 }
 
@@ -66,13 +80,12 @@ TEST(StripLayout, VisibleCellsAreExactlyThoseThatTouchTheArea) {
   CStripLayout layout = Strip(40);
   for (int scroll = 0; scroll <= layout.ScrollLimit(); scroll += 13) {
     layout.ScrollTo(scroll);
-    CellRange visible = layout.Visible();
+    const CellRange visible = layout.Visible();
     for (int cell = 0; cell < 40; ++cell) {
-      RECT place = layout.Cell(cell);
-      bool touches = place.right > 0 && place.left < 1000;
-      bool drawn = cell >= visible.first && cell < visible.last;
-      EXPECT_TRUE(drawn || !touches) << "cell " << cell << " at scroll " << scroll;
-      EXPECT_TRUE(!drawn || place.right > -layout.CellWidth()) << "cell " << cell;
+      const RECT place = layout.Cell(cell);  // the gap behind it belongs to it
+      EXPECT_EQ(place.right + 6 > 0 && place.left < 1000,
+                cell >= visible.first && cell < visible.last)
+          << "cell " << cell << " at scroll " << scroll;
     }
   }
 }
@@ -107,31 +120,33 @@ TEST(StripLayout, NothingAndTooLittleRoomAreHarmless) {
 }
 
 TEST(StripGesture, AShakyClickIsAClickAndADragIsNone) {
-  CStripLayout layout = Strip(40);
-  CStripGesture gesture;
-  POINT start = MiddleOf(layout.Cell(3));
-  gesture.Press(layout, start);
-  gesture.Move(layout, {start.x + 3, start.y});
-  EXPECT_EQ(gesture.Release(layout, {start.x + 3, start.y}), 3);
-  EXPECT_EQ(layout.scroll(), 0);
-  gesture.Press(layout, start);
-  gesture.Move(layout, {start.x - 100, start.y});
-  EXPECT_EQ(layout.scroll(), 100) << "the row follows the pointer";
-  gesture.Move(layout, start);
-  EXPECT_EQ(layout.scroll(), 0);
-  EXPECT_EQ(gesture.Release(layout, start), -1) << "it was dragged, though it came back";
-  EXPECT_EQ(gesture.Release(layout, start), -1) << "nothing is pressed";
+  const struct {
+    std::vector<LONG> ways;  // from the middle of the third cell; the last one is the release's
+    int scroll;
+    int clicked;
+  } cases[] = {{{0}, 0, 3},       {{4}, 0, 3},        {{-4}, 0, 3},   {{-5}, 5, -1},
+               {{-100}, 100, -1}, {{-100, 0}, 0, -1}, {{5, 0}, 0, -1}};
+  for (const auto& each : cases) {
+    CStripLayout layout = Strip(40);
+    CStripGesture gesture;
+    const POINT start = MiddleOf(layout.Cell(3));
+    gesture.Press(layout, start);
+    for (const LONG way : each.ways) gesture.Move(layout, {start.x + way, start.y});
+    EXPECT_EQ(layout.scroll(), each.scroll) << "the row follows the pointer";
+    const POINT end = {start.x + each.ways.back(), start.y};
+    EXPECT_EQ(gesture.Release(layout, end), each.clicked) << each.ways.back();
+    EXPECT_EQ(gesture.Release(layout, end), -1) << "nothing is pressed";
+  }
 }
 
 TEST(StripGesture, ReleasingElsewhereOrLosingTheMouseIsNoClick) {
   CStripLayout layout = Strip(40);
   CStripGesture gesture;
-  POINT start = MiddleOf(layout.Cell(3));
-  gesture.Press(layout, start);
+  gesture.Press(layout, MiddleOf(layout.Cell(3)));
   EXPECT_EQ(gesture.Release(layout, MiddleOf(layout.Cell(4))), -1);
-  gesture.Press(layout, start);
+  gesture.Press(layout, MiddleOf(layout.Cell(3)));
   gesture.Cancel();
-  EXPECT_EQ(gesture.Release(layout, start), -1);
+  EXPECT_EQ(gesture.Release(layout, MiddleOf(layout.Cell(3))), -1);
 }
 
 TEST(StripGesture, TheScrollMarkGoesWhereTheMouseIs) {
@@ -173,21 +188,16 @@ TEST(WindowLayout, ThePartsFillTheWindowWithoutOverlap) {
   const struct {
     SIZE client;
     LONG library_width, strip_height;
-  } cases[] = {{{1280, 800}, 260, 144},
-               {{3840, 2160}, 420, 260},
-               {{640, 480}, 160, 104},
-               {{300, 240}, 0, 0},
-               {{10, 10}, 0, 0}};
+  } cases[] = {{{1280, 800}, 260, 144}, {{3840, 2160}, 420, 260}, {{640, 480}, 160, 104},
+               {{360, 380}, 160, 104},  {{359, 379}, 0, 0},       {{10, 10}, 0, 0}};
   for (const auto& each : cases) {
-    SCOPED_TRACE(testing::Message() << each.client.cx << " x " << each.client.cy);
-    WindowLayout layout = lay_out(each.client, 76);
-    EXPECT_EQ(layout.library.right - layout.library.left, each.library_width);
-    EXPECT_EQ(layout.strip.bottom - layout.strip.top, each.strip_height);
-    EXPECT_EQ(layout.stage.left, layout.library.right);
-    EXPECT_EQ(layout.stage.bottom, layout.strip.top);
-    EXPECT_EQ(layout.stage.right, each.client.cx);
-    EXPECT_EQ(layout.strip.bottom, each.client.cy);
-    EXPECT_LE(layout.stage.top, layout.stage.bottom);
+    const auto [width, height] = each.client;
+    const WindowLayout layout = lay_out(each.client, 76);
+    const LONG top = std::min<LONG>(76, height);
+    const LONG bottom = height - each.strip_height;
+    EXPECT_THAT(layout.library, is_rect(0, top, each.library_width, height));
+    EXPECT_THAT(layout.stage, is_rect(each.library_width, top, width, bottom));
+    EXPECT_THAT(layout.strip, is_rect(each.library_width, bottom, width, height));
   }
 }
 
