@@ -4,6 +4,7 @@
 #include <spawn.h>
 #include <sys/wait.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdlib>
 #include <thread>
@@ -15,7 +16,6 @@ namespace {
 
 constexpr auto kPatience = std::chrono::seconds(10);
 constexpr auto kLook = std::chrono::milliseconds(10);
-constexpr int kStepsOfADrag = 10;
 
 void Tool(const std::string& arguments) {
   [[maybe_unused]] int status = std::system(("xdotool " + arguments).c_str());
@@ -56,11 +56,12 @@ bool DesktopUser::SeesWindow(const std::string& title) {
 bool DesktopUser::SeesPixel(POINT point, std::uint32_t color, int tolerance) const {
   return Waits([&] {
     const std::uint32_t seen = screen_.pixel(window_, point.x, point.y);
-    const auto differs = [&](int shift) {
-      const int difference = static_cast<int>((seen >> shift & 0xFF) - (color >> shift & 0xFF));
-      return std::abs(difference) > tolerance;
-    };
-    return !differs(0) && !differs(8) && !differs(16);
+    int difference = 0;
+    for (const int shift : {0, 8, 16}) {
+      const auto of_channel = static_cast<int>((seen >> shift & 0xFF) - (color >> shift & 0xFF));
+      difference = std::max(difference, std::abs(of_channel));
+    }
+    return difference <= tolerance;
   });
 }
 
@@ -89,10 +90,8 @@ void DesktopUser::Click(POINT point) {
 void DesktopUser::Drag(POINT from, POINT to) {
   MoveTo(from);
   Press();
-  for (int i = 1; i <= kStepsOfADrag; ++i) {
-    MoveTo({from.x + (to.x - from.x) * i / kStepsOfADrag,
-            from.y + (to.y - from.y) * i / kStepsOfADrag});
-  }
+  MoveTo({(from.x + to.x) / 2, (from.y + to.y) / 2});
+  MoveTo(to);
   Release();
 }
 

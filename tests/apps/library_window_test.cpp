@@ -202,15 +202,10 @@ TEST_F(LibraryWindow, AFolderThatVanishedIsLeftForTheNearestOneAbove) {
   EXPECT_THAT(Notice(), HasSubstr("上旬"));
   EXPECT_THAT(Strip().names(), ElementsAre(L"page.png", L"page_1.png"));
   EXPECT_EQ(Tree().ListSort(), 2 * kRow) << "the tree no longer shows it";
-}
-
-TEST_F(LibraryWindow, ALibraryThatVanishedTakesNoCrops) {
-  Start();
   std::filesystem::remove_all(library_);
   CropAndSave();
-  EXPECT_EQ(window_.last_saved(), L"");
   EXPECT_THAT(Notice(), HasSubstr("无法保存"));
-  EXPECT_TRUE(std::filesystem::is_empty(folder_.path()));
+  EXPECT_TRUE(std::filesystem::is_empty(folder_.path())) << "a library that vanished takes none";
 }
 
 TEST_F(LibraryWindow, WithoutPicturesItSaysSoAndEveryButtonIsHarmless) {

@@ -1,6 +1,9 @@
 // Where a strip's pictures stand, what the mouse does to them, which thumbnails are loaded.
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+#include <sstream>
 
 #include "apps/capture/strip_gesture.h"
 #include "apps/capture/strip_layout.h"
@@ -8,12 +11,13 @@
 #include "apps/capture/thumbnail_order.h"
 #include "apps/capture/window_layout.h"
 #include "tests/support/rects.h"
+#include "tests/support/source_folder.h"
 
 namespace capture {
 namespace {
 
-using corvane::test::is_rect;
-using corvane::test::same_rect;
+using corvane::test::source_folder;
+using corvane::test::text_of;
 
 CStripLayout Strip(int count, SIZE area = {1000, 144}) {
   CStripLayout layout;
@@ -26,54 +30,42 @@ POINT MiddleOf(const RECT& rect) {
   return {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
 }
 
-TEST(StripLayout, PicturesAndNamesStandInTheirCellsAndCellsSideBySide) {
-  const struct {
-    SIZE area;
-    RECT cell;
-    RECT picture;
-    RECT name;
-    LONG next_cell;
-    RECT track;
-  } cases[] = {
-      {{1000, 144},
-       {10, 10, 136, 130},
-       {16, 16, 130, 102},
-       {16, 105, 130, 127},
-       142,
-       {10, 134, 990, 140}},
-      {{3000, 200},
-       {10, 10, 211, 186},
-       {16, 16, 205, 158},
-       {16, 161, 205, 183},
-       217,
-       {10, 190, 2990, 196}},
-      {{200, 60}, {10, 10, 54, 68}, {16, 16, 48, 40}, {16, 43, 48, 65}, 60, {10, 50, 190, 56}}};
-  for (const auto& each : cases) {
-    const CStripLayout layout = Strip(100, each.area);
-    EXPECT_THAT(layout.Cell(0), same_rect(each.cell));
-    EXPECT_THAT(layout.Picture(0), same_rect(each.picture));
-    EXPECT_THAT(layout.Name(0), same_rect(each.name));
-    EXPECT_THAT(layout.Cell(1), is_rect(each.next_cell, 10, each.next_cell + each.cell.right - 10,
-                                        each.cell.bottom));
-    EXPECT_THAT(layout.ScrollTrack(), same_rect(each.track));
-    EXPECT_EQ(layout.CellAt({each.next_cell, 10}), 1);
-    EXPECT_EQ(layout.CellAt({each.cell.right, 40}), -1) << "a gap";
+// The first and the last visible cell at both ends of a row, also where there is no room; the parts
+// of the window beside it.
+TEST(Layouts, StandWhereTheTextFileSays) {
+  std::ostringstream said;
+  for (const SIZE area : {SIZE{1000, 144}, {3000, 200}, {200, 60}, {1, 1}, {0, 0}}) {
+    CStripLayout layout = Strip(20000, area);
+    for (const int scroll : {-5, 1 << 30}) {
+      layout.ScrollTo(scroll);
+      const auto [first, last] = layout.Visible();
+      said << "strip " << area.cx << 'x' << area.cy << " at " << layout.scroll() << ": cells "
+           << first << '-' << last << ", " << text_of(layout.Cell(first)) << " to "
+           << text_of(layout.Cell(last - 1)) << ", picture " << text_of(layout.Picture(first))
+           << ", name " << text_of(layout.Name(first)) << ", track "
+           << text_of(layout.ScrollTrack()) << ", mark " << text_of(layout.ScrollMark())
+           << ", at half the track " << layout.ScrollForMarkAt(area.cx / 2) << '\n';
+    }
   }
+  for (const SIZE client :
+       {SIZE{1280, 800}, {3840, 2160}, {640, 480}, {360, 380}, {359, 379}, {10, 10}}) {
+    const WindowLayout layout = lay_out(client, 76);
+    said << "window " << client.cx << 'x' << client.cy << ": library " << text_of(layout.library)
+         << ", stage " << text_of(layout.stage) << ", strip " << text_of(layout.strip) << '\n';
+  }
+  std::ifstream expected(source_folder() / "tests/apps/layouts.txt");
+  EXPECT_EQ(said.str(), std::string(std::istreambuf_iterator<char>(expected), {}));
 }
 
-TEST(StripLayout, TheLastCellEndsWhereTheRowDoes) {
-  CStripLayout layout = Strip(20000);
-  layout.ScrollTo(1 << 30);
-  EXPECT_EQ(layout.scroll(), layout.ScrollLimit());
-  EXPECT_EQ(layout.Cell(19999).right, 1000 - 10);
-  EXPECT_EQ(layout.Visible().last, 20000);
-  EXPECT_EQ(layout.ScrollMark().right, layout.ScrollTrack().right);
-  layout.ScrollTo(-5);
-  EXPECT_EQ(layout.scroll(), 0);
-  EXPECT_EQ(layout.ScrollMark().left, layout.ScrollTrack().left);
+TEST(StripLayout, AShorterRowPullsTheScrollPositionBack) {
+  CStripLayout layout = Strip(40);
   layout.ScrollTo(layout.ScrollLimit());
   layout.SetCount(3);
-  EXPECT_EQ(layout.scroll(), 0) << "a shorter row pulls the scroll position back";
+  EXPECT_EQ(layout.scroll(), 0);
+  EXPECT_EQ(layout.CellAt(MiddleOf(layout.Cell(2))), 2);
+  for (const POINT nowhere : {POINT{138, 40}, {50, 9}, {50, 130}, {5, 40}, {-1, 40}, {410, 40}}) {
+    EXPECT_EQ(layout.CellAt(nowhere), -1) << nowhere.x << ", " << nowhere.y;
+  }
 }
 
 TEST(StripLayout, VisibleCellsAreExactlyThoseThatTouchTheArea) {
@@ -92,31 +84,12 @@ TEST(StripLayout, VisibleCellsAreExactlyThoseThatTouchTheArea) {
 
 TEST(StripLayout, ShowScrollsAsLittleAsNeeded) {
   CStripLayout layout = Strip(40);
-  layout.Show(2);
-  EXPECT_EQ(layout.scroll(), 0);
-  layout.Show(20);
-  EXPECT_EQ(layout.Cell(20).right, 990);
-  int scroll = layout.scroll();
-  layout.Show(19);
-  EXPECT_EQ(layout.scroll(), scroll);
-  layout.Show(4);
-  EXPECT_EQ(layout.Cell(4).left, 10);
-  for (int none : {-1, 40}) layout.Show(none);
-  EXPECT_EQ(layout.Cell(4).left, 10);
-}
-
-TEST(StripLayout, NothingAndTooLittleRoomAreHarmless) {
-  for (SIZE area : {SIZE{0, 0}, SIZE{1, 1}, SIZE{-5, 20}}) {
-    for (int count : {-1, 0, 5}) {
-      CStripLayout layout = Strip(count, area);
-      CellRange visible = layout.Visible();
-      EXPECT_LE(0, visible.first);
-      EXPECT_LE(visible.first, visible.last);
-      EXPECT_LE(visible.last, std::max(count, 0));
-      layout.ScrollForMarkAt(10);
-    }
+  const std::pair<int, int> cases[] = {{2, 0},   {20, 1786}, {19, 1786},
+                                       {4, 528}, {-1, 528},  {40, 528}};
+  for (const auto& [cell, scroll] : cases) {
+    layout.Show(cell);
+    EXPECT_EQ(layout.scroll(), scroll) << cell;
   }
-  EXPECT_EQ(Strip(0).CellAt({50, 50}), -1);
 }
 
 TEST(StripGesture, AShakyClickIsAClickAndADragIsNone) {
@@ -182,23 +155,6 @@ TEST(ThumbnailCache, KeepsOnlyTheNamesThatAreStillOfUse) {
   ASSERT_NE(cache.Find(L"b"), nullptr);
   EXPECT_EQ(*cache.Find(L"b"), nullptr) << "known to be no picture";
   EXPECT_EQ(cache.Find(L"a"), nullptr);
-}
-
-TEST(WindowLayout, ThePartsFillTheWindowWithoutOverlap) {
-  const struct {
-    SIZE client;
-    LONG library_width, strip_height;
-  } cases[] = {{{1280, 800}, 260, 144}, {{3840, 2160}, 420, 260}, {{640, 480}, 160, 104},
-               {{360, 380}, 160, 104},  {{359, 379}, 0, 0},       {{10, 10}, 0, 0}};
-  for (const auto& each : cases) {
-    const auto [width, height] = each.client;
-    const WindowLayout layout = lay_out(each.client, 76);
-    const LONG top = std::min<LONG>(76, height);
-    const LONG bottom = height - each.strip_height;
-    EXPECT_THAT(layout.library, is_rect(0, top, each.library_width, height));
-    EXPECT_THAT(layout.stage, is_rect(each.library_width, top, width, bottom));
-    EXPECT_THAT(layout.strip, is_rect(each.library_width, bottom, width, height));
-  }
 }
 
 }  // namespace
