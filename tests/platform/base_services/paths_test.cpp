@@ -27,21 +27,15 @@ class InstallationPaths : public testing::Test {
 };
 
 TEST_F(InstallationPaths, TheProgramsChoiceComesBeforeTheEnvironment) {
-  setenv("CORVANE_SKIN", folder_.path().c_str(), 1);
-  EXPECT_EQ(GetConfigPath(L"ui_control.xml"), folder_.wide() + L"\\ui_control.xml");
-  EXPECT_EQ(GetImagePath(), folder_.wide() + L"\\image");
-  SetSkinFolder(L"Z:\\skins\\blue");
-  EXPECT_EQ(GetConfigPath(L"ui_control.xml"), L"Z:\\skins\\blue\\ui_control.xml");
-  EXPECT_EQ(GetImagePath(), L"Z:\\skins\\blue\\image");
-  SetSkinFolder(L"");
-  EXPECT_EQ(GetImagePath(), folder_.wide() + L"\\image");
-}
-
-TEST_F(InstallationPaths, SeparatorsAtTheEndAreDropped) {
-  SetSkinFolder(L"Z:\\skins\\blue\\");
-  EXPECT_EQ(GetImagePath(), L"Z:\\skins\\blue\\image");
-  setenv("CORVANE_SKIN", (folder_.path() / "").c_str(), 1);
-  SetSkinFolder(L"");
+  for (const char* const separator : {"", "/"}) {  // at the end it is dropped
+    setenv("CORVANE_SKIN", (folder_.path().string() + separator).c_str(), 1);
+    EXPECT_EQ(GetConfigPath(L"ui_control.xml"), folder_.wide() + L"\\ui_control.xml");
+    EXPECT_EQ(GetImagePath(), folder_.wide() + L"\\image");
+    SetSkinFolder(*separator == 0 ? L"Z:\\skins\\blue" : L"Z:\\skins\\blue\\");
+    EXPECT_EQ(GetConfigPath(L"ui_control.xml"), L"Z:\\skins\\blue\\ui_control.xml");
+    EXPECT_EQ(GetImagePath(), L"Z:\\skins\\blue\\image");
+    SetSkinFolder(L"");
+  }
   EXPECT_EQ(GetImagePath(), folder_.wide() + L"\\image");
 }
 

@@ -1,4 +1,6 @@
 // Pictures and texts drawn into buffers and put on layered windows.
+#include <array>
+
 #include "corvane/platform/base_services/set_font.h"
 #include "tests/platform/drawing/drawing_support.h"
 #include "tests/support/rects.h"
@@ -14,42 +16,41 @@ TEST_F(GdiDC, DrawsAnImageInItsOwnSizePixelForPixel) {
   const CBufferDC target = buffer(40, 40, kWhite);
   auto image = quarters(20);
   ASSERT_TRUE(drawing_.DrawImage(target, &image, CRect(10, 10, 30, 30)));
-  const struct {
-    int x, y;
-    COLORREF color;
-  } points[] = {{10, 10, kRed},   {19, 19, kRed},  {20, 10, kGreen}, {29, 19, kGreen},
-                {10, 20, kBlue},  {19, 29, kBlue}, {20, 20, kWhite}, {9, 10, kWhite},
-                {30, 10, kWhite}, {10, 9, kWhite}, {10, 30, kWhite}};
-  for (const auto& point : points) {
-    EXPECT_EQ(::GetPixel(target, point.x, point.y), point.color) << point.x << ", " << point.y;
+  for (int y = 0; y < 40; ++y) {
+    for (int x = 0; x < 40; ++x) {
+      const bool left = x >= 10 && x < 20, right = x >= 20 && x < 30;
+      const bool upper = y >= 10 && y < 20, lower = y >= 20 && y < 30;
+      const COLORREF above = left ? kRed : right ? kGreen : kWhite;
+      ASSERT_EQ(::GetPixel(target, x, y), upper           ? above
+                                          : lower && left ? kBlue
+                                                          : kWhite)
+          << x << ", " << y;
+    }
   }
 }
 
-TEST_F(GdiDC, ScalesAnImageIntoTheRectangle) {
-  const CBufferDC target = buffer(100, 50, kWhite);
+TEST_F(GdiDC, ScalesAnImageIntoTheRectangleAndTurnsItClockwiseAboutTheCentre) {
   auto image = quarters(20);
-  ASSERT_TRUE(drawing_.DrawImage(target, &image, CRect(10, 5, 90, 45)));
-  EXPECT_EQ(::GetPixel(target, 30, 15), kRed);
-  EXPECT_EQ(::GetPixel(target, 70, 15), kGreen);
-  EXPECT_EQ(::GetPixel(target, 30, 35), kBlue);
-  EXPECT_EQ(::GetPixel(target, 70, 35), kWhite);
-}
-
-TEST_F(GdiDC, TurnsAnImageClockwiseAboutTheCentre) {
-  auto image = quarters(20);
+  const CRect square(10, 10, 30, 30), wide(10, 5, 90, 45);
   const struct {
+    const CRect& rect;
     int angle;
-    COLORREF top_left, top_right, bottom_left, bottom_right;
-  } cases[] = {{0, kRed, kGreen, kBlue, kWhite},   {90, kBlue, kRed, kWhite, kGreen},
-               {180, kWhite, kBlue, kGreen, kRed}, {270, kGreen, kWhite, kRed, kBlue},
-               {-90, kGreen, kWhite, kRed, kBlue}, {450, kBlue, kRed, kWhite, kGreen}};
+    std::array<COLORREF, 4> corners;  // from the left upper one in reading order
+  } cases[] = {
+      {square, 0, {kRed, kGreen, kBlue, kWhite}},   {wide, 0, {kRed, kGreen, kBlue, kWhite}},
+      {square, 90, {kBlue, kRed, kWhite, kGreen}},  {square, 180, {kWhite, kBlue, kGreen, kRed}},
+      {square, 270, {kGreen, kWhite, kRed, kBlue}}, {square, -90, {kGreen, kWhite, kRed, kBlue}},
+      {square, 450, {kBlue, kRed, kWhite, kGreen}}, {wide, 180, {kWhite, kBlue, kGreen, kRed}}};
   for (const auto& each : cases) {
-    const CBufferDC target = buffer(40, 40, kWhite);
-    ASSERT_TRUE(drawing_.DrawImage(target, &image, CRect(10, 10, 30, 30), each.angle));
-    EXPECT_EQ(::GetPixel(target, 13, 13), each.top_left) << each.angle;
-    EXPECT_EQ(::GetPixel(target, 26, 13), each.top_right) << each.angle;
-    EXPECT_EQ(::GetPixel(target, 13, 26), each.bottom_left) << each.angle;
-    EXPECT_EQ(::GetPixel(target, 26, 26), each.bottom_right) << each.angle;
+    const CBufferDC target = buffer(100, 50, kWhite);
+    ASSERT_TRUE(drawing_.DrawImage(target, &image, each.rect, each.angle));
+    CRect inner(each.rect);
+    inner.DeflateRect(3, 3, 4, 4);
+    const auto at = [&target](int x, int y) { return ::GetPixel(target, x, y); };
+    EXPECT_EQ((std::array{at(inner.left, inner.top), at(inner.right, inner.top),
+                          at(inner.left, inner.bottom), at(inner.right, inner.bottom)}),
+              each.corners)
+        << each.angle;
   }
 }
 
@@ -69,6 +70,8 @@ TEST_F(GdiDC, RefusesWhatCannotBeDrawn) {
   EXPECT_EQ(::GetPixel(target, 5, 5), kWhite);
 }
 
+constexpr LOGFONTW kFont{-16, 0, 0, 0, 400, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, L"宋体"};
+
 CRect ink_of(HDC dc, const CRect& within, COLORREF background) {
   CRect ink;
   for (int y = within.top; y < within.bottom; ++y) {
@@ -80,7 +83,6 @@ CRect ink_of(HDC dc, const CRect& within, COLORREF background) {
 }
 
 TEST_F(GdiDC, PlacesTextByItsFormat) {
-  const LOGFONTW font{-16, 0, 0, 0, 400, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, L"宋体"};
   const CRect box(20, 20, 180, 80);
   const struct {
     UINT format;
@@ -93,7 +95,7 @@ TEST_F(GdiDC, PlacesTextByItsFormat) {
   for (const auto& each : cases) {
     const CBufferDC target = buffer(200, 100, kWhite);
     ASSERT_TRUE(
-        drawing_.DrawTextW(target, L"国国", &font, box, 0xFF000000, each.format | DT_SINGLELINE));
+        drawing_.DrawTextW(target, L"国国", &kFont, box, 0xFF000000, each.format | DT_SINGLELINE));
     const CRect ink = ink_of(target, CRect(0, 0, 200, 100), kWhite);
     ASSERT_FALSE(ink.IsRectEmpty()) << each.format;
     const int left = ink.left - box.left, right = box.right - ink.right;
@@ -104,11 +106,10 @@ TEST_F(GdiDC, PlacesTextByItsFormat) {
 }
 
 TEST_F(GdiDC, ASingleLineHasNoBreaks) {
-  const LOGFONTW font{-16, 0, 0, 0, 400, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, L"宋体"};
   const CRect box(0, 0, 200, 100);
   for (const wchar_t* text : {L"国\n国", L"国\r\n国", L"国\u2028国", L"国\v国"}) {
     const CBufferDC target = buffer(200, 100, kWhite);
-    drawing_.DrawTextW(target, text, &font, box, 0xFF000000, DT_SINGLELINE | DT_VCENTER);
+    drawing_.DrawTextW(target, text, &kFont, box, 0xFF000000, DT_SINGLELINE | DT_VCENTER);
     const CRect ink = ink_of(target, box, kWhite);
     EXPECT_LE(ink.Height(), 16);
     EXPECT_GT(ink.Width(), 30);

@@ -83,6 +83,7 @@ TEST(FrameworkString, EditsInPlace) {
   EXPECT_EQ(text.Replace(L"one", L"oneone"), 2);
   EXPECT_EQ(text, L"oneone two oneone");
   EXPECT_EQ(text.Replace(L"", L"x"), 0);
+  EXPECT_EQ(text.Delete(-1, 2), 17) << "nothing stands there";
   EXPECT_EQ(text.Delete(6, 99), 6);
   EXPECT_EQ(text.Insert(99, text), 12);
   EXPECT_EQ(text.Insert(-1, L">"), 13);
@@ -113,6 +114,9 @@ TEST(FrameworkString, LendsABuffer) {
   text.GetBuffer(0);
   text.ReleaseBuffer(99);
   EXPECT_EQ(text, L"01") << "no longer than the buffer";
+  text.GetBuffer(5);
+  text.ReleaseBuffer(0);
+  EXPECT_EQ(text, L"");
 }
 
 TEST(FrameworkString, FormatsLikePrintf) {
