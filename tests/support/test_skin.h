@@ -19,7 +19,7 @@ class TestSkin {
   static constexpr RECT button_11 = {10, 10, 70, 40};
   static constexpr RECT button_12 = {100, 10, 160, 40};
   static constexpr RECT button_13 = {10, 50, 70, 90};
-  // The caption, an H of 32 pixels, at button 13 and in the crop bar at button 5.
+  // The caption, an H of 32 pixels, at button 13 and in the crop bar at button 1.
   static constexpr COLORREF caption = RGB(192, 0, 0);
   static constexpr COLORREF caption_hover = RGB(0, 160, 0);
   static constexpr COLORREF caption_pressed = RGB(0, 0, 192);
