@@ -14,8 +14,6 @@
 namespace capture {
 namespace {
 
-using corvane::test::TemporaryFolder;
-
 struct Outcome {
   int status = -1;
   std::string text;
@@ -44,7 +42,7 @@ class CommandLine : public testing::Test {
                       arguments + " 2>&1");
   }
 
-  TemporaryFolder folder_;
+  corvane::test::TemporaryFolder folder_;
 };
 
 TEST_F(CommandLine, SaysInOneLineWhatCannotBeDone) {

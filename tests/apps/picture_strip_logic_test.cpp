@@ -125,12 +125,11 @@ TEST(StripGesture, ReleasingElsewhereOrLosingTheMouseIsNoClick) {
 TEST(StripGesture, TheScrollMarkGoesWhereTheMouseIs) {
   CStripLayout layout = Strip(20000);
   CStripGesture gesture;
-  RECT track = layout.ScrollTrack();
-  gesture.Press(layout, MiddleOf(track));
-  EXPECT_NEAR(layout.scroll(), layout.ScrollLimit() / 2, layout.ScrollLimit() / 500);
-  gesture.Move(layout, {track.right, track.top});
+  gesture.Press(layout, {500, 130});  // a little above the track
+  EXPECT_EQ(layout.scroll(), layout.ScrollForMarkAt(500));
+  gesture.Move(layout, {990, 200});
   EXPECT_EQ(layout.scroll(), layout.ScrollLimit());
-  EXPECT_EQ(gesture.Release(layout, {track.right, track.top}), -1);
+  EXPECT_EQ(gesture.Release(layout, {990, 200}), -1);
 }
 
 TEST(ThumbnailOrder, VisibleOnesFirstThenOutwards) {

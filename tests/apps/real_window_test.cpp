@@ -10,8 +10,6 @@
 namespace capture {
 namespace {
 
-using corvane::test::TemporaryFolder;
-
 // The screen is 1280 x 800, the toolbar 76 high, the library 260 wide, the strip 144 high; a
 // picture of 800 x 500 stands in the middle of what is left, at its own size.
 constexpr POINT kPictureCorner{370, 116};
@@ -30,10 +28,9 @@ std::uint32_t Original(POINT point) {
 // What `color` looks like below a layer of `cover` at 120 of 255.
 std::uint32_t Under(std::uint32_t color, std::uint32_t cover) {
   std::uint32_t result = 0;
-  for (int shift : {0, 8, 16}) {
-    std::uint32_t below = (color >> shift) & 0xFF;
-    std::uint32_t above = (cover >> shift) & 0xFF;
-    result |= ((above * 120 + below * 135 + 127) / 255) << shift;
+  for (const int shift : {0, 8, 16}) {
+    const std::uint32_t mixed = (cover >> shift & 0xFF) * 120 + (color >> shift & 0xFF) * 135;
+    result |= ((mixed + 127) / 255) << shift;
   }
   return result;
 }
@@ -49,7 +46,7 @@ class RealWindow : public testing::Test {
     ASSERT_TRUE(user_->SeesPixel({640, 400}, Original({640, 400})));
   }
 
-  TemporaryFolder folder_;
+  corvane::test::TemporaryFolder folder_;
   std::optional<DesktopUser> user_;
 };
 
@@ -71,10 +68,9 @@ TEST_F(RealWindow, CropsWithTheMouseAndEndsACropWithEscape) {
     }
     EXPECT_TRUE(user_->SeesPixel(outside, Original(outside))) << "the crop has ended";
   }
-  std::string saved = folder_ / "page_1.png";
-  ASSERT_TRUE(DesktopUser::Waits([&] { return std::filesystem::exists(saved); }));
-  auto part = CPicture::Open(saved);
-  ASSERT_NE(part, nullptr);
+  std::unique_ptr<CPicture> part;
+  ASSERT_TRUE(DesktopUser::Waits(
+      [&] { return (part = CPicture::Open(folder_ / "page_1.png")) != nullptr; }));
   EXPECT_EQ(part->size().cx, kFramed.right - kFramed.left);
   EXPECT_EQ(part->size().cy, kFramed.bottom - kFramed.top);
   EXPECT_EQ(part->image()->pixels()->at(0, 0) & 0xFFFFFF, Original({kFramed.left, kFramed.top}));
