@@ -4,6 +4,8 @@
 #include <exception>
 #include <utility>
 
+#include "apps/capture/picture_folder.h"
+
 namespace capture {
 
 bool ThumbnailRequest::operator==(const ThumbnailRequest& other) const {

@@ -1,6 +1,6 @@
 #pragma once
-// The skin in tests/support/skin, in force for as long as the object lives. Most of its buttons
-// have no images: only their places count.
+// The skin in tests/support/skin, whose draw.py makes its pictures, in force for as long as the
+// object lives. Most of its buttons have no images: only their places count.
 #include "corvane/platform/platform.h"
 
 namespace corvane::test {
