@@ -218,6 +218,20 @@ TEST_F(LibraryWindow, WithoutPicturesItSaysSoAndEveryButtonIsHarmless) {
   EXPECT_EQ(Opened(), "new.png");
 }
 
+// It lists the folder above, those inside and the pictures; what is open is marked.
+TEST_F(LibraryWindow, TheKeysWalkThroughTheOpenPanel) {
+  Start();
+  const std::pair<std::vector<int>, const char*> cases[] = {
+      {{VK_UP, VK_UP, VK_RETURN, VK_DOWN, VK_DOWN, VK_DOWN, VK_DOWN, VK_DOWN, VK_RETURN}, "b.png"},
+      {{VK_UP, VK_RETURN}, "a.png"},
+      {{VK_DOWN, VK_ESCAPE, VK_RETURN}, "a.png"}};
+  for (const auto& [keys, opened] : cases) {
+    ClickButton(ToolbarButton::open);
+    for (const int key : keys) desktop_.key(key);
+    EXPECT_EQ(Opened(), opened);
+  }
+}
+
 TEST_F(LibraryWindow, ManyPicturesScrollAndOnlyTheNeighbourhoodIsKept) {
   constexpr int kCount = 3000;
   WriteTestPicture(library_ / "二月/0.png", 200, 100);

@@ -7,7 +7,6 @@
 
 #include "apps/capture/strip_gesture.h"
 #include "apps/capture/strip_layout.h"
-#include "apps/capture/thumbnail_cache.h"
 #include "apps/capture/thumbnail_order.h"
 #include "apps/capture/window_layout.h"
 #include "tests/support/rects.h"
@@ -143,17 +142,6 @@ TEST(ThumbnailOrder, VisibleOnesFirstThenOutwards) {
                {{97, 100}, 100, {97, 98, 99, 96, 95, 94}},
                {{0, 0}, 0, {}}};
   for (const auto& each : cases) EXPECT_EQ(load_order(each.visible, each.count), each.order);
-}
-
-TEST(ThumbnailCache, KeepsOnlyTheNamesThatAreStillOfUse) {
-  CThumbnailCache cache;
-  for (const wchar_t* name : {L"a", L"b", L"c", L"d"}) cache.Put(name, nullptr);
-  const std::vector<std::wstring> names = {L"0", L"b", L"bb", L"c"};
-  cache.Keep(names);
-  EXPECT_EQ(cache.size(), 2u);
-  ASSERT_NE(cache.Find(L"b"), nullptr);
-  EXPECT_EQ(*cache.Find(L"b"), nullptr) << "known to be no picture";
-  EXPECT_EQ(cache.Find(L"a"), nullptr);
 }
 
 }  // namespace
