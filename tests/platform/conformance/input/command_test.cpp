@@ -4,6 +4,9 @@
 namespace corvane::conformance {
 namespace {
 
+constexpr POINT kInside = {155, 155};
+constexpr POINT kOutside = {105, 105};
+
 class CommandTest : public WindowTest {
  protected:
   void SetUp() override {
@@ -33,71 +36,44 @@ class CommandTest : public WindowTest {
       }
     });
     recorder().before_default("parent", WM_COMMAND, [this] {
-      focus_at_command_ = GetFocus();
-      capture_at_command_ = GetCapture();
+      EXPECT_EQ(GetFocus(), button_);
+      EXPECT_EQ(GetCapture(), nullptr) << "it is gone before the command";
     });
     recorder().only({WM_COMMAND, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_CAPTURECHANGED});
     settle();
   }
+  // Presses at the first point and lets go at the last.
+  void press_along(const std::vector<POINT>& path) {
+    press_at(path.front().x, path.front().y);
+    for (const POINT& point : path) move_to(point);
+    release();
+  }
   HWND parent_ = nullptr;
   HWND button_ = nullptr;
   bool pressed_ = false;
-  HWND focus_at_command_ = nullptr;
-  HWND capture_at_command_ = nullptr;
 };
 
-TEST_F(CommandTest, ReleaseInsideClicksAfterTheCaptureIsGone) {
-  click(155, 155);
-  EXPECT_TRUE(
-      log_is("button (q) WM_LBUTTONDOWN > (q) WM_LBUTTONUP {"
-             "  WM_CAPTURECHANGED none > parent WM_COMMAND 33 0 button }"));
-  EXPECT_EQ(focus_at_command_, button_);
-  EXPECT_EQ(capture_at_command_, nullptr);
-}
-
-TEST_F(CommandTest, ReleaseOutsideDoesNothing) {
-  press_at(155, 155);
-  move_to(105, 105);
-  release();
-  EXPECT_EQ(recorder().count("parent", WM_COMMAND), 0);
-  EXPECT_EQ(recorder().count("button", WM_LBUTTONUP), 1);
-}
-
-TEST_F(CommandTest, MovingOffAndBackClicks) {
-  press_at(155, 155);
-  move_to(105, 105);
-  EXPECT_FALSE(pressed_);
-  move_to(160, 160);
-  release();
-  EXPECT_EQ(recorder().count("parent", WM_COMMAND), 1);
-}
-
-TEST_F(CommandTest, PressElsewhereAndReleaseOverTheButtonDoesNothing) {
-  press_at(105, 105);
-  move_to(155, 155);
-  release();
-  EXPECT_EQ(recorder().count("parent", WM_COMMAND), 0);
-}
-
-TEST_F(CommandTest, DisabledButtonLeavesTheMouseToItsParent) {
-  EnableWindow(button_, FALSE);
-  settle();
-  click(155, 157);
-  EXPECT_TRUE(log_is("parent (q) WM_LBUTTONDOWN 55,57 > (q) WM_LBUTTONUP 55,57"));
-}
-
-TEST_F(CommandTest, DisabledBetweenPressAndReleaseDoesNotClick) {
-  press_at(155, 155);
+TEST_F(CommandTest, IsSentWhenTheButtonIsPressedAndReleasedInside) {
+  press_along({kInside});
+  step("a click");
+  press_along({kInside, kOutside});
+  step("release outside");
+  press_along({kInside, kOutside, kInside});
+  step("off and back");
+  press_along({kOutside, kInside});
+  step("press outside");
+  press_at(kInside);
   EnableWindow(button_, FALSE);
   release();
-  EXPECT_EQ(recorder().count("parent", WM_COMMAND), 0);
+  step("disabled between press and release");
+  press_along({kInside});
+  step("a disabled button leaves the mouse to its parent");
 }
 
 TEST_F(CommandTest, ButtonThatDestroysItsParentInTheCommandIsHarmless) {
   recorder().before_default("parent", WM_COMMAND, [this] { DestroyWindow(parent_); });
-  click(155, 155);
-  EXPECT_EQ(IsWindow(button_), 0);
-  EXPECT_EQ(GetFocus(), nullptr);
+  press_along({kInside});
+  step();
 }
 
 }  // namespace

@@ -30,26 +30,18 @@ TEST_F(CursorTest, IsAskedForEachMovePressAndRelease) {
   move_to(106, 106);
   press();
   release();
-  EXPECT_TRUE(
-      log_is("top WM_SETCURSOR top 1 WM_MOUSEMOVE > WM_SETCURSOR top 1 WM_LBUTTONDOWN >"
-             "WM_SETCURSOR top 1 WM_LBUTTONUP"));
+  step();
 }
 
 TEST_F(CursorTest, DefaultHandlingAsksTheParentsFirstThenSetsTheClassCursor) {
   move_to(160, 160);
-  EXPECT_TRUE(
-      log_is("child WM_SETCURSOR child 1 WM_MOUSEMOVE {"
-             "  top WM_SETCURSOR child 1 WM_MOUSEMOVE }"));
+  step();
   EXPECT_EQ(GetCursor(), hand_);
   move_to(105, 106);
   EXPECT_EQ(GetCursor(), cross_);
-}
-
-TEST_F(CursorTest, ParentsAnswerStopsTheDefault) {
   recorder().answer("top", WM_SETCURSOR, TRUE);
-  SetCursor(cross_);
   move_to(160, 160);
-  EXPECT_EQ(GetCursor(), cross_);
+  EXPECT_EQ(GetCursor(), cross_) << "the parent's answer stops the default handling";
 }
 
 TEST_F(CursorTest, WindowThatHandlesItKeepsItFromTheParents) {
@@ -58,22 +50,16 @@ TEST_F(CursorTest, WindowThatHandlesItKeepsItFromTheParents) {
     return TRUE;
   });
   move_to(160, 160);
-  EXPECT_TRUE(log_is("child WM_SETCURSOR"));
+  step("handled by the child");
   EXPECT_EQ(GetCursor(), cross_);
-}
-
-TEST_F(CursorTest, OverADisabledChildItIsTheParents) {
   EnableWindow(child_, FALSE);
-  move_to(160, 160);
-  EXPECT_TRUE(log_is("top WM_SETCURSOR top 1 WM_MOUSEMOVE"));
-}
-
-TEST_F(CursorTest, NotAskedWhileCaptured) {
+  move_to(161, 161);
+  step("over the disabled child");
   SetCapture(top_);
   move_to(160, 160);
   press();
   release();
-  EXPECT_TRUE(log_is(""));
+  step("while captured");
 }
 
 TEST_F(CursorTest, SetCursorReturnsThePreviousOne) {
@@ -89,8 +75,16 @@ class WheelTest : public WindowTest {
     WindowTest::SetUp();
     top_ = settled_popup("top", 100, 100, 200, 200);
     child_ = settled_child("child", top_, 50, 50, 50, 50);
+    settled_child("barred", top_, 100, 0, 50, 100, WS_VSCROLL);
     other_ = settled_popup("other", 500, 100, 100, 100);
     recorder().only({WM_MOUSEWHEEL});
+  }
+  static void route(DWORD routing) {
+    void* const value = reinterpret_cast<void*>(static_cast<UINT_PTR>(routing));
+    EXPECT_NE(SystemParametersInfoW(SPI_SETMOUSEWHEELROUTING, 0, value, 0), 0);
+    DWORD kept = 99;
+    EXPECT_NE(SystemParametersInfoW(SPI_GETMOUSEWHEELROUTING, 0, &kept, 0), 0);
+    EXPECT_EQ(kept, routing);
   }
   HWND top_ = nullptr;
   HWND child_ = nullptr;
@@ -98,84 +92,42 @@ class WheelTest : public WindowTest {
 };
 
 TEST_F(WheelTest, GoesToTheWindowUnderThePointerAndUpItsParents) {
-  move_to(160, 170);
-  wheel(WHEEL_DELTA);
-  EXPECT_TRUE(
-      log_is("child (q) WM_MOUSEWHEEL 120 160,170 - {"
-             "  top WM_MOUSEWHEEL 120 160,170 - }"));
-}
-
-TEST_F(WheelTest, HandledByTheChildItStopsThere) {
+  wheel_at(160, 170, WHEEL_DELTA);
+  step("over a child");
+  wheel_at(245, 150, WHEEL_DELTA);
+  step("over a scroll bar");
   recorder().answer("child", WM_MOUSEWHEEL, 0);
-  move_to(160, 170);
-  wheel(-WHEEL_DELTA);
-  EXPECT_TRUE(log_is("child (q) WM_MOUSEWHEEL -120 160,170"));
-}
-
-TEST_F(WheelTest, SmallDeltasComeAsTheyAre) {
+  wheel_at(160, 170, -WHEEL_DELTA);
+  step("handled by the child");
   move_to(110, 110);
   for (const int delta : {30, -7, 240}) wheel(delta);
-  EXPECT_TRUE(log_is("top (q) WM_MOUSEWHEEL 30 > (q) WM_MOUSEWHEEL -7 > (q) WM_MOUSEWHEEL 240"));
-}
-
-TEST_F(WheelTest, LowWordHasTheKeysAndButtons) {
-  move_to(110, 110);
+  step("small distances");
   send_key(VK_CONTROL, true);
   send_mouse(MOUSEEVENTF_RIGHTDOWN);
   wheel(WHEEL_DELTA);
-  EXPECT_TRUE(log_is("top (q) WM_MOUSEWHEEL 120 110,110 RBUTTON|CONTROL"));
-}
-
-TEST_F(WheelTest, RoutingParameterSaysUnderThePointerByDefault) {
-  DWORD routing = 99;
-  EXPECT_NE(SystemParametersInfoW(SPI_GETMOUSEWHEELROUTING, 0, &routing, 0), 0);
-  EXPECT_EQ(routing, 2U);
-  UINT lines = 0;
-  EXPECT_NE(SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0), 0);
-  EXPECT_EQ(lines, 3U);
+  step("with keys and buttons");
 }
 
 TEST_F(WheelTest, RoutedToTheFocusWindowWhenTheParameterSaysSo) {
-  // The value itself stands in place of the pointer; here it is 0.
-  static_assert(MOUSEWHEEL_ROUTING_FOCUS == 0);
-  ASSERT_NE(SystemParametersInfoW(SPI_SETMOUSEWHEELROUTING, 0, nullptr, 0), 0);
-  SetFocus(other_);
-  move_to(160, 170);
-  wheel(WHEEL_DELTA);
-  EXPECT_TRUE(log_is("other (q) WM_MOUSEWHEEL 120 160,170"));
-}
-
-TEST_F(WheelTest, FocusWindowPassesItUpItsParentsToo) {
-  ASSERT_NE(SystemParametersInfoW(SPI_SETMOUSEWHEELROUTING, 0, nullptr, 0), 0);
   DWORD routing = 99;
   EXPECT_NE(SystemParametersInfoW(SPI_GETMOUSEWHEELROUTING, 0, &routing, 0), 0);
-  EXPECT_EQ(routing, MOUSEWHEEL_ROUTING_FOCUS);
+  EXPECT_EQ(routing, 2U);
+  route(MOUSEWHEEL_ROUTING_FOCUS);
+  wheel_at(160, 170, WHEEL_DELTA);
+  step("to the focus window");
   SetFocus(child_);
-  move_to(510, 110);
-  wheel(WHEEL_DELTA);
-  EXPECT_TRUE(log_is("child (q) WM_MOUSEWHEEL 120 510,110 { top WM_MOUSEWHEEL 120 510,110 }"));
-}
-
-TEST_F(WheelTest, RoutedBackToTheWindowUnderThePointer) {
-  for (const DWORD routing : {MOUSEWHEEL_ROUTING_FOCUS, MOUSEWHEEL_ROUTING_MOUSE_POS}) {
-    void* value = reinterpret_cast<void*>(static_cast<UINT_PTR>(routing));
-    ASSERT_NE(SystemParametersInfoW(SPI_SETMOUSEWHEELROUTING, 0, value, 0), 0);
-  }
-  SetFocus(other_);
-  move_to(110, 110);
-  wheel(WHEEL_DELTA);
-  EXPECT_TRUE(log_is("top (q) WM_MOUSEWHEEL 120 110,110"));
-}
-
-TEST_F(WheelTest, OverAScrollBarItIsTheBarsWindows) {
-  settled_child("barred", top_, 100, 0, 50, 100, WS_VSCROLL);
-  recorder().answer("barred", WM_MOUSEWHEEL, 0);
-  move_to(245, 150);
-  wheel(WHEEL_DELTA);
-  EXPECT_TRUE(log_is("barred (q) WM_MOUSEWHEEL 120 245,150"));
+  forget();
+  wheel_at(510, 110, WHEEL_DELTA);
+  step("and up its parents");
+  route(MOUSEWHEEL_ROUTING_MOUSE_POS);
+  wheel_at(510, 110, WHEEL_DELTA);
+  step("to the pointer again");
 }
 
 TEST_F(WheelTest, OtherSystemParameters) {
+  UINT lines = 0;
+  EXPECT_NE(SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0), 0);
+  EXPECT_EQ(lines, 3U);
   RECT area{};
   EXPECT_NE(SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0), 0);
   EXPECT_EQ(text_of(area), "0,0,1280,800");

@@ -6,46 +6,47 @@ namespace {
 
 class DoubleClickTest : public WindowTest {
  protected:
-  void make(UINT class_style) {
-    create("pop", {.style = WS_POPUP | WS_VISIBLE,
-                   .place = {100, 100, 200, 100},
-                   .class_style = class_style});
+  void SetUp() override {
+    WindowTest::SetUp();
+    make("pop", CS_DBLCLKS);
+  }
+  void make(const std::string& name, UINT class_style) {
+    create(name, {.style = WS_POPUP | WS_VISIBLE,
+                  .place = {100, 100, 200, 100},
+                  .class_style = class_style});
     move_to(150, 150);
-    settle();
     recorder().only({WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_RBUTTONDOWN, WM_RBUTTONUP,
                      WM_RBUTTONDBLCLK});
+    settle();
   }
-  void click_here() {
+  void left() {
     press();
     release();
   }
+  void right() {
+    press(MOUSEEVENTF_RIGHTDOWN);
+    release(MOUSEEVENTF_RIGHTUP);
+  }
 };
 
-TEST_F(DoubleClickTest, ReplacesTheSecondPress) {
-  make(CS_DBLCLKS);
-  click_here();
-  click_here();
-  EXPECT_TRUE(
-      log_is("pop (q) WM_LBUTTONDOWN > (q) WM_LBUTTONUP > (q) WM_LBUTTONDBLCLK 50,50 LBUTTON >"
-             "(q) WM_LBUTTONUP"));
-}
-
-TEST_F(DoubleClickTest, FourQuickClicksAreTwoPairs) {
-  make(CS_DBLCLKS);
-  for (int times = 0; times < 4; ++times) click_here();
-  EXPECT_TRUE(
-      log_is("pop (q) WM_LBUTTONDOWN > (q) WM_LBUTTONUP >"
-             "(q) WM_LBUTTONDBLCLK > (q) WM_LBUTTONUP >"
-             "(q) WM_LBUTTONDOWN > (q) WM_LBUTTONUP >"
-             "(q) WM_LBUTTONDBLCLK > (q) WM_LBUTTONUP"));
+TEST_F(DoubleClickTest, ReplacesEverySecondPress) {
+  for (int times = 0; times < 4; ++times) left();
+  step("four quick clicks are two pairs");
+  for (int times = 0; times < 2; ++times) right();
+  step("the right button has its own");
+  left();
+  right();
+  left();
+  step("it is the same button's");
+  make("cover", CS_DBLCLKS);
+  left();
+  step("and the same window's");
 }
 
 TEST_F(DoubleClickTest, WithoutTheClassStyleEveryPressIsAPress) {
-  make(0);
-  click_here();
-  click_here();
-  EXPECT_EQ(recorder().count("pop", WM_LBUTTONDOWN), 2);
-  EXPECT_EQ(recorder().count("pop", WM_LBUTTONDBLCLK), 0);
+  make("plain", 0);
+  for (int times = 0; times < 2; ++times) left();
+  step();
 }
 
 struct SecondClick {
@@ -56,60 +57,24 @@ struct SecondClick {
   bool is_double;
 };
 
-class SecondClickTest : public DoubleClickTest, public testing::WithParamInterface<SecondClick> {};
-
-TEST_P(SecondClickTest, MustBeSoonAndNear) {
-  make(CS_DBLCLKS);
-  click_here();
-  advance(GetParam().delay);
-  move_to(150 + GetParam().dx, 150 + GetParam().dy);
-  recorder().clear();
-  press();
-  EXPECT_TRUE(log_is(GetParam().is_double ? "pop (q) WM_LBUTTONDBLCLK" : "pop (q) WM_LBUTTONDOWN"));
-}
-
-INSTANTIATE_TEST_SUITE_P(, SecondClickTest,
-                         testing::Values(SecondClick{"AtOnce", 0, 0, 0, true},
-                                         SecondClick{"InTime", 499, 0, 0, true},
-                                         SecondClick{"TooLate", 501, 0, 0, false},
-                                         SecondClick{"OnePixelRight", 0, 1, 0, true},
-                                         SecondClick{"OnePixelUp", 0, 0, -1, true},
-                                         SecondClick{"FivePixelsRight", 0, 5, 0, false},
-                                         SecondClick{"FivePixelsLeft", 0, -5, 0, false},
-                                         SecondClick{"FivePixelsDown", 0, 0, 5, false}),
-                         [](const auto& instance) { return instance.param.label; });
-
-TEST_F(DoubleClickTest, MustBeTheSameButton) {
-  make(CS_DBLCLKS);
-  click_here();
-  press(MOUSEEVENTF_RIGHTDOWN);
-  release(MOUSEEVENTF_RIGHTUP);
-  click_here();
-  EXPECT_TRUE(
-      log_is("pop (q) WM_LBUTTONDOWN > (q) WM_LBUTTONUP > (q) WM_RBUTTONDOWN >"
-             "(q) WM_RBUTTONUP > (q) WM_LBUTTONDOWN > (q) WM_LBUTTONUP"));
-}
-
-TEST_F(DoubleClickTest, MustBeTheSameWindow) {
-  make(CS_DBLCLKS);
-  click_here();
-  create(
-      "cover",
-      {.style = WS_POPUP | WS_VISIBLE, .place = {100, 100, 200, 100}, .class_style = CS_DBLCLKS});
-  settle();
-  click_here();
-  EXPECT_TRUE(log_is("cover (q) WM_LBUTTONDOWN > (q) WM_LBUTTONUP"));
-}
-
-TEST_F(DoubleClickTest, RightButtonHasItsOwn) {
-  make(CS_DBLCLKS);
-  for (int times = 0; times < 2; ++times) {
-    press(MOUSEEVENTF_RIGHTDOWN);
-    release(MOUSEEVENTF_RIGHTUP);
+TEST_F(DoubleClickTest, MustBeSoonAndNear) {
+  for (const SecondClick& second :
+       {SecondClick{"at once", 0, 0, 0, true}, SecondClick{"in time", 499, 0, 0, true},
+        SecondClick{"too late", 501, 0, 0, false}, SecondClick{"a pixel right", 0, 1, 0, true},
+        SecondClick{"a pixel up", 0, 0, -1, true}, SecondClick{"far right", 0, 5, 0, false},
+        SecondClick{"far left", 0, -5, 0, false}, SecondClick{"far down", 0, 0, 5, false},
+        SecondClick{"far up", 0, 0, -5, false}}) {
+    advance(1000);
+    move_to(150, 150);
+    left();
+    advance(second.delay);
+    move_to(150 + second.dx, 150 + second.dy);
+    recorder().clear();
+    press();
+    EXPECT_EQ(recorder().count("pop", WM_LBUTTONDBLCLK), second.is_double) << second.label;
+    EXPECT_EQ(recorder().count("pop", WM_LBUTTONDOWN), !second.is_double) << second.label;
+    release();
   }
-  EXPECT_TRUE(
-      log_is("pop (q) WM_RBUTTONDOWN > (q) WM_RBUTTONUP > (q) WM_RBUTTONDBLCLK >"
-             "(q) WM_RBUTTONUP"));
 }
 
 TEST_F(DoubleClickTest, SystemFigures) {

@@ -20,17 +20,13 @@ class TimerTest : public WindowTest {
   HWND popup_ = nullptr;
 };
 
-TEST_F(TimerTest, TicksWhenThePeriodIsOver) {
+TEST_F(TimerTest, TicksWhenThePeriodIsOverOnceHoweverLate) {
   EXPECT_EQ(SetTimer(popup_, 5, 100, nullptr), 5U);
   EXPECT_EQ(ticks_after(99), 0);
   EXPECT_EQ(ticks_after(1), 1);
-  EXPECT_TRUE(log_is("pop (q) WM_TIMER 5"));
+  step();
   EXPECT_EQ(ticks_after(99), 0);
   EXPECT_EQ(ticks_after(1), 1);
-}
-
-TEST_F(TimerTest, TenOverduePeriodsGiveOneMessage) {
-  SetTimer(popup_, 5, 100, nullptr);
   EXPECT_EQ(ticks_after(1000), 1);
 }
 
@@ -40,7 +36,7 @@ TEST_F(TimerTest, TheOneThatFellDueFirstComesFirst) {
   advance(250);
   advance(100);
   pump();
-  EXPECT_TRUE(log_is("pop (q) WM_TIMER 2 > (q) WM_TIMER 1"));
+  step();
 }
 
 TEST_F(TimerTest, NumberZeroIsATimerLikeAnother) {
@@ -56,48 +52,34 @@ TEST_F(TimerTest, TheSameNumberReplacesTheTimerAndStartsAnew) {
   SetTimer(popup_, 5, 100, nullptr);
   EXPECT_EQ(ticks_after(90), 0);
   EXPECT_EQ(ticks_after(10), 1);
+  for (const UINT period : {0U, 1U, 9U, 10U}) {
+    SetTimer(popup_, 5, period, nullptr);
+    EXPECT_EQ(ticks_after(9), 0) << period << " acts as 10";
+    EXPECT_EQ(ticks_after(1), 1) << period;
+  }
   EXPECT_NE(KillTimer(popup_, 5), 0);
   EXPECT_EQ(KillTimer(popup_, 5), 0);
 }
 
 TEST_F(TimerTest, NumbersBelongToTheirWindow) {
-  settled_popup("other", 100, 0, 50, 50);
+  const HWND other = settled_popup("other", 100, 0, 50, 50);
   SetTimer(popup_, 5, 50, nullptr);
-  SetTimer(window("other"), 5, 50, nullptr);
-  EXPECT_NE(KillTimer(window("other"), 5), 0);
+  SetTimer(other, 5, 50, nullptr);
+  EXPECT_NE(KillTimer(other, 5), 0);
+  EXPECT_EQ(KillTimer(popup_, 77), 0);
+  EXPECT_EQ(KillTimer(nullptr, 77), 0);
   EXPECT_EQ(ticks_after(50), 1);
 }
 
-TEST_F(TimerTest, ShortPeriodsActAsTen) {
-  for (const UINT period : {0U, 1U, 9U, 10U}) {
-    SetTimer(popup_, 5, period, nullptr);
-    EXPECT_EQ(ticks_after(9), 0) << period;
-    EXPECT_EQ(ticks_after(1), 1) << period;
+TEST_F(TimerTest, NothingComesAfterKillAlsoWhenOverdueOrPeeked) {
+  for (const bool peeked : {false, true}) {
+    SetTimer(popup_, 5, 50, nullptr);
+    advance(60);
+    MSG message{};
+    EXPECT_TRUE(!peeked || PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE) != 0);
+    EXPECT_NE(KillTimer(popup_, 5), 0);
+    EXPECT_EQ(ticks_after(0), 0) << peeked;
   }
-}
-
-TEST_F(TimerTest, NothingComesAfterKillAlsoWhenOverdue) {
-  SetTimer(popup_, 5, 50, nullptr);
-  advance(60);
-  EXPECT_NE(KillTimer(popup_, 5), 0);
-  pump();
-  EXPECT_TRUE(log_is(""));
-}
-
-TEST_F(TimerTest, ObservedThatNothingComesAfterKillWhenPeeked) {
-  SetTimer(popup_, 5, 50, nullptr);
-  advance(60);
-  MSG message{};
-  EXPECT_NE(PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE), 0);
-  EXPECT_EQ(message.message, WM_TIMER);
-  EXPECT_NE(KillTimer(popup_, 5), 0);
-  pump();
-  EXPECT_TRUE(log_is(""));
-}
-
-TEST_F(TimerTest, UnknownTimersCannotBeKilled) {
-  EXPECT_EQ(KillTimer(popup_, 77), 0);
-  EXPECT_EQ(KillTimer(nullptr, 77), 0);
 }
 
 TEST_F(TimerTest, DestroyedWindowsHaveNoTimers) {
@@ -114,6 +96,7 @@ struct ProcedureCall {
   UINT message;
   UINT_PTR id;
   DWORD tick;
+  bool operator==(const ProcedureCall&) const = default;
 };
 std::vector<ProcedureCall> procedure_calls;
 
@@ -130,12 +113,8 @@ TEST_F(TimerTest, ProcedureIsCalledInPlaceOfTheWindows) {
   EXPECT_EQ(message.message, WM_TIMER);
   EXPECT_TRUE(procedure_calls.empty()) << "called by dispatching only";
   DispatchMessageW(&message);
-  ASSERT_EQ(procedure_calls.size(), 1U);
-  EXPECT_EQ(procedure_calls[0].window, popup_);
-  EXPECT_EQ(procedure_calls[0].message, WM_TIMER);
-  EXPECT_EQ(procedure_calls[0].id, 9U);
-  EXPECT_EQ(procedure_calls[0].tick, GetTickCount());
-  EXPECT_TRUE(log_is(""));
+  EXPECT_EQ(procedure_calls, (std::vector<ProcedureCall>{{popup_, WM_TIMER, 9, GetTickCount()}}));
+  EXPECT_EQ(recorder().count("pop", WM_TIMER), 0);
 }
 
 TEST_F(TimerTest, WithoutAWindowTheNumberIsTheSystems) {
@@ -144,9 +123,7 @@ TEST_F(TimerTest, WithoutAWindowTheNumberIsTheSystems) {
   ASSERT_NE(id, 0U);
   advance(50);
   pump();
-  ASSERT_EQ(procedure_calls.size(), 1U);
-  EXPECT_EQ(procedure_calls[0].window, nullptr);
-  EXPECT_EQ(procedure_calls[0].id, id);
+  EXPECT_EQ(procedure_calls, (std::vector<ProcedureCall>{{nullptr, WM_TIMER, id, GetTickCount()}}));
   EXPECT_NE(KillTimer(nullptr, id), 0);
   advance(100);
   pump();
@@ -164,7 +141,7 @@ TEST_F(TimerTest, HandlerMayReplaceAndKillTimers) {
   EXPECT_EQ(ticks_after(50), 1);
   EXPECT_EQ(ticks_after(69), 0);
   EXPECT_EQ(ticks_after(1), 1);
-  EXPECT_TRUE(log_is("pop (q) WM_TIMER 3"));
+  step();
 }
 
 }  // namespace

@@ -5,10 +5,14 @@
 namespace corvane::conformance {
 namespace {
 
-constexpr COLORREF red = RGB(255, 0, 0);
+constexpr COLORREF kRed = RGB(255, 0, 0);
+constexpr COLORREF kGreen = RGB(0, 255, 0);
+constexpr COLORREF kBlue = RGB(0, 0, 255);
+constexpr std::uint32_t kGreenPixel = 0xFF00FF00;
+constexpr std::uint32_t kBluePixel = 0xFF0000FF;
 
 struct Update {
-  std::uint32_t pixel = 0xFF00FF00;
+  std::uint32_t pixel = kGreenPixel;
   COLORREF key = 0;
   BYTE constant_alpha = 255;
   BYTE alpha_format = AC_SRC_ALPHA;
@@ -20,7 +24,7 @@ class UpdateLayeredTest : public WindowTest {
   void SetUp() override {
     WindowTest::SetUp();
     create("below", {.style = WS_POPUP | WS_VISIBLE, .place = {100, 100, 200, 150}});
-    paint_patches("below", {{{0, 0, 200, 150}, red}});
+    paint_patches("below", {{{0, 0, 200, 150}, kRed}});
     layer_ = create("layer", {.parent = window("below"),
                               .style = WS_POPUP | WS_VISIBLE,
                               .place = {100, 100, 100, 100},
@@ -28,52 +32,45 @@ class UpdateLayeredTest : public WindowTest {
     settle();
   }
 
-  BOOL apply(const Picture& picture, const Update& update, POINT* position = nullptr) {
-    SIZE size = picture.size();
-    POINT source{0, 0};
-    BLENDFUNCTION blend{AC_SRC_OVER, 0, update.constant_alpha, update.alpha_format};
-    return UpdateLayeredWindow(layer_, nullptr, position, &size, picture.dc(), &source, update.key,
-                               &blend, update.flags);
+  BOOL apply(const Picture& picture, const Update& update = {}, POINT* position = nullptr) {
+    return apply_part(picture.dc(), picture.size(), {0, 0}, update, position);
   }
-  std::string pressed_at(int x, int y) {
-    move_to(1270, 790);
-    move_to(x, y);
-    recorder().clear();
-    recorder().only({WM_LBUTTONDOWN});
-    press();
-    std::string who;
-    for (const LogLine& line : recorder().log()) who += line.text.substr(0, line.text.find(' '));
-    release();
-    return who;
+  BOOL apply_part(HDC dc, SIZE size, POINT source, const Update& update = {},
+                  POINT* position = nullptr) {
+    BLENDFUNCTION blend{AC_SRC_OVER, 0, update.constant_alpha, update.alpha_format};
+    SetLastError(0);
+    return UpdateLayeredWindow(layer_, nullptr, position, &size, dc, &source, update.key, &blend,
+                               update.flags);
   }
   HWND layer_ = nullptr;
 };
 
 TEST_F(UpdateLayeredTest, SetsContentPositionAndSizeWithoutAnyMessage) {
-  const Picture picture(60, 40, 0xFF00FF00);
   POINT position{150, 160};
-  EXPECT_NE(apply(picture, {}, &position), 0);
+  EXPECT_NE(apply(Picture(60, 40, kGreenPixel), {}, &position), 0);
   pump();
-  EXPECT_TRUE(log_is(""));
-  EXPECT_EQ(text_of(window_rect(layer_)), "150,160,210,200");
-  EXPECT_EQ(pixel(150, 160), RGB(0, 255, 0));
-  EXPECT_EQ(pixel(209, 199), RGB(0, 255, 0));
-  EXPECT_EQ(pixel(149, 160), red);
-  EXPECT_EQ(pixel(210, 199), red);
+  step("all three");
+  EXPECT_EQ(pixel(150, 160), kGreen);
+  EXPECT_EQ(pixel(209, 199), kGreen);
+  EXPECT_EQ(pixel(149, 160), kRed);
+  EXPECT_EQ(pixel(210, 199), kRed);
+  EXPECT_NE(apply(Picture(30, 30, kBluePixel)), 0);
+  step("later content replaces the former");
+  EXPECT_EQ(pixel(160, 170), kBlue);
+  EXPECT_EQ(pixel(190, 170), kRed);
 }
 
 TEST_F(UpdateLayeredTest, HiddenWindowStaysHiddenAndNeedsNoPaintWhenShown) {
   ShowWindow(layer_, SW_HIDE);
   settle();
-  const Picture picture(60, 40, 0xFF00FF00);
-  EXPECT_NE(apply(picture, {}), 0);
-  EXPECT_EQ(IsWindowVisible(layer_), 0);
-  EXPECT_EQ(pixel(110, 110), red);
+  EXPECT_NE(apply(Picture(60, 40, kGreenPixel)), 0);
+  EXPECT_EQ(pixel(110, 110), kRed);
   recorder().only({WM_PAINT, WM_ERASEBKGND});
+  step("updated");
   ShowWindow(layer_, SW_SHOW);
   pump();
-  EXPECT_TRUE(log_is(""));
-  EXPECT_EQ(pixel(110, 110), RGB(0, 255, 0));
+  step("shown");
+  EXPECT_EQ(pixel(110, 110), kGreen);
 }
 
 struct UpdateCase {
@@ -83,131 +80,80 @@ struct UpdateCase {
   int seen[3];
 };
 
-class UpdateCaseTest : public UpdateLayeredTest, public testing::WithParamInterface<UpdateCase> {};
-
-TEST_P(UpdateCaseTest, AlphaAndKeyDecideOnPixelAndPress) {
-  const Picture picture(60, 40, GetParam().update.pixel);
-  ASSERT_NE(apply(picture, GetParam().update), 0);
-  pump();
-  EXPECT_EQ(pressed_at(120, 120), GetParam().pressed);
-  const auto& [r, g, b] = GetParam().seen;
-  const COLORREF seen = pixel(120, 120);
-  EXPECT_NEAR(GetRValue(seen), r, 1);
-  EXPECT_NEAR(GetGValue(seen), g, 1);
-  EXPECT_NEAR(GetBValue(seen), b, 1);
+TEST_F(UpdateLayeredTest, AlphaAndKeyDecideOnPixelAndPress) {
+  const Update keyed = {.key = kGreen, .alpha_format = 0, .flags = ULW_COLORKEY};
+  Update green = keyed;
+  green.pixel = 0x0000FF00;
+  Update blue = keyed;
+  blue.pixel = 0x000000FF;
+  for (const UpdateCase& given : {
+           UpdateCase{"opaque pixel", {}, "layer", {0, 255, 0}},
+           UpdateCase{"half pixel", {.pixel = 0x80008000}, "layer", {127, 128, 0}},
+           UpdateCase{"alpha of one", {.pixel = 0x01000100}, "layer", {254, 1, 0}},
+           UpdateCase{"clear pixel", {.pixel = 0}, "below", {255, 0, 0}},
+           UpdateCase{"constant zero", {.constant_alpha = 0}, "below", {255, 0, 0}},
+           UpdateCase{"constant half", {.constant_alpha = 128}, "layer", {127, 128, 0}},
+           UpdateCase{
+               "both half", {.pixel = 0x80008000, .constant_alpha = 128}, "layer", {191, 64, 0}},
+           UpdateCase{
+               "constant, clear pixel", {.pixel = 0, .constant_alpha = 200}, "below", {255, 0, 0}},
+           UpdateCase{"key without its flag", {.key = kGreen}, "layer", {0, 255, 0}},
+           UpdateCase{"without pixel alpha",
+                      {.pixel = 0x0000FF00, .alpha_format = 0},
+                      "layer",
+                      {0, 255, 0}},
+           UpdateCase{"opaque flag",
+                      {.pixel = 0x0000FF00, .alpha_format = 0, .flags = ULW_OPAQUE},
+                      "layer",
+                      {0, 255, 0}},
+           UpdateCase{"keyed pixel", green, "below", {255, 0, 0}},
+           UpdateCase{"beside the key", blue, "layer", {0, 0, 255}},
+       }) {
+    SCOPED_TRACE(given.label);
+    EXPECT_NE(apply(Picture(60, 40, given.update.pixel), given.update), 0);
+    pump();
+    EXPECT_EQ(pressed_at(120, 120), given.pressed);
+    const auto& [r, g, b] = given.seen;
+    const COLORREF seen = pixel(120, 120);
+    EXPECT_NEAR(GetRValue(seen), r, 1);
+    EXPECT_NEAR(GetGValue(seen), g, 1);
+    EXPECT_NEAR(GetBValue(seen), b, 1);
+  }
 }
-
-constexpr COLORREF green_key = RGB(0, 255, 0);
-
-INSTANTIATE_TEST_SUITE_P(
-    , UpdateCaseTest,
-    testing::Values(
-        UpdateCase{"OpaquePixel", {.pixel = 0xFF00FF00}, "layer", {0, 255, 0}},
-        UpdateCase{"HalfPixel", {.pixel = 0x80008000}, "layer", {127, 128, 0}},
-        UpdateCase{"AlphaOnePixel", {.pixel = 0x01000100}, "layer", {254, 1, 0}},
-        UpdateCase{"ClearPixel", {.pixel = 0x00000000}, "below", {255, 0, 0}},
-        UpdateCase{
-            "ConstantZero", {.pixel = 0xFF00FF00, .constant_alpha = 0}, "below", {255, 0, 0}},
-        UpdateCase{
-            "ConstantHalf", {.pixel = 0xFF00FF00, .constant_alpha = 128}, "layer", {127, 128, 0}},
-        UpdateCase{"ConstantOverHalfPixel",
-                   {.pixel = 0x80008000, .constant_alpha = 128},
-                   "layer",
-                   {191, 64, 0}},
-        UpdateCase{
-            "ConstantOverClearPixel", {.pixel = 0, .constant_alpha = 200}, "below", {255, 0, 0}},
-        UpdateCase{
-            "KeyWithoutItsFlag", {.pixel = 0xFF00FF00, .key = green_key}, "layer", {0, 255, 0}},
-        UpdateCase{
-            "WithoutPixelAlpha", {.pixel = 0x0000FF00, .alpha_format = 0}, "layer", {0, 255, 0}},
-        UpdateCase{"OpaqueFlag",
-                   {.pixel = 0x0000FF00, .alpha_format = 0, .flags = ULW_OPAQUE},
-                   "layer",
-                   {0, 255, 0}},
-        UpdateCase{
-            "KeyedPixel",
-            {.pixel = 0x0000FF00, .key = green_key, .alpha_format = 0, .flags = ULW_COLORKEY},
-            "below",
-            {255, 0, 0}},
-        UpdateCase{
-            "PixelBesideTheKey",
-            {.pixel = 0x000000FF, .key = green_key, .alpha_format = 0, .flags = ULW_COLORKEY},
-            "layer",
-            {0, 0, 255}}),
-    [](const auto& instance) { return instance.param.label; });
 
 TEST_F(UpdateLayeredTest, EachPixelByItsOwnAlpha) {
   Picture picture(60, 40, 0);
-  picture.fill({0, 0, 20, 40}, 0xFF0000FF);
-  EXPECT_NE(apply(picture, {}), 0);
+  picture.fill({0, 0, 20, 40}, kBluePixel);
+  EXPECT_NE(apply(picture), 0);
   EXPECT_EQ(pressed_at(110, 110), "layer");
   EXPECT_EQ(pressed_at(130, 110), "below");
   EXPECT_EQ(pressed_at(119, 139), "layer");
   EXPECT_EQ(pressed_at(120, 139), "below");
+  EXPECT_NE(apply_part(picture.dc(), {30, 40}, {10, 0}), 0);
+  EXPECT_EQ(pressed_at(109, 110), "layer") << "the source point chooses the part";
+  EXPECT_EQ(pressed_at(110, 110), "below");
 }
 
-TEST_F(UpdateLayeredTest, LaterContentReplacesTheFormer) {
-  EXPECT_NE(apply(Picture(60, 40, 0xFF00FF00), {}), 0);
-  EXPECT_NE(apply(Picture(30, 30, 0xFF0000FF), {}), 0);
-  EXPECT_EQ(text_of(window_rect(layer_)), "100,100,130,130");
-  EXPECT_EQ(pixel(110, 110), RGB(0, 0, 255));
-  EXPECT_EQ(pixel(140, 110), red);
-}
-
-TEST_F(UpdateLayeredTest, SourcePointChoosesThePart) {
-  Picture picture(60, 40, 0xFF00FF00);
-  picture.fill({30, 0, 60, 40}, 0xFF0000FF);
-  SIZE size{30, 40};
-  POINT source{30, 0};
-  BLENDFUNCTION blend{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
-  EXPECT_NE(UpdateLayeredWindow(layer_, nullptr, nullptr, &size, picture.dc(), &source, 0, &blend,
-                                ULW_ALPHA),
-            0);
-  EXPECT_EQ(pixel(105, 105), RGB(0, 0, 255));
-}
-
-TEST_F(UpdateLayeredTest, WithoutTheStyleItFails) {
-  SetWindowLongW(layer_, GWL_EXSTYLE, 0);
-  SetLastError(0);
-  EXPECT_EQ(apply(Picture(60, 40, 0xFF00FF00), {}), 0);
+TEST_F(UpdateLayeredTest, RefusesWhatItCannotShow) {
+  const Picture picture(60, 40, kGreenPixel);
+  EXPECT_EQ(apply_part(picture.dc(), {0, 0}, {0, 0}), 0);
   EXPECT_EQ(GetLastError(), 87U);
-}
-
-TEST_F(UpdateLayeredTest, AfterAttributesItFailsUntilTheStyleIsSetAnew) {
+  HDC stale = nullptr;
+  {
+    const Picture gone(10, 10, kGreenPixel);
+    stale = gone.dc();
+  }
+  EXPECT_EQ(apply_part(stale, {10, 10}, {0, 0}), 0);
+  SetWindowLongW(layer_, GWL_EXSTYLE, 0);
+  EXPECT_EQ(apply(picture), 0) << "without the style";
+  EXPECT_EQ(GetLastError(), 87U);
+  SetWindowLongW(layer_, GWL_EXSTYLE, static_cast<LONG>(WS_EX_LAYERED));
   SetLayeredWindowAttributes(layer_, 0, 200, LWA_ALPHA);
-  const Picture picture(60, 40, 0xFF00FF00);
-  SetLastError(0);
-  EXPECT_EQ(apply(picture, {}), 0);
+  EXPECT_EQ(apply(picture), 0) << "after attributes";
   EXPECT_EQ(GetLastError(), 87U);
   SetWindowLongW(layer_, GWL_EXSTYLE, 0);
   SetWindowLongW(layer_, GWL_EXSTYLE, static_cast<LONG>(WS_EX_LAYERED));
-  EXPECT_NE(apply(picture, {}), 0);
-}
-
-TEST_F(UpdateLayeredTest, NoSizeFails) {
-  const Picture picture(10, 10, 0xFF00FF00);
-  SIZE size{0, 0};
-  POINT source{0, 0};
-  BLENDFUNCTION blend{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
-  SetLastError(0);
-  EXPECT_EQ(UpdateLayeredWindow(layer_, nullptr, nullptr, &size, picture.dc(), &source, 0, &blend,
-                                ULW_ALPHA),
-            0);
-  EXPECT_EQ(GetLastError(), 87U);
-}
-
-TEST_F(UpdateLayeredTest, StaleSourceFailsSoftly) {
-  HDC stale = nullptr;
-  {
-    const Picture gone(10, 10, 0xFF00FF00);
-    stale = gone.dc();
-  }
-  SIZE size{10, 10};
-  POINT source{0, 0};
-  BLENDFUNCTION blend{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
-  EXPECT_EQ(
-      UpdateLayeredWindow(layer_, nullptr, nullptr, &size, stale, &source, 0, &blend, ULW_ALPHA),
-      0);
+  EXPECT_NE(apply(picture), 0) << "until the style is set anew";
 }
 
 }  // namespace

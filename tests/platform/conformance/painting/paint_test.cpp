@@ -1,5 +1,4 @@
 // Update regions, erasing and WM_PAINT of one window.
-#include "tests/platform/conformance/support/message_names.h"
 #include "tests/platform/conformance/support/window_test.h"
 
 namespace corvane::conformance {
@@ -10,68 +9,69 @@ class PaintTest : public WindowTest {
   void SetUp() override {
     WindowTest::SetUp();
     popup_ = settled_popup("pop", 100, 100, 200, 150);
+    recorder().only({WM_PAINT, WM_ERASEBKGND});
   }
-  void invalidate(RECT rect, BOOL erase) { InvalidateRect(popup_, &rect, erase); }
+  void invalidate(RECT rect, BOOL erase = FALSE) { InvalidateRect(popup_, &rect, erase); }
+  std::string to_paint() const { return text_of(update_rect(popup_)); }
+  void paint_step(const std::string& what) {
+    pump();
+    step(what);
+  }
+  // Steps of their own: what is done at once, and what is left to the queue.
+  void now_and_later(const std::string& what) {
+    step(what);
+    paint_step(what + ", later");
+  }
   HWND popup_ = nullptr;
 };
 
-struct Invalidation {
-  const char* label;
+struct Regions {
   std::vector<RECT> rects;
-  const char* bounds;  // empty: nothing to paint
+  const char* bounds;
 };
 
-class InvalidationTest : public PaintTest, public testing::WithParamInterface<Invalidation> {};
-
-TEST_P(InvalidationTest, AccumulatesAndIsClipped) {
-  for (const RECT& rect : GetParam().rects) invalidate(rect, FALSE);
-  const std::string bounds = GetParam().bounds;
-  EXPECT_EQ(text_of(update_rect(popup_)), bounds.empty() ? "0,0,0,0" : bounds);
-  pump();
-  EXPECT_TRUE(log_is(bounds.empty() ? "" : "pop (q) WM_PAINT " + bounds + " fErase=0"));
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    , InvalidationTest,
-    testing::Values(Invalidation{"One", {{10, 20, 30, 40}}, "10,20,30,40"},
-                    Invalidation{"Union", {{10, 20, 30, 40}, {100, 5, 120, 25}}, "10,5,120,40"},
-                    Invalidation{"ClippedToTheClient", {{-10, -20, 30, 40}}, "0,0,30,40"},
-                    Invalidation{"LargerThanTheClient", {{-10, -20, 3000, 4000}}, "0,0,200,150"},
-                    Invalidation{"Empty", {{10, 20, 10, 40}}, ""},
-                    Invalidation{"UpsideDown", {{30, 40, 10, 20}}, ""},
-                    Invalidation{"Outside", {{200, 0, 300, 100}}, ""},
-                    Invalidation{"EmptyAddsNothing", {{1, 2, 3, 4}, {50, 50, 50, 50}}, "1,2,3,4"}),
-    [](const auto& instance) { return instance.param.label; });
-
-TEST_F(PaintTest, NullIsTheWholeClient) {
+TEST_F(PaintTest, InvalidationsAccumulateAndAreClipped) {
+  for (const Regions& given :
+       {Regions{{{10, 20, 30, 40}}, "10,20,30,40"},
+        Regions{{{10, 20, 30, 40}, {100, 5, 120, 25}}, "10,5,120,40"},
+        Regions{{{-10, -20, 30, 40}}, "0,0,30,40"},
+        Regions{{{-10, -20, 3000, 4000}}, "0,0,200,150"}, Regions{{{10, 20, 10, 40}}, "0,0,0,0"},
+        Regions{{{30, 40, 10, 20}}, "0,0,0,0"}, Regions{{{200, 0, 300, 100}}, "0,0,0,0"},
+        Regions{{{1, 2, 3, 4}, {50, 50, 50, 50}}, "1,2,3,4"}}) {
+    for (const RECT& rect : given.rects) invalidate(rect);
+    EXPECT_EQ(to_paint(), given.bounds);
+    pump();
+    EXPECT_EQ(to_paint(), "0,0,0,0") << given.bounds;
+  }
+  forget();
+  invalidate({10, 20, 30, 40});
+  now_and_later("a part");
   InvalidateRect(popup_, nullptr, FALSE);
-  pump();
-  EXPECT_TRUE(log_is("pop (q) WM_PAINT 0,0,200,150 fErase=0"));
+  now_and_later("the whole client");
 }
 
-TEST_F(PaintTest, HiddenWindowsAreNotInvalidated) {
-  ShowWindow(popup_, SW_HIDE);
-  settle();
-  InvalidateRect(popup_, nullptr, TRUE);
-  EXPECT_EQ(text_of(update_rect(popup_)), "0,0,0,0");
-  pump();
-  EXPECT_TRUE(log_is(""));
+TEST_F(PaintTest, ValidationLeavesTheRest) {
+  for (const Regions& given :
+       {Regions{{{0, 0, 40, 50}}, "40,0,100,50"}, Regions{{{40, 0, 60, 50}}, "0,0,100,50"},
+        Regions{{{150, 0, 160, 50}}, "0,0,100,50"},
+        Regions{{{0, 0, 40, 50}, {40, 0, 100, 50}}, "0,0,0,0"}}) {
+    invalidate({0, 0, 100, 50}, TRUE);
+    for (const RECT& rect : given.rects) ValidateRect(popup_, &rect);
+    EXPECT_EQ(to_paint(), given.bounds);
+  }
+  invalidate({0, 0, 100, 50}, TRUE);
+  RedrawWindow(popup_, nullptr, nullptr, RDW_VALIDATE);
+  paint_step("the whole, by RedrawWindow");
+  invalidate({0, 0, 100, 50}, TRUE);
+  ValidateRect(popup_, nullptr);
+  invalidate({0, 0, 10, 10});
+  paint_step("the whole removes the erase too");
 }
 
 TEST_F(PaintTest, EraseRequestIsSticky) {
   invalidate({0, 0, 10, 10}, TRUE);
-  invalidate({20, 20, 30, 30}, FALSE);
-  pump();
-  EXPECT_TRUE(log_is("pop (q) WM_PAINT 0,0,30,30 fErase=0 { WM_ERASEBKGND }"));
-}
-
-TEST_F(PaintTest, NoEraseRequestNoErase) {
-  invalidate({0, 0, 10, 10}, FALSE);
-  pump();
-  EXPECT_TRUE(log_is("pop (q) WM_PAINT 0,0,10,10 fErase=0"));
-}
-
-TEST_F(PaintTest, EraseIsClippedToTheUpdateRegion) {
+  invalidate({20, 20, 30, 30});
+  paint_step("one of two");
   RECT clip{};
   recorder().on("pop", WM_ERASEBKGND, [&](const Message& sent) -> std::optional<LRESULT> {
     GetClipBox(reinterpret_cast<HDC>(sent.wparam), &clip);
@@ -79,80 +79,22 @@ TEST_F(PaintTest, EraseIsClippedToTheUpdateRegion) {
   });
   invalidate({10, 20, 30, 40}, TRUE);
   pump();
-  EXPECT_EQ(text_of(clip), "10,20,30,40");
+  EXPECT_EQ(text_of(clip), "10,20,30,40") << "the erase is clipped to the update region";
 }
 
-TEST_F(PaintTest, UnhandledEraseIsReportedOnce) {
+TEST_F(PaintTest, UnhandledEraseIsLeftToThePainter) {
   recorder().answer("pop", WM_ERASEBKGND, 0);
   invalidate({0, 0, 10, 10}, TRUE);
-  pump();
-  EXPECT_TRUE(log_is("pop (q) WM_PAINT 0,0,10,10 fErase=1 { WM_ERASEBKGND }"));
-}
-
-TEST_F(PaintTest, ObservedThatTheNextPaintForgetsAnUnhandledErase) {
-  recorder().answer("pop", WM_ERASEBKGND, 0);
-  invalidate({0, 0, 10, 10}, TRUE);
-  settle();
-  invalidate({0, 0, 10, 10}, FALSE);
-  pump();
-  EXPECT_TRUE(log_is("pop (q) WM_PAINT 0,0,10,10 fErase=0"));
-}
-
-TEST_F(PaintTest, NullBrushLeavesTheEraseToThePainter) {
-  const HWND none = create("none", {.style = WS_POPUP | WS_VISIBLE, .brush = nullptr});
-  settle();
-  InvalidateRect(none, nullptr, TRUE);
-  pump();
-  EXPECT_TRUE(log_is("none (q) WM_PAINT 0,0,100,100 fErase=1 { WM_ERASEBKGND }"));
-}
-
-TEST_F(PaintTest, UnhandledEraseOfTheShowingIsLeftToTheFirstPaint) {
+  paint_step("once");
+  invalidate({0, 0, 10, 10});
+  paint_step("observed: the next paint forgets it");
+  MoveWindow(popup_, 100, 100, 220, 150, TRUE);
+  paint_step("of a resize");
   recorder().answer("late", WM_ERASEBKGND, 0);
   create("late", {.style = WS_POPUP | WS_VISIBLE});
-  recorder().clear();
-  recorder().only({WM_PAINT});
-  pump();
-  EXPECT_TRUE(log_is("late (q) WM_PAINT 0,0,100,100 fErase=1"));
-}
-
-TEST_F(PaintTest, UnhandledEraseOfAResizeIsLeftToThePaint) {
-  recorder().answer("pop", WM_ERASEBKGND, 0);
-  recorder().only({WM_PAINT});
-  MoveWindow(popup_, 100, 100, 220, 150, TRUE);
-  pump();
-  EXPECT_TRUE(log_is("pop (q) WM_PAINT 200,0,220,150 fErase=1"));
-}
-
-struct Validation {
-  const char* label;
-  std::vector<RECT> validated;
-  const char* left;
-};
-
-class ValidationTest : public PaintTest, public testing::WithParamInterface<Validation> {};
-
-TEST_P(ValidationTest, LeavesTheRest) {
-  invalidate({0, 0, 100, 50}, TRUE);
-  for (const RECT& rect : GetParam().validated) ValidateRect(popup_, &rect);
-  EXPECT_EQ(text_of(update_rect(popup_)), GetParam().left);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    , ValidationTest,
-    testing::Values(Validation{"Left", {{0, 0, 40, 50}}, "40,0,100,50"},
-                    Validation{"Middle", {{40, 0, 60, 50}}, "0,0,100,50"},
-                    Validation{"Outside", {{150, 0, 160, 50}}, "0,0,100,50"},
-                    Validation{"InTwoParts", {{0, 0, 40, 50}, {40, 0, 100, 50}}, "0,0,0,0"}),
-    [](const auto& instance) { return instance.param.label; });
-
-TEST_F(PaintTest, ValidatingTheWholeRemovesTheEraseToo) {
-  invalidate({0, 0, 100, 50}, TRUE);
-  ValidateRect(popup_, nullptr);
-  pump();
-  EXPECT_TRUE(log_is(""));
-  invalidate({0, 0, 10, 10}, FALSE);
-  pump();
-  EXPECT_TRUE(log_is("pop (q) WM_PAINT 0,0,10,10 fErase=0"));
+  now_and_later("of the showing");
+  create("none", {.style = WS_POPUP | WS_VISIBLE, .brush = nullptr});
+  paint_step("without a brush");
 }
 
 TEST_F(PaintTest, ClipIsTheExactRegion) {
@@ -168,8 +110,8 @@ TEST_F(PaintTest, ClipIsTheExactRegion) {
     EndPaint(sent.window, &paint);
     return 0;
   });
-  invalidate({0, 0, 10, 10}, FALSE);
-  invalidate({100, 100, 120, 120}, FALSE);
+  invalidate({0, 0, 10, 10});
+  invalidate({100, 100, 120, 120});
   pump();
   EXPECT_EQ(visible, (std::vector<BOOL>{1, 1, 0}));
   EXPECT_EQ(pixel(105, 105), RGB(255, 0, 0));
@@ -177,54 +119,26 @@ TEST_F(PaintTest, ClipIsTheExactRegion) {
   EXPECT_EQ(pixel(150, 150), RGB(255, 255, 255));
 }
 
-TEST_F(PaintTest, UpdateWindowSendsThePaintWhenThereIsSomething) {
-  EXPECT_NE(UpdateWindow(popup_), 0);
-  EXPECT_TRUE(log_is(""));
-  invalidate({0, 0, 10, 10}, FALSE);
-  UpdateWindow(popup_);
-  EXPECT_TRUE(log_is("pop WM_PAINT 0,0,10,10 fErase=0"));
-  recorder().clear();
-  pump();
-  EXPECT_TRUE(log_is(""));
-}
-
-struct Redraw {
-  const char* label;
-  UINT flags;
-  const char* now;    // messages sent by the call
-  const char* later;  // messages on pumping
-};
-
-class RedrawTest : public PaintTest, public testing::WithParamInterface<Redraw> {};
-
-TEST_P(RedrawTest, InvalidatesUpdatesAndErases) {
+TEST_F(PaintTest, RedrawInvalidatesUpdatesAndErases) {
+  struct Redraw {
+    const char* label;
+    UINT flags;
+  };
   const RECT rect{10, 10, 20, 20};
-  EXPECT_NE(RedrawWindow(popup_, &rect, nullptr, GetParam().flags), 0);
-  EXPECT_TRUE(log_is(GetParam().now));
-  recorder().clear();
-  pump();
-  EXPECT_TRUE(log_is(GetParam().later));
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    , RedrawTest,
-    testing::Values(Redraw{"Invalidate", RDW_INVALIDATE, "",
-                           "pop (q) WM_PAINT 10,10,20,20 fErase=0"},
-                    Redraw{"InvalidateAndErase", RDW_INVALIDATE | RDW_ERASE, "",
-                           "pop (q) WM_PAINT 10,10,20,20 fErase=0 { WM_ERASEBKGND }"},
-                    Redraw{"UpdateNow", RDW_INVALIDATE | RDW_UPDATENOW,
-                           "pop WM_PAINT 10,10,20,20 fErase=0", ""},
-                    Redraw{"UpdateNowWithErase", RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW,
-                           "pop WM_PAINT 10,10,20,20 fErase=0 { WM_ERASEBKGND }", ""},
-                    Redraw{"EraseNow", RDW_INVALIDATE | RDW_ERASE | RDW_ERASENOW,
-                           "pop WM_ERASEBKGND", "pop (q) WM_PAINT 10,10,20,20 fErase=0"},
-                    Redraw{"NothingToUpdate", RDW_UPDATENOW, "", ""}),
-    [](const auto& instance) { return instance.param.label; });
-
-TEST_F(PaintTest, RedrawWindowValidates) {
-  invalidate({0, 0, 50, 50}, TRUE);
-  RedrawWindow(popup_, nullptr, nullptr, RDW_VALIDATE);
-  EXPECT_EQ(text_of(update_rect(popup_)), "0,0,0,0");
+  for (const Redraw& each :
+       {Redraw{"invalidate", RDW_INVALIDATE}, Redraw{"with erase", RDW_INVALIDATE | RDW_ERASE},
+        Redraw{"update now", RDW_INVALIDATE | RDW_UPDATENOW},
+        Redraw{"update now with erase", RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW},
+        Redraw{"erase now", RDW_INVALIDATE | RDW_ERASE | RDW_ERASENOW},
+        Redraw{"nothing to update", RDW_UPDATENOW}}) {
+    EXPECT_NE(RedrawWindow(popup_, &rect, nullptr, each.flags), 0) << each.label;
+    now_and_later(each.label);
+  }
+  invalidate(rect);
+  EXPECT_NE(UpdateWindow(popup_), 0);
+  now_and_later("UpdateWindow");
+  EXPECT_NE(UpdateWindow(popup_), 0);
+  now_and_later("UpdateWindow without anything to paint");
 }
 
 TEST_F(PaintTest, DefaultHandlingErasesAndValidates) {
@@ -232,66 +146,49 @@ TEST_F(PaintTest, DefaultHandlingErasesAndValidates) {
     return DefWindowProcW(sent.window, sent.message, sent.wparam, sent.lparam);
   });
   invalidate({0, 0, 10, 10}, TRUE);
-  pump();
-  EXPECT_TRUE(log_is("pop (q) WM_PAINT { WM_ERASEBKGND }"));
+  paint_step("");
 }
 
-class ObservedPaintTest : public PaintTest {};
-
-TEST_F(ObservedPaintTest, InvalidationWhilePaintingSurvives) {
-  int paints = 0;
+TEST_F(PaintTest, ObservedThatInvalidationWhilePaintingSurvives) {
+  std::vector<std::string> painted;
   recorder().on("pop", WM_PAINT, [&](const Message& sent) -> std::optional<LRESULT> {
     PAINTSTRUCT paint{};
     BeginPaint(sent.window, &paint);
-    if (++paints == 1) invalidate({30, 30, 40, 40}, FALSE);
-    if (paints == 2) {
-      EXPECT_EQ(text_of(paint.rcPaint), "30,30,40,40");
-    }
+    painted.push_back(text_of(paint.rcPaint));
+    if (painted.size() == 1) invalidate({30, 30, 40, 40});
     EndPaint(sent.window, &paint);
     return 0;
   });
-  invalidate({0, 0, 10, 10}, FALSE);
+  invalidate({0, 0, 10, 10});
   pump();
-  EXPECT_EQ(paints, 2);
+  EXPECT_EQ(painted, (std::vector<std::string>{"0,0,10,10", "30,30,40,40"}));
 }
 
-TEST_F(ObservedPaintTest, BeginPaintOutsidePaintWorksOnAValidWindow) {
-  PAINTSTRUCT paint{};
-  EXPECT_NE(BeginPaint(popup_, &paint), nullptr);
-  EXPECT_EQ(text_of(paint.rcPaint), "0,0,0,0");
-  EXPECT_NE(EndPaint(popup_, &paint), 0);
-  invalidate({1, 2, 3, 4}, FALSE);
-  BeginPaint(popup_, &paint);
-  EXPECT_EQ(text_of(paint.rcPaint), "1,2,3,4");
-  EndPaint(popup_, &paint);
-  pump();
-  EXPECT_TRUE(log_is(""));
+TEST_F(PaintTest, ObservedThatBeginPaintOutsidePaintWorksOnAValidWindow) {
+  for (const RECT& rect : {RECT{0, 0, 0, 0}, RECT{1, 2, 3, 4}}) {
+    invalidate(rect);
+    PAINTSTRUCT paint{};
+    EXPECT_NE(BeginPaint(popup_, &paint), nullptr);
+    EXPECT_EQ(text_of(paint.rcPaint), text_of(rect));
+    EXPECT_NE(EndPaint(popup_, &paint), 0);
+  }
+  paint_step("");
 }
 
-TEST_F(ObservedPaintTest, InvalidationsOfAHiddenWindowAreNotKeptAndShowingErasesAtOnce) {
+TEST_F(PaintTest, WhatIsNotShownKeepsNoInvalidation) {
   ShowWindow(popup_, SW_HIDE);
   settle();
   invalidate({1, 2, 3, 4}, TRUE);
-  recorder().only({WM_ERASEBKGND, WM_PAINT});
+  paint_step("hidden");
   ShowWindow(popup_, SW_SHOW);
-  EXPECT_TRUE(log_is("pop WM_ERASEBKGND"));
-  recorder().clear();
-  pump();
-  EXPECT_TRUE(log_is("pop (q) WM_PAINT 0,0,200,150"));
-}
-
-TEST_F(PaintTest, SwitchedOffRedrawKeepsNoInvalidation) {
+  now_and_later("observed: showing erases at once");
   SendMessageW(popup_, WM_SETREDRAW, FALSE, 0);
   EXPECT_EQ(IsWindowVisible(popup_), 0);
   invalidate({0, 0, 10, 10}, TRUE);
   SendMessageW(popup_, WM_SETREDRAW, TRUE, 0);
-  EXPECT_NE(IsWindowVisible(popup_), 0);
-  recorder().clear();
-  pump();
-  EXPECT_TRUE(log_is(""));
-  invalidate({0, 0, 10, 10}, FALSE);
-  pump();
-  EXPECT_TRUE(log_is("pop (q) WM_PAINT 0,0,10,10"));
+  paint_step("redraw switched off and on");
+  invalidate({0, 0, 10, 10});
+  paint_step("invalidated again");
 }
 
 TEST_F(PaintTest, DrawingOutsidePaintIsShownAndClippedToTheWindow) {

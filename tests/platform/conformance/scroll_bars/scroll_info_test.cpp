@@ -57,7 +57,7 @@ TEST_F(ScrollInfoTest, SetScrollPosReturnsThePreviousOneAndSendsNothing) {
   EXPECT_EQ(SetScrollPos(window_, SB_VERT, -1, TRUE), 301);
   EXPECT_EQ(GetScrollPos(window_, SB_VERT), 0);
   pump();
-  EXPECT_TRUE(log_is(""));
+  step();
 }
 
 TEST_F(ScrollInfoTest, SetScrollRangeKeepsPageAndPosition) {

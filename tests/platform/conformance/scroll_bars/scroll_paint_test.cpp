@@ -4,9 +4,9 @@
 namespace corvane::conformance {
 namespace {
 
-constexpr COLORREF white = RGB(255, 255, 255);
-constexpr COLORREF red = RGB(255, 0, 0);
-constexpr int bar_x = 291;  // the middle of a bar from 283 to 299
+constexpr COLORREF kWhite = RGB(255, 255, 255);
+constexpr COLORREF kRed = RGB(255, 0, 0);
+constexpr int kBarX = 291;  // the middle of a bar from 283 to 299
 
 class ScrollPaintTest : public WindowTest {
  protected:
@@ -31,28 +31,34 @@ class ScrollPaintTest : public WindowTest {
       found.top = found.bottom = top;
     return std::to_string(found.top - top) + ".." + std::to_string(found.bottom - top);
   }
-  std::string thumb() { return thumb_at(bar_x, 100, 400); }
+  std::string thumb() { return thumb_at(kBarX, 100, 400); }
   bool bar_is_whole() {
     pump();
     const test::Frame screen = frame();
-    const auto of_client = [](COLORREF color) { return color == red || color == white; };
+    const auto of_client = [](COLORREF color) { return color == kRed || color == kWhite; };
     return screen.count({283, 100, 284, 400}, of_client) == 0 &&
            screen.count({299, 100, 300, 400}, of_client) == 0;
   }
   HWND window_ = nullptr;
 };
 
-TEST_F(ScrollPaintTest, StandsRightOfTheClientOverTheWholeHeight) {
-  EXPECT_EQ(pixel(282, 250), white);
+TEST_F(ScrollPaintTest, StandsRightOfTheClientWithAnArrowAtEachEnd) {
+  EXPECT_EQ(pixel(282, 250), kWhite);
   EXPECT_TRUE(bar_is_whole());
   EXPECT_NE(pixel(300, 250), pixel(299, 250));
-}
-
-TEST_F(ScrollPaintTest, HasAnArrowAtEachEnd) {
-  const COLORREF track = pixel(284, 250);
-  EXPECT_NE(pixel(bar_x, 108), track);
-  EXPECT_NE(pixel(bar_x, 391), track);
-  EXPECT_EQ(pixel(bar_x, 101), track);
+  // The arrow's rows, from its point: a pixel wider at each side per row.
+  const test::Frame screen = frame();
+  const COLORREF track = screen.at(284, 250);
+  for (const bool up : {true, false}) {
+    const RECT button = up ? RECT{283, 100, 300, 117} : RECT{283, 383, 300, 400};
+    RECT glyph{};
+    EXPECT_EQ(screen.count_other_than(button, track, &glyph), 16) << up;
+    EXPECT_EQ(text_of(glyph), up ? "288,106,295,110" : "288,389,295,393");
+    for (int row = 0; row < 4; ++row) {
+      const int y = up ? glyph.top + row : glyph.bottom - 1 - row;
+      EXPECT_EQ(screen.count_other_than({283, y, 300, y + 1}, track), 2 * row + 1) << up << row;
+    }
+  }
 }
 
 // A pixel of track is left at each end of the thumb.
@@ -64,110 +70,90 @@ TEST_F(ScrollPaintTest, ThumbIsWhereThePositionSays) {
   EXPECT_EQ(thumb(), "143..158");
 }
 
-TEST_F(ScrollPaintTest, WithoutRedrawItWaits) {
+TEST_F(ScrollPaintTest, ChangeWaitsForTheRedraw) {
   SetScrollPos(window_, SB_VERT, 301, FALSE);
   EXPECT_EQ(thumb(), "18..149");
-  SetScrollPos(window_, SB_VERT, 301, TRUE);
-  EXPECT_EQ(thumb(), "151..282");
-}
-
-TEST_F(ScrollPaintTest, WithWmSetredrawOffItWaits) {
   SendMessageW(window_, WM_SETREDRAW, FALSE, 0);
   SetScrollPos(window_, SB_VERT, 301, TRUE);
   EXPECT_EQ(thumb(), "18..149");
   SendMessageW(window_, WM_SETREDRAW, TRUE, 0);
   EXPECT_EQ(thumb(), "151..282");
-}
-
-TEST_F(ScrollPaintTest, UpdateWindowDrawsItAtOnce) {
-  const COLORREF track = pixel(bar_x, 350);
-  SetScrollPos(window_, SB_VERT, 301, TRUE);
-  UpdateWindow(window_);
-  EXPECT_NE(pixel(bar_x, 350), track);
+  ShowWindow(window_, SW_HIDE);
+  pump();
+  SetScrollPos(window_, SB_VERT, 0, TRUE);
+  ShowWindow(window_, SW_SHOW);
+  EXPECT_EQ(thumb(), "18..149");
 }
 
 TEST_F(ScrollPaintTest, NewPositionPaintsNothingButTheBar) {
   SetScrollPos(window_, SB_VERT, 50, TRUE);
-  EXPECT_EQ(text_of(update_rect(window_)), "0,0,0,0");
+  step("set");
+  const COLORREF track = pixel(kBarX, 350);
+  SetScrollPos(window_, SB_VERT, 301, TRUE);
+  UpdateWindow(window_);
+  EXPECT_NE(pixel(kBarX, 350), track) << "UpdateWindow draws it at once";
   pump();
-  EXPECT_TRUE(log_is(""));
+  step("drawn");
 }
 
-TEST_F(ScrollPaintTest, DraggedThumbMovesAndGoesBackWhenLetGo) {
-  std::vector<std::string> seen;
-  std::vector<COLORREF> colors;
+TEST_F(ScrollPaintTest, HeldPartsAreDarkerAndADraggedThumbGoesBack) {
+  std::string held_thumb;
+  COLORREF held = 0;
+  int y = 350;
   recorder().before_default("pop", WM_TIMER, [&] {
-    seen.push_back(thumb());
-    colors.push_back(pixel(bar_x, 350));
+    held_thumb = thumb();
+    held = pixel(y == 350 ? kBarX : 284, y);
     KillTimer(window_, 1);
     send_mouse(MOUSEEVENTF_LEFTUP);
   });
-  SetTimer(window_, 1, 100, nullptr);
-  SetCursorPos(bar_x, 160);
-  send_mouse(MOUSEEVENTF_LEFTDOWN);
-  SetCursorPos(bar_x, 293);
-  pump();
-  EXPECT_EQ(seen, (std::vector<std::string>{"151..282"}));
+  const auto drag_held = [&](int from, int to) {
+    SetTimer(window_, 1, 100, nullptr);
+    SetCursorPos(kBarX, from);
+    send_mouse(MOUSEEVENTF_LEFTDOWN);
+    SetCursorPos(kBarX, to);
+    pump();
+  };
+  drag_held(160, 293);
+  EXPECT_EQ(held_thumb, "151..282");
   EXPECT_EQ(thumb(), "18..149") << "the program has not set the position";
-  EXPECT_NE(colors.at(0), pixel(bar_x, 200)) << "darker while held";
-}
-
-TEST_F(ScrollPaintTest, PressedArrowIsShownPressed) {
-  const COLORREF before = pixel(284, 390);
-  COLORREF held = before;
-  recorder().before_default("pop", WM_TIMER, [&] {
-    held = pixel(284, 390);
-    send_mouse(MOUSEEVENTF_LEFTUP);
-  });
-  SetTimer(window_, 1, 100, nullptr);
-  SetCursorPos(bar_x, 390);
-  send_mouse(MOUSEEVENTF_LEFTDOWN);
-  pump();
-  EXPECT_NE(held, before);
-  EXPECT_EQ(pixel(284, 390), before);
+  EXPECT_LT(GetRValue(held), GetRValue(pixel(kBarX, 200)));
+  y = 390;
+  const COLORREF before = pixel(284, y);
+  drag_held(y, y);
+  EXPECT_LT(GetRValue(held), GetRValue(before));
+  EXPECT_EQ(pixel(284, y), before);
 }
 
 TEST_F(ScrollPaintTest, GreyedBarHasNoThumbAndPalerArrows) {
-  const COLORREF arrow = pixel(bar_x, 108);
+  const COLORREF arrow = pixel(kBarX, 108);
   set(window_, SIF_PAGE | SIF_DISABLENOSCROLL, 0, 601, 0);
   EXPECT_EQ(thumb(), "0..0");
-  EXPECT_GT(pixel(bar_x, 108) & 0xFF, arrow & 0xFF);
-}
-
-TEST_F(ScrollPaintTest, HiddenBarLeavesWhiteClient) {
+  EXPECT_GT(pixel(kBarX, 108) & 0xFF, arrow & 0xFF);
   ShowScrollBar(window_, SB_VERT, FALSE);
   pump();
-  EXPECT_EQ(pixel(bar_x, 250), white);
-  EXPECT_EQ(pixel(bar_x, 108), white);
+  EXPECT_EQ(pixel(kBarX, 250), kWhite) << "a hidden bar leaves white client";
+  EXPECT_EQ(pixel(kBarX, 108), kWhite);
 }
 
 TEST_F(ScrollPaintTest, ClientDrawingNeverReachesIt) {
   const std::string before = thumb();
-  paint_patches("pop", {{{0, 0, 1000, 1000}, red}});
+  paint_patches("pop", {{{0, 0, 1000, 1000}, kRed}});
   InvalidateRect(window_, nullptr, TRUE);
   EXPECT_TRUE(bar_is_whole());
   const HDC dc = GetDC(window_);
-  fill(dc, {0, 0, 1000, 1000}, red);
+  fill(dc, {0, 0, 1000, 1000}, kRed);
   ReleaseDC(window_, dc);
   EXPECT_TRUE(bar_is_whole());
   EXPECT_EQ(thumb(), before);
-  EXPECT_EQ(pixel(282, 250), red);
+  EXPECT_EQ(pixel(282, 250), kRed);
 }
 
 TEST_F(ScrollPaintTest, FollowsEverySize) {
   MoveWindow(window_, 100, 100, 250, 200, TRUE);
   EXPECT_EQ(thumb_at(341, 100, 300).substr(0, 3), "18.");
-  EXPECT_EQ(pixel(bar_x, 250), white) << "where the bar was";
+  EXPECT_EQ(pixel(kBarX, 250), kWhite) << "where the bar was";
   MoveWindow(window_, 100, 100, 150, 300, TRUE);
   EXPECT_EQ(thumb_at(241, 100, 400), "18..149");
-}
-
-TEST_F(ScrollPaintTest, ComesBackWithItsWindow) {
-  ShowWindow(window_, SW_HIDE);
-  pump();
-  SetScrollPos(window_, SB_VERT, 301, TRUE);
-  ShowWindow(window_, SW_SHOW);
-  EXPECT_EQ(thumb(), "151..282");
 }
 
 TEST_F(ScrollPaintTest, LayeredWindowHasItToo) {
@@ -186,7 +172,7 @@ class ChildScrollPaintTest : public ScrollPaintTest,
     const auto [parent_style, child_style] = GetParam();
     parent_ = create(
         "parent", {.style = WS_POPUP | WS_VISIBLE | parent_style, .place = {400, 100, 300, 350}});
-    paint_patches("parent", {{{0, 0, 300, 350}, red}});
+    paint_patches("parent", {{{0, 0, 300, 350}, kRed}});
     child_ = settled_child("child", parent_, 10, 20, 200, 300, WS_VSCROLL | child_style);
     set(child_, SIF_ALL, 600, 300, 0);
     settle();
@@ -205,19 +191,19 @@ TEST_P(ChildScrollPaintTest, ParentPaintsBelowIt) {
   InvalidateRect(parent_, &only_the_bar, TRUE);
   EXPECT_EQ(childs_thumb(), "18..149");
   UpdateWindow(parent_);
-  EXPECT_EQ(pixel(610, 200), red);
+  EXPECT_EQ(pixel(610, 200), kRed);
 }
 
 TEST_P(ChildScrollPaintTest, MovesWithTheChild) {
   MoveWindow(child_, 40, 40, 200, 300, TRUE);
   EXPECT_EQ(thumb_at(631, 140, 440), "18..149");
-  EXPECT_EQ(pixel(601, 130), red);
+  EXPECT_EQ(pixel(601, 130), kRed);
 }
 
 TEST_P(ChildScrollPaintTest, IsClippedByTheParent) {
   MoveWindow(child_, 108, 20, 200, 300, TRUE);  // the bar from 291 to 307 of 300
   pump();
-  EXPECT_NE(pixel(699, 200), red);
+  EXPECT_NE(pixel(699, 200), kRed);
   EXPECT_NE(pixel(699, 200), pixel(700, 200));
   MoveWindow(child_, 10, 20, 200, 300, TRUE);
   EXPECT_EQ(childs_thumb(), "18..149");
@@ -227,33 +213,33 @@ TEST_P(ChildScrollPaintTest, IsClippedByTheParent) {
 TEST_P(ChildScrollPaintTest, FollowsTheChildsSize) {
   MoveWindow(child_, 10, 20, 150, 300, TRUE);
   EXPECT_EQ(thumb_at(551, 120, 420), "18..149") << "narrower";
-  EXPECT_EQ(pixel(601, 200), red);
+  EXPECT_EQ(pixel(601, 200), kRed);
   MoveWindow(child_, 10, 20, 150, 167, TRUE);
   EXPECT_EQ(thumb_at(551, 120, 287), "18..82") << "lower";
   MoveWindow(child_, 10, 20, 200, 300, TRUE);
   EXPECT_EQ(childs_thumb(), "18..149") << "larger";
-  EXPECT_EQ(pixel(551, 200), white);
+  EXPECT_EQ(pixel(551, 200), kWhite);
 }
 
 TEST_P(ChildScrollPaintTest, ComesAndGoes) {
   ShowScrollBar(child_, SB_VERT, FALSE);
   pump();
-  EXPECT_EQ(pixel(601, 200), white);
+  EXPECT_EQ(pixel(601, 200), kWhite);
   ShowScrollBar(child_, SB_VERT, TRUE);
   EXPECT_EQ(childs_thumb(), "18..149");
 }
 
 TEST_P(ChildScrollPaintTest, IsUncoveredByASibling) {
   const HWND above = settled_child("above", parent_, 150, 50, 100, 100);
-  paint_patches("above", {{{0, 0, 100, 100}, red}});
+  paint_patches("above", {{{0, 0, 100, 100}, kRed}});
   SetWindowPos(above, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
   pump();
-  EXPECT_EQ(pixel(601, 200), red);
+  EXPECT_EQ(pixel(601, 200), kRed);
   DestroyWindow(above);
   EXPECT_EQ(childs_thumb(), "18..149");
-  EXPECT_NE(pixel(601, 200), red);
+  EXPECT_NE(pixel(601, 200), kRed);
   EXPECT_EQ(pixel(594, 200), pixel(594, 400)) << "the track beside the thumb";
-  EXPECT_EQ(pixel(580, 200), white) << "the client area";
+  EXPECT_EQ(pixel(580, 200), kWhite) << "the client area";
 }
 
 INSTANTIATE_TEST_SUITE_P(, ChildScrollPaintTest,
@@ -269,8 +255,8 @@ TEST_F(ScrollPaintTest, SiblingAboveIsNotDrawnOver) {
   SetScrollPos(below, SB_VERT, 301, TRUE);
   pump();
   EXPECT_NE(above, nullptr);
-  EXPECT_EQ(pixel(601, 200), white);
-  EXPECT_NE(pixel(601, 370), white);
+  EXPECT_EQ(pixel(601, 200), kWhite);
+  EXPECT_NE(pixel(601, 370), kWhite);
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "tests/platform/conformance/support/log_pattern.h"
 #include "tests/platform/conformance/support/message_names.h"
 #include "tests/support/rects.h"
 
@@ -99,35 +98,18 @@ void MessageRecorder::ignore(std::set<UINT> messages) { ignored_.merge(messages)
 void MessageRecorder::record_everything() {
   only_.clear();
   only_windows_.clear();
-  // Once per process, and never what a case is about unless it says so.
   ignored_ = {WM_ACTIVATEAPP};
 }
 
 void MessageRecorder::dispatching(const MSG& message) { dispatched_ = message; }
 
 int MessageRecorder::count(const std::string& window, UINT message) const {
-  const std::string plain = window + " " + message_name(message);
-  const std::string queued = window + " (q) " + message_name(message);
+  const std::string plain = window + " " + message_name(message) + " ";
+  const std::string queued = window + " (q) " + message_name(message) + " ";
   return static_cast<int>(std::count_if(log_.begin(), log_.end(), [&](const LogLine& line) {
-    return line_matches(plain, line.text) || line_matches(queued, line.text);
+    return (line.text + " ").starts_with(plain) || (line.text + " ").starts_with(queued);
   }));
 }
-
-testing::AssertionResult MessageRecorder::matches(std::string_view expected,
-                                                  Nesting nesting) const {
-  const std::vector<LogLine> pattern = read_pattern(expected);
-  const bool same = std::equal(pattern.begin(), pattern.end(), log_.begin(), log_.end(),
-                               [&](const LogLine& wanted, const LogLine& line) {
-                                 return line_matches(wanted.text, line.text) &&
-                                        (nesting == Nesting::ignored || wanted.depth == line.depth);
-                               });
-  if (same) return testing::AssertionSuccess();
-  return testing::AssertionFailure() << "expected\n"
-                                     << write_log(pattern) << "\nrecorded\n"
-                                     << text();
-}
-
-std::string MessageRecorder::text() const { return write_log(log_); }
 
 LRESULT CALLBACK MessageRecorder::procedure(HWND window, UINT message, WPARAM wparam,
                                             LPARAM lparam) {

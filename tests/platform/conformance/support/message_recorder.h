@@ -1,13 +1,6 @@
 #pragma once
-// Windows whose procedure writes down every message, so that a case is a table of what is expected:
-//
-//   child WM_NCCREATE > WM_CREATE > parent WM_PARENTNOTIFY WM_CREATE 7 child > child (q) WM_PAINT
-//   pop WM_ACTIVATE 1 old { old WM_KILLFOCUS pop > pop WM_SETFOCUS old }
-//
-// A > B is order, { } holds what was sent while the message before it was being handled, (q) marks
-// what came out of the queue. A step without a window's name is about the window of the step
-// before. Parameters may be left out from the right; flags joined by | are compared as sets; ~FLAG
-// means "at least this flag".
+// Windows whose procedure writes down every message. (q) marks what came out of the queue; the
+// depth of a line is how many messages were being handled when it came.
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -15,7 +8,6 @@
 #include <optional>
 #include <set>
 #include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -54,8 +46,6 @@ struct LogLine {
   std::string text;
 };
 
-enum class Nesting { compared, ignored };
-
 class MessageRecorder {
  public:
   // Nothing: the default handling follows.
@@ -72,6 +62,7 @@ class MessageRecorder {
   std::wstring class_for(const WindowPlan& plan);  // registers it when it is new
   HWND window(const std::string& name) const;      // null when there was none
   std::string name_of(HWND window) const;          // "none" for null
+  const std::map<std::string, HWND>& windows() const { return windows_; }  // also those gone
 
   // One hook per window and message; a new one replaces it.
   void on(const std::string& window, UINT message, Hook hook);
@@ -85,6 +76,8 @@ class MessageRecorder {
   void ignore(std::set<UINT> messages);
   void only_windows(std::set<std::string> names) { only_windows_ = std::move(names); }
   void record_everything();
+  // It comes once per process, and is never what a case is about unless it says so.
+  void record_activation_of_application() { ignored_.erase(WM_ACTIVATEAPP); }
 
   // Announces the message that DispatchMessageW is about to deliver.
   void dispatching(const MSG& message);
@@ -92,9 +85,6 @@ class MessageRecorder {
   void clear() { log_.clear(); }
   const std::vector<LogLine>& log() const { return log_; }
   int count(const std::string& window, UINT message) const;
-  testing::AssertionResult matches(std::string_view expected,
-                                   Nesting nesting = Nesting::compared) const;
-  std::string text() const;
 
  private:
   static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);

@@ -9,10 +9,12 @@ void WindowTest::SetUp() {
     return false;
   });
   move_to(1270, 790);
-  recorder_->clear();
+  forget();
 }
 
 void WindowTest::TearDown() {
+  const bool stopped = HasFatalFailure();
+  EXPECT_TRUE(stopped || golden_.end());
   filter_messages({});
   recorder_->remove_hooks();
   recorder_.reset();
@@ -21,6 +23,17 @@ void WindowTest::TearDown() {
 void WindowTest::click(int x, int y) {
   press_at(x, y);
   release();
+}
+
+std::string WindowTest::pressed_at(int x, int y) {
+  recorder().only({WM_LBUTTONDOWN});
+  move_to(x, y);
+  recorder().clear();
+  press();
+  std::string who;
+  for (const LogLine& line : recorder().log()) who += line.text.substr(0, line.text.find(' '));
+  release();
+  return who;
 }
 
 HWND WindowTest::settled_popup(const std::string& name, int x, int y, int width, int height,
@@ -44,7 +57,26 @@ HWND WindowTest::settled_child(const std::string& name, HWND parent, int x, int 
 
 void WindowTest::settle() {
   pump();
+  forget();
+}
+
+void WindowTest::forget() {
   recorder_->clear();
+  state_ = window_state(recorder_->windows());
+}
+
+void WindowTest::expect_step(const std::string& name, const std::string& returned) {
+  std::vector<std::string> lines;
+  if (!returned.empty()) lines.push_back("= returned " + returned);
+  for (const LogLine& line : recorder_->log()) {
+    lines.push_back(std::string(static_cast<std::size_t>(2 * line.depth), ' ') + line.text);
+  }
+  for (const std::string& change : state_changes(state_, window_state(recorder_->windows()))) {
+    lines.push_back(change);
+  }
+  if (lines.empty()) lines.emplace_back("nothing");
+  EXPECT_TRUE(golden_.compare(name, lines));
+  forget();
 }
 
 void WindowTest::paint_patches(const std::string& window, std::vector<Patch> patches) {
@@ -63,5 +95,7 @@ RECT update_rect(HWND window) {
   GetUpdateRect(window, &rect, FALSE);
   return rect;
 }
+
+std::string text_of(POINT point) { return std::to_string(point.x) + "," + std::to_string(point.y); }
 
 }  // namespace corvane::conformance

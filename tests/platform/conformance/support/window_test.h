@@ -1,11 +1,13 @@
 #pragma once
 // A desktop for each case, whose windows record their messages.
+#include <concepts>
 #include <memory>
 #include <string>
-#include <string_view>
 #include <vector>
 
+#include "tests/platform/conformance/support/golden.h"
 #include "tests/platform/conformance/support/message_recorder.h"
+#include "tests/platform/conformance/support/window_state.h"
 #include "tests/support/desktop.h"
 #include "tests/support/rects.h"
 
@@ -23,6 +25,8 @@ class WindowTest : public testing::Test, protected test::Desktop {
 
   // The platform's bare click: nothing passes after it.
   void click(int x, int y);
+  // Who gets a press there: a window's name, or nothing. From here on only presses are recorded.
+  std::string pressed_at(int x, int y);
   HWND create(const std::string& name, const WindowPlan& plan) {
     return recorder().create(name, plan);
   }
@@ -32,14 +36,23 @@ class WindowTest : public testing::Test, protected test::Desktop {
   // A visible child, painted, the log empty.
   HWND settled_child(const std::string& name, HWND parent, int x, int y, int width, int height,
                      DWORD extra_style = 0);
-  void settle();  // pumps, then forgets what was recorded
+  void settle();  // pumps, then forgets
 
   MessageRecorder& recorder() { return *recorder_; }
   HWND window(const std::string& name) const { return recorder_->window(name); }
   std::string name_of(HWND window) const { return recorder_->name_of(window); }
-  testing::AssertionResult log_is(std::string_view expected, Nesting nesting = Nesting::compared) {
-    return recorder_->matches(expected, nesting);
+
+  // What happened since the last step, or since forget(), is as the golden file says: what was
+  // returned, the messages, and what is different now. Then it is forgotten.
+  void step(const std::string& name = {}) { expect_step(name, {}); }
+  void step(const std::string& name, HWND returned) { expect_step(name, name_of(returned)); }
+  void step(const std::string& name, const std::string& seen) { expect_step(name, seen); }
+  template <std::integral Number>
+  void step(const std::string& name, Number returned) {
+    expect_step(name, std::to_string(returned));
   }
+  void forget();
+
   // Makes `window` draw these filled rectangles over its background in WM_PAINT.
   struct Patch {
     RECT rect;
@@ -48,9 +61,14 @@ class WindowTest : public testing::Test, protected test::Desktop {
   void paint_patches(const std::string& window, std::vector<Patch> patches);
 
  private:
+  void expect_step(const std::string& name, const std::string& returned);
+
   std::unique_ptr<MessageRecorder> recorder_;
+  WindowState state_;  // at the last step
+  GoldenTest golden_;
 };
 
 RECT update_rect(HWND window);
+std::string text_of(POINT point);
 
 }  // namespace corvane::conformance

@@ -17,7 +17,13 @@ BOOL CALLBACK never_called(HWND, LPARAM) {
   return FALSE;
 }
 
-const HandleCall creation_and_state[] = {
+// What the calls would fill.
+RECT rect;
+POINT point;
+PAINTSTRUCT paint;
+wchar_t text[4] = L"abc";
+
+const HandleCall kCalls[] = {
     {"DestroyWindow", Null::fails, [](HWND h) { return DestroyWindow(h) == 0; }},
     {"ShowWindow", Null::fails, [](HWND h) { return ShowWindow(h, SW_SHOW) == 0; }},
     {"MoveWindow", Null::fails, [](HWND h) { return MoveWindow(h, 0, 0, 5, 5, TRUE) == 0; }},
@@ -29,16 +35,8 @@ const HandleCall creation_and_state[] = {
     {"IsWindowEnabled", Null::fails, [](HWND h) { return IsWindowEnabled(h) == 0; }},
     {"SetWindowTextW", Null::fails, [](HWND h) { return SetWindowTextW(h, L"x") == 0; }},
     {"GetWindowTextLengthW", Null::fails, [](HWND h) { return GetWindowTextLengthW(h) == 0; }},
-    {"GetWindowTextW", Null::fails,
-     [](HWND h) {
-       wchar_t text[4] = L"abc";
-       return GetWindowTextW(h, text, 4) == 0;
-     }},
-    {"GetClassNameW", Null::fails,
-     [](HWND h) {
-       wchar_t text[4] = L"abc";
-       return GetClassNameW(h, text, 4) == 0;
-     }},
+    {"GetWindowTextW", Null::fails, [](HWND h) { return GetWindowTextW(h, text, 4) == 0; }},
+    {"GetClassNameW", Null::fails, [](HWND h) { return GetClassNameW(h, text, 4) == 0; }},
     {"GetWindowLongW", Null::fails, [](HWND h) { return GetWindowLongW(h, GWL_STYLE) == 0; }},
     {"SetWindowLongW", Null::fails, [](HWND h) { return SetWindowLongW(h, GWL_STYLE, 1) == 0; }},
     {"GetWindowLongPtrW", Null::fails,
@@ -55,34 +53,12 @@ const HandleCall creation_and_state[] = {
        return UpdateLayeredWindow(h, nullptr, nullptr, nullptr, nullptr, nullptr, 0, nullptr,
                                   ULW_ALPHA) == 0;
      }},
-};
-
-const HandleCall geometry_and_relations[] = {
-    {"GetWindowRect", Null::fails,
-     [](HWND h) {
-       RECT rect{};
-       return GetWindowRect(h, &rect) == 0;
-     }},
-    {"GetClientRect", Null::fails,
-     [](HWND h) {
-       RECT rect{};
-       return GetClientRect(h, &rect) == 0;
-     }},
-    {"ClientToScreen", Null::fails,
-     [](HWND h) {
-       POINT point{};
-       return ClientToScreen(h, &point) == 0;
-     }},
-    {"ScreenToClient", Null::fails,
-     [](HWND h) {
-       POINT point{};
-       return ScreenToClient(h, &point) == 0;
-     }},
+    {"GetWindowRect", Null::fails, [](HWND h) { return GetWindowRect(h, &rect) == 0; }},
+    {"GetClientRect", Null::fails, [](HWND h) { return GetClientRect(h, &rect) == 0; }},
+    {"ClientToScreen", Null::fails, [](HWND h) { return ClientToScreen(h, &point) == 0; }},
+    {"ScreenToClient", Null::fails, [](HWND h) { return ScreenToClient(h, &point) == 0; }},
     {"MapWindowPoints", Null::has_meaning,
-     [](HWND h) {
-       POINT point{};
-       return MapWindowPoints(h, nullptr, &point, 1) == 0;
-     }},
+     [](HWND h) { return MapWindowPoints(h, nullptr, &point, 1) == 0; }},
     {"GetParent", Null::fails, [](HWND h) { return GetParent(h) == nullptr; }},
     {"SetParent", Null::fails, [](HWND h) { return SetParent(h, nullptr) == nullptr; }},
     {"GetAncestor", Null::fails, [](HWND h) { return GetAncestor(h, GA_ROOT) == nullptr; }},
@@ -101,9 +77,6 @@ const HandleCall geometry_and_relations[] = {
      }},
     {"GetWindowThreadProcessId", Null::fails,
      [](HWND h) { return GetWindowThreadProcessId(h, nullptr) == 0; }},
-};
-
-const HandleCall messages_and_input[] = {
     {"SendMessageW", Null::fails, [](HWND h) { return SendMessageW(h, WM_USER, 0, 0) == 0; }},
     {"PostMessageW", Null::has_meaning, [](HWND h) { return PostMessageW(h, WM_USER, 0, 0) == 0; }},
     {"SetTimer", Null::has_meaning, [](HWND h) { return SetTimer(h, 1, 10, nullptr) == 0; }},
@@ -119,11 +92,7 @@ const HandleCall messages_and_input[] = {
        request.hwndTrack = h;
        return TrackMouseEvent(&request) == 0;
      }},
-    {"BeginPaint", Null::fails,
-     [](HWND h) {
-       PAINTSTRUCT paint{};
-       return BeginPaint(h, &paint) == nullptr;
-     }},
+    {"BeginPaint", Null::fails, [](HWND h) { return BeginPaint(h, &paint) == nullptr; }},
     {"GetDC", Null::has_meaning, [](HWND h) { return GetDC(h) == nullptr; }},
     {"GetWindowDC", Null::has_meaning, [](HWND h) { return GetWindowDC(h) == nullptr; }},
     {"InvalidateRect", Null::has_meaning,
@@ -132,61 +101,37 @@ const HandleCall messages_and_input[] = {
     {"RedrawWindow", Null::has_meaning,
      [](HWND h) { return RedrawWindow(h, nullptr, nullptr, RDW_INVALIDATE) == 0; }},
     {"UpdateWindow", Null::fails, [](HWND h) { return UpdateWindow(h) == 0; }},
-    {"GetUpdateRect", Null::fails,
-     [](HWND h) {
-       RECT rect{};
-       return GetUpdateRect(h, &rect, FALSE) == 0;
-     }},
+    {"GetUpdateRect", Null::fails, [](HWND h) { return GetUpdateRect(h, &rect, FALSE) == 0; }},
 };
 
-std::string call_name(const testing::TestParamInfo<HandleCall>& instance) {
-  return instance.param.function;
-}
+class HandleTest : public WindowTest {};
 
-class HandleTest : public WindowTest, public testing::WithParamInterface<HandleCall> {
- protected:
-  void expect_refused(HWND handle, const char* kind) {
-    SetLastError(0);
-    EXPECT_TRUE(GetParam().failed(handle)) << kind;
-    EXPECT_EQ(GetLastError(), 1400U) << kind;
-  }
-};
-
-TEST_P(HandleTest, RefusesWhatIsNoWindow) {
+TEST_F(HandleTest, EveryFunctionRefusesWhatIsNoWindow) {
   const HWND live = settled_popup("live", 0, 0, 50, 50);
   const HWND gone = settled_popup("gone", 60, 0, 50, 50, live);
   DestroyWindow(gone);
   settle();
-  expect_refused(gone, "destroyed");
-  expect_refused(reinterpret_cast<HWND>(UINT_PTR{0x7FFF1234}), "made up");
-  expect_refused(reinterpret_cast<HWND>(UINT_PTR{3}), "small number");
-  expect_refused(reinterpret_cast<HWND>(~UINT_PTR{0} - 7), "all ones");
   int local = 0;
-  expect_refused(reinterpret_cast<HWND>(&local), "some address");
-  if (GetParam().null == Null::fails) expect_refused(nullptr, "null");
+  const HWND no_windows[] = {gone,
+                             reinterpret_cast<HWND>(UINT_PTR{0x7FFF1234}),
+                             reinterpret_cast<HWND>(UINT_PTR{3}),
+                             reinterpret_cast<HWND>(~UINT_PTR{0} - 7),
+                             reinterpret_cast<HWND>(&local),
+                             nullptr};
+  for (const HandleCall& call : kCalls) {
+    for (const HWND handle : no_windows) {
+      if (handle == nullptr && call.null == Null::has_meaning) continue;
+      SetLastError(0);
+      EXPECT_TRUE(call.failed(handle)) << call.function << ' ' << handle;
+      EXPECT_EQ(GetLastError(), 1400U) << call.function << ' ' << handle;
+    }
+  }
+  for (const HWND handle : no_windows) EXPECT_EQ(IsWindow(handle), 0);
   EXPECT_NE(IsWindow(live), 0);
-  EXPECT_EQ(GetFocus(), live);
-  EXPECT_EQ(GetActiveWindow(), live);
-  EXPECT_EQ(GetCapture(), nullptr);
+  step();
 }
 
-INSTANTIATE_TEST_SUITE_P(State, HandleTest, testing::ValuesIn(creation_and_state), call_name);
-INSTANTIATE_TEST_SUITE_P(Relations, HandleTest, testing::ValuesIn(geometry_and_relations),
-                         call_name);
-INSTANTIATE_TEST_SUITE_P(Messages, HandleTest, testing::ValuesIn(messages_and_input), call_name);
-
-class HandleArgumentTest : public WindowTest {};
-
-TEST_F(HandleArgumentTest, IsWindowOnlyForLiveWindows) {
-  const HWND live = settled_popup("live", 0, 0, 50, 50);
-  EXPECT_NE(IsWindow(live), 0);
-  EXPECT_EQ(IsWindow(nullptr), 0);
-  EXPECT_EQ(IsWindow(reinterpret_cast<HWND>(UINT_PTR{0x7FFF1234})), 0);
-  DestroyWindow(live);
-  EXPECT_EQ(IsWindow(live), 0);
-}
-
-TEST_F(HandleArgumentTest, RefusedParentsAndNeighbours) {
+TEST_F(HandleTest, RefusedParentsAndNeighbours) {
   const HWND live = settled_popup("live", 0, 0, 50, 50);
   const HWND gone = settled_popup("gone", 60, 0, 50, 50);
   DestroyWindow(gone);
@@ -203,7 +148,7 @@ TEST_F(HandleArgumentTest, RefusedParentsAndNeighbours) {
   EXPECT_EQ(IsChild(live, gone), 0);
 }
 
-TEST_F(HandleArgumentTest, NullPointersAreRefused) {
+TEST_F(HandleTest, NullPointersAreRefused) {
   const HWND live = settled_popup("live", 0, 0, 50, 50);
   EXPECT_EQ(GetWindowRect(live, nullptr), 0);
   EXPECT_EQ(GetClientRect(live, nullptr), 0);
@@ -223,22 +168,16 @@ TEST_F(HandleArgumentTest, NullPointersAreRefused) {
       nullptr);
 }
 
-TEST_F(HandleArgumentTest, ReleasedDeviceContextsCannotBeUsedAgain) {
+TEST_F(HandleTest, ReleasedDeviceContextsAndThoseOfDestroyedWindowsDrawNothing) {
   const HWND live = settled_popup("live", 0, 0, 50, 50);
-  const HDC dc = GetDC(live);
-  EXPECT_EQ(ReleaseDC(live, dc), 1);
-  EXPECT_EQ(ReleaseDC(live, dc), 0);
-  const RECT rect{0, 0, 50, 50};
-  FillRect(dc, &rect, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
+  const HDC released = GetDC(live);
+  EXPECT_EQ(ReleaseDC(live, released), 1);
+  EXPECT_EQ(ReleaseDC(live, released), 0);
+  fill(released, {0, 0, 50, 50}, RGB(0, 0, 0));
   EXPECT_EQ(pixel(10, 10), RGB(255, 255, 255));
-}
-
-TEST_F(HandleArgumentTest, DrawingIntoAWindowDestroyedMeanwhileIsHarmless) {
-  const HWND live = settled_popup("live", 0, 0, 50, 50);
   const HDC dc = GetDC(live);
   DestroyWindow(live);
-  const RECT rect{0, 0, 50, 50};
-  FillRect(dc, &rect, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+  fill(dc, {0, 0, 50, 50}, RGB(255, 255, 255));
   ReleaseDC(live, dc);
   EXPECT_NE(pixel(10, 10), RGB(255, 255, 255));
 }

@@ -20,32 +20,18 @@ class RelationTest : public WindowTest {
 };
 
 TEST_F(RelationTest, NewParentShowsTheChildAtTheSameClientPosition) {
-  EXPECT_EQ(SetParent(child_, right_), left_);
+  recorder().only({WM_PAINT});
+  const HWND former = SetParent(child_, right_);
+  pump();
+  step("moved", former);
   EXPECT_EQ(GetParent(child_), right_);
   EXPECT_EQ(text_of(window_rect(child_)), "410,120,460,170");
-  EXPECT_EQ(GetTopWindow(left_), nullptr);
   EXPECT_EQ(WindowFromPoint({420, 130}), inner_);
   EXPECT_EQ(WindowFromPoint({120, 130}), left_);
+  step("its own descendant", SetParent(child_, inner_));
+  step("itself", SetParent(child_, child_));
   DestroyWindow(left_);
   EXPECT_NE(IsWindow(child_), 0);
-}
-
-TEST_F(RelationTest, APopUpThatWasGivenAParentIsOrderedAmongItsNewSiblings) {
-  const HWND pop_up = settled_popup("pop-up", 0, 0, 20, 20);
-  SetParent(pop_up, left_);
-  for (const HWND after : {HWND_TOP, HWND_BOTTOM, HWND_NOTOPMOST, HWND_TOP}) {
-    EXPECT_NE(SetWindowPos(pop_up, after, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE), 0);
-    const bool lowest = after == HWND_BOTTOM;
-    EXPECT_EQ(GetTopWindow(left_), lowest ? child_ : pop_up);
-    EXPECT_EQ(GetWindow(child_, lowest ? GW_HWNDNEXT : GW_HWNDPREV), pop_up);
-  }
-}
-
-TEST_F(RelationTest, AWindowCannotGetItsOwnDescendantAsParent) {
-  EXPECT_EQ(SetParent(child_, inner_), nullptr);
-  EXPECT_EQ(SetParent(child_, child_), nullptr);
-  EXPECT_EQ(GetParent(child_), left_);
-  EXPECT_EQ(GetParent(inner_), child_);
 }
 
 TEST_F(RelationTest, OwnersInACircleDoNoHarm) {
@@ -88,43 +74,23 @@ LRESULT CALLBACK creation_hook(int code, WPARAM wparam, LPARAM lparam) {
   return hook_refuses ? 1 : 0;
 }
 
-class CreationHookTest : public WindowTest {
- protected:
-  void SetUp() override {
-    WindowTest::SetUp();
-    hook_calls.clear();
-    hook_refuses = false;
-    hook_ = SetWindowsHookExW(WH_CBT, &creation_hook, nullptr, GetCurrentThreadId());
-    ASSERT_NE(hook_, nullptr);
-  }
-  void TearDown() override {
-    UnhookWindowsHookEx(hook_);
-    WindowTest::TearDown();
-  }
-  HHOOK hook_ = nullptr;
-};
-
-TEST_F(CreationHookTest, SeesTheWindowBeforeItsFirstMessage) {
-  bool seen_first = false;
-  recorder().before_default("pop", WM_NCCREATE, [&] { seen_first = hook_calls.size() == 1; });
+TEST_F(RelationTest, CreationHookSeesTheWindowBeforeItsFirstMessage) {
+  hook_calls.clear();
+  hook_refuses = false;
+  const HHOOK hook = SetWindowsHookExW(WH_CBT, &creation_hook, nullptr, GetCurrentThreadId());
+  ASSERT_NE(hook, nullptr);
+  recorder().before_default("pop", WM_NCCREATE, [&] { EXPECT_EQ(hook_calls.size(), 1U); });
   const HWND popup = create("pop", {.place = {.width = 123}});
-  EXPECT_TRUE(seen_first);
   ASSERT_EQ(hook_calls.size(), 1U);
   EXPECT_EQ(hook_calls[0].window, popup);
   EXPECT_EQ(hook_calls[0].width, 123);
-}
-
-TEST_F(CreationHookTest, MayRefuse) {
   hook_refuses = true;
-  EXPECT_EQ(create("pop", {}), nullptr);
-  EXPECT_EQ(recorder().count("pop", WM_CREATE), 0);
-}
-
-TEST_F(CreationHookTest, IsNotCalledAfterItsRemoval) {
-  EXPECT_NE(UnhookWindowsHookEx(hook_), 0);
-  EXPECT_EQ(UnhookWindowsHookEx(hook_), 0);
-  create("pop", {});
-  EXPECT_TRUE(hook_calls.empty());
+  EXPECT_EQ(create("refused", {}), nullptr);
+  EXPECT_EQ(recorder().count("refused", WM_CREATE), 0);
+  EXPECT_NE(UnhookWindowsHookEx(hook), 0);
+  EXPECT_EQ(UnhookWindowsHookEx(hook), 0);
+  EXPECT_NE(create("after its removal", {}), nullptr);
+  EXPECT_EQ(hook_calls.size(), 2U);
 }
 
 }  // namespace
