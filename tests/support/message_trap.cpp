@@ -62,12 +62,12 @@ LRESULT CALLBACK MessageTrap::innermost(HWND window, UINT message, WPARAM wparam
 }
 
 LRESULT CALLBACK MessageTrap::outermost(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
-  const WNDPROC handler = live->object_procedures_[window];
-  const TrapPoint point = {live->names_[window], message};
-  const int occurrence = live->count(point);
-  const bool now = point == live->point_ && occurrence == live->occurrence_;
+  const Window& known = live->windows_[window];
+  const bool now = live->is_set_on({known.name, message});
   if (now && live->side_ == TrapSide::before_handling) live->spring(window);
-  const LRESULT result = ::CallWindowProcW(handler, window, message, wparam, lparam);
+  ++live->depth_;
+  const LRESULT result = ::CallWindowProcW(known.object_procedure, window, message, wparam, lparam);
+  --live->depth_;
   if (now && live->side_ == TrapSide::after_handling) live->spring(window);
   return result;
 }

@@ -32,9 +32,14 @@ class MessageTrap {
   void set(const TrapPoint& point, int occurrence, TrapSide side, std::function<void()> action);
   bool sprung() const { return sprung_at_ != nullptr; }
   HWND sprung_at() const { return sprung_at_; }  // the window whose message it was
-  // From here on each message counts as one that comes for the first time.
-  void begin_phase() { seen_in_phase_.clear(); }
-  // For each message its occurrences that were the first ones of a phase.
+
+  // From here on each message counts as one that comes for the first time. When sessions are broken
+  // off, it throws SessionOver after a whole phase since the trap sprang: more shows nothing new.
+  void begin_phase();
+  struct SessionOver {};
+  void break_off_sessions() { breaks_off_ = true; }
+  // For each message its first occurrence, and those that were the first ones of a phase while
+  // another message was being handled: then code of ours is on the stack.
   const std::map<TrapPoint, std::vector<int>>& firsts() const { return firsts_; }
 
  private:
@@ -51,9 +56,8 @@ class MessageTrap {
   static LRESULT CALLBACK on_creation(int code, WPARAM wparam, LPARAM lparam);
   static LRESULT CALLBACK innermost(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
   static LRESULT CALLBACK outermost(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
+  bool is_set_on(const TrapPoint& point);  // counts it
   void spring(HWND window);
-
-  int count(const TrapPoint& point);  // which occurrence this one is
 
   static MessageTrap* live;
 
@@ -68,6 +72,8 @@ class MessageTrap {
   TrapSide side_ = TrapSide::before_handling;
   std::function<void()> action_;
   HWND sprung_at_ = nullptr;
+  bool breaks_off_ = false;
+  int phases_since_ = 0;
 };
 
 }  // namespace corvane::test
