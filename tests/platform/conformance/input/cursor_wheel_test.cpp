@@ -35,12 +35,14 @@ TEST_F(CursorTest, IsAskedForEachMovePressAndRelease) {
 
 TEST_F(CursorTest, DefaultHandlingAsksTheParentsFirstThenSetsTheClassCursor) {
   move_to(160, 160);
-  step();
+  step("left to the default handling");
   EXPECT_EQ(GetCursor(), hand_);
   move_to(105, 106);
   EXPECT_EQ(GetCursor(), cross_);
+  forget();
   recorder().answer("top", WM_SETCURSOR, TRUE);
   move_to(160, 160);
+  step("answered by the parent");
   EXPECT_EQ(GetCursor(), cross_) << "the parent's answer stops the default handling";
 }
 

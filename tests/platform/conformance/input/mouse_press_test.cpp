@@ -110,6 +110,26 @@ TEST_F(MousePressTest, RetrievedMessageHasTheScreenPositionAndTime) {
   EXPECT_NE(GetAsyncKeyState(VK_LBUTTON) & 0x8000, 0);
 }
 
+TEST_F(MousePressTest, MovesOfInputAreRelativeOrShareOfTheScreen) {
+  move_to(105, 105);
+  INPUT input{};
+  input.type = INPUT_MOUSE;
+  input.mi.dwFlags = MOUSEEVENTF_MOVE;
+  input.mi.dx = 3;
+  input.mi.dy = -4;
+  EXPECT_EQ(SendInput(1, &input, sizeof(input)), 1U);
+  POINT point{};
+  GetCursorPos(&point);
+  EXPECT_EQ(text_of(point), "108,101");
+  input.mi.dwFlags |= MOUSEEVENTF_ABSOLUTE;
+  input.mi.dx = 32768;
+  input.mi.dy = 16384;
+  EXPECT_EQ(SendInput(1, &input, sizeof(input)), 1U);
+  GetCursorPos(&point);
+  EXPECT_EQ(text_of(point), "640,200");
+  EXPECT_EQ(SendInput(1, &input, sizeof(input) - 1), 0U);
+}
+
 class MouseLeaveTest : public MousePressTest {
  protected:
   static void ask(HWND window, DWORD more_flags = 0) {

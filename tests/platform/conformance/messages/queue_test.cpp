@@ -173,8 +173,11 @@ TEST_F(DefaultHandlingTest, UnknownMessagesGiveZeroAndCloseDestroys) {
   for (const UINT message : {WM_USER + 77, WM_APP + 5, 0xC123U, 0x03FFU}) {
     EXPECT_EQ(DefWindowProcW(popup_, message, 1, 2), 0) << message;
   }
+  const HWND other = settled_popup("other", 60, 0, 50, 50);
   SendMessageW(popup_, WM_CLOSE, 0, 0);
   EXPECT_EQ(IsWindow(popup_), 0);
+  SendMessageW(other, WM_SYSCOMMAND, SC_CLOSE | 3, 0);
+  EXPECT_EQ(IsWindow(other), 0) << "the system uses the lowest four bits";
 }
 
 TEST_F(DefaultHandlingTest, EraseTellsWhetherTheClassBrushFilled) {

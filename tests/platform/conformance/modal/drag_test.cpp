@@ -94,6 +94,15 @@ TEST_F(DragTest, ObservedThatWithoutAButtonItDragsUntilPressAndRelease) {
   step("", SendMessageW(popup_, WM_SYSCOMMAND, SC_MOVE | HTCAPTION, 0));
 }
 
+TEST_F(DragTest, PressOnACaptionDragsToo) {
+  recorder().answer("pop", WM_NCHITTEST, HTCAPTION);
+  script_ = {move_pointer(125, 118), button_up};
+  move_to(110, 110);
+  forget();
+  press();
+  step();
+}
+
 TEST_F(DragTest, ObservedThatAChildIsDraggedInItsParent) {
   settled_child("child", popup_, 5, 5, 30, 30);
   drag_on_press("child");

@@ -1,39 +1,27 @@
 // Layered windows with a colour key and an alpha: state, hit testing and the composed screen.
-#include "tests/platform/conformance/support/window_test.h"
+#include "tests/platform/conformance/support/layered_test.h"
 
 namespace corvane::conformance {
 namespace {
-
-constexpr COLORREF kWhite = RGB(255, 255, 255);
-constexpr COLORREF kBlack = RGB(0, 0, 0);
-constexpr COLORREF kRed = RGB(255, 0, 0);
-constexpr LONG kLayeredStyle = WS_EX_LAYERED;
 
 int blended(int upper, int lower, int alpha) {
   return (upper * alpha + lower * (255 - alpha) + 127) / 255;
 }
 
-// A red window, and above it a layer, white with a black square from 20,20 to 60,60.
-class LayeredTest : public WindowTest {
+// The layer is white with a black square from 20,20 to 60,60.
+class LayerAttributesTest : public LayeredTest {
  protected:
   void SetUp() override {
-    WindowTest::SetUp();
-    create("below", {.style = WS_POPUP | WS_VISIBLE, .place = {100, 100, 200, 150}});
-    paint_patches("below", {{{0, 0, 200, 150}, kRed}});
-    layer_ = create("layer", {.parent = window("below"),
-                              .style = WS_POPUP | WS_VISIBLE,
-                              .place = {100, 100, 200, 150},
-                              .ex_style = WS_EX_LAYERED});
+    LayeredTest::SetUp();
     paint_patches("layer", {{{20, 20, 60, 60}, kBlack}});
+    InvalidateRect(layer_, nullptr, TRUE);
     settle();
   }
   std::string on_black() { return pressed_at(130, 130); }
   std::string on_white() { return pressed_at(220, 200); }
-
-  HWND layer_ = nullptr;
 };
 
-TEST_F(LayeredTest, AttributesAreKeptAsSet) {
+TEST_F(LayerAttributesTest, AttributesAreKeptAsSet) {
   COLORREF key = 0;
   BYTE alpha = 0;
   DWORD flags = 0;
@@ -45,17 +33,16 @@ TEST_F(LayeredTest, AttributesAreKeptAsSet) {
   EXPECT_EQ(flags, LWA_COLORKEY | LWA_ALPHA);
 }
 
-TEST_F(LayeredTest, StyleMayBeAddedLaterAndClearingItForgets) {
+TEST_F(LayerAttributesTest, StyleMayBeAddedLaterAndClearingItForgets) {
   const HWND plain = settled_popup("plain", 400, 100, 50, 50);
   EXPECT_EQ(SetLayeredWindowAttributes(plain, 0, 100, LWA_ALPHA), 0);
-  const LONG style = GetWindowLongW(plain, GWL_EXSTYLE);
-  SetWindowLongW(plain, GWL_EXSTYLE, style | kLayeredStyle);
+  SetWindowLongW(plain, GWL_EXSTYLE, static_cast<LONG>(WS_EX_LAYERED));
   step();
   EXPECT_NE(pixel(410, 110), kWhite) << "nothing shown until attributes are set";
   EXPECT_NE(SetLayeredWindowAttributes(plain, 0, 255, LWA_ALPHA), 0);
-  SetWindowLongW(plain, GWL_EXSTYLE, style);
+  SetWindowLongW(plain, GWL_EXSTYLE, 0);
   EXPECT_EQ(pixel(410, 110), kWhite) << "an ordinary window again";
-  SetWindowLongW(plain, GWL_EXSTYLE, style | kLayeredStyle);
+  SetWindowLongW(plain, GWL_EXSTYLE, static_cast<LONG>(WS_EX_LAYERED));
   EXPECT_EQ(GetLayeredWindowAttributes(plain, nullptr, nullptr, nullptr), 0);
 }
 
@@ -70,7 +57,7 @@ struct Attributes {
   COLORREF white_part;
 };
 
-TEST_F(LayeredTest, KeyAndAlphaDecideOnPressAndPixel) {
+TEST_F(LayerAttributesTest, KeyAndAlphaDecideOnPressAndPixel) {
   const COLORREF dark120 = RGB(blended(0, 255, 120), 0, 0);
   const COLORREF light120 = RGB(255, blended(255, 0, 120), blended(255, 0, 120));
   const COLORREF dark1 = RGB(blended(0, 255, 1), 0, 0);
@@ -103,7 +90,7 @@ TEST_F(LayeredTest, KeyAndAlphaDecideOnPressAndPixel) {
   }
 }
 
-TEST_F(LayeredTest, HoverAndCursorGoThroughKeyPixelsButACapturedDragDoesNot) {
+TEST_F(LayerAttributesTest, HoverAndCursorGoThroughKeyPixelsButACapturedDragDoesNot) {
   SetLayeredWindowAttributes(layer_, kWhite, 0, LWA_COLORKEY);
   recorder().only({WM_MOUSEMOVE, WM_SETCURSOR, WM_LBUTTONUP});
   move_to(220, 200);
@@ -117,7 +104,7 @@ TEST_F(LayeredTest, HoverAndCursorGoThroughKeyPixelsButACapturedDragDoesNot) {
   step("captured, over the key and outside");
 }
 
-TEST_F(LayeredTest, PixelsPaintedLastDecide) {
+TEST_F(LayerAttributesTest, PixelsPaintedLastDecide) {
   SetLayeredWindowAttributes(layer_, kWhite, 0, LWA_COLORKEY);
   EXPECT_EQ(on_black(), "layer");
   const HDC dc = GetDC(layer_);
@@ -126,9 +113,9 @@ TEST_F(LayeredTest, PixelsPaintedLastDecide) {
   EXPECT_EQ(on_black(), "below");
 }
 
-TEST_F(LayeredTest, OnlyLayeredAndTransparentTogetherLetEverythingThrough) {
+TEST_F(LayerAttributesTest, OnlyLayeredAndTransparentTogetherLetEverythingThrough) {
   SetLayeredWindowAttributes(layer_, 0, 255, LWA_ALPHA);
-  SetWindowLongW(layer_, GWL_EXSTYLE, kLayeredStyle | static_cast<LONG>(WS_EX_TRANSPARENT));
+  set_extended_style(WS_EX_LAYERED | WS_EX_TRANSPARENT);
   EXPECT_EQ(on_black(), "below");
   EXPECT_EQ(pixel(130, 130), kBlack) << "but it is shown";
   create("glass", {.parent = window("below"),
@@ -139,7 +126,7 @@ TEST_F(LayeredTest, OnlyLayeredAndTransparentTogetherLetEverythingThrough) {
   EXPECT_EQ(on_black(), "glass");
 }
 
-TEST_F(LayeredTest, AttributesAndMovesShowWithoutAPaint) {
+TEST_F(LayerAttributesTest, AttributesAndMovesShowWithoutAPaint) {
   SetLayeredWindowAttributes(layer_, kWhite, 255, LWA_ALPHA);
   settle();
   recorder().only({WM_PAINT, WM_ERASEBKGND});
@@ -159,7 +146,7 @@ TEST_F(LayeredTest, AttributesAndMovesShowWithoutAPaint) {
   step("widened");
 }
 
-TEST_F(LayeredTest, ChildMayBeLayeredToo) {
+TEST_F(LayerAttributesTest, ChildMayBeLayeredToo) {
   DestroyWindow(layer_);
   layer_ = create("layer", {.parent = window("below"),
                             .style = WS_CHILD | WS_VISIBLE,
@@ -173,7 +160,7 @@ TEST_F(LayeredTest, ChildMayBeLayeredToo) {
   EXPECT_EQ(pixel(130, 130), kBlack);
   EXPECT_EQ(pixel(220, 200), kRed);
   SetLayeredWindowAttributes(layer_, 0, 255, LWA_ALPHA);
-  SetWindowLongW(layer_, GWL_EXSTYLE, kLayeredStyle | static_cast<LONG>(WS_EX_TRANSPARENT));
+  set_extended_style(WS_EX_LAYERED | WS_EX_TRANSPARENT);
   EXPECT_EQ(on_black(), "below");
 }
 

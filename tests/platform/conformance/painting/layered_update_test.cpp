@@ -1,11 +1,10 @@
 // UpdateLayeredWindow.
+#include "tests/platform/conformance/support/layered_test.h"
 #include "tests/platform/conformance/support/picture.h"
-#include "tests/platform/conformance/support/window_test.h"
 
 namespace corvane::conformance {
 namespace {
 
-constexpr COLORREF kRed = RGB(255, 0, 0);
 constexpr COLORREF kGreen = RGB(0, 255, 0);
 constexpr COLORREF kBlue = RGB(0, 0, 255);
 constexpr std::uint32_t kGreenPixel = 0xFF00FF00;
@@ -19,19 +18,8 @@ struct Update {
   DWORD flags = ULW_ALPHA;
 };
 
-class UpdateLayeredTest : public WindowTest {
+class UpdateLayeredTest : public LayeredTest {
  protected:
-  void SetUp() override {
-    WindowTest::SetUp();
-    create("below", {.style = WS_POPUP | WS_VISIBLE, .place = {100, 100, 200, 150}});
-    paint_patches("below", {{{0, 0, 200, 150}, kRed}});
-    layer_ = create("layer", {.parent = window("below"),
-                              .style = WS_POPUP | WS_VISIBLE,
-                              .place = {100, 100, 100, 100},
-                              .ex_style = WS_EX_LAYERED});
-    settle();
-  }
-
   BOOL apply(const Picture& picture, const Update& update = {}, POINT* position = nullptr) {
     return apply_part(picture.dc(), picture.size(), {0, 0}, update, position);
   }
@@ -42,7 +30,6 @@ class UpdateLayeredTest : public WindowTest {
     return UpdateLayeredWindow(layer_, nullptr, position, &size, dc, &source, update.key, &blend,
                                update.flags);
   }
-  HWND layer_ = nullptr;
 };
 
 TEST_F(UpdateLayeredTest, SetsContentPositionAndSizeWithoutAnyMessage) {
@@ -58,6 +45,12 @@ TEST_F(UpdateLayeredTest, SetsContentPositionAndSizeWithoutAnyMessage) {
   step("later content replaces the former");
   EXPECT_EQ(pixel(160, 170), kBlue);
   EXPECT_EQ(pixel(190, 170), kRed);
+  position = {110, 120};
+  EXPECT_NE(UpdateLayeredWindow(layer_, nullptr, &position, nullptr, nullptr, nullptr, 0, nullptr,
+                                ULW_ALPHA),
+            0);
+  step("moved with its content");
+  EXPECT_EQ(pixel(111, 121), kBlue);
 }
 
 TEST_F(UpdateLayeredTest, HiddenWindowStaysHiddenAndNeedsNoPaintWhenShown) {
@@ -144,15 +137,15 @@ TEST_F(UpdateLayeredTest, RefusesWhatItCannotShow) {
     stale = gone.dc();
   }
   EXPECT_EQ(apply_part(stale, {10, 10}, {0, 0}), 0);
-  SetWindowLongW(layer_, GWL_EXSTYLE, 0);
+  set_extended_style(0);
   EXPECT_EQ(apply(picture), 0) << "without the style";
   EXPECT_EQ(GetLastError(), 87U);
-  SetWindowLongW(layer_, GWL_EXSTYLE, static_cast<LONG>(WS_EX_LAYERED));
+  set_extended_style(WS_EX_LAYERED);
   SetLayeredWindowAttributes(layer_, 0, 200, LWA_ALPHA);
   EXPECT_EQ(apply(picture), 0) << "after attributes";
   EXPECT_EQ(GetLastError(), 87U);
-  SetWindowLongW(layer_, GWL_EXSTYLE, 0);
-  SetWindowLongW(layer_, GWL_EXSTYLE, static_cast<LONG>(WS_EX_LAYERED));
+  set_extended_style(0);
+  set_extended_style(WS_EX_LAYERED);
   EXPECT_NE(apply(picture), 0) << "until the style is set anew";
 }
 

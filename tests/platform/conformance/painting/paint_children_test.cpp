@@ -18,10 +18,6 @@ class PaintChildrenTest : public WindowTest {
     recorder().only({WM_PAINT, WM_ERASEBKGND});
   }
   void invalidate_parent(RECT rect) { InvalidateRect(parent_, &rect, TRUE); }
-  void paint_step(const std::string& what) {
-    pump();
-    step(what);
-  }
   static void fill_window(HWND window) {
     const HDC dc = GetDC(window);
     fill(dc, {0, 0, 500, 500}, kRed);
@@ -34,15 +30,15 @@ class PaintChildrenTest : public WindowTest {
 TEST_F(PaintChildrenTest, ParentPaintsOverItsChildrenThenTheyPaint) {
   make(0);
   invalidate_parent({40, 40, 70, 60});
-  paint_step("a corner of the child");
+  pump_step("a corner of the child");
   InvalidateRect(parent_, nullptr, FALSE);
-  paint_step("children erase also when the parent does not");
+  pump_step("children erase also when the parent does not");
   RedrawWindow(parent_, nullptr, nullptr, RDW_INVALIDATE | RDW_NOCHILDREN);
-  paint_step("without children");
+  pump_step("without children");
   InvalidateRect(child_, nullptr, TRUE);
-  paint_step("an invalid child does not touch the parent");
+  pump_step("an invalid child does not touch the parent");
   ShowWindow(child_, SW_HIDE);
-  paint_step("a hidden child leaves its place to the parent, with erase");
+  pump_step("a hidden child leaves its place to the parent, with erase");
 }
 
 TEST_F(PaintChildrenTest, ParentsDrawingIsCoveredByTheRepaintedChild) {
@@ -65,17 +61,17 @@ TEST_F(PaintChildrenTest, ParentsDrawingIsCoveredByTheRepaintedChild) {
 TEST_F(PaintChildrenTest, ClippingParentLeavesItsChildrenAlone) {
   make(WS_CLIPCHILDREN);
   invalidate_parent({40, 40, 70, 60});
-  paint_step("a corner of the child");
+  pump_step("a corner of the child");
   invalidate_parent({40, 50, 50, 90});
-  paint_step("the strip beside the child");
+  pump_step("the strip beside the child");
   invalidate_parent({60, 60, 70, 70});
-  paint_step("observed: a region under the child still gives an empty paint");
+  pump_step("observed: a region under the child still gives an empty paint");
   RedrawWindow(parent_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
-  paint_step("all children");
+  pump_step("all children");
   InvalidateRect(child_, nullptr, TRUE);
-  paint_step("an invalid child does not touch the parent");
+  pump_step("an invalid child does not touch the parent");
   for (const HWND window : {child_, parent_}) InvalidateRect(window, nullptr, FALSE);
-  paint_step("parents paint before their children");
+  pump_step("parents paint before their children");
   for (const HWND window : {child_, parent_}) InvalidateRect(window, nullptr, FALSE);
   UpdateWindow(parent_);
   step("observed: updating the parent paints invalid children");
@@ -85,14 +81,14 @@ TEST_F(PaintChildrenTest, ClippingParentLeavesItsChildrenAlone) {
   ShowWindow(child_, SW_HIDE);
   settle();
   InvalidateRect(parent_, nullptr, TRUE);
-  paint_step("a hidden child is not cut out");
+  pump_step("a hidden child is not cut out");
 }
 
 TEST_F(PaintChildrenTest, SiblingsNeitherInvalidateNorClipEachOther) {
   make(0);
   const HWND sibling = settled_child("sibling", parent_, 60, 60, 60, 40);
   InvalidateRect(sibling, nullptr, TRUE);
-  paint_step("one of two");
+  pump_step("one of two");
   fill_window(sibling);
   EXPECT_EQ(pixel(165, 165), kRed) << "under the upper sibling";
 }

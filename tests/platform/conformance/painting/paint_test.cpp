@@ -13,15 +13,6 @@ class PaintTest : public WindowTest {
   }
   void invalidate(RECT rect, BOOL erase = FALSE) { InvalidateRect(popup_, &rect, erase); }
   std::string to_paint() const { return text_of(update_rect(popup_)); }
-  void paint_step(const std::string& what) {
-    pump();
-    step(what);
-  }
-  // Steps of their own: what is done at once, and what is left to the queue.
-  void now_and_later(const std::string& what) {
-    step(what);
-    paint_step(what + ", later");
-  }
   HWND popup_ = nullptr;
 };
 
@@ -61,17 +52,17 @@ TEST_F(PaintTest, ValidationLeavesTheRest) {
   }
   invalidate({0, 0, 100, 50}, TRUE);
   RedrawWindow(popup_, nullptr, nullptr, RDW_VALIDATE);
-  paint_step("the whole, by RedrawWindow");
+  pump_step("the whole, by RedrawWindow");
   invalidate({0, 0, 100, 50}, TRUE);
   ValidateRect(popup_, nullptr);
   invalidate({0, 0, 10, 10});
-  paint_step("the whole removes the erase too");
+  pump_step("the whole removes the erase too");
 }
 
 TEST_F(PaintTest, EraseRequestIsSticky) {
   invalidate({0, 0, 10, 10}, TRUE);
   invalidate({20, 20, 30, 30});
-  paint_step("one of two");
+  pump_step("one of two");
   RECT clip{};
   recorder().on("pop", WM_ERASEBKGND, [&](const Message& sent) -> std::optional<LRESULT> {
     GetClipBox(reinterpret_cast<HDC>(sent.wparam), &clip);
@@ -85,16 +76,16 @@ TEST_F(PaintTest, EraseRequestIsSticky) {
 TEST_F(PaintTest, UnhandledEraseIsLeftToThePainter) {
   recorder().answer("pop", WM_ERASEBKGND, 0);
   invalidate({0, 0, 10, 10}, TRUE);
-  paint_step("once");
+  pump_step("once");
   invalidate({0, 0, 10, 10});
-  paint_step("observed: the next paint forgets it");
+  pump_step("observed: the next paint forgets it");
   MoveWindow(popup_, 100, 100, 220, 150, TRUE);
-  paint_step("of a resize");
+  pump_step("of a resize");
   recorder().answer("late", WM_ERASEBKGND, 0);
   create("late", {.style = WS_POPUP | WS_VISIBLE});
   now_and_later("of the showing");
   create("none", {.style = WS_POPUP | WS_VISIBLE, .brush = nullptr});
-  paint_step("without a brush");
+  pump_step("without a brush");
 }
 
 TEST_F(PaintTest, ClipIsTheExactRegion) {
@@ -146,7 +137,7 @@ TEST_F(PaintTest, DefaultHandlingErasesAndValidates) {
     return DefWindowProcW(sent.window, sent.message, sent.wparam, sent.lparam);
   });
   invalidate({0, 0, 10, 10}, TRUE);
-  paint_step("");
+  pump_step("");
 }
 
 TEST_F(PaintTest, ObservedThatInvalidationWhilePaintingSurvives) {
@@ -172,23 +163,23 @@ TEST_F(PaintTest, ObservedThatBeginPaintOutsidePaintWorksOnAValidWindow) {
     EXPECT_EQ(text_of(paint.rcPaint), text_of(rect));
     EXPECT_NE(EndPaint(popup_, &paint), 0);
   }
-  paint_step("");
+  pump_step("");
 }
 
 TEST_F(PaintTest, WhatIsNotShownKeepsNoInvalidation) {
   ShowWindow(popup_, SW_HIDE);
   settle();
   invalidate({1, 2, 3, 4}, TRUE);
-  paint_step("hidden");
+  pump_step("hidden");
   ShowWindow(popup_, SW_SHOW);
   now_and_later("observed: showing erases at once");
   SendMessageW(popup_, WM_SETREDRAW, FALSE, 0);
   EXPECT_EQ(IsWindowVisible(popup_), 0);
   invalidate({0, 0, 10, 10}, TRUE);
   SendMessageW(popup_, WM_SETREDRAW, TRUE, 0);
-  paint_step("redraw switched off and on");
+  pump_step("redraw switched off and on");
   invalidate({0, 0, 10, 10});
-  paint_step("invalidated again");
+  pump_step("invalidated again");
 }
 
 TEST_F(PaintTest, DrawingOutsidePaintIsShownAndClippedToTheWindow) {

@@ -1,5 +1,5 @@
 // A standard scroll bar worked with the mouse.
-#include "tests/platform/conformance/support/window_test.h"
+#include "tests/platform/conformance/support/scroll_test.h"
 
 namespace corvane::conformance {
 namespace {
@@ -12,39 +12,20 @@ constexpr int kUpArrow = kBarTop + 5;
 constexpr int kDownArrow = kBarTop + 295;
 constexpr int kThumb = kBarTop + 60;
 
-class ScrollBarTest : public WindowTest {
+class ScrollBarTest : public ScrollTest {
  protected:
   void SetUp() override {
-    WindowTest::SetUp();
-    window_ = create(
-        "pop", {.style = WS_POPUP | WS_VISIBLE | WS_VSCROLL, .place = {100, kBarTop, 200, 300}});
-    set(SIF_ALL, 600, 300, 0);
+    ScrollTest::SetUp();
     script_after_each("pop");
     recorder().only({WM_NCLBUTTONDOWN, WM_SYSCOMMAND, WM_VSCROLL, WM_HSCROLL, WM_CAPTURECHANGED,
                      WM_LBUTTONDOWN, WM_LBUTTONUP, WM_NCLBUTTONUP, WM_MOUSEWHEEL});
-    settle();
   }
-  void set(UINT mask, int maximum, UINT page, int position) {
-    set_bar(window_, SB_VERT, mask, maximum, page, position);
-  }
-  static void set_bar(HWND window, int bar, UINT mask, int maximum, UINT page, int position) {
-    const SCROLLINFO info{sizeof(SCROLLINFO), mask, 0, maximum, page, position, 0};
-    SetScrollInfo(window, bar, &info, TRUE);
-  }
-  int track_position() const {
-    SCROLLINFO info{};
-    info.cbSize = sizeof(info);
-    info.fMask = SIF_TRACKPOS;
-    GetScrollInfo(window_, SB_VERT, &info);
-    return info.nTrackPos;
-  }
-
   // One action of the script follows each message of the bar.
   using Script = std::vector<std::function<void()>>;
   void script_after_each(const std::string& name) {
     for (const UINT message : {WM_VSCROLL, WM_HSCROLL}) {
       recorder().before_default(name, message, [this] {
-        seen_.push_back(track_position());
+        seen_.push_back(numbers().nTrackPos);
         if (done_ < script_.size()) script_[done_++]();
       });
     }
@@ -66,7 +47,6 @@ class ScrollBarTest : public WindowTest {
     EXPECT_EQ(done_, script_.size());
   }
 
-  HWND window_ = nullptr;
   Script script_;
   std::size_t done_ = 0;
   std::vector<int> seen_;
@@ -149,7 +129,7 @@ TEST_F(ScrollBarTest, ThumbFollowsThePointer) {
   step();
   EXPECT_EQ(seen_, (std::vector<int>{0, 149, 301, 226, 226, 0}));
   EXPECT_EQ(GetScrollPos(window_, SB_VERT), 0) << "the program has not set it";
-  EXPECT_EQ(track_position(), 0) << "the thumb is let go";
+  EXPECT_EQ(numbers().nTrackPos, 0) << "the thumb is let go";
 }
 
 TEST_F(ScrollBarTest, TrackPositionIsWhereTheThumbIsPut) {

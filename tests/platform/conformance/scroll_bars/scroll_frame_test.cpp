@@ -1,32 +1,14 @@
 // A standard scroll bar that comes and goes, and the client area beside it.
-#include "tests/platform/conformance/support/window_test.h"
+#include "tests/platform/conformance/support/scroll_test.h"
 
 namespace corvane::conformance {
 namespace {
 
-class ScrollFrameTest : public WindowTest {
+class ScrollFrameTest : public ScrollTest {
  protected:
-  void SetUp() override {
-    WindowTest::SetUp();
-    window_ = create("pop", plan(WS_VSCROLL));
-    set(SIF_ALL, 600, 300, 20);
-    settle();
-  }
-  static WindowPlan plan(DWORD style) {
-    return {.style = WS_POPUP | WS_VISIBLE | style, .place = {100, 100, 200, 300}};
-  }
-  int set(UINT mask, int maximum, UINT page, int position = 0) {
-    SCROLLINFO info{sizeof(SCROLLINFO), mask, 0, maximum, page, position, 0};
-    return SetScrollInfo(window_, SB_VERT, &info, TRUE);
-  }
   bool has_style() const {
     return (static_cast<DWORD>(GetWindowLongW(window_, GWL_STYLE)) & WS_VSCROLL) != 0;
   }
-  void pump_step(const std::string& what) {
-    pump();
-    step(what);
-  }
-  HWND window_ = nullptr;
 };
 
 TEST_F(ScrollFrameTest, BarIsTakenFromTheClient) {
@@ -53,16 +35,16 @@ TEST_F(ScrollFrameTest, ComesAndGoesWithThePage) {
     seen = text_of(client_rect(sent.window)) + (has_style() ? " bar" : " no bar");
     return 0;
   });
-  set(SIF_PAGE, 0, 601);
+  set(SIF_PAGE, 0, 601, 0);
   pump_step("a page that shows everything");
   EXPECT_EQ(seen, "0,0,200,300 no bar") << "the program sees the new state when told the size";
-  set(SIF_PAGE, 0, 300);
+  set(SIF_PAGE, 0, 300, 0);
   pump_step("a shorter one");
-  set(SIF_PAGE | SIF_DISABLENOSCROLL, 0, 601);
+  set(SIF_PAGE | SIF_DISABLENOSCROLL, 0, 601, 0);
   pump_step("SIF_DISABLENOSCROLL keeps the bar");
   ShowWindow(window_, SW_HIDE);
   settle();
-  set(SIF_PAGE, 0, 601);
+  set(SIF_PAGE, 0, 601, 0);
   pump_step("a hidden window gets the messages without a paint");
 }
 
@@ -82,9 +64,9 @@ TEST_F(ScrollFrameTest, RangeAndPageDecideWhetherItIsThere) {
         Need{"shorter range", SIF_RANGE, 9, 0, false},
         Need{"long range", SIF_RANGE, 11, 0, true}}) {
     for (const BOOL before : {TRUE, FALSE}) {
-      set(SIF_ALL, 100, 10);
+      set(SIF_ALL, 100, 10, 0);
       ShowScrollBar(window_, SB_VERT, before);
-      set(given.mask, given.maximum, given.page);
+      set(given.mask, given.maximum, given.page, 0);
       EXPECT_EQ(has_style(), given.shown) << given.label << before;
       EXPECT_EQ(client_rect(window_).right, given.shown ? 183 : 200) << given.label << before;
     }
@@ -103,13 +85,9 @@ TEST_F(ScrollFrameTest, ShowScrollBarKeepsTheNumbers) {
   const int position = set(SIF_POS, 0, 0, 44);
   pump();
   step("a position alone brings nothing back", position);
-  SCROLLINFO info{};
-  info.cbSize = sizeof(info);
-  info.fMask = SIF_ALL;
-  EXPECT_NE(GetScrollInfo(window_, SB_VERT, &info), 0);
-  EXPECT_EQ(info.nMax, 600);
-  EXPECT_EQ(info.nPage, 300U);
-  EXPECT_EQ(info.nPos, 44);
+  EXPECT_EQ(numbers().nMax, 600);
+  EXPECT_EQ(numbers().nPage, 300U);
+  EXPECT_EQ(numbers().nPos, 44);
   EXPECT_NE(ShowScrollBar(window_, SB_VERT, TRUE), 0);
   pump_step("shown");
 }

@@ -1,73 +1,55 @@
 // Range, page and position of a window's standard scroll bar.
-#include "tests/platform/conformance/support/window_test.h"
+#include "tests/platform/conformance/support/scroll_test.h"
 
 namespace corvane::conformance {
 namespace {
 
-class ScrollInfoTest : public WindowTest {
+class ScrollInfoTest : public ScrollTest {
  protected:
   void SetUp() override {
-    WindowTest::SetUp();
-    window_ =
-        create("pop", {.style = WS_POPUP | WS_VISIBLE | WS_VSCROLL, .place = {100, 100, 200, 300}});
+    ScrollTest::SetUp();
     plain_ = settled_popup("plain", 500, 100, 200, 300);
   }
-  int set(UINT mask, int minimum, int maximum, UINT page, int position) {
-    SCROLLINFO info{sizeof(SCROLLINFO), mask, minimum, maximum, page, position, 0};
-    return SetScrollInfo(window_, SB_VERT, &info, TRUE);
-  }
-  std::string all() {
-    SCROLLINFO info{};
-    info.cbSize = sizeof(info);
-    info.fMask = SIF_ALL;
-    if (GetScrollInfo(window_, SB_VERT, &info) == 0) return "none";
+  std::string all() const {
+    const SCROLLINFO info = numbers();
     return std::to_string(info.nMin) + ".." + std::to_string(info.nMax) + " " +
            std::to_string(info.nPage) + " " + std::to_string(info.nPos) + " " +
            std::to_string(info.nTrackPos);
   }
-  HWND window_ = nullptr;
   HWND plain_ = nullptr;
 };
 
-TEST_F(ScrollInfoTest, FreshBarHasARangeOfAHundred) { EXPECT_EQ(all(), "0..100 0 0 0"); }
-
-TEST_F(ScrollInfoTest, BarIsAsWideAsTheSystemSays) {
-  for (const int metric : {SM_CXVSCROLL, SM_CYHSCROLL, SM_CYVSCROLL, SM_CXHSCROLL})
+TEST_F(ScrollInfoTest, FreshBarHasARangeOfAHundredAndTheSystemsWidth) {
+  window_ = create("fresh", plan(WS_VSCROLL));
+  EXPECT_EQ(all(), "0..100 0 0 0");
+  for (const int metric : {SM_CXVSCROLL, SM_CYHSCROLL, SM_CYVSCROLL, SM_CXHSCROLL}) {
     EXPECT_EQ(GetSystemMetrics(metric), 17) << metric;
+  }
 }
 
 TEST_F(ScrollInfoTest, SettingReturnsTheResultingPosition) {
-  EXPECT_EQ(set(SIF_ALL, 0, 600, 300, 900), 301);
+  EXPECT_EQ(set(SIF_ALL, 600, 300, 900), 301);
   EXPECT_EQ(all(), "0..600 300 301 301");
-  EXPECT_EQ(set(SIF_POS, 0, 0, 0, 250), 250);
-  EXPECT_EQ(set(SIF_RANGE | SIF_PAGE, 0, 400, 300, 0), 101);
+  EXPECT_EQ(set(SIF_POS, 0, 0, 250), 250);
+  EXPECT_EQ(set(SIF_RANGE | SIF_PAGE, 400, 300, 0), 101);
   EXPECT_EQ(all(), "0..400 300 101 101");
-}
-
-TEST_F(ScrollInfoTest, PositionsHave32Bits) {
-  EXPECT_EQ(set(SIF_ALL, -2000000000, 2000000000, 10, 1234567), 1234567);
+  EXPECT_EQ(set(SIF_ALL, 2000000000, 10, 1234567, -2000000000), 1234567);
   EXPECT_EQ(GetScrollPos(window_, SB_VERT), 1234567);
   EXPECT_EQ(all(), "-2000000000..2000000000 10 1234567 1234567");
 }
 
-TEST_F(ScrollInfoTest, SetScrollPosReturnsThePreviousOneAndSendsNothing) {
-  set(SIF_ALL, 0, 600, 300, 20);
-  settle();
-  EXPECT_EQ(SetScrollPos(window_, SB_VERT, 5000, TRUE), 20);
-  EXPECT_EQ(SetScrollPos(window_, SB_VERT, -1, TRUE), 301);
-  EXPECT_EQ(GetScrollPos(window_, SB_VERT), 0);
-  pump();
-  step();
-}
-
-TEST_F(ScrollInfoTest, SetScrollRangeKeepsPageAndPosition) {
-  set(SIF_ALL, 0, 600, 300, 20);
+TEST_F(ScrollInfoTest, OlderFunctionsKeepTheRestAndSendNothing) {
+  set(SIF_POS, 0, 0, 20);
   EXPECT_NE(SetScrollRange(window_, SB_VERT, -50, 500, TRUE), 0);
   EXPECT_EQ(all(), "-50..500 300 20 20");
   int minimum = 7, maximum = 7;
   EXPECT_NE(GetScrollRange(window_, SB_VERT, &minimum, &maximum), 0);
   EXPECT_EQ(minimum, -50);
   EXPECT_EQ(maximum, 500);
+  EXPECT_EQ(SetScrollPos(window_, SB_VERT, 5000, TRUE), 20);
+  EXPECT_EQ(SetScrollPos(window_, SB_VERT, -100, TRUE), 201);
+  EXPECT_EQ(GetScrollPos(window_, SB_VERT), -50);
+  pump_step("");
 }
 
 struct MaskCase {
@@ -77,7 +59,7 @@ struct MaskCase {
 
 TEST_F(ScrollInfoTest, OnlyWhatTheMaskNamesIsFilled) {
   constexpr UINT no_page = static_cast<UINT>(-1);
-  set(SIF_ALL, 1, 600, 300, 20);
+  set(SIF_ALL, 600, 300, 20, 1);
   const MaskCase cases[] = {{SIF_RANGE, {0, 0, 1, 600, no_page, -1, -1}},
                             {SIF_PAGE, {0, 0, -1, -1, 300, -1, -1}},
                             {SIF_POS, {0, 0, -1, -1, no_page, 20, -1}},
@@ -113,7 +95,7 @@ TEST_F(ScrollInfoTest, CallsWithoutABarFail) {
 }
 
 TEST_F(ScrollInfoTest, BadArgumentsChangeNothing) {
-  set(SIF_ALL, 0, 600, 300, 20);
+  set(SIF_POS, 0, 0, 20);
   SCROLLINFO info{5, SIF_ALL, 0, 9, 1, 3, 0};
   EXPECT_EQ(SetScrollInfo(window_, SB_VERT, &info, TRUE), 0);
   EXPECT_EQ(GetScrollInfo(window_, SB_VERT, &info), 0);

@@ -33,96 +33,76 @@ struct Change {
   UINT page;
   int position;
 };
-struct ChangeCase {
-  const char* label;
+struct Changes {
   std::vector<Change> changes;  // one after the other, from a fresh model
   const char* result;
 };
 
-class ScrollModelChange : public testing::TestWithParam<ChangeCase> {};
+constexpr Change kSet = {SIF_ALL, 0, 600, 300, 250};
 
-TEST_P(ScrollModelChange, Limits) {
-  ScrollModel changed;
-  for (const Change& each : GetParam().changes)
-    changed.change(
-        {sizeof(SCROLLINFO), each.mask, each.minimum, each.maximum, each.page, each.position, 0});
-  EXPECT_EQ(text(changed), GetParam().result);
+TEST(ScrollModelTest, ChangesKeepThePositionAndThePageInTheirLimits) {
+  for (const Changes& given : {
+           Changes{{}, "0..100 page 0 pos 0 limit 100"},
+           Changes{{{0, 5, 6, 7, 8}}, "0..100 page 0 pos 0 limit 100"},
+           // The page shortens the limit.
+           Changes{{{SIF_ALL, 0, 600, 300, 900}}, "0..600 page 300 pos 301 limit 301"},
+           Changes{{{SIF_ALL, 10, 600, 300, -5}}, "10..600 page 300 pos 10 limit 301"},
+           // Changes that move the position, and one that does not.
+           Changes{{kSet, {SIF_RANGE | SIF_PAGE, 0, 400, 300, 0}},
+                   "0..400 page 300 pos 101 limit 101"},
+           Changes{{kSet, {SIF_PAGE, 0, 0, 500, 0}}, "0..600 page 500 pos 101 limit 101"},
+           Changes{{kSet, {SIF_RANGE, -100, 700, 0, 0}}, "-100..700 page 300 pos 250 limit 401"},
+           // Upside down, and pages around the range.
+           Changes{{{SIF_ALL, 600, 0, 300, 250}}, "0..0 page 1 pos 0 limit 0 not needed"},
+           Changes{{{SIF_ALL, 0, 100, 101, 7}}, "0..100 page 101 pos 0 limit 0 not needed"},
+           Changes{{{SIF_ALL, 0, 100, 5000, 7}}, "0..100 page 101 pos 0 limit 0 not needed"},
+           Changes{{{SIF_ALL, 0, 100, 100, 7}}, "0..100 page 100 pos 1 limit 1"},
+           Changes{{{SIF_ALL, 5, 5, 0, 9}}, "5..5 page 0 pos 5 limit 5 not needed"},
+           Changes{{{SIF_ALL, -500, -100, 100, -450}}, "-500..-100 page 100 pos -450 limit -199"},
+           // The whole 32 bits.
+           Changes{{{SIF_ALL, INT_MIN, INT_MAX, 10, 70000}},
+                   "-2147483648..2147483647 page 10 pos 70000 limit 2147483638"},
+           Changes{{{SIF_ALL, INT_MIN, INT_MAX, UINT_MAX, 5}},
+                   "-2147483648..2147483647 page 4294967295 pos -2147483647 limit -2147483647"},
+       }) {
+    ScrollModel changed;
+    for (const Change& each : given.changes) {
+      changed.change(
+          {sizeof(SCROLLINFO), each.mask, each.minimum, each.maximum, each.page, each.position, 0});
+    }
+    EXPECT_EQ(text(changed), given.result);
+  }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    , ScrollModelChange,
-    testing::Values(
-        ChangeCase{"Fresh", {}, "0..100 page 0 pos 0 limit 100"},
-        ChangeCase{"NothingNamed", {{0, 5, 6, 7, 8}}, "0..100 page 0 pos 0 limit 100"},
-        ChangeCase{"PageShortensTheLimit",
-                   {{SIF_ALL, 0, 600, 300, 900}},
-                   "0..600 page 300 pos 301 limit 301"},
-        ChangeCase{
-            "BelowTheMinimum", {{SIF_ALL, 10, 600, 300, -5}}, "10..600 page 300 pos 10 limit 301"},
-        ChangeCase{"ShrunkRangeMovesThePosition",
-                   {{SIF_ALL, 0, 600, 300, 250}, {SIF_RANGE | SIF_PAGE, 0, 400, 300, 0}},
-                   "0..400 page 300 pos 101 limit 101"},
-        ChangeCase{"LongerPageMovesThePosition",
-                   {{SIF_ALL, 0, 600, 300, 250}, {SIF_PAGE, 0, 0, 500, 0}},
-                   "0..600 page 500 pos 101 limit 101"},
-        ChangeCase{"RangeThatHoldsThePosition",
-                   {{SIF_ALL, 0, 600, 300, 250}, {SIF_RANGE, -100, 700, 0, 0}},
-                   "-100..700 page 300 pos 250 limit 401"},
-        ChangeCase{
-            "UpsideDown", {{SIF_ALL, 600, 0, 300, 250}}, "0..0 page 1 pos 0 limit 0 not needed"},
-        ChangeCase{"PageIsTheRange",
-                   {{SIF_ALL, 0, 100, 101, 7}},
-                   "0..100 page 101 pos 0 limit 0 not needed"},
-        ChangeCase{"PageBeyondTheRange",
-                   {{SIF_ALL, 0, 100, 5000, 7}},
-                   "0..100 page 101 pos 0 limit 0 not needed"},
-        ChangeCase{"PageOneShort", {{SIF_ALL, 0, 100, 100, 7}}, "0..100 page 100 pos 1 limit 1"},
-        ChangeCase{"OnePosition", {{SIF_ALL, 5, 5, 0, 9}}, "5..5 page 0 pos 5 limit 5 not needed"},
-        ChangeCase{"Negative",
-                   {{SIF_ALL, -500, -100, 100, -450}},
-                   "-500..-100 page 100 pos -450 limit -199"},
-        ChangeCase{"Whole32Bits",
-                   {{SIF_ALL, INT_MIN, INT_MAX, 10, 70000}},
-                   "-2147483648..2147483647 page 10 pos 70000 limit 2147483638"},
-        ChangeCase{"LongestPage",
-                   {{SIF_ALL, INT_MIN, INT_MAX, UINT_MAX, 5}},
-                   "-2147483648..2147483647 page 4294967295 pos -2147483647 limit -2147483647"}),
-    [](const auto& instance) { return instance.param.label; });
-
-struct LayoutCase {
+struct Layout {
   const char* label;
   ScrollModel model;
   int length;
   const char* thumb;
 };
 
-class ScrollLayoutThumb : public testing::TestWithParam<LayoutCase> {};
-
-TEST_P(ScrollLayoutThumb, LiesInTheTrough) {
-  const LayoutCase& given = GetParam();
-  const ScrollLayout layout = scroll_layout(given.model, given.length, kThickness);
-  EXPECT_EQ(text(layout.thumb), given.thumb);
-  EXPECT_EQ(layout.line_back.begin, 0);
-  EXPECT_EQ(layout.line_back.end, layout.trough.begin);
-  EXPECT_EQ(layout.trough.end, layout.line_forward.begin);
-  EXPECT_EQ(layout.line_forward.end, given.length);
+TEST(ScrollLayoutTest, ThumbLiesInTheTrough) {
+  for (const Layout& given :
+       {Layout{"at the beginning", model(0, 600, 300, 0), 300, "17..150"},
+        Layout{"at the limit", model(0, 600, 300, 301), 300, "150..283"},
+        Layout{"in the middle", model(0, 600, 300, 150), 300, "83..216"},
+        Layout{"without a page", model(0, 100, 0, 100), 300, "266..283"},
+        Layout{"never shorter than it is wide", model(0, 99999, 1, 0), 300, "17..34"},
+        Layout{"nothing to scroll", model(0, 100, 101, 0), 300, "0..0"},
+        Layout{"fills a short trough", model(0, 600, 300, 9), 51, "17..34"},
+        Layout{"trough too short", model(0, 600, 300, 0), 50, "0..0"},
+        Layout{"only arrows", model(0, 600, 300, 0), 20, "0..0"},
+        Layout{"all of 32 bits", model(INT_MIN, INT_MAX, 0, 0), 300, "142..159"}}) {
+    const ScrollLayout layout = scroll_layout(given.model, given.length, kThickness);
+    EXPECT_EQ(text(layout.thumb), given.thumb) << given.label;
+    EXPECT_EQ(layout.line_back.begin, 0) << given.label;
+    EXPECT_EQ(layout.line_back.end, layout.trough.begin) << given.label;
+    EXPECT_EQ(layout.trough.end, layout.line_forward.begin) << given.label;
+    EXPECT_EQ(layout.line_forward.end, given.length) << given.label;
+  }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    , ScrollLayoutThumb,
-    testing::Values(LayoutCase{"AtTheBeginning", model(0, 600, 300, 0), 300, "17..150"},
-                    LayoutCase{"AtTheLimit", model(0, 600, 300, 301), 300, "150..283"},
-                    LayoutCase{"InTheMiddle", model(0, 600, 300, 150), 300, "83..216"},
-                    LayoutCase{"WithoutAPage", model(0, 100, 0, 100), 300, "266..283"},
-                    LayoutCase{"NeverShorterThanItIsWide", model(0, 99999, 1, 0), 300, "17..34"},
-                    LayoutCase{"NothingToScroll", model(0, 100, 101, 0), 300, "0..0"},
-                    LayoutCase{"FillsAShortTrough", model(0, 600, 300, 9), 51, "17..34"},
-                    LayoutCase{"TroughTooShort", model(0, 600, 300, 0), 50, "0..0"},
-                    LayoutCase{"OnlyArrows", model(0, 600, 300, 0), 20, "0..0"},
-                    LayoutCase{"AllOf32Bits", model(INT_MIN, INT_MAX, 0, 0), 300, "142..159"}),
-    [](const auto& instance) { return instance.param.label; });
-
-TEST(ScrollLayoutParts, FollowEachOtherWithoutGaps) {
+TEST(ScrollLayoutTest, PartsFollowEachOtherWithoutGaps) {
   const ScrollLayout layout = scroll_layout(model(0, 600, 300, 150), 300, kThickness);
   struct Place {
     int place;
@@ -141,13 +121,13 @@ TEST(ScrollLayoutParts, FollowEachOtherWithoutGaps) {
   }
 }
 
-TEST(ScrollLayoutParts, WithoutAThumbTheTroughIsDead) {
+TEST(ScrollLayoutTest, WithoutAThumbTheTroughIsDead) {
   const ScrollLayout layout = scroll_layout(model(0, 0, 0, 0), 300, kThickness);
   EXPECT_EQ(layout.part_at(5), ScrollPart::line_back);
   EXPECT_EQ(layout.part_at(150), ScrollPart::none);
 }
 
-TEST(ScrollLayoutDragged, MeansThePositionUnderIt) {
+TEST(ScrollLayoutTest, DraggedThumbMeansThePositionUnderIt) {
   const ScrollModel given = model(0, 600, 300, 0);
   struct Drag {
     int begin;
@@ -160,7 +140,7 @@ TEST(ScrollLayoutDragged, MeansThePositionUnderIt) {
   }
 }
 
-TEST(ScrollLayoutDragged, EveryPositionIsReachedWhereThereAreMorePixels) {
+TEST(ScrollLayoutTest, EveryPositionIsReachedWhereThereAreMorePixels) {
   for (int position = -20; position <= 40; ++position) {
     const ScrollModel given = model(-20, 50, 11, position);
     EXPECT_EQ(position_of_thumb(given, scroll_layout(given, 300, kThickness)), position);

@@ -1,5 +1,5 @@
 // Where a standard scroll bar is drawn, when, and what never draws over it.
-#include "tests/platform/conformance/support/window_test.h"
+#include "tests/platform/conformance/support/scroll_test.h"
 
 namespace corvane::conformance {
 namespace {
@@ -8,19 +8,8 @@ constexpr COLORREF kWhite = RGB(255, 255, 255);
 constexpr COLORREF kRed = RGB(255, 0, 0);
 constexpr int kBarX = 291;  // the middle of a bar from 283 to 299
 
-class ScrollPaintTest : public WindowTest {
+class ScrollPaintTest : public ScrollTest {
  protected:
-  void SetUp() override {
-    WindowTest::SetUp();
-    window_ =
-        create("pop", {.style = WS_POPUP | WS_VISIBLE | WS_VSCROLL, .place = {100, 100, 200, 300}});
-    set(window_, SIF_ALL, 600, 300, 0);
-    settle();
-  }
-  static void set(HWND window, UINT mask, int maximum, UINT page, int position) {
-    SCROLLINFO info{sizeof(SCROLLINFO), mask, 0, maximum, page, position, 0};
-    SetScrollInfo(window, SB_VERT, &info, TRUE);
-  }
   // The part of a column of the bar that is neither track nor arrow: the thumb, from..to.
   std::string thumb_at(int x, int top, int bottom) {
     pump();
@@ -39,7 +28,6 @@ class ScrollPaintTest : public WindowTest {
     return screen.count({283, 100, 284, 400}, of_client) == 0 &&
            screen.count({299, 100, 300, 400}, of_client) == 0;
   }
-  HWND window_ = nullptr;
 };
 
 TEST_F(ScrollPaintTest, StandsRightOfTheClientWithAnArrowAtEachEnd) {
@@ -64,9 +52,9 @@ TEST_F(ScrollPaintTest, StandsRightOfTheClientWithAnArrowAtEachEnd) {
 // A pixel of track is left at each end of the thumb.
 TEST_F(ScrollPaintTest, ThumbIsWhereThePositionSays) {
   EXPECT_EQ(thumb(), "18..149");
-  set(window_, SIF_POS, 0, 0, 301);
+  set(SIF_POS, 0, 0, 301);
   EXPECT_EQ(thumb(), "151..282");
-  set(window_, SIF_PAGE, 0, 1, 0);
+  set(SIF_PAGE, 0, 1, 0);
   EXPECT_EQ(thumb(), "143..158");
 }
 
@@ -126,7 +114,7 @@ TEST_F(ScrollPaintTest, HeldPartsAreDarkerAndADraggedThumbGoesBack) {
 
 TEST_F(ScrollPaintTest, GreyedBarHasNoThumbAndPalerArrows) {
   const COLORREF arrow = pixel(kBarX, 108);
-  set(window_, SIF_PAGE | SIF_DISABLENOSCROLL, 0, 601, 0);
+  set(SIF_PAGE | SIF_DISABLENOSCROLL, 0, 601, 0);
   EXPECT_EQ(thumb(), "0..0");
   EXPECT_GT(pixel(kBarX, 108) & 0xFF, arrow & 0xFF);
   ShowScrollBar(window_, SB_VERT, FALSE);
@@ -148,14 +136,6 @@ TEST_F(ScrollPaintTest, ClientDrawingNeverReachesIt) {
   EXPECT_EQ(pixel(282, 250), kRed);
 }
 
-TEST_F(ScrollPaintTest, FollowsEverySize) {
-  MoveWindow(window_, 100, 100, 250, 200, TRUE);
-  EXPECT_EQ(thumb_at(341, 100, 300).substr(0, 3), "18.");
-  EXPECT_EQ(pixel(kBarX, 250), kWhite) << "where the bar was";
-  MoveWindow(window_, 100, 100, 150, 300, TRUE);
-  EXPECT_EQ(thumb_at(241, 100, 400), "18..149");
-}
-
 TEST_F(ScrollPaintTest, LayeredWindowHasItToo) {
   SetWindowLongW(window_, GWL_EXSTYLE, static_cast<LONG>(WS_EX_LAYERED));
   SetLayeredWindowAttributes(window_, 0, 255, LWA_ALPHA);
@@ -174,7 +154,7 @@ class ChildScrollPaintTest : public ScrollPaintTest,
         "parent", {.style = WS_POPUP | WS_VISIBLE | parent_style, .place = {400, 100, 300, 350}});
     paint_patches("parent", {{{0, 0, 300, 350}, kRed}});
     child_ = settled_child("child", parent_, 10, 20, 200, 300, WS_VSCROLL | child_style);
-    set(child_, SIF_ALL, 600, 300, 0);
+    set_bar(child_, SB_VERT, SIF_ALL, 600, 300, 0);
     settle();
   }
   // Its bar: x 593 to 609, y 120 to 419.
@@ -194,13 +174,30 @@ TEST_P(ChildScrollPaintTest, ParentPaintsBelowIt) {
   EXPECT_EQ(pixel(610, 200), kRed);
 }
 
-TEST_P(ChildScrollPaintTest, MovesWithTheChild) {
-  MoveWindow(child_, 40, 40, 200, 300, TRUE);
-  EXPECT_EQ(thumb_at(631, 140, 440), "18..149");
-  EXPECT_EQ(pixel(601, 130), kRed);
+TEST_P(ChildScrollPaintTest, MovesAndSizesWithTheChild) {
+  struct Place {
+    RECT to;  // left, top, width, height
+    const char* thumb;
+  };
+  for (const Place& place :
+       {Place{{40, 40, 200, 300}, "18..149"}, Place{{10, 20, 150, 300}, "18..149"},
+        Place{{10, 20, 150, 167}, "18..82"}, Place{{10, 20, 200, 300}, "18..149"}}) {
+    const RECT& to = place.to;
+    MoveWindow(child_, to.left, to.top, to.right, to.bottom, TRUE);
+    const int x = 400 + to.left + to.right - 9;
+    EXPECT_EQ(thumb_at(x, 100 + to.top, 100 + to.top + to.bottom), place.thumb) << text_of(to);
+    EXPECT_EQ(pixel(x, 100 + to.top - 10), kRed) << "where it was";
+    EXPECT_EQ(pixel(x + 10, 200), kRed);
+  }
+  EXPECT_EQ(pixel(551, 200), kWhite) << "the client area of the last place";
 }
 
-TEST_P(ChildScrollPaintTest, IsClippedByTheParent) {
+TEST_P(ChildScrollPaintTest, ComesAndGoesAndIsClippedByTheParent) {
+  ShowScrollBar(child_, SB_VERT, FALSE);
+  pump();
+  EXPECT_EQ(pixel(601, 200), kWhite);
+  ShowScrollBar(child_, SB_VERT, TRUE);
+  EXPECT_EQ(childs_thumb(), "18..149");
   MoveWindow(child_, 108, 20, 200, 300, TRUE);  // the bar from 291 to 307 of 300
   pump();
   EXPECT_NE(pixel(699, 200), kRed);
@@ -208,25 +205,6 @@ TEST_P(ChildScrollPaintTest, IsClippedByTheParent) {
   MoveWindow(child_, 10, 20, 200, 300, TRUE);
   EXPECT_EQ(childs_thumb(), "18..149");
   EXPECT_EQ(pixel(608, 300), pixel(594, 300)) << "what was outside is drawn";
-}
-
-TEST_P(ChildScrollPaintTest, FollowsTheChildsSize) {
-  MoveWindow(child_, 10, 20, 150, 300, TRUE);
-  EXPECT_EQ(thumb_at(551, 120, 420), "18..149") << "narrower";
-  EXPECT_EQ(pixel(601, 200), kRed);
-  MoveWindow(child_, 10, 20, 150, 167, TRUE);
-  EXPECT_EQ(thumb_at(551, 120, 287), "18..82") << "lower";
-  MoveWindow(child_, 10, 20, 200, 300, TRUE);
-  EXPECT_EQ(childs_thumb(), "18..149") << "larger";
-  EXPECT_EQ(pixel(551, 200), kWhite);
-}
-
-TEST_P(ChildScrollPaintTest, ComesAndGoes) {
-  ShowScrollBar(child_, SB_VERT, FALSE);
-  pump();
-  EXPECT_EQ(pixel(601, 200), kWhite);
-  ShowScrollBar(child_, SB_VERT, TRUE);
-  EXPECT_EQ(childs_thumb(), "18..149");
 }
 
 TEST_P(ChildScrollPaintTest, IsUncoveredByASibling) {
@@ -251,7 +229,7 @@ TEST_F(ScrollPaintTest, SiblingAboveIsNotDrawnOver) {
   const HWND above = settled_child("above", parent, 150, 50, 100, 100, WS_CLIPSIBLINGS);
   const HWND below = settled_child("below", parent, 10, 20, 200, 300, WS_VSCROLL | WS_CLIPSIBLINGS);
   pump();
-  set(below, SIF_ALL, 600, 300, 100);
+  set_bar(below, SB_VERT, SIF_ALL, 600, 300, 100);
   SetScrollPos(below, SB_VERT, 301, TRUE);
   pump();
   EXPECT_NE(above, nullptr);

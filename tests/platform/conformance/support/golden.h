@@ -9,8 +9,9 @@
 //         = capture child
 //
 // A message that was sent while another was handled is indented below it, (q) marks what came out
-// of the queue, and lines with = say what was returned and what is different now. In a message's
-// line the word ~A|B stands for at least these flags, and ... at the end leaves the rest open.
+// of the queue, = and a number is what it returned unless that is 0. Lines that begin with = say
+// what the call returned and what is different now. The word ~A|B stands for at least these flags,
+// and ... at the end leaves the rest of a line open.
 //
 // With CORVANE_RENEW_GOLDEN in the environment nothing is compared: steps that no longer match are
 // rewritten, and comments stay with the test or step that they stand before.

@@ -16,75 +16,37 @@ struct FlagName {
   const char* name;
 };
 
-#define NAMED(message) \
-  { message, #message }
+// The messages, and their names in one text.
+#define NAMED_MESSAGES(...)               \
+  const UINT kMessages[] = {__VA_ARGS__}; \
+  const char* const kMessageNames = #__VA_ARGS__
 
-const std::map<UINT, const char*>& names() {
-  static const std::map<UINT, const char*> table = {NAMED(WM_CREATE),
-                                                    NAMED(WM_DESTROY),
-                                                    NAMED(WM_MOVE),
-                                                    NAMED(WM_SIZE),
-                                                    NAMED(WM_ACTIVATE),
-                                                    NAMED(WM_SETFOCUS),
-                                                    NAMED(WM_KILLFOCUS),
-                                                    NAMED(WM_ENABLE),
-                                                    NAMED(WM_SETREDRAW),
-                                                    NAMED(WM_SETTEXT),
-                                                    NAMED(WM_PAINT),
-                                                    NAMED(WM_CLOSE),
-                                                    NAMED(WM_ERASEBKGND),
-                                                    NAMED(WM_SHOWWINDOW),
-                                                    NAMED(WM_ACTIVATEAPP),
-                                                    NAMED(WM_CANCELMODE),
-                                                    NAMED(WM_SETCURSOR),
-                                                    NAMED(WM_MOUSEACTIVATE),
-                                                    NAMED(WM_CHILDACTIVATE),
-                                                    NAMED(WM_GETMINMAXINFO),
-                                                    NAMED(WM_WINDOWPOSCHANGING),
-                                                    NAMED(WM_WINDOWPOSCHANGED),
-                                                    NAMED(WM_CONTEXTMENU),
-                                                    NAMED(WM_STYLECHANGING),
-                                                    NAMED(WM_STYLECHANGED),
-                                                    NAMED(WM_NCCREATE),
-                                                    NAMED(WM_NCDESTROY),
-                                                    NAMED(WM_NCCALCSIZE),
-                                                    NAMED(WM_NCHITTEST),
-                                                    NAMED(WM_NCPAINT),
-                                                    NAMED(WM_NCACTIVATE),
-                                                    NAMED(WM_NCLBUTTONDOWN),
-                                                    NAMED(WM_NCLBUTTONUP),
-                                                    NAMED(WM_NCLBUTTONDBLCLK),
-                                                    NAMED(WM_KEYDOWN),
-                                                    NAMED(WM_KEYUP),
-                                                    NAMED(WM_CHAR),
-                                                    NAMED(WM_SYSKEYDOWN),
-                                                    NAMED(WM_SYSKEYUP),
-                                                    NAMED(WM_SYSCHAR),
-                                                    NAMED(WM_COMMAND),
-                                                    NAMED(WM_SYSCOMMAND),
-                                                    NAMED(WM_TIMER),
-                                                    NAMED(WM_HSCROLL),
-                                                    NAMED(WM_VSCROLL),
-                                                    NAMED(WM_MOUSEMOVE),
-                                                    NAMED(WM_LBUTTONDOWN),
-                                                    NAMED(WM_LBUTTONUP),
-                                                    NAMED(WM_LBUTTONDBLCLK),
-                                                    NAMED(WM_RBUTTONDOWN),
-                                                    NAMED(WM_RBUTTONUP),
-                                                    NAMED(WM_RBUTTONDBLCLK),
-                                                    NAMED(WM_MBUTTONDOWN),
-                                                    NAMED(WM_MBUTTONUP),
-                                                    NAMED(WM_MOUSEWHEEL),
-                                                    NAMED(WM_PARENTNOTIFY),
-                                                    NAMED(WM_CAPTURECHANGED),
-                                                    NAMED(WM_MOVING),
-                                                    NAMED(WM_ENTERSIZEMOVE),
-                                                    NAMED(WM_EXITSIZEMOVE),
-                                                    NAMED(WM_MOUSELEAVE)};
+NAMED_MESSAGES(WM_CREATE, WM_DESTROY, WM_MOVE, WM_SIZE, WM_ACTIVATE, WM_SETFOCUS, WM_KILLFOCUS,
+               WM_ENABLE, WM_SETREDRAW, WM_SETTEXT, WM_PAINT, WM_CLOSE, WM_ERASEBKGND,
+               WM_SHOWWINDOW, WM_ACTIVATEAPP, WM_CANCELMODE, WM_SETCURSOR, WM_MOUSEACTIVATE,
+               WM_CHILDACTIVATE, WM_GETMINMAXINFO, WM_WINDOWPOSCHANGING, WM_WINDOWPOSCHANGED,
+               WM_CONTEXTMENU, WM_STYLECHANGING, WM_STYLECHANGED, WM_NCCREATE, WM_NCDESTROY,
+               WM_NCCALCSIZE, WM_NCHITTEST, WM_NCPAINT, WM_NCACTIVATE, WM_NCLBUTTONDOWN,
+               WM_NCLBUTTONUP, WM_NCLBUTTONDBLCLK, WM_KEYDOWN, WM_KEYUP, WM_CHAR, WM_SYSKEYDOWN,
+               WM_SYSKEYUP, WM_SYSCHAR, WM_COMMAND, WM_SYSCOMMAND, WM_TIMER, WM_HSCROLL, WM_VSCROLL,
+               WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_RBUTTONDOWN,
+               WM_RBUTTONUP, WM_RBUTTONDBLCLK, WM_MBUTTONDOWN, WM_MBUTTONUP, WM_MOUSEWHEEL,
+               WM_PARENTNOTIFY, WM_CAPTURECHANGED, WM_MOVING, WM_ENTERSIZEMOVE, WM_EXITSIZEMOVE,
+               WM_MOUSELEAVE);
+
+#undef NAMED_MESSAGES
+
+const std::map<UINT, std::string>& names() {
+  static const auto table = [] {
+    std::istringstream stream(kMessageNames);
+    std::map<UINT, std::string> read;
+    for (const UINT message : kMessages) {
+      std::getline(stream >> std::ws, read[message], ',');
+    }
+    return read;
+  }();
   return table;
 }
-
-#undef NAMED
 
 std::string flags_text(UINT flags, const std::vector<FlagName>& table) {
   std::string text;
@@ -168,8 +130,12 @@ std::string key_or_command_details(UINT message, WPARAM wparam, LPARAM lparam,
     return std::to_string(LOWORD(wparam)) + " " + std::to_string(HIWORD(wparam)) + " " +
            name_of(reinterpret_cast<HWND>(lparam));
   }
-  if (message == WM_SYSCOMMAND || (message >= WM_KEYFIRST && message <= WM_KEYLAST)) {
-    return hexadecimal(wparam);
+  if (message == WM_SYSCOMMAND) return hexadecimal(wparam);
+  if (message >= WM_KEYFIRST && message <= WM_KEYLAST) {
+    return hexadecimal(wparam) + " " + std::to_string(LOWORD(static_cast<DWORD_PTR>(lparam))) +
+           " " +
+           flags_text(static_cast<UINT>(lparam),
+                      {{1U << 29, "ALT"}, {1U << 30, "WAS_DOWN"}, {1U << 31, "GOES_UP"}});
   }
   return plain_details(message, wparam, lparam);
 }

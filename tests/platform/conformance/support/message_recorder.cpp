@@ -137,6 +137,9 @@ LRESULT MessageRecorder::handle(const Message& message) {
   }
   if (!result) result = default_handling(message, line);
   if (line) --depth_;
+  if (line && *line < log_.size() && *result != 0) {
+    log_[*line].text += " = " + std::to_string(*result);
+  }
   if (message.message == WM_NCDESTROY) alive_.erase(message.window);
   return *result;
 }

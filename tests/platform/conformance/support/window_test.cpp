@@ -60,6 +60,11 @@ void WindowTest::settle() {
   forget();
 }
 
+void WindowTest::pump_step(const std::string& name) {
+  pump();
+  step(name);
+}
+
 void WindowTest::forget() {
   recorder_->clear();
   state_ = window_state(recorder_->windows());

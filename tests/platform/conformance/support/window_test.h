@@ -51,6 +51,13 @@ class WindowTest : public testing::Test, protected test::Desktop {
   void step(const std::string& name, Number returned) {
     expect_step(name, std::to_string(returned));
   }
+  void pump_step(const std::string& name);  // of what the queue brings too
+  // A step for what was sent, and another for what the queue brings.
+  template <typename... Returned>
+  void now_and_later(const std::string& name, const Returned&... returned) {
+    step(name, returned...);
+    pump_step(name + ", later");
+  }
   void forget();
 
   // Makes `window` draw these filled rectangles over its background in WM_PAINT.

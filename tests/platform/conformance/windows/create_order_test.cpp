@@ -12,12 +12,6 @@ class ObservedCreateOrder : public WindowTest {
         name,
         {.parent = parent, .style = WS_CHILD | extra_style, .place = {10, 20, 40, 30}, .id = 7});
   }
-  // What the creation sent, then what the queue brings.
-  void creation(const std::string& what) {
-    step(what);
-    pump();
-    step(what + ", later");
-  }
 };
 
 TEST_F(ObservedCreateOrder, Children) {
@@ -28,40 +22,40 @@ TEST_F(ObservedCreateOrder, Children) {
     return std::nullopt;
   });
   create_child("visible", parent, WS_VISIBLE);
-  creation("visible");
+  now_and_later("visible");
   EXPECT_EQ(text_of(calculated), "110,120,150,150") << "in screen coordinates";
   create_child("hidden", parent, 0);
-  creation("hidden, below its sibling");
+  now_and_later("hidden, below its sibling");
   ShowWindow(parent, SW_HIDE);
   settle();
   create_child("inside", parent, WS_VISIBLE);
-  creation("in a hidden parent");
+  now_and_later("in a hidden parent");
   ShowWindow(parent, SW_SHOW);
-  creation("its parent is shown");
+  now_and_later("its parent is shown");
 }
 
 TEST_F(ObservedCreateOrder, Popups) {
   recorder().record_activation_of_application();
   create("first", {.style = WS_POPUP | WS_VISIBLE});
-  creation("the first activation tells the application first");
+  now_and_later("the first activation tells the application first");
   create("second", {.style = WS_POPUP | WS_VISIBLE, .place = {60, 70, 80, 90}});
-  creation("a visible one takes the activation");
+  now_and_later("a visible one takes the activation");
   create("owned", {.parent = window("first"), .place = {5, 6, 0, 0}});
-  creation("hidden, without a size, not announced to its owner");
+  now_and_later("hidden, without a size, not announced to its owner");
   create("nothing", {.place = {.width = 0, .height = 0}});
-  creation("size and move are sent for nothing at the origin");
+  now_and_later("size and move are sent for nothing at the origin");
 }
 
 TEST_F(ObservedCreateOrder, CaptionedWindowLearnsItsSizeAtTheEndOfItsFirstShowing) {
   const HWND main =
       create("main", {.style = WS_OVERLAPPED | WS_CAPTION, .place = {.width = 300, .height = 200}});
-  creation("it asks for its limits first");
+  now_and_later("it asks for its limits first");
   ShowWindow(main, SW_SHOW);
-  creation("the first showing");
+  now_and_later("the first showing");
   ShowWindow(main, SW_HIDE);
   settle();
   ShowWindow(main, SW_SHOW);
-  creation("the second");
+  now_and_later("the second");
 }
 
 TEST_F(ObservedCreateOrder, RefusedCreations) {

@@ -6,22 +6,8 @@ namespace {
 
 class CreateWindowTest : public WindowTest {};
 
-struct SeenCreation {
-  CREATESTRUCTW data{};
-  std::wstring name;
-  std::wstring class_name;
-};
-
 TEST_F(CreateWindowTest, CreationDataIsWhatTheCallerGave) {
   const HWND parent = create("parent", {.place = {.width = 300, .height = 300}});
-  std::vector<SeenCreation> seen;
-  const auto remember = [&](const Message& sent) -> std::optional<LRESULT> {
-    const auto* data = reinterpret_cast<const CREATESTRUCTW*>(sent.lparam);
-    seen.push_back({*data, data->lpszName, data->lpszClass});
-    return std::nullopt;
-  };
-  recorder().on("child", WM_NCCREATE, remember);
-  recorder().on("child", WM_CREATE, remember);
   int payload = 0;
   const WindowPlan plan = {.parent = parent,
                            .style = WS_CHILD | WS_VISIBLE | WS_TABSTOP,
@@ -29,28 +15,25 @@ TEST_F(CreateWindowTest, CreationDataIsWhatTheCallerGave) {
                            .ex_style = WS_EX_TRANSPARENT,
                            .id = 21,
                            .parameter = &payload};
-  create("child", plan);
-  ASSERT_EQ(seen.size(), 2U);
-  for (const SeenCreation& creation : seen) {
-    EXPECT_EQ(static_cast<DWORD>(creation.data.style), plan.style);
-    EXPECT_EQ(creation.data.dwExStyle, plan.ex_style);
-    EXPECT_EQ(creation.data.x, -3);
-    EXPECT_EQ(creation.data.y, 4);
-    EXPECT_EQ(creation.data.cx, 50);
-    EXPECT_EQ(creation.data.cy, 60);
-    EXPECT_EQ(creation.data.hwndParent, parent);
-    EXPECT_EQ(creation.data.lpCreateParams, &payload);
-    EXPECT_EQ(reinterpret_cast<UINT_PTR>(creation.data.hMenu), 21U);
-    EXPECT_EQ(creation.name, L"child");
-    EXPECT_EQ(creation.class_name, recorder().class_for(plan));
+  const std::wstring class_name = recorder().class_for(plan);
+  int seen = 0;
+  for (const UINT message : {WM_NCCREATE, WM_CREATE}) {
+    recorder().on("child", message, [&](const Message& sent) -> std::optional<LRESULT> {
+      ++seen;
+      const auto& data = *reinterpret_cast<const CREATESTRUCTW*>(sent.lparam);
+      EXPECT_EQ(static_cast<DWORD>(data.style), plan.style);
+      EXPECT_EQ(data.dwExStyle, plan.ex_style);
+      EXPECT_EQ(text_of(RECT{data.x, data.y, data.cx, data.cy}), "-3,4,50,60");
+      EXPECT_EQ(data.hwndParent, parent);
+      EXPECT_EQ(data.lpCreateParams, &payload);
+      EXPECT_EQ(reinterpret_cast<UINT_PTR>(data.hMenu), 21U);
+      EXPECT_EQ(data.lpszName, std::wstring(L"child"));
+      EXPECT_EQ(data.lpszClass, class_name);
+      return std::nullopt;
+    });
   }
-}
-
-TEST_F(CreateWindowTest, PopupsClipSiblingsAndChildrenKeepTheirStyle) {
-  const HWND popup = create("pop", {});
-  const HWND child = create("child", {.parent = popup, .style = WS_CHILD | WS_BORDER});
-  EXPECT_EQ(static_cast<DWORD>(GetWindowLongW(popup, GWL_STYLE)), WS_POPUP | WS_CLIPSIBLINGS);
-  EXPECT_EQ(static_cast<DWORD>(GetWindowLongW(child, GWL_STYLE)), WS_CHILD | WS_BORDER);
+  create("child", plan);
+  EXPECT_EQ(seen, 2);
 }
 
 TEST_F(CreateWindowTest, RefusedWithNullAndTheError) {
@@ -72,21 +55,81 @@ TEST_F(CreateWindowTest, RefusedWithNullAndTheError) {
   EXPECT_TRUE(recorder().log().empty());
 }
 
-TEST_F(CreateWindowTest, ClassesAreRegisteredOnce) {
-  WNDCLASSW window_class{};
-  window_class.lpfnWndProc = &DefWindowProcW;
-  window_class.hInstance = GetModuleHandleW(nullptr);
-  window_class.lpszClassName = L"RegisteredTwice";
-  EXPECT_NE(RegisterClassW(&window_class), 0);
-  SetLastError(0);
-  EXPECT_EQ(RegisterClassW(&window_class), 0);
-  EXPECT_EQ(GetLastError(), 1410U);
+class ClassTest : public CreateWindowTest {
+ protected:
+  void SetUp() override {
+    CreateWindowTest::SetUp();
+    given_.style = CS_VREDRAW;
+    given_.lpfnWndProc = &DefWindowProcW;
+    given_.cbWndExtra = 16;
+    given_.hInstance = GetModuleHandleW(nullptr);
+    given_.hCursor = LoadCursorW(nullptr, IDC_HAND);
+    given_.hbrBackground = static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH));
+    given_.lpszClassName = L"Given";
+  }
+  WNDCLASSW given_{};
+};
+
+TEST_F(ClassTest, WhatItWasGivenIsKept) {
+  const ATOM atom = RegisterClassW(&given_);
   WNDCLASSW found{};
-  EXPECT_NE(GetClassInfoW(window_class.hInstance, L"RegisteredTwice", &found), 0);
-  EXPECT_EQ(found.lpfnWndProc, &DefWindowProcW);
-  EXPECT_NE(UnregisterClassW(L"RegisteredTwice", window_class.hInstance), 0);
-  EXPECT_EQ(UnregisterClassW(L"RegisteredTwice", window_class.hInstance), 0);
-  EXPECT_EQ(GetClassInfoW(window_class.hInstance, L"RegisteredTwice", &found), 0);
+  EXPECT_NE(GetClassInfoW(given_.hInstance, L"GIVEN", &found), 0);
+  EXPECT_EQ(found.style, given_.style);
+  EXPECT_EQ(found.lpfnWndProc, given_.lpfnWndProc);
+  EXPECT_EQ(found.cbWndExtra, given_.cbWndExtra);
+  EXPECT_EQ(found.hInstance, given_.hInstance);
+  EXPECT_EQ(found.hCursor, given_.hCursor);
+  EXPECT_EQ(found.hbrBackground, given_.hbrBackground);
+  const HWND window = CreateWindowExW(0, MAKEINTRESOURCEW(atom), L"its text", WS_POPUP, 0, 0, 5, 5,
+                                      nullptr, nullptr, given_.hInstance, nullptr);
+  wchar_t text[16] = L"~~~~~~~~~~~~~~~";
+  EXPECT_EQ(GetWindowTextW(window, text, 16), 8);
+  EXPECT_STREQ(text, L"its text");
+  EXPECT_EQ(GetClassNameW(window, text, 16), 5);
+  EXPECT_STREQ(text, L"Given");
+  EXPECT_EQ(GetClassNameW(window, text, 3), 2);
+  EXPECT_STREQ(text, L"Gi");
+  EXPECT_EQ(GetClassLongPtrW(window, GCL_STYLE), given_.style);
+  EXPECT_EQ(GetClassLongPtrW(window, GCLP_HCURSOR), reinterpret_cast<ULONG_PTR>(given_.hCursor));
+  EXPECT_EQ(GetClassLongPtrW(window, GCLP_HBRBACKGROUND),
+            reinterpret_cast<ULONG_PTR>(given_.hbrBackground));
+  EXPECT_EQ(GetClassLongPtrW(window, GCLP_WNDPROC),
+            reinterpret_cast<ULONG_PTR>(given_.lpfnWndProc));
+  EXPECT_EQ(GetWindowLongPtrW(window, GWLP_WNDPROC),
+            reinterpret_cast<LONG_PTR>(given_.lpfnWndProc));
+  EXPECT_EQ(GetWindowLongPtrW(window, GWLP_HINSTANCE),
+            reinterpret_cast<LONG_PTR>(given_.hInstance));
+  // The extra bytes hold two values.
+  for (const int index : {0, 8}) EXPECT_EQ(SetWindowLongPtrW(window, index, -7 - index), 0);
+  for (const int index : {0, 8}) EXPECT_EQ(GetWindowLongPtrW(window, index), -7 - index);
+  for (const int index : {-1, 9, 16, 1000}) {
+    SetLastError(0);
+    EXPECT_EQ(SetWindowLongPtrW(window, index, 1), 0) << index;
+    EXPECT_EQ(GetLastError(), 87U) << index;
+    EXPECT_EQ(GetWindowLongPtrW(window, index), 0) << index;
+  }
+  EXPECT_EQ(UnregisterClassW(L"Given", given_.hInstance), 0) << "in use";
+  DestroyWindow(window);
+  EXPECT_NE(UnregisterClassW(L"Given", given_.hInstance), 0);
+  EXPECT_EQ(UnregisterClassW(L"Given", given_.hInstance), 0);
+  EXPECT_EQ(GetClassInfoW(given_.hInstance, L"Given", &found), 0);
+}
+
+TEST_F(ClassTest, RegisteredOnceAndNeverWithNonsense) {
+  const auto error = [&](WNDPROC procedure, int extra, LPCWSTR name) {
+    given_.lpfnWndProc = procedure;
+    given_.cbWndExtra = extra;
+    given_.lpszClassName = name;
+    SetLastError(0);
+    return RegisterClassW(&given_) != 0 ? 0 : GetLastError();
+  };
+  EXPECT_EQ(error(&DefWindowProcW, 4096, L"Most"), 0U);
+  EXPECT_EQ(error(&DefWindowProcW, 0, L"MOST"), 1410U);
+  EXPECT_EQ(error(&DefWindowProcW, 4097, L"Other"), 87U);
+  EXPECT_EQ(error(&DefWindowProcW, -1, L"Other"), 87U);
+  EXPECT_EQ(error(nullptr, 0, L"Other"), 87U);
+  EXPECT_EQ(error(&DefWindowProcW, 0, MAKEINTRESOURCEW(5)), 87U);
+  EXPECT_EQ(error(&DefWindowProcW, 0, nullptr), 87U);
 }
 
 TEST_F(CreateWindowTest, ParentAndOwnerRelations) {
@@ -96,27 +139,27 @@ TEST_F(CreateWindowTest, ParentAndOwnerRelations) {
   const HWND owned = create("owned", {.parent = main});
   const HWND deeper = create("deeper", {.parent = owned});
   const HWND from_child = create("from_child", {.parent = grandchild});
-
-  EXPECT_EQ(GetParent(main), nullptr);
-  EXPECT_EQ(GetParent(child), main);
-  EXPECT_EQ(GetParent(grandchild), child);
-  EXPECT_EQ(GetParent(owned), main);
-  EXPECT_EQ(GetParent(deeper), owned);
-  EXPECT_EQ(GetParent(from_child), main) << "owned by the child's top-level ancestor";
-
-  EXPECT_EQ(GetWindow(child, GW_OWNER), nullptr);
-  EXPECT_EQ(GetWindow(owned, GW_OWNER), main);
-  EXPECT_EQ(GetWindow(from_child, GW_OWNER), main);
-
-  EXPECT_EQ(GetAncestor(grandchild, GA_PARENT), child);
-  EXPECT_EQ(GetAncestor(grandchild, GA_ROOT), main);
-  EXPECT_EQ(GetAncestor(deeper, GA_ROOT), deeper);
-  EXPECT_EQ(GetAncestor(deeper, GA_ROOTOWNER), main);
-  EXPECT_EQ(GetAncestor(owned, GA_PARENT), GetDesktopWindow());
-
-  EXPECT_NE(IsChild(main, grandchild), 0);
-  EXPECT_EQ(IsChild(main, owned), 0);
-  EXPECT_EQ(IsChild(main, main), 0);
+  const HWND desktop = GetDesktopWindow();
+  struct Relations {
+    HWND window, parent, owner, ancestor, root, root_owner;
+  };
+  for (const Relations& each : {
+           Relations{main, nullptr, nullptr, desktop, main, main},
+           Relations{child, main, nullptr, main, main, main},
+           Relations{grandchild, child, nullptr, child, main, main},
+           Relations{owned, main, main, desktop, owned, main},
+           Relations{deeper, owned, owned, desktop, deeper, main},
+           // Owned by the child's top-level ancestor.
+           Relations{from_child, main, main, desktop, from_child, main},
+       }) {
+    SCOPED_TRACE(name_of(each.window));
+    EXPECT_EQ(GetParent(each.window), each.parent);
+    EXPECT_EQ(GetWindow(each.window, GW_OWNER), each.owner);
+    EXPECT_EQ(GetAncestor(each.window, GA_PARENT), each.ancestor);
+    EXPECT_EQ(GetAncestor(each.window, GA_ROOT), each.root);
+    EXPECT_EQ(GetAncestor(each.window, GA_ROOTOWNER), each.root_owner);
+    EXPECT_EQ(IsChild(main, each.window) != 0, each.window != main && each.root == main);
+  }
 }
 
 TEST_F(CreateWindowTest, DialogItemsAreFoundByTheirNumber) {

@@ -35,15 +35,14 @@ class Session : public test::Desktop {
     trap = &trap_.emplace();
   }
   ~Session() {
-    for (const HWND window : {fresh_, new_popup_, popup_, owner_, spare_}) DestroyWindow(window);
+    for (const auto& [name, window] : windows_) DestroyWindow(window);
   }
 
-  // Which is null as long as its creation lasts.
+  // Which is null before its creation and while that lasts.
   HWND window(const std::string& name) const {
-    return name == "self"    ? trap_->sprung_at()
-           : name == "owner" ? owner_
-           : name == "popup" ? popup_
-                             : target_;
+    if (name == "self") return trap_->sprung_at();
+    const auto found = windows_.find(name);
+    return found != windows_.end() ? found->second : nullptr;
   }
 
   // To its end, or to that of the phase in which the trap springs.
@@ -67,27 +66,28 @@ class Session : public test::Desktop {
     pump();
     advance(2000);
     EXPECT_TRUE(pump());
-    fresh_ = make("fresh", {100, 100, 60, 60}, nullptr);
+    const HWND fresh = make("fresh", {100, 100, 60, 60});
     pump();
     EXPECT_EQ(pixel(150, 150), RGB(255, 255, 255));
-    EXPECT_EQ(GetActiveWindow(), fresh_);
-    EXPECT_EQ(GetFocus(), fresh_);
+    EXPECT_EQ(GetActiveWindow(), fresh);
+    EXPECT_EQ(GetFocus(), fresh);
     EXPECT_EQ(GetCapture(), nullptr);
-    SetWindowLongPtrW(fresh_, GWLP_USERDATA, 1);
+    SetWindowLongPtrW(fresh, GWLP_USERDATA, 1);
     SetCursorPos(110, 110);
     send_mouse(MOUSEEVENTF_LEFTDOWN);
     SetCursorPos(113, 114);
     send_mouse(MOUSEEVENTF_LEFTUP);
     pump();
-    EXPECT_EQ(test::text_of(test::window_rect(fresh_)), "103,104,163,164");
+    EXPECT_EQ(test::text_of(test::window_rect(fresh)), "103,104,163,164");
   }
 
  private:
-  static HWND make(const char* name, const RECT& place, HWND parent, DWORD style = WS_POPUP) {
-    const std::string text = name;
-    return CreateWindowExW(0, L"Session", std::wstring(text.begin(), text.end()).c_str(),
-                           style | WS_VISIBLE, place.left, place.top, place.right, place.bottom,
-                           parent, nullptr, nullptr, nullptr);
+  HWND make(const std::string& name, const RECT& place, const std::string& parent = {},
+            DWORD style = WS_POPUP) {
+    const HWND made = CreateWindowExW(0, L"Session", std::wstring(name.begin(), name.end()).c_str(),
+                                      style | WS_VISIBLE, place.left, place.top, place.right,
+                                      place.bottom, window(parent), nullptr, nullptr, nullptr);
+    return windows_[name] = made;
   }
   void press_and_move(POINT from, POINT to) {
     SetCursorPos(from.x, from.y);
@@ -98,43 +98,43 @@ class Session : public test::Desktop {
   }
 
   void create_windows() {
-    spare_ = make("spare", {240, 180, 40, 40}, nullptr);
-    owner_ = make("owner", {250, 10, 40, 40}, nullptr);
-    popup_ = make("popup", {20, 20, 200, 200}, owner_);
-    parent_ = make("parent", {10, 10, 150, 150}, popup_, WS_CHILD);
-    target_ = make("target", {30, 30, 100, 100}, parent_, WS_CHILD | WS_VSCROLL);
-    nephew_ = make("nephew", {5, 5, 20, 20}, target_, WS_CHILD);
-    sibling_ = make("sibling", {0, 0, 20, 20}, parent_, WS_CHILD);
+    make("spare", {240, 180, 40, 40});
+    make("owner", {250, 10, 40, 40});
+    make("popup", {20, 20, 200, 200}, "owner");
+    make("parent", {10, 10, 150, 150}, "popup", WS_CHILD);
+    make("target", {30, 30, 100, 100}, "parent", WS_CHILD | WS_VSCROLL);
+    make("nephew", {5, 5, 20, 20}, "target", WS_CHILD);
+    make("sibling", {0, 0, 20, 20}, "parent", WS_CHILD);
     pump();
     trap_->begin_phase();
-    make("new child", {40, 40, 10, 10}, target_, WS_CHILD);
-    new_popup_ = make("new popup", {230, 60, 40, 40}, popup_);
+    make("new child", {40, 40, 10, 10}, "target", WS_CHILD);
+    make("new popup", {230, 60, 40, 40}, "popup");
   }
   void move_and_hide() {
-    MoveWindow(target_, 35, 35, 90, 90, TRUE);
-    ShowWindow(target_, SW_HIDE);
-    ShowWindow(target_, SW_SHOW);
-    SetWindowPos(sibling_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    MoveWindow(window("target"), 35, 35, 90, 90, TRUE);
+    ShowWindow(window("target"), SW_HIDE);
+    ShowWindow(window("target"), SW_SHOW);
+    SetWindowPos(window("sibling"), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
   }
   void paint() {
-    InvalidateRect(target_, nullptr, TRUE);
-    UpdateWindow(target_);
-    RedrawWindow(popup_, nullptr, nullptr,
+    InvalidateRect(window("target"), nullptr, TRUE);
+    UpdateWindow(window("target"));
+    RedrawWindow(window("popup"), nullptr, nullptr,
                  RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
-    InvalidateRect(target_, nullptr, TRUE);
+    InvalidateRect(window("target"), nullptr, TRUE);
   }
   void move_focus() {
-    SetFocus(target_);
-    SetFocus(sibling_);
-    SetFocus(target_);
-    EnableWindow(target_, FALSE);
-    EnableWindow(target_, TRUE);
+    SetFocus(window("target"));
+    SetFocus(window("sibling"));
+    SetFocus(window("target"));
+    EnableWindow(window("target"), FALSE);
+    EnableWindow(window("target"), TRUE);
   }
   void activate() {
-    SetFocus(target_);
-    SetActiveWindow(spare_);
-    SetActiveWindow(popup_);
-    SetActiveWindow(spare_);
+    SetFocus(window("target"));
+    SetActiveWindow(window("spare"));
+    SetActiveWindow(window("popup"));
+    SetActiveWindow(window("spare"));
   }
   void use_mouse() {
     press_and_move({80, 100}, {85, 105});
@@ -142,79 +142,71 @@ class Session : public test::Desktop {
     send_mouse(MOUSEEVENTF_RIGHTUP);
     send_mouse(MOUSEEVENTF_WHEEL, WHEEL_DELTA);
     pump();
-    SetActiveWindow(spare_);
+    SetActiveWindow(window("spare"));
     press_and_move({25, 25}, {26, 26});
   }
   void type() {
-    SetFocus(target_);
+    SetFocus(window("target"));
     send_key('A', true);
     send_key('A', false);
-    PostMessageW(target_, WM_USER, 0, 0);
-    PostMessageW(target_, WM_USER, 0, 0);
-    SetTimer(target_, 1, 10, nullptr);
-    SetTimer(target_, 2, 10, nullptr);
+    PostMessageW(window("target"), WM_USER, 0, 0);
+    PostMessageW(window("target"), WM_USER, 0, 0);
+    SetTimer(window("target"), 1, 10, nullptr);
+    SetTimer(window("target"), 2, 10, nullptr);
     advance(30);
     pump();
-    for (const UINT_PTR timer : {1U, 2U}) KillTimer(target_, timer);
+    for (const UINT_PTR timer : {1U, 2U}) KillTimer(window("target"), timer);
   }
   void change() {
-    SetWindowLongW(target_, GWL_STYLE,
+    SetWindowLongW(window("target"), GWL_STYLE,
                    static_cast<LONG>(WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_BORDER));
-    SetWindowTextW(target_, L"x");
-    SendMessageW(target_, WM_APP, 0, 0);
+    SetWindowTextW(window("target"), L"x");
+    SendMessageW(window("target"), WM_APP, 0, 0);
   }
   void capture() {
-    SetCapture(target_);
-    SetCapture(sibling_);
-    SetCapture(target_);
+    SetCapture(window("target"));
+    SetCapture(window("sibling"));
+    SetCapture(window("target"));
     move_to(5, 5);
-    EnableWindow(target_, FALSE);
-    EnableWindow(target_, TRUE);
-    SetCapture(target_);
+    EnableWindow(window("target"), FALSE);
+    EnableWindow(window("target"), TRUE);
+    SetCapture(window("target"));
     ReleaseCapture();
   }
   // Its bar: x 138 to 154, y 65 to 154.
   void scroll() {
     const SCROLLINFO info{sizeof(SCROLLINFO), SIF_ALL, 0, 600, 300, 0, 0};
-    SetScrollInfo(target_, SB_VERT, &info, TRUE);
-    PostMessageW(target_, WM_USER, 0, 0);
-    InvalidateRect(target_, nullptr, TRUE);
+    SetScrollInfo(window("target"), SB_VERT, &info, TRUE);
+    PostMessageW(window("target"), WM_USER, 0, 0);
+    InvalidateRect(window("target"), nullptr, TRUE);
     press_and_move({146, 90}, {146, 110});
     trap_->begin_phase();
     press_and_move({146, 150}, {146, 149});
   }
   void show_bar() {
     const SCROLLINFO info{sizeof(SCROLLINFO), SIF_PAGE, 0, 0, 601, 0, 0};
-    SetScrollInfo(target_, SB_VERT, &info, TRUE);
-    ShowScrollBar(target_, SB_VERT, TRUE);
+    SetScrollInfo(window("target"), SB_VERT, &info, TRUE);
+    ShowScrollBar(window("target"), SB_VERT, TRUE);
   }
   void drag_popup() {
-    SetWindowLongPtrW(popup_, GWLP_USERDATA, 1);
+    SetWindowLongPtrW(window("popup"), GWLP_USERDATA, 1);
     press_and_move({25, 200}, {30, 195});
   }
   void drag_target() {
-    SetWindowLongPtrW(target_, GWLP_USERDATA, 1);
+    SetWindowLongPtrW(window("target"), GWLP_USERDATA, 1);
     press_and_move({80, 100}, {85, 105});
   }
-  void destroy_nephew() { DestroyWindow(nephew_); }
-  void destroy_target() { SendMessageW(target_, WM_CLOSE, 0, 0); }
+  void destroy_nephew() { DestroyWindow(window("nephew")); }
+  void destroy_target() { SendMessageW(window("target"), WM_CLOSE, 0, 0); }
   void hide_popup() {
-    SetActiveWindow(popup_);
-    ShowWindow(popup_, SW_HIDE);
-    ShowWindow(popup_, SW_SHOW);
+    SetActiveWindow(window("popup"));
+    ShowWindow(window("popup"), SW_HIDE);
+    ShowWindow(window("popup"), SW_SHOW);
   }
-  void destroy_owner() { DestroyWindow(owner_); }
+  void destroy_owner() { DestroyWindow(window("owner")); }
 
   std::optional<MessageTrap> trap_;  // outlives the windows that it stands before
-  HWND spare_ = nullptr;
-  HWND owner_ = nullptr;
-  HWND popup_ = nullptr;
-  HWND parent_ = nullptr;
-  HWND target_ = nullptr;
-  HWND nephew_ = nullptr;
-  HWND sibling_ = nullptr;
-  HWND new_popup_ = nullptr;
-  HWND fresh_ = nullptr;
+  std::map<std::string, HWND> windows_;
 };
 
 class DestroySessionTest : public testing::TestWithParam<const char*> {};

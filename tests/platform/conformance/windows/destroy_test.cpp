@@ -67,10 +67,10 @@ TEST_F(DestroyWindowTest, CaptureTimersAndMessagesEndWithTheWindow) {
   PostMessageW(popup, WM_USER, 0, 0);
   DestroyWindow(popup);
   EXPECT_EQ(GetCapture(), nullptr);
+  EXPECT_EQ(KillTimer(popup, 1), 0);
   forget();
   advance(100);
-  pump();
-  step();
+  pump_step("");
 }
 
 TEST_F(DestroyWindowTest, TheScreenShowsWhatWasBelow) {

@@ -4,11 +4,8 @@
 namespace corvane::conformance {
 namespace {
 
-enum class Null { fails, has_meaning };
-
 struct HandleCall {
   const char* function;
-  Null null;
   bool (*failed)(HWND);  // calls it; true: it returned its failure result
 };
 
@@ -24,84 +21,78 @@ PAINTSTRUCT paint;
 wchar_t text[4] = L"abc";
 
 const HandleCall kCalls[] = {
-    {"DestroyWindow", Null::fails, [](HWND h) { return DestroyWindow(h) == 0; }},
-    {"ShowWindow", Null::fails, [](HWND h) { return ShowWindow(h, SW_SHOW) == 0; }},
-    {"MoveWindow", Null::fails, [](HWND h) { return MoveWindow(h, 0, 0, 5, 5, TRUE) == 0; }},
-    {"SetWindowPos", Null::fails,
-     [](HWND h) { return SetWindowPos(h, HWND_TOP, 0, 0, 5, 5, 0) == 0; }},
-    {"BringWindowToTop", Null::fails, [](HWND h) { return BringWindowToTop(h) == 0; }},
-    {"EnableWindow", Null::fails, [](HWND h) { return EnableWindow(h, FALSE) == 0; }},
-    {"IsWindowVisible", Null::fails, [](HWND h) { return IsWindowVisible(h) == 0; }},
-    {"IsWindowEnabled", Null::fails, [](HWND h) { return IsWindowEnabled(h) == 0; }},
-    {"SetWindowTextW", Null::fails, [](HWND h) { return SetWindowTextW(h, L"x") == 0; }},
-    {"GetWindowTextLengthW", Null::fails, [](HWND h) { return GetWindowTextLengthW(h) == 0; }},
-    {"GetWindowTextW", Null::fails, [](HWND h) { return GetWindowTextW(h, text, 4) == 0; }},
-    {"GetClassNameW", Null::fails, [](HWND h) { return GetClassNameW(h, text, 4) == 0; }},
-    {"GetWindowLongW", Null::fails, [](HWND h) { return GetWindowLongW(h, GWL_STYLE) == 0; }},
-    {"SetWindowLongW", Null::fails, [](HWND h) { return SetWindowLongW(h, GWL_STYLE, 1) == 0; }},
-    {"GetWindowLongPtrW", Null::fails,
-     [](HWND h) { return GetWindowLongPtrW(h, GWLP_USERDATA) == 0; }},
-    {"SetWindowLongPtrW", Null::fails,
-     [](HWND h) { return SetWindowLongPtrW(h, GWLP_USERDATA, 1) == 0; }},
-    {"GetClassLongPtrW", Null::fails, [](HWND h) { return GetClassLongPtrW(h, GCL_STYLE) == 0; }},
-    {"SetLayeredWindowAttributes", Null::fails,
+    {"DestroyWindow", [](HWND h) { return DestroyWindow(h) == 0; }},
+    {"ShowWindow", [](HWND h) { return ShowWindow(h, SW_SHOW) == 0; }},
+    {"MoveWindow", [](HWND h) { return MoveWindow(h, 0, 0, 5, 5, TRUE) == 0; }},
+    {"SetWindowPos", [](HWND h) { return SetWindowPos(h, HWND_TOP, 0, 0, 5, 5, 0) == 0; }},
+    {"BringWindowToTop", [](HWND h) { return BringWindowToTop(h) == 0; }},
+    {"EnableWindow", [](HWND h) { return EnableWindow(h, FALSE) == 0; }},
+    {"IsWindowVisible", [](HWND h) { return IsWindowVisible(h) == 0; }},
+    {"IsWindowEnabled", [](HWND h) { return IsWindowEnabled(h) == 0; }},
+    {"SetWindowTextW", [](HWND h) { return SetWindowTextW(h, L"x") == 0; }},
+    {"GetWindowTextLengthW", [](HWND h) { return GetWindowTextLengthW(h) == 0; }},
+    {"GetWindowTextW", [](HWND h) { return GetWindowTextW(h, text, 4) == 0; }},
+    {"GetClassNameW", [](HWND h) { return GetClassNameW(h, text, 4) == 0; }},
+    {"GetWindowLongW", [](HWND h) { return GetWindowLongW(h, GWL_STYLE) == 0; }},
+    {"SetWindowLongW", [](HWND h) { return SetWindowLongW(h, GWL_STYLE, 1) == 0; }},
+    {"GetWindowLongPtrW", [](HWND h) { return GetWindowLongPtrW(h, GWLP_USERDATA) == 0; }},
+    {"SetWindowLongPtrW", [](HWND h) { return SetWindowLongPtrW(h, GWLP_USERDATA, 1) == 0; }},
+    {"GetClassLongPtrW", [](HWND h) { return GetClassLongPtrW(h, GCL_STYLE) == 0; }},
+    {"SetLayeredWindowAttributes",
      [](HWND h) { return SetLayeredWindowAttributes(h, 0, 9, LWA_ALPHA) == 0; }},
-    {"GetLayeredWindowAttributes", Null::fails,
+    {"GetLayeredWindowAttributes",
      [](HWND h) { return GetLayeredWindowAttributes(h, nullptr, nullptr, nullptr) == 0; }},
-    {"UpdateLayeredWindow", Null::fails,
+    {"UpdateLayeredWindow",
      [](HWND h) {
        return UpdateLayeredWindow(h, nullptr, nullptr, nullptr, nullptr, nullptr, 0, nullptr,
                                   ULW_ALPHA) == 0;
      }},
-    {"GetWindowRect", Null::fails, [](HWND h) { return GetWindowRect(h, &rect) == 0; }},
-    {"GetClientRect", Null::fails, [](HWND h) { return GetClientRect(h, &rect) == 0; }},
-    {"ClientToScreen", Null::fails, [](HWND h) { return ClientToScreen(h, &point) == 0; }},
-    {"ScreenToClient", Null::fails, [](HWND h) { return ScreenToClient(h, &point) == 0; }},
-    {"MapWindowPoints", Null::has_meaning,
-     [](HWND h) { return MapWindowPoints(h, nullptr, &point, 1) == 0; }},
-    {"GetParent", Null::fails, [](HWND h) { return GetParent(h) == nullptr; }},
-    {"SetParent", Null::fails, [](HWND h) { return SetParent(h, nullptr) == nullptr; }},
-    {"GetAncestor", Null::fails, [](HWND h) { return GetAncestor(h, GA_ROOT) == nullptr; }},
-    {"GetWindow", Null::fails, [](HWND h) { return GetWindow(h, GW_HWNDNEXT) == nullptr; }},
-    {"GetTopWindow", Null::has_meaning, [](HWND h) { return GetTopWindow(h) == nullptr; }},
-    {"GetDlgItem", Null::fails, [](HWND h) { return GetDlgItem(h, 1) == nullptr; }},
-    {"GetDlgCtrlID", Null::fails, [](HWND h) { return GetDlgCtrlID(h) == 0; }},
-    {"EnumChildWindows", Null::has_meaning,
+    {"GetWindowRect", [](HWND h) { return GetWindowRect(h, &rect) == 0; }},
+    {"GetClientRect", [](HWND h) { return GetClientRect(h, &rect) == 0; }},
+    {"ClientToScreen", [](HWND h) { return ClientToScreen(h, &point) == 0; }},
+    {"ScreenToClient", [](HWND h) { return ScreenToClient(h, &point) == 0; }},
+    {"GetParent", [](HWND h) { return GetParent(h) == nullptr; }},
+    {"SetParent", [](HWND h) { return SetParent(h, nullptr) == nullptr; }},
+    {"GetAncestor", [](HWND h) { return GetAncestor(h, GA_ROOT) == nullptr; }},
+    {"GetWindow", [](HWND h) { return GetWindow(h, GW_HWNDNEXT) == nullptr; }},
+    {"GetDlgItem", [](HWND h) { return GetDlgItem(h, 1) == nullptr; }},
+    {"GetDlgCtrlID", [](HWND h) { return GetDlgCtrlID(h) == 0; }},
+    {"ChildWindowFromPoint",
+     [](HWND h) {
+       return ChildWindowFromPoint(h, {0, 0}) == nullptr;
+     }},
+    {"GetWindowThreadProcessId", [](HWND h) { return GetWindowThreadProcessId(h, nullptr) == 0; }},
+    {"SendMessageW", [](HWND h) { return SendMessageW(h, WM_USER, 0, 0) == 0; }},
+    {"SetForegroundWindow", [](HWND h) { return SetForegroundWindow(h) == 0; }},
+    {"TrackMouseEvent",
+     [](HWND h) {
+       TRACKMOUSEEVENT request{sizeof(TRACKMOUSEEVENT), TME_LEAVE, h, 0};
+       return TrackMouseEvent(&request) == 0;
+     }},
+    {"BeginPaint", [](HWND h) { return BeginPaint(h, &paint) == nullptr; }},
+    {"UpdateWindow", [](HWND h) { return UpdateWindow(h) == 0; }},
+    {"GetUpdateRect", [](HWND h) { return GetUpdateRect(h, &rect, FALSE) == 0; }},
+};
+
+// To these no window at all means something.
+const HandleCall kCallsWithNull[] = {
+    {"MapWindowPoints", [](HWND h) { return MapWindowPoints(h, nullptr, &point, 1) == 0; }},
+    {"GetTopWindow", [](HWND h) { return GetTopWindow(h) == nullptr; }},
+    {"EnumChildWindows",
      [](HWND h) {
        EnumChildWindows(h, &never_called, 0);
        return true;
      }},
-    {"ChildWindowFromPoint", Null::fails,
-     [](HWND h) {
-       return ChildWindowFromPoint(h, {0, 0}) == nullptr;
-     }},
-    {"GetWindowThreadProcessId", Null::fails,
-     [](HWND h) { return GetWindowThreadProcessId(h, nullptr) == 0; }},
-    {"SendMessageW", Null::fails, [](HWND h) { return SendMessageW(h, WM_USER, 0, 0) == 0; }},
-    {"PostMessageW", Null::has_meaning, [](HWND h) { return PostMessageW(h, WM_USER, 0, 0) == 0; }},
-    {"SetTimer", Null::has_meaning, [](HWND h) { return SetTimer(h, 1, 10, nullptr) == 0; }},
-    {"SetCapture", Null::has_meaning, [](HWND h) { return SetCapture(h) == nullptr; }},
-    {"SetFocus", Null::has_meaning, [](HWND h) { return SetFocus(h) == nullptr; }},
-    {"SetActiveWindow", Null::has_meaning, [](HWND h) { return SetActiveWindow(h) == nullptr; }},
-    {"SetForegroundWindow", Null::fails, [](HWND h) { return SetForegroundWindow(h) == 0; }},
-    {"TrackMouseEvent", Null::fails,
-     [](HWND h) {
-       TRACKMOUSEEVENT request{};
-       request.cbSize = sizeof(request);
-       request.dwFlags = TME_LEAVE;
-       request.hwndTrack = h;
-       return TrackMouseEvent(&request) == 0;
-     }},
-    {"BeginPaint", Null::fails, [](HWND h) { return BeginPaint(h, &paint) == nullptr; }},
-    {"GetDC", Null::has_meaning, [](HWND h) { return GetDC(h) == nullptr; }},
-    {"GetWindowDC", Null::has_meaning, [](HWND h) { return GetWindowDC(h) == nullptr; }},
-    {"InvalidateRect", Null::has_meaning,
-     [](HWND h) { return InvalidateRect(h, nullptr, TRUE) == 0; }},
-    {"ValidateRect", Null::has_meaning, [](HWND h) { return ValidateRect(h, nullptr) == 0; }},
-    {"RedrawWindow", Null::has_meaning,
-     [](HWND h) { return RedrawWindow(h, nullptr, nullptr, RDW_INVALIDATE) == 0; }},
-    {"UpdateWindow", Null::fails, [](HWND h) { return UpdateWindow(h) == 0; }},
-    {"GetUpdateRect", Null::fails, [](HWND h) { return GetUpdateRect(h, &rect, FALSE) == 0; }},
+    {"PostMessageW", [](HWND h) { return PostMessageW(h, WM_USER, 0, 0) == 0; }},
+    {"SetTimer", [](HWND h) { return SetTimer(h, 1, 10, nullptr) == 0; }},
+    {"SetCapture", [](HWND h) { return SetCapture(h) == nullptr; }},
+    {"SetFocus", [](HWND h) { return SetFocus(h) == nullptr; }},
+    {"SetActiveWindow", [](HWND h) { return SetActiveWindow(h) == nullptr; }},
+    {"GetDC", [](HWND h) { return GetDC(h) == nullptr; }},
+    {"GetWindowDC", [](HWND h) { return GetWindowDC(h) == nullptr; }},
+    {"InvalidateRect", [](HWND h) { return InvalidateRect(h, nullptr, TRUE) == 0; }},
+    {"ValidateRect", [](HWND h) { return ValidateRect(h, nullptr) == 0; }},
+    {"RedrawWindow", [](HWND h) { return RedrawWindow(h, nullptr, nullptr, RDW_INVALIDATE) == 0; }},
 };
 
 class HandleTest : public WindowTest {};
@@ -112,21 +103,19 @@ TEST_F(HandleTest, EveryFunctionRefusesWhatIsNoWindow) {
   DestroyWindow(gone);
   settle();
   int local = 0;
-  const HWND no_windows[] = {gone,
-                             reinterpret_cast<HWND>(UINT_PTR{0x7FFF1234}),
-                             reinterpret_cast<HWND>(UINT_PTR{3}),
-                             reinterpret_cast<HWND>(~UINT_PTR{0} - 7),
-                             reinterpret_cast<HWND>(&local),
-                             nullptr};
-  for (const HandleCall& call : kCalls) {
-    for (const HWND handle : no_windows) {
-      if (handle == nullptr && call.null == Null::has_meaning) continue;
-      SetLastError(0);
-      EXPECT_TRUE(call.failed(handle)) << call.function << ' ' << handle;
-      EXPECT_EQ(GetLastError(), 1400U) << call.function << ' ' << handle;
-    }
+  const auto expect_refused = [](const HandleCall& call, HWND handle) {
+    SetLastError(0);
+    EXPECT_TRUE(call.failed(handle)) << call.function << ' ' << handle;
+    EXPECT_EQ(GetLastError(), 1400U) << call.function << ' ' << handle;
+  };
+  for (const UINT_PTR number : {reinterpret_cast<UINT_PTR>(gone), UINT_PTR{0x7FFF1234}, UINT_PTR{3},
+                                ~UINT_PTR{0} - 7, reinterpret_cast<UINT_PTR>(&local)}) {
+    const HWND handle = reinterpret_cast<HWND>(number);
+    for (const HandleCall& call : kCalls) expect_refused(call, handle);
+    for (const HandleCall& call : kCallsWithNull) expect_refused(call, handle);
+    EXPECT_EQ(IsWindow(handle), 0);
   }
-  for (const HWND handle : no_windows) EXPECT_EQ(IsWindow(handle), 0);
+  for (const HandleCall& call : kCalls) expect_refused(call, nullptr);
   EXPECT_NE(IsWindow(live), 0);
   step();
 }

@@ -14,10 +14,6 @@ class MoveWindowTest : public WindowTest {
     parent_ = settled_popup("parent", 100, 100, 300, 200);
     child_ = settled_child("child", parent_, 10, 20, 40, 30);
   }
-  void pump_step(const std::string& what) {
-    pump();
-    step(what);
-  }
   HWND parent_ = nullptr;
   HWND child_ = nullptr;
 };
@@ -35,9 +31,8 @@ TEST_F(MoveWindowTest, ObservedForAVisibleChild) {
         Move{"both quietly", {1, 2, 3, 4}, FALSE}}) {
     MoveWindow(child_, 10, 20, 40, 30, TRUE);
     settle();
-    step(move.label, MoveWindow(child_, move.to.left, move.to.top, move.to.right, move.to.bottom,
-                                move.repaint));
-    pump_step(std::string(move.label) + ", later");
+    now_and_later(move.label, MoveWindow(child_, move.to.left, move.to.top, move.to.right,
+                                         move.to.bottom, move.repaint));
   }
 }
 
@@ -134,8 +129,7 @@ TEST_F(MoveWindowTest, ObservedFlagsOfSetWindowPos) {
        {Position{"frame changed", kNothing | SWP_FRAMECHANGED}, Position{"nothing", kNothing},
         Position{"lowered", kOnlyOrder}, Position{"hidden", kNothing | SWP_HIDEWINDOW},
         Position{"shown", kNothing | SWP_SHOWWINDOW}}) {
-    step(position.label, SetWindowPos(child_, HWND_BOTTOM, 0, 0, 0, 0, position.flags));
-    pump_step(std::string(position.label) + ", later");
+    now_and_later(position.label, SetWindowPos(child_, HWND_BOTTOM, 0, 0, 0, 0, position.flags));
   }
   step("raised", SetWindowPos(child_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE));
   step("raised again", SetWindowPos(child_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE));

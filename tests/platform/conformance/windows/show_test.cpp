@@ -10,11 +10,8 @@ class ShowWindowTest : public WindowTest {
     WindowTest::SetUp();
     old_ = settled_popup("old", 0, 0, 50, 50);
   }
-  // What the call sends, then what the queue brings.
   void show(const std::string& what, HWND window, int command) {
-    step(what, ShowWindow(window, command));
-    pump();
-    step(what + ", later");
+    now_and_later(what, ShowWindow(window, command));
   }
   HWND old_ = nullptr;
 };
