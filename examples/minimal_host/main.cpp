@@ -22,14 +22,14 @@ class CHostWindow : public CWnd {
   bool Open() {
     const wchar_t* window_class = AfxRegisterWndClass(CS_DBLCLKS);
     if (!CreateEx(0, window_class, L"Minimal host", WS_POPUP, kPlace, nullptr, 0)) return false;
-    m_skin.Load({kToolbarList});
-    m_layer.SetXmlListMgr(&m_skin);
-    for (const int id : kButtons) m_layer.AddBtn(id);
+    skin_.Load({kToolbarList});
+    layer_.SetXmlListMgr(&skin_);
+    for (const int id : kButtons) layer_.AddBtn(id);
     CRect unused;
-    m_skin.LoadGdiImage(m_background, unused, kBackground);
-    m_layer.SetBgImage(m_background.GetImage(), unused);
-    m_layer.CreateEx(0, window_class, L"", WS_CHILD, kPlace, this, 0);
-    m_layer.ShowWindow(SW_SHOW);
+    skin_.LoadGdiImage(background_, unused, kBackground);
+    layer_.SetBgImage(background_.GetImage(), unused);
+    layer_.CreateEx(0, window_class, L"", WS_CHILD, kPlace, this, 0);
+    layer_.ShowWindow(SW_SHOW);
     ShowWindow(SW_SHOW);
     return true;
   }
@@ -50,20 +50,20 @@ class CHostWindow : public CWnd {
   }
 
   // Both outlive the layer, which borrows them.
-  CXmlListMgr m_skin;
-  CGdiImage m_background;
-  CWindowLayer m_layer;
+  CXmlListMgr skin_;
+  CGdiImage background_;
+  CWindowLayer layer_;
 };
 
 class CHostApp : public CWinApp {
  public:
   bool InitInstance() override {
-    m_pMainWnd = &m_window;
-    return m_window.Open();
+    m_pMainWnd = &window_;
+    return window_.Open();
   }
 
  private:
-  CHostWindow m_window;
+  CHostWindow window_;
 };
 
 }  // namespace

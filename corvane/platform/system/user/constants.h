@@ -230,6 +230,7 @@
 #define HTCAPTION 2
 #define HTHSCROLL 6
 #define HTVSCROLL 7
+#define HTBORDER 18
 #define MK_LBUTTON 0x0001
 #define MK_RBUTTON 0x0002
 #define MK_SHIFT 0x0004

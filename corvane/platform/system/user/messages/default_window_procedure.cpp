@@ -16,7 +16,6 @@ using namespace corvane::system;
 namespace {
 
 constexpr UINT kCommandBits = 0xFFF0;
-constexpr int HTBORDER = 18;
 
 struct BarCodes {
   ScrollAxis axis;
