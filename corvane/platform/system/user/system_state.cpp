@@ -69,6 +69,13 @@ bool is_descendant(const Window& ancestor, const Window& window) {
   return false;
 }
 
+std::vector<HWND> children_of(const Window& window) {
+  std::vector<HWND> handles;
+  handles.reserve(window.children.size());
+  for (const Window* child : window.children) handles.push_back(child->handle);
+  return handles;
+}
+
 POINT client_origin(const Window& window) {
   POINT origin{window.client.left, window.client.top};
   for (const Window* it = window.parent; it != nullptr; it = it->parent) {

@@ -80,6 +80,8 @@ Window* surface_owner(Window& window);       // the window whose surface it draw
 bool shown_on_screen(const Window& window);  // visible with all its parents
 bool enabled_with_parents(const Window& window);
 bool is_descendant(const Window& ancestor, const Window& window);
+// A copy, top first: whatever is sent to one of them may change the order or end others.
+std::vector<HWND> children_of(const Window& window);
 POINT client_origin(const Window& window);  // screen coordinates
 RECT frame_on_screen(const Window& window);
 RECT client_on_screen(const Window& window);

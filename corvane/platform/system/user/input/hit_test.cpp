@@ -58,10 +58,7 @@ bool lets_mouse_through(const Window& window, POINT screen_point) {
 Hit hit_test(POINT point, DisabledTops disabled_tops) {
   System* state = system();
   if (state == nullptr) return {};
-  std::vector<HWND> tops;
-  tops.reserve(state->desktop->children.size());
-  for (const Window* top : state->desktop->children) tops.push_back(top->handle);
-  for (HWND handle : tops) {
+  for (HWND handle : children_of(*state->desktop)) {
     Window* top = state->find(handle);
     if (top == nullptr || !holds(*top, point)) continue;
     if ((top->style & WS_DISABLED) != 0) {

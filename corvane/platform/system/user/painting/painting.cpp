@@ -117,9 +117,7 @@ void update_now(HWND window) {
   if (found->needs_paint) send(window, WM_PAINT);
   found = find(window);
   if (found == nullptr) return;
-  std::vector<HWND> children;
-  for (const Window* child : found->children) children.push_back(child->handle);
-  for (HWND child : children) update_now(child);
+  for (HWND child : children_of(*found)) update_now(child);
 }
 
 Window* next_to_paint(System& state, HWND within) {

@@ -11,12 +11,9 @@
 namespace corvane::system {
 namespace {
 
-std::vector<HWND> children_of(HWND window) {
-  std::vector<HWND> handles;
-  if (Window* found = find(window)) {
-    for (const Window* child : found->children) handles.push_back(child->handle);
-  }
-  return handles;
+std::vector<HWND> living_children_of(HWND window) {
+  const Window* found = find(window);
+  return found == nullptr ? std::vector<HWND>() : children_of(*found);
 }
 
 void destroy_owned_windows(HWND window) {
@@ -61,11 +58,11 @@ void release_focus_of(HWND window) {
 void send_destroy(HWND window) {
   if (Window* found = find(window)) found->destroying = true;
   send(window, WM_DESTROY);
-  for (HWND child : children_of(window)) send_destroy(child);
+  for (HWND child : living_children_of(window)) send_destroy(child);
 }
 
 void finish_with_children(HWND window) {
-  for (HWND child : children_of(window)) finish_with_children(child);
+  for (HWND child : living_children_of(window)) finish_with_children(child);
   if (find(window) != nullptr) finish_destruction(window);
 }
 
@@ -89,7 +86,7 @@ void forget_window(HWND window) {
   System& state = *system();
   Window* found = state.find(window);
   if (found == nullptr) return;
-  for (HWND child : children_of(window)) forget_window(child);
+  for (HWND child : living_children_of(window)) forget_window(child);
   assert(found->children.empty());
   if (shown_on_screen(*found)) state.frame_damage.unite(frame_on_screen(*found));
   state.timers.remove_window(window);

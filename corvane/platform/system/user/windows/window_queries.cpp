@@ -164,9 +164,7 @@ int GetDlgCtrlID(HWND window) {
 BOOL EnumChildWindows(HWND window, WNDENUMPROC callback, LPARAM parameter) {
   Window* found = checked(window);
   if (found == nullptr || callback == nullptr) return FALSE;
-  std::vector<HWND> handles;
-  for (const Window* child : found->children) handles.push_back(child->handle);
-  for (HWND child : handles) {
+  for (HWND child : children_of(*found)) {
     if (find(child) == nullptr) continue;
     if (callback(child, parameter) == FALSE) return FALSE;
     if (find(child) != nullptr && EnumChildWindows(child, callback, parameter) == FALSE) {
