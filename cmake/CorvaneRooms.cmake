@@ -25,6 +25,18 @@ function(corvane_room name)
   set_property(GLOBAL APPEND PROPERTY CORVANE_ROOMS room_${name})
 endfunction()
 
+# What every test reads again and again, compiled once. The program is only its place: a precompiled
+# header fits sources that are compiled with the same options, as those of programs are; -pthread,
+# which some libraries bring, stands in all of them.
+function(corvane_test_headers)
+  file(CONFIGURE OUTPUT nothing.cpp CONTENT "int main() {}\n")
+  add_executable(test_headers ${CMAKE_CURRENT_BINARY_DIR}/nothing.cpp)
+  target_link_libraries(test_headers PRIVATE corvane_options GTest::gmock GTest::gtest)
+  target_compile_options(test_headers PRIVATE -pthread)
+  target_precompile_headers(test_headers PRIVATE <algorithm> <functional> <map> <memory> <string>
+    <vector> <gmock/gmock.h> <gtest/gtest.h> ${PROJECT_SOURCE_DIR}/corvane/platform/platform.h)
+endfunction()
+
 # corvane_test(NAME SOURCES file... ROOMS room... [LIBRARIES library...] [TIMEOUT seconds] [XVFB])
 # One program with all its cases, in a new order at every run. XVFB: its windows are real ones, on a
 # virtual X server.
@@ -34,6 +46,8 @@ function(corvane_test name)
   list(TRANSFORM TEST_ROOMS PREPEND room_)
   target_link_libraries(${name} PRIVATE ${TEST_ROOMS} test_support corvane_options GTest::gtest_main
     GTest::gmock ${TEST_LIBRARIES})
+  target_compile_options(${name} PRIVATE -pthread)
+  target_precompile_headers(${name} REUSE_FROM test_headers)
   set(display headless)
   set(server "")
   if(TEST_XVFB)
