@@ -10,52 +10,45 @@
 namespace corvane::test {
 namespace {
 
-class CropSession : public Scene {
+class CropSession : public LayerScene<CCutBgLayer> {
  public:
-  using Scene::Scene;
+  using LayerScene::LayerScene;
 
   void play() override {
     host_.open(session_host);
-    background_ = std::make_unique<corvane::CCutBgLayer>();
-    background_->SetParentHwnd(host_);
-    background_->ShowBtn(1);
-    create_over(*background_, host_);
-    if (background_) background_->ShowWindow(SW_SHOW);
+    layer_ = std::make_unique<CCutBgLayer>();
+    layer_->SetParentHwnd(host_);
+    layer_->ShowBtn(1);
+    create_over(*layer_, host_);
+    if (layer_ != nullptr) layer_->ShowWindow(SW_SHOW);
     desktop_.pump();
     trap_.begin_phase();
     desktop_.drag({30, 30}, {170, 120});
     trap_.begin_phase();
     desktop_.drag({100, 70}, {110, 75});
     trap_.begin_phase();
-    if (background_) click_middle_of(desktop_, ::GetDlgItem(background_->GetBarHwnd(), 3));
+    if (layer_ != nullptr) click_middle_of(desktop_, ::GetDlgItem(layer_->GetBarHwnd(), 3));
     trap_.begin_phase();
-    if (background_) background_->SetOCRMode(1);
+    if (layer_ != nullptr) layer_->SetOCRMode(1);
     desktop_.drag({20, 20}, {100, 100});
     desktop_.key(VK_ESCAPE);
     desktop_.key(VK_RETURN);
     trap_.begin_phase();
-    if (background_) background_->MoveWindow(20, 20, 150, 100, TRUE);
+    if (layer_ != nullptr) layer_->MoveWindow(20, 20, 150, 100, TRUE);
     desktop_.pump();
-    if (background_) background_->ShowWindow(SW_HIDE);
-    if (background_) background_->DestroyWindow();
+    if (layer_ != nullptr) layer_->ShowWindow(SW_HIDE);
+    if (layer_ != nullptr) layer_->DestroyWindow();
     destroy_host();
   }
-  void delete_layer() override { background_.reset(); }
-  void destroy_layer() override {
-    if (background_) background_->DestroyWindow();
-  }
   void destroy_part(int which) override {
-    if (!background_) return;
-    ::DestroyWindow(which == 0 ? rect_layer_of(*background_) : background_->GetBarHwnd());
+    if (layer_ == nullptr) return;
+    ::DestroyWindow(which == 0 ? rect_layer_of(*layer_) : layer_->GetBarHwnd());
   }
-
- private:
-  std::unique_ptr<corvane::CCutBgLayer> background_;
 };
 
-class ButtonLayerSession : public Scene {
+class ButtonLayerSession : public LayerScene<CWindowLayer> {
  public:
-  using Scene::Scene;
+  using LayerScene::LayerScene;
 
   void play() override {
     lists_.LoadCtrlList(L"ui_control.xml", TestSkin::button_list);
@@ -65,11 +58,11 @@ class ButtonLayerSession : public Scene {
       ::SetCursorPos(100, 110);
       desktop_.send_mouse(MOUSEEVENTF_LEFTUP);
     };
-    layer_ = std::make_unique<corvane::CWindowLayer>();
+    layer_ = std::make_unique<CWindowLayer>();
     layer_->SetXmlListMgr(&lists_);
     for (const int id : {11, 12}) layer_->AddBtn(id);
-    layer_->CreateEx(0, nullptr, L"layer", WS_CHILD, corvane::CRect(5, 5, 205, 125), &host_, 0);
-    if (layer_) layer_->ShowWindow(SW_SHOW);
+    layer_->CreateEx(0, nullptr, L"layer", WS_CHILD, CRect(5, 5, 205, 125), &host_, 0);
+    if (layer_ != nullptr) layer_->ShowWindow(SW_SHOW);
     desktop_.pump();
     trap_.begin_phase();
     desktop_.click(35, 35);
@@ -79,19 +72,15 @@ class ButtonLayerSession : public Scene {
     desktop_.press_at(40, 90);
     desktop_.release();
     trap_.begin_phase();
-    if (layer_) layer_->SetBtnRect(11, corvane::CRect(5, 5, 45, 25));
-    if (layer_) layer_->MoveWindow(0, 0, 150, 90, TRUE);
+    if (layer_ != nullptr) layer_->SetBtnRect(11, CRect(5, 5, 45, 25));
+    if (layer_ != nullptr) layer_->MoveWindow(0, 0, 150, 90, TRUE);
     desktop_.pump();
-    if (layer_) layer_->ShowWindow(SW_HIDE);
-    if (layer_) layer_->DestroyWindow();
+    if (layer_ != nullptr) layer_->ShowWindow(SW_HIDE);
+    if (layer_ != nullptr) layer_->DestroyWindow();
     destroy_host();
   }
-  void delete_layer() override { layer_.reset(); }
-  void destroy_layer() override {
-    if (layer_) layer_->DestroyWindow();
-  }
   void destroy_part(int which) override {
-    if (!layer_) return;
+    if (layer_ == nullptr) return;
     if (which == 0) {
       layer_->DelAllBtn();
     } else {
@@ -100,25 +89,20 @@ class ButtonLayerSession : public Scene {
   }
 
  private:
-  corvane::CXmlListMgr lists_;
-  std::unique_ptr<corvane::CWindowLayer> layer_;
+  CXmlListMgr lists_;
 };
 
 class DestroyAnythingTest : public testing::TestWithParam<DestroyCase> {
  protected:
-  template <class Session>
-  static std::unique_ptr<Scene> make(Desktop& desktop, MessageTrap& trap) {
-    return std::make_unique<Session>(desktop, trap);
-  }
   TestSkin skin_;
 };
 
 TEST_P(DestroyAnythingTest, CropAtEveryMessage) {
-  destroy_at_every_message(&make<CropSession>, GetParam());
+  destroy_at_every_message<CropSession>(GetParam());
 }
 
 TEST_P(DestroyAnythingTest, ButtonLayerAtEveryMessage) {
-  destroy_at_every_message(&make<ButtonLayerSession>, GetParam());
+  destroy_at_every_message<ButtonLayerSession>(GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(Deeds, DestroyAnythingTest, testing::ValuesIn(destroy_cases()),

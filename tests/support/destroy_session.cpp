@@ -44,7 +44,7 @@ void play_disturbed(const SceneMaker& make_scene, const DestroyCase& destroy_cas
 
 void destroy_at_every_message(const SceneMaker& make_scene, const DestroyCase& destroy_case) {
   const auto messages = listen(make_scene);
-  ASSERT_GT(messages.size(), 50U);
+  ASSERT_GT(messages.size(), 50U) << "the session does too little";
   for (const auto& [point, occurrences] : messages) {
     for (const int occurrence : occurrences) {
       SCOPED_TRACE(point.window + " at message " + std::to_string(point.message) + ", occurrence " +

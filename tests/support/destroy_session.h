@@ -31,6 +31,21 @@ class Scene {
   HostWindow host_;
 };
 
+// A scene around one layer, which play() makes. It may be null after whatever sends a message.
+template <class Layer>
+class LayerScene : public Scene {
+ public:
+  using Scene::Scene;
+
+  void delete_layer() override { layer_.reset(); }
+  void destroy_layer() override {
+    if (layer_ != nullptr) layer_->DestroyWindow();
+  }
+
+ protected:
+  std::unique_ptr<Layer> layer_;
+};
+
 struct DestroyCase {
   const char* name;
   std::function<void(Scene&)> deed;
@@ -44,7 +59,13 @@ inline constexpr SIZE session_screen = {240, 180};
 inline constexpr RECT session_host = {10, 10, 230, 170};
 
 using SceneMaker = std::function<std::unique_ptr<Scene>(Desktop& desktop, MessageTrap& trap)>;
-// Before and after the handling of each message.
+// Before and after the handling of each message. A session has to come to more than 50 of them.
 void destroy_at_every_message(const SceneMaker& make_scene, const DestroyCase& destroy_case);
+template <class Session>
+void destroy_at_every_message(const DestroyCase& destroy_case) {
+  destroy_at_every_message(
+      [](Desktop& desktop, MessageTrap& trap) { return std::make_unique<Session>(desktop, trap); },
+      destroy_case);
+}
 
 }  // namespace corvane::test

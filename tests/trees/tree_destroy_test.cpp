@@ -9,9 +9,9 @@ namespace corvane::test {
 namespace {
 
 // The tree is too narrow for the names of its folders: finding a font takes as long as all else.
-class TreeSession : public Scene {
+class TreeSession : public LayerScene<ScriptedTree> {
  public:
-  using Scene::Scene;
+  using LayerScene::LayerScene;
 
   void play() override {
     host_.open({10, 10, 90, 130});
@@ -25,21 +25,17 @@ class TreeSession : public Scene {
     trap_.begin_phase();
     drag_thumb();
     trap_.begin_phase();
-    if (tree_ != nullptr) tree_->SetCurPath(L"Q:\\Lib\\1");
-    if (tree_ != nullptr) tree_->MoveWindow(5, 5, 50, 70, TRUE);
+    if (layer_ != nullptr) layer_->SetCurPath(L"Q:\\Lib\\1");
+    if (layer_ != nullptr) layer_->MoveWindow(5, 5, 50, 70, TRUE);
     desktop_.pump();
-    if (tree_ != nullptr) tree_->DelAllNode();
-    if (tree_ != nullptr) tree_->DestroyWindow();
+    if (layer_ != nullptr) layer_->DelAllNode();
+    if (layer_ != nullptr) layer_->DestroyWindow();
     destroy_host();
   }
-  void delete_layer() override { tree_.reset(); }
-  void destroy_layer() override {
-    if (tree_ != nullptr) tree_->DestroyWindow();
-  }
   void destroy_part(int which) override {
-    if (tree_ == nullptr) return;
+    if (layer_ == nullptr) return;
     if (which == 0) {
-      tree_->DelAllNode();
+      layer_->DelAllNode();
     } else {
       fill(3);  // so few that the bar goes
     }
@@ -47,28 +43,26 @@ class TreeSession : public Scene {
 
  private:
   void create() {
-    tree_ = std::make_unique<ScriptedTree>();
+    layer_ = std::make_unique<ScriptedTree>();
     fill(12);
-    tree_->Create(nullptr, L"tree", WS_CHILD | WS_VISIBLE, CRect(5, 5, 65, 105), &host_, 1);
+    layer_->Create(nullptr, L"tree", WS_CHILD | WS_VISIBLE, CRect(5, 5, 65, 105), &host_, 1);
     desktop_.pump();
   }
   void fill(int count) {
-    tree_->SetPath(L"Q:\\Lib", nullptr);
-    _NODE* root = tree_->FindNode(L"", nullptr);
+    layer_->SetPath(L"Q:\\Lib", nullptr);
+    _NODE* root = layer_->FindNode(L"", nullptr);
     for (int i = 0; i < count; ++i) {
-      tree_->AddChildNode(L"inner", tree_->AddChildNode(std::to_wstring(i).c_str(), root));
+      layer_->AddChildNode(L"inner", layer_->AddChildNode(std::to_wstring(i).c_str(), root));
     }
   }
   void drag_thumb() {
-    if (tree_ != nullptr) {
-      tree_->steps = {[] { ::SetCursorPos(66, 80); },
-                      [this] { desktop_.send_mouse(MOUSEEVENTF_LEFTUP); }};
+    if (layer_ != nullptr) {
+      layer_->steps = {[] { ::SetCursorPos(66, 80); },
+                       [this] { desktop_.send_mouse(MOUSEEVENTF_LEFTUP); }};
     }
     desktop_.press_at(66, 40);
     desktop_.release();
   }
-
-  std::unique_ptr<ScriptedTree> tree_;
 };
 
 class TreeDestroyTest : public testing::TestWithParam<DestroyCase> {
@@ -76,13 +70,7 @@ class TreeDestroyTest : public testing::TestWithParam<DestroyCase> {
   TestSkin skin_;
 };
 
-TEST_P(TreeDestroyTest, AtEveryMessage) {
-  destroy_at_every_message(
-      [](Desktop& desktop, MessageTrap& trap) {
-        return std::make_unique<TreeSession>(desktop, trap);
-      },
-      GetParam());
-}
+TEST_P(TreeDestroyTest, AtEveryMessage) { destroy_at_every_message<TreeSession>(GetParam()); }
 
 INSTANTIATE_TEST_SUITE_P(Deeds, TreeDestroyTest, testing::ValuesIn(destroy_cases()),
                          [](const auto& each) { return name_of(each.param); });

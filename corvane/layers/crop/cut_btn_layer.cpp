@@ -89,11 +89,9 @@ int CCutBtnLayer::OnCreate(LPCREATESTRUCT creation) {
 }
 
 void CCutBtnLayer::OnDestroy() {
-  const WindowWatch watch(*this);
-  CWnd::OnDestroy();
-  if (watch.object_gone()) return;
   skin_.Release();
   background_.release();
+  CWnd::OnDestroy();
 }
 
 void CCutBtnLayer::OnPaint() { background_.show(*this); }
