@@ -1,5 +1,5 @@
 #pragma once
-// Rectangles in tests: of windows, as text, as matchers, in one colour.
+// Rectangles and points in tests: of windows, as text, as matchers, in one colour.
 #include <gmock/gmock.h>
 
 #include <string>
@@ -23,6 +23,10 @@ inline RECT client_rect(HWND window) {
 inline std::string text_of(const RECT& rect) {
   return std::to_string(rect.left) + "," + std::to_string(rect.top) + "," +
          std::to_string(rect.right) + "," + std::to_string(rect.bottom);
+}
+
+inline std::string text_of(POINT point) {
+  return std::to_string(point.x) + "," + std::to_string(point.y);
 }
 
 MATCHER_P4(is_rect, left, top, right, bottom, "") {

@@ -1,24 +1,15 @@
 // Mouse capture.
-#include "tests/platform/conformance/support/window_test.h"
+#include "tests/platform/conformance/support/family_test.h"
 
 namespace corvane::conformance {
 namespace {
 
-class CaptureTest : public WindowTest {
+class CaptureTest : public FamilyTest {
  protected:
-  void SetUp() override {
-    WindowTest::SetUp();
-    top_ = settled_popup("top", 100, 100, 200, 200);
-    child_ = settled_child("child", top_, 50, 50, 50, 50);
-    pop_ = settled_popup("pop", 400, 100, 100, 100, top_);
-    SetActiveWindow(top_);
+  CaptureTest() {
     recorder().only({WM_CAPTURECHANGED, WM_CANCELMODE, WM_NCHITTEST, WM_SETCURSOR, WM_MOUSEMOVE,
                      WM_LBUTTONDOWN, WM_LBUTTONUP, WM_RBUTTONDOWN, WM_RBUTTONUP});
-    settle();
   }
-  HWND top_ = nullptr;
-  HWND child_ = nullptr;
-  HWND pop_ = nullptr;
 };
 
 TEST_F(CaptureTest, PreviousWindowIsReturnedAndTold) {
@@ -35,20 +26,20 @@ TEST_F(CaptureTest, AllMessagesGoToTheCaptureWindowWithoutHitTestOrCursor) {
   SetCapture(child_);
   move_to(110, 120);
   press();
-  move_to(450, 150);
+  move_to(550, 150);
   move_to(20, 30);
   release();
   press(MOUSEEVENTF_RIGHTDOWN);
   release(MOUSEEVENTF_RIGHTUP);
   step("a drag out of every window");
-  move_to(410, 110);
+  move_to(510, 110);
   ReleaseCapture();
   press();
   step("a press after its end");
 }
 
 TEST_F(CaptureTest, PressOnOneWindowMayCaptureForAnother) {
-  recorder().before_default("top", WM_LBUTTONDOWN, [&] { SetCapture(pop_); });
+  recorder().before_default("top", WM_LBUTTONDOWN, [&] { SetCapture(other_); });
   press_at(110, 110);
   move_to(120, 115);
   release();

@@ -1,29 +1,23 @@
 // WM_SETCURSOR, the cursor, and the wheel.
-#include "tests/platform/conformance/support/window_test.h"
+#include "tests/platform/conformance/support/family_test.h"
 
 namespace corvane::conformance {
 namespace {
 
 class CursorTest : public WindowTest {
  protected:
-  void SetUp() override {
-    WindowTest::SetUp();
-    cross_ = LoadCursorW(nullptr, IDC_CROSS);
-    hand_ = LoadCursorW(nullptr, IDC_HAND);
-    top_ = create(
-        "top", {.style = WS_POPUP | WS_VISIBLE, .place = {100, 100, 200, 200}, .cursor = cross_});
-    child_ = create("child", {.parent = top_,
-                              .style = WS_CHILD | WS_VISIBLE,
-                              .place = {50, 50, 50, 50},
-                              .cursor = hand_});
+  CursorTest() {
     move_to(105, 105);
     recorder().only({WM_SETCURSOR});
     settle();
   }
-  HCURSOR cross_ = nullptr;
-  HCURSOR hand_ = nullptr;
-  HWND top_ = nullptr;
-  HWND child_ = nullptr;
+  const HCURSOR cross_ = LoadCursorW(nullptr, IDC_CROSS);
+  const HCURSOR hand_ = LoadCursorW(nullptr, IDC_HAND);
+  const HWND top_ = create(
+      "top", {.style = WS_POPUP | WS_VISIBLE, .place = {100, 100, 200, 200}, .cursor = cross_});
+  const HWND child_ = create(
+      "child",
+      {.parent = top_, .style = WS_CHILD | WS_VISIBLE, .place = {50, 50, 50, 50}, .cursor = hand_});
 };
 
 TEST_F(CursorTest, IsAskedForEachMovePressAndRelease) {
@@ -71,15 +65,13 @@ TEST_F(CursorTest, SetCursorReturnsThePreviousOne) {
   EXPECT_EQ(GetCursor(), nullptr);
 }
 
-class WheelTest : public WindowTest {
+class WheelTest : public FamilyTest {
  protected:
-  void SetUp() override {
-    WindowTest::SetUp();
-    top_ = settled_popup("top", 100, 100, 200, 200);
-    child_ = settled_child("child", top_, 50, 50, 50, 50);
-    settled_child("barred", top_, 100, 0, 50, 100, WS_VSCROLL);
-    other_ = settled_popup("other", 500, 100, 100, 100);
+  WheelTest() {
+    settled_child("barred", top_, 150, 0, 50, 100, WS_VSCROLL);
     recorder().only({WM_MOUSEWHEEL});
+    SetActiveWindow(other_);
+    settle();
   }
   static void route(DWORD routing) {
     void* const value = reinterpret_cast<void*>(static_cast<UINT_PTR>(routing));
@@ -88,15 +80,12 @@ class WheelTest : public WindowTest {
     EXPECT_NE(SystemParametersInfoW(SPI_GETMOUSEWHEELROUTING, 0, &kept, 0), 0);
     EXPECT_EQ(kept, routing);
   }
-  HWND top_ = nullptr;
-  HWND child_ = nullptr;
-  HWND other_ = nullptr;
 };
 
 TEST_F(WheelTest, GoesToTheWindowUnderThePointerAndUpItsParents) {
   wheel_at(160, 170, WHEEL_DELTA);
   step("over a child");
-  wheel_at(245, 150, WHEEL_DELTA);
+  wheel_at(295, 150, WHEEL_DELTA);
   step("over a scroll bar");
   recorder().answer("child", WM_MOUSEWHEEL, 0);
   wheel_at(160, 170, -WHEEL_DELTA);

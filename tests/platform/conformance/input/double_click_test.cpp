@@ -6,10 +6,7 @@ namespace {
 
 class DoubleClickTest : public WindowTest {
  protected:
-  void SetUp() override {
-    WindowTest::SetUp();
-    make("pop", CS_DBLCLKS);
-  }
+  DoubleClickTest() { make("pop", CS_DBLCLKS); }
   void make(const std::string& name, UINT class_style) {
     create(name, {.style = WS_POPUP | WS_VISIBLE,
                   .place = {100, 100, 200, 100},

@@ -1,19 +1,14 @@
 // Keys and characters.
-#include "tests/platform/conformance/support/window_test.h"
+#include "tests/platform/conformance/support/family_test.h"
 
 namespace corvane::conformance {
 namespace {
 
-class KeyboardTest : public WindowTest {
+class KeyboardTest : public FamilyTest {
  protected:
-  void SetUp() override {
-    WindowTest::SetUp();
-    top_ = settled_popup("top", 100, 100, 200, 200);
-    child_ = settled_child("child", top_, 0, 0, 50, 50);
+  KeyboardTest() {
     recorder().only({WM_KEYDOWN, WM_CHAR, WM_KEYUP, WM_SYSKEYDOWN, WM_SYSCHAR, WM_SYSKEYUP});
   }
-  HWND top_ = nullptr;
-  HWND child_ = nullptr;
 };
 
 TEST_F(KeyboardTest, GoToTheFocusWindowWithTheirCharacter) {
@@ -65,7 +60,7 @@ TEST_F(KeyboardTest, WithAltOrWithoutFocusTheyAreSystemKeys) {
   SetFocus(nullptr);
   key('A');
   step("without focus the active window gets them");
-  DestroyWindow(top_);
+  for (const HWND each : {other_, top_}) DestroyWindow(each);
   key('A');
   step("without any window nobody does");
 }

@@ -1,28 +1,17 @@
 // Presses, moves, releases, the right button, and leaving.
-#include "tests/platform/conformance/support/window_test.h"
+#include "tests/platform/conformance/support/family_test.h"
 
 namespace corvane::conformance {
 namespace {
 
-class MousePressTest : public WindowTest {
+class MousePressTest : public FamilyTest {
  protected:
-  void SetUp() override {
-    WindowTest::SetUp();
-    other_ = settled_popup("other", 500, 500, 50, 50);
-    top_ = settled_popup("top", 100, 100, 200, 200);
-    parent_ = settled_child("parent", top_, 20, 20, 100, 100);
-    child_ = settled_child("child", parent_, 10, 10, 50, 50);
-  }
   // With the pointer there only these messages are recorded.
   void watch_at(int x, int y, std::set<UINT> messages) {
     move_to(x, y);
     recorder().only(std::move(messages));
     settle();
   }
-  HWND other_ = nullptr;
-  HWND top_ = nullptr;
-  HWND parent_ = nullptr;
-  HWND child_ = nullptr;
 };
 
 TEST_F(MousePressTest, TellsTheAncestorsAsksForActivationAndTheCursor) {

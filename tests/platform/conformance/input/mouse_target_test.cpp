@@ -1,27 +1,18 @@
 // Which window the mouse belongs to.
-#include "tests/platform/conformance/support/window_test.h"
+#include "tests/platform/conformance/support/family_test.h"
 
 namespace corvane::conformance {
 namespace {
 
-class MouseTargetTest : public WindowTest {
+class MouseTargetTest : public FamilyTest {
  protected:
-  void SetUp() override {
-    WindowTest::SetUp();
-    top_ = settled_popup("top", 100, 100, 200, 200);
-    outer_ = settled_child("outer", top_, 20, 20, 100, 100);
-    inner_ = settled_child("inner", outer_, 10, 10, 50, 50);
-    recorder().only({WM_LBUTTONDOWN, WM_LBUTTONUP});
-  }
+  MouseTargetTest() { recorder().only({WM_LBUTTONDOWN, WM_LBUTTONUP}); }
   // Who gets a click at 140,140, and what WindowFromPoint answers there.
   void click_there(const std::string& what) {
     settle();
     click(140, 140);
     step(what, WindowFromPoint({140, 140}));
   }
-  HWND top_ = nullptr;
-  HWND outer_ = nullptr;
-  HWND inner_ = nullptr;
 };
 
 struct Target {
@@ -33,8 +24,8 @@ TEST_F(MouseTargetTest, LeftAndTopAreInsideRightAndBottomOutside) {
   settled_child("wide", top_, 150, 0, 500, 50);
   for (const Target& target :
        {Target{{100, 100}, "top"}, Target{{299, 299}, "top"}, Target{{119, 120}, "top"},
-        Target{{120, 120}, "outer"}, Target{{219, 219}, "outer"}, Target{{220, 219}, "top"},
-        Target{{130, 130}, "inner"}, Target{{179, 179}, "inner"}, Target{{179, 180}, "outer"},
+        Target{{120, 120}, "parent"}, Target{{219, 219}, "parent"}, Target{{220, 219}, "top"},
+        Target{{130, 130}, "child"}, Target{{179, 179}, "child"}, Target{{179, 180}, "parent"},
         Target{{299, 110}, "wide"}, Target{{300, 110}, ""}, Target{{99, 100}, ""},
         Target{{300, 299}, ""}}) {
     const std::string there = text_of(target.point);
@@ -45,31 +36,31 @@ TEST_F(MouseTargetTest, LeftAndTopAreInsideRightAndBottomOutside) {
 }
 
 TEST_F(MouseTargetTest, HiddenAndDisabledWindowsPassItOn) {
-  ShowWindow(outer_, SW_HIDE);
+  ShowWindow(parent_, SW_HIDE);
   click_there("a hidden child does not count");
-  ShowWindow(outer_, SW_SHOW);
-  EnableWindow(inner_, FALSE);
+  ShowWindow(parent_, SW_SHOW);
+  EnableWindow(child_, FALSE);
   click_there("a disabled child passes to its parent");
-  EnableWindow(inner_, TRUE);
-  EnableWindow(outer_, FALSE);
+  EnableWindow(child_, TRUE);
+  EnableWindow(parent_, FALSE);
   click_there("so does everything inside");
   EnableWindow(settled_popup("cover", 100, 100, 200, 200), FALSE);
   click_there("a disabled top-level window swallows it");
 }
 
 TEST_F(MouseTargetTest, UpperSiblingIsTheFirstCreated) {
-  settled_child("sibling", outer_, 10, 10, 50, 50);
+  settled_child("sibling", parent_, 10, 10, 50, 50);
   click_there("it gets the press");
-  EnableWindow(inner_, FALSE);
+  EnableWindow(child_, FALSE);
   click_there("a disabled one keeps it from the sibling below");
-  ShowWindow(inner_, SW_HIDE);
+  ShowWindow(child_, SW_HIDE);
   click_there("a hidden one does not");
 }
 
 TEST_F(MouseTargetTest, TransparentHitGoesToWhatIsBelow) {
-  recorder().answer("inner", WM_NCHITTEST, HTTRANSPARENT);
+  recorder().answer("child", WM_NCHITTEST, HTTRANSPARENT);
   click_there("to the parent");
-  settled_child("sibling", outer_, 10, 10, 50, 50);
+  settled_child("sibling", parent_, 10, 10, 50, 50);
   click_there("to a sibling below");
   settled_popup("glass", 100, 100, 200, 200, top_);
   recorder().remove_hooks();
@@ -79,8 +70,8 @@ TEST_F(MouseTargetTest, TransparentHitGoesToWhatIsBelow) {
 
 TEST_F(MouseTargetTest, HitTestGetsScreenCoordinatesAndItsAnswerGoesWithThePress) {
   recorder().only({WM_NCHITTEST, WM_NCLBUTTONDOWN, WM_NCLBUTTONUP, WM_LBUTTONDOWN});
-  recorder().answer("inner", WM_NCLBUTTONDOWN, 0);
-  recorder().answer("inner", WM_NCHITTEST, HTCAPTION);
+  recorder().answer("child", WM_NCLBUTTONDOWN, 0);
+  recorder().answer("child", WM_NCHITTEST, HTCAPTION);
   move_to(150, 155);
   step("a move");
   press();
@@ -92,11 +83,11 @@ TEST_F(MouseTargetTest, ChildFromPointLooksAtImmediateChildrenWhateverTheirState
   EXPECT_EQ(ChildWindowFromPoint(top_, {5, 5}), top_);
   EXPECT_EQ(ChildWindowFromPoint(top_, {200, 5}), nullptr);
   EXPECT_EQ(ChildWindowFromPoint(top_, {-1, 5}), nullptr);
-  EXPECT_EQ(ChildWindowFromPoint(top_, {40, 40}), outer_);
-  EnableWindow(outer_, FALSE);
-  EXPECT_EQ(ChildWindowFromPoint(top_, {40, 40}), outer_);
-  ShowWindow(outer_, SW_HIDE);
-  EXPECT_EQ(ChildWindowFromPoint(top_, {40, 40}), outer_);
+  EXPECT_EQ(ChildWindowFromPoint(top_, {40, 40}), parent_);
+  EnableWindow(parent_, FALSE);
+  EXPECT_EQ(ChildWindowFromPoint(top_, {40, 40}), parent_);
+  ShowWindow(parent_, SW_HIDE);
+  EXPECT_EQ(ChildWindowFromPoint(top_, {40, 40}), parent_);
 }
 
 }  // namespace

@@ -11,18 +11,13 @@ namespace {
 
 class HostLoopTest : public WindowTest {
  protected:
-  void SetUp() override {
-    WindowTest::SetUp();
-    window_ = create("main", {.style = WS_POPUP | WS_VISIBLE, .place = {10, 10, 100, 50}});
-    ASSERT_NE(window_, nullptr);
-  }
   auto turn(bool* quit = nullptr) { return own().windows.process_pending(quit); }
   int count(UINT message) { return recorder().count("main", message); }
   bool readable() {
     pollfd poller{own().windows.event_fd(), POLLIN, 0};
     return poll(&poller, 1, 0) == 1;
   }
-  HWND window_ = nullptr;
+  const HWND window_ = create("main", {.style = WS_POPUP | WS_VISIBLE, .place = {10, 10, 100, 50}});
 };
 
 TEST_F(HostLoopTest, DispatchesPaintsAndPresents) {

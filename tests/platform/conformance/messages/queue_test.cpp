@@ -8,10 +8,6 @@ namespace {
 
 class QueueTest : public WindowTest {
  protected:
-  void SetUp() override {
-    WindowTest::SetUp();
-    popup_ = settled_popup("pop", 0, 0, 50, 50);
-  }
   using Messages = std::vector<UINT>;
   // In retrieval order, not dispatched; a paint is validated so that it ends.
   static Messages retrieve_all() {
@@ -28,7 +24,7 @@ class QueueTest : public WindowTest {
     MSG message{};
     return PeekMessageW(&message, window, first, last, flags) != 0 ? message.message : 0;
   }
-  HWND popup_ = nullptr;
+  const HWND popup_ = settled_popup("pop", 0, 0, 50, 50);
 };
 
 TEST_F(QueueTest, OrderOfRetrieval) {

@@ -6,18 +6,14 @@ namespace {
 
 class TimerTest : public WindowTest {
  protected:
-  void SetUp() override {
-    WindowTest::SetUp();
-    popup_ = settled_popup("pop", 0, 0, 50, 50);
-    recorder().only({WM_TIMER});
-  }
+  TimerTest() { recorder().only({WM_TIMER}); }
   int ticks_after(unsigned milliseconds) {
     recorder().clear();
     advance(milliseconds);
     pump();
     return recorder().count("pop", WM_TIMER);
   }
-  HWND popup_ = nullptr;
+  const HWND popup_ = settled_popup("pop", 0, 0, 50, 50);
 };
 
 TEST_F(TimerTest, TicksWhenThePeriodIsOverOnceHoweverLate) {

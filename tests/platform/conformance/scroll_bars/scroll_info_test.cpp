@@ -6,17 +6,13 @@ namespace {
 
 class ScrollInfoTest : public ScrollTest {
  protected:
-  void SetUp() override {
-    ScrollTest::SetUp();
-    plain_ = settled_popup("plain", 500, 100, 200, 300);
-  }
   std::string all() const {
     const SCROLLINFO info = numbers();
     return std::to_string(info.nMin) + ".." + std::to_string(info.nMax) + " " +
            std::to_string(info.nPage) + " " + std::to_string(info.nPos) + " " +
            std::to_string(info.nTrackPos);
   }
-  HWND plain_ = nullptr;
+  const HWND plain_ = settled_popup("plain", 500, 100, 200, 300);
 };
 
 TEST_F(ScrollInfoTest, FreshBarHasARangeOfAHundredAndTheSystemsWidth) {

@@ -147,20 +147,18 @@ TEST_F(ScrollPaintTest, LayeredWindowHasItToo) {
 class ChildScrollPaintTest : public ScrollPaintTest,
                              public testing::WithParamInterface<std::tuple<DWORD, DWORD>> {
  protected:
-  void SetUp() override {
-    ScrollPaintTest::SetUp();
-    const auto [parent_style, child_style] = GetParam();
-    parent_ = create(
-        "parent", {.style = WS_POPUP | WS_VISIBLE | parent_style, .place = {400, 100, 300, 350}});
+  ChildScrollPaintTest() {
     paint_patches("parent", {{{0, 0, 300, 350}, kRed}});
-    child_ = settled_child("child", parent_, 10, 20, 200, 300, WS_VSCROLL | child_style);
+    InvalidateRect(parent_, nullptr, TRUE);
     set_bar(child_, SB_VERT, SIF_ALL, 600, 300, 0);
     settle();
   }
   // Its bar: x 593 to 609, y 120 to 419.
   std::string childs_thumb() { return thumb_at(601, 120, 420); }
-  HWND parent_ = nullptr;
-  HWND child_ = nullptr;
+  const HWND parent_ = create("parent", {.style = WS_POPUP | WS_VISIBLE | std::get<0>(GetParam()),
+                                         .place = {400, 100, 300, 350}});
+  const HWND child_ =
+      settled_child("child", parent_, 10, 20, 200, 300, WS_VSCROLL | std::get<1>(GetParam()));
 };
 
 TEST_P(ChildScrollPaintTest, ParentPaintsBelowIt) {

@@ -10,8 +10,7 @@ inline constexpr COLORREF kRed = RGB(255, 0, 0);
 
 class LayeredTest : public WindowTest {
  protected:
-  void SetUp() override {
-    WindowTest::SetUp();
+  LayeredTest() {
     create("below", {.style = WS_POPUP | WS_VISIBLE, .place = {100, 100, 200, 150}});
     paint_patches("below", {{{0, 0, 200, 150}, kRed}});
     layer_ = create("layer", {.parent = window("below"),

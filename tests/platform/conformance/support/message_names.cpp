@@ -1,8 +1,10 @@
 #include "tests/platform/conformance/support/message_names.h"
 
-#include <iterator>
+#include <algorithm>
+#include <initializer_list>
 #include <map>
 #include <sstream>
+#include <utility>
 #include <vector>
 
 #include "tests/support/rects.h"
@@ -11,217 +13,174 @@ namespace corvane::conformance {
 
 namespace {
 
-struct FlagName {
-  UINT flag;
-  const char* name;
-};
+#define SWP_NOCLIENTSIZE 0x0800u
+#define SWP_NOCLIENTMOVE 0x1000u
 
-// The messages, and their names in one text.
-#define NAMED_MESSAGES(...)               \
-  const UINT kMessages[] = {__VA_ARGS__}; \
-  const char* const kMessageNames = #__VA_ARGS__
+// Numbers in a given order, with what the sources call them.
+using Names = std::vector<std::pair<UINT, std::string>>;
 
-NAMED_MESSAGES(WM_CREATE, WM_DESTROY, WM_MOVE, WM_SIZE, WM_ACTIVATE, WM_SETFOCUS, WM_KILLFOCUS,
-               WM_ENABLE, WM_SETREDRAW, WM_SETTEXT, WM_PAINT, WM_CLOSE, WM_ERASEBKGND,
-               WM_SHOWWINDOW, WM_ACTIVATEAPP, WM_CANCELMODE, WM_SETCURSOR, WM_MOUSEACTIVATE,
-               WM_CHILDACTIVATE, WM_GETMINMAXINFO, WM_WINDOWPOSCHANGING, WM_WINDOWPOSCHANGED,
-               WM_CONTEXTMENU, WM_STYLECHANGING, WM_STYLECHANGED, WM_NCCREATE, WM_NCDESTROY,
-               WM_NCCALCSIZE, WM_NCHITTEST, WM_NCPAINT, WM_NCACTIVATE, WM_NCLBUTTONDOWN,
-               WM_NCLBUTTONUP, WM_NCLBUTTONDBLCLK, WM_KEYDOWN, WM_KEYUP, WM_CHAR, WM_SYSKEYDOWN,
-               WM_SYSKEYUP, WM_SYSCHAR, WM_COMMAND, WM_SYSCOMMAND, WM_TIMER, WM_HSCROLL, WM_VSCROLL,
-               WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_RBUTTONDOWN,
-               WM_RBUTTONUP, WM_RBUTTONDBLCLK, WM_MBUTTONDOWN, WM_MBUTTONUP, WM_MOUSEWHEEL,
-               WM_PARENTNOTIFY, WM_CAPTURECHANGED, WM_MOVING, WM_ENTERSIZEMOVE, WM_EXITSIZEMOVE,
-               WM_MOUSELEAVE);
-
-#undef NAMED_MESSAGES
-
-const std::map<UINT, std::string>& names() {
-  static const auto table = [] {
-    std::istringstream stream(kMessageNames);
-    std::map<UINT, std::string> read;
-    for (const UINT message : kMessages) {
-      std::getline(stream >> std::ws, read[message], ',');
-    }
-    return read;
-  }();
-  return table;
+Names named(std::initializer_list<UINT> numbers, const char* text) {
+  std::istringstream stream(text);
+  Names names;
+  for (const UINT number : numbers) {
+    names.emplace_back(number, "");
+    std::getline(stream >> std::ws, names.back().second, ',');
+  }
+  return names;
 }
 
-std::string flags_text(UINT flags, const std::vector<FlagName>& table) {
+#define NAMED(...) named({__VA_ARGS__}, #__VA_ARGS__)
+
+const Names kMessages = NAMED(
+    WM_CREATE, WM_DESTROY, WM_MOVE, WM_SIZE, WM_ACTIVATE, WM_SETFOCUS, WM_KILLFOCUS, WM_ENABLE,
+    WM_SETREDRAW, WM_SETTEXT, WM_PAINT, WM_CLOSE, WM_ERASEBKGND, WM_SHOWWINDOW, WM_ACTIVATEAPP,
+    WM_CANCELMODE, WM_SETCURSOR, WM_MOUSEACTIVATE, WM_CHILDACTIVATE, WM_GETMINMAXINFO,
+    WM_WINDOWPOSCHANGING, WM_WINDOWPOSCHANGED, WM_CONTEXTMENU, WM_STYLECHANGING, WM_STYLECHANGED,
+    WM_NCCREATE, WM_NCDESTROY, WM_NCCALCSIZE, WM_NCHITTEST, WM_NCPAINT, WM_NCACTIVATE,
+    WM_NCLBUTTONDOWN, WM_NCLBUTTONUP, WM_NCLBUTTONDBLCLK, WM_KEYDOWN, WM_KEYUP, WM_CHAR,
+    WM_SYSKEYDOWN, WM_SYSKEYUP, WM_SYSCHAR, WM_SYSCOMMAND, WM_TIMER, WM_HSCROLL, WM_VSCROLL,
+    WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_RBUTTONDOWN, WM_RBUTTONUP,
+    WM_RBUTTONDBLCLK, WM_MBUTTONDOWN, WM_MBUTTONUP, WM_MOUSEWHEEL, WM_PARENTNOTIFY,
+    WM_CAPTURECHANGED, WM_MOVING, WM_ENTERSIZEMOVE, WM_EXITSIZEMOVE, WM_MOUSELEAVE);
+const Names kMouseKeys = NAMED(MK_LBUTTON, MK_RBUTTON, MK_SHIFT, MK_CONTROL, MK_MBUTTON);
+const Names kPositionFlags =
+    NAMED(SWP_NOSIZE, SWP_NOMOVE, SWP_NOZORDER, SWP_NOREDRAW, SWP_NOACTIVATE, SWP_FRAMECHANGED,
+          SWP_SHOWWINDOW, SWP_HIDEWINDOW, SWP_NOCLIENTSIZE, SWP_NOCLIENTMOVE);
+const Names kScrollCodes = NAMED(SB_LINEUP, SB_LINEDOWN, SB_PAGEUP, SB_PAGEDOWN, SB_THUMBPOSITION,
+                                 SB_THUMBTRACK, SB_TOP, SB_BOTTOM, SB_ENDSCROLL);
+const Names kKeyFlags = {{1U << 29, "K_ALT"}, {1U << 30, "K_WAS_DOWN"}, {1U << 31, "K_GOES_UP"}};
+
+#undef NAMED
+
+// Empty: it has none.
+std::string name_in(const Names& names, UINT number) {
+  const auto found = std::find_if(names.begin(), names.end(),
+                                  [number](const auto& each) { return each.first == number; });
+  return found != names.end() ? found->second : "";
+}
+
+std::string without_prefix(const std::string& name) { return name.substr(name.find('_') + 1); }
+
+std::string flags_text(UINT flags, const Names& names) {
   std::string text;
-  for (const FlagName& entry : table) {
-    if ((flags & entry.flag) != 0) text += (text.empty() ? "" : "|") + std::string(entry.name);
+  for (const auto& [flag, name] : names) {
+    if ((flags & flag) != 0) text += (text.empty() ? "" : "|") + without_prefix(name);
   }
   return text.empty() ? "-" : text;
-}
-
-std::string point_text(int x, int y) { return std::to_string(x) + "," + std::to_string(y); }
-
-std::string point_text(LPARAM lparam) {
-  return point_text(GET_X_LPARAM(lparam), GET_Y_LPARAM(lparam));
 }
 
 std::string size_text(int width, int height) {
   return std::to_string(width) + "x" + std::to_string(height);
 }
 
-std::string hexadecimal(WPARAM value) {
-  std::ostringstream text;
-  text << "0x" << std::hex << std::uppercase << value;
-  return text.str();
-}
+// The ways to read a message's parameters.
+class Reader {
+ public:
+  Reader(const Message& sent, const WindowNamer& name_of)
+      : wparam_(sent.wparam), lparam_(sent.lparam), name_of_(name_of) {}
 
-std::string mouse_keys(WPARAM keys) {
-  return flags_text(static_cast<UINT>(keys), {{MK_LBUTTON, "LBUTTON"},
-                                              {MK_RBUTTON, "RBUTTON"},
-                                              {MK_SHIFT, "SHIFT"},
-                                              {MK_CONTROL, "CONTROL"},
-                                              {MK_MBUTTON, "MBUTTON"}});
-}
-
-// Flags first; the numbers that the flags declare unused are left out.
-std::string window_position(const WINDOWPOS& position) {
-  std::string text = flags_text(position.flags, {{SWP_NOSIZE, "NOSIZE"},
-                                                 {SWP_NOMOVE, "NOMOVE"},
-                                                 {SWP_NOZORDER, "NOZORDER"},
-                                                 {SWP_NOREDRAW, "NOREDRAW"},
-                                                 {SWP_NOACTIVATE, "NOACTIVATE"},
-                                                 {SWP_FRAMECHANGED, "FRAMECHANGED"},
-                                                 {SWP_SHOWWINDOW, "SHOWWINDOW"},
-                                                 {SWP_HIDEWINDOW, "HIDEWINDOW"},
-                                                 {0x0800, "NOCLIENTSIZE"},
-                                                 {0x1000, "NOCLIENTMOVE"}});
-  if ((position.flags & SWP_NOMOVE) == 0) text += " " + point_text(position.x, position.y);
-  if ((position.flags & SWP_NOSIZE) == 0) text += " " + size_text(position.cx, position.cy);
-  return text;
-}
-
-std::string parent_notice(WPARAM wparam, LPARAM lparam, const WindowNamer& name_of) {
-  const UINT event = LOWORD(wparam);
-  if (event == WM_CREATE || event == WM_DESTROY) {
-    return message_name(event) + " " + std::to_string(HIWORD(wparam)) + " " +
-           name_of(reinterpret_cast<HWND>(lparam));
+  std::string number() const { return std::to_string(static_cast<int>(wparam_)); }
+  std::string other_number() const { return std::to_string(lparam_); }
+  std::string low_word() const { return std::to_string(LOWORD(wparam_)); }
+  std::string high_word() const { return std::to_string(static_cast<SHORT>(HIWORD(wparam_))); }
+  std::string window() const { return name_of_(reinterpret_cast<HWND>(wparam_)); }
+  std::string other_window() const { return name_of_(reinterpret_cast<HWND>(lparam_)); }
+  std::string point() const { return test::text_of(POINT{x(), y()}); }
+  std::string size() const { return size_text(x(), y()); }
+  std::string rect() const { return test::text_of(*reinterpret_cast<const RECT*>(lparam_)); }
+  std::string mouse_keys() const { return flags_text(LOWORD(wparam_), kMouseKeys); }
+  std::string key_count() const { return std::to_string(x()); }
+  std::string key_flags() const { return flags_text(static_cast<UINT>(lparam_), kKeyFlags); }
+  std::string hexadecimal() const {
+    std::ostringstream text;
+    text << "0x" << std::hex << std::uppercase << wparam_;
+    return text.str();
   }
-  return message_name(event) + " " + point_text(lparam);
-}
-
-std::string hit_details(WPARAM wparam, LPARAM lparam, const WindowNamer& name_of) {
-  const UINT cause = HIWORD(static_cast<DWORD_PTR>(lparam));
-  const int code = static_cast<SHORT>(LOWORD(static_cast<DWORD_PTR>(lparam)));
-  return name_of(reinterpret_cast<HWND>(wparam)) + " " + std::to_string(code) + " " +
-         (cause == 0 ? "0" : message_name(cause));
-}
-
-bool carries_pointer(UINT message) {
-  return message == WM_NCCREATE || message == WM_CREATE || message == WM_SETTEXT ||
-         message == WM_GETMINMAXINFO || message == WM_PAINT || message == WM_ERASEBKGND ||
-         message == WM_NCPAINT;
-}
-
-std::string plain_details(UINT message, WPARAM wparam, LPARAM lparam) {
-  if (carries_pointer(message)) return "";
-  return std::to_string(wparam) + " " + std::to_string(lparam);
-}
-
-std::string key_or_command_details(UINT message, WPARAM wparam, LPARAM lparam,
-                                   const WindowNamer& name_of) {
-  if (message == WM_COMMAND) {
-    return std::to_string(LOWORD(wparam)) + " " + std::to_string(HIWORD(wparam)) + " " +
-           name_of(reinterpret_cast<HWND>(lparam));
+  // The code and the message that asks.
+  std::string hit() const {
+    return std::to_string(x()) + " " + (y() == 0 ? "0" : message_name(static_cast<UINT>(y())));
   }
-  if (message == WM_SYSCOMMAND) return hexadecimal(wparam);
-  if (message >= WM_KEYFIRST && message <= WM_KEYLAST) {
-    return hexadecimal(wparam) + " " + std::to_string(LOWORD(static_cast<DWORD_PTR>(lparam))) +
-           " " +
-           flags_text(static_cast<UINT>(lparam),
-                      {{1U << 29, "ALT"}, {1U << 30, "WAS_DOWN"}, {1U << 31, "GOES_UP"}});
+  // The code by its vertical name, the position as the program sees it, the bar's handle if any.
+  std::string scroll() const {
+    return without_prefix(name_in(kScrollCodes, LOWORD(wparam_))) + " " +
+           std::to_string(HIWORD(wparam_)) + (lparam_ == 0 ? "" : " bar");
   }
-  return plain_details(message, wparam, lparam);
-}
-
-// The code by its vertical name, the position as the program sees it, the bar's handle if any.
-std::string scroll_details(WPARAM wparam, LPARAM lparam) {
-  static const char* const kCodes[] = {"LINEUP",   "LINEDOWN",      "PAGEUP",
-                                       "PAGEDOWN", "THUMBPOSITION", "THUMBTRACK",
-                                       "TOP",      "BOTTOM",        "ENDSCROLL"};
-  const UINT code = LOWORD(wparam);
-  return (code < std::size(kCodes) ? kCodes[code] : std::to_string(code)) + std::string(" ") +
-         std::to_string(HIWORD(wparam)) + (lparam == 0 ? "" : " bar");
-}
-
-std::string mouse_details(UINT message, WPARAM wparam, LPARAM lparam, const WindowNamer& name_of) {
-  switch (message) {
-    case WM_MOUSEWHEEL:
-      return std::to_string(GET_WHEEL_DELTA_WPARAM(wparam)) + " " + point_text(lparam) + " " +
-             mouse_keys(LOWORD(wparam));
-    case WM_NCHITTEST:
-      return point_text(lparam);
-    case WM_SETCURSOR:
-    case WM_MOUSEACTIVATE:
-      return hit_details(wparam, lparam, name_of);
-    case WM_CONTEXTMENU:
-      return name_of(reinterpret_cast<HWND>(wparam)) + " " + point_text(lparam);
-    case WM_CAPTURECHANGED:
-      return name_of(reinterpret_cast<HWND>(lparam));
-    case WM_HSCROLL:
-    case WM_VSCROLL:
-      return scroll_details(wparam, lparam);
-    case WM_NCLBUTTONDOWN:
-    case WM_NCLBUTTONUP:
-    case WM_NCLBUTTONDBLCLK:
-      return std::to_string(wparam) + " " + point_text(lparam);
-    case WM_MOVING:
-      return test::text_of(*reinterpret_cast<const RECT*>(lparam));
-    default:
-      return key_or_command_details(message, wparam, lparam, name_of);
+  // Flags first; the numbers that the flags declare unused are left out.
+  std::string position() const {
+    const auto& [window, after, left, top, width, height, flags] =
+        *reinterpret_cast<const WINDOWPOS*>(lparam_);
+    return flags_text(flags, kPositionFlags) +
+           ((flags & SWP_NOMOVE) != 0 ? "" : " " + test::text_of(POINT{left, top})) +
+           ((flags & SWP_NOSIZE) != 0 ? "" : " " + size_text(width, height));
   }
+  std::string notice() const {
+    const UINT event = LOWORD(wparam_);
+    const bool of_child = event == WM_CREATE || event == WM_DESTROY;
+    return message_name(event) + " " + (of_child ? high_word() + " " + other_window() : point());
+  }
+
+ private:
+  int x() const { return GET_X_LPARAM(lparam_); }
+  int y() const { return GET_Y_LPARAM(lparam_); }
+
+  WPARAM wparam_;
+  LPARAM lparam_;
+  const WindowNamer& name_of_;
+};
+
+using Parts = std::vector<std::string (Reader::*)() const>;
+
+struct Reading {
+  std::vector<UINT> messages;
+  Parts parts;
+};
+
+const Reading kReadings[] = {
+    {{WM_NCCREATE, WM_CREATE, WM_SETTEXT, WM_GETMINMAXINFO, WM_PAINT, WM_ERASEBKGND, WM_NCPAINT},
+     {}},
+    {{WM_SIZE}, {&Reader::number, &Reader::size}},
+    {{WM_MOVE, WM_NCHITTEST}, {&Reader::point}},
+    {{WM_MOVING}, {&Reader::rect}},
+    {{WM_WINDOWPOSCHANGING, WM_WINDOWPOSCHANGED}, {&Reader::position}},
+    {{WM_NCACTIVATE, WM_ACTIVATEAPP, WM_NCCALCSIZE, WM_TIMER, WM_STYLECHANGING, WM_STYLECHANGED},
+     {&Reader::number}},
+    {{WM_ACTIVATE}, {&Reader::low_word, &Reader::other_window}},
+    {{WM_SETFOCUS, WM_KILLFOCUS}, {&Reader::window}},
+    {{WM_CAPTURECHANGED}, {&Reader::other_window}},
+    {{WM_PARENTNOTIFY}, {&Reader::notice}},
+    {{WM_SETCURSOR, WM_MOUSEACTIVATE}, {&Reader::window, &Reader::hit}},
+    {{WM_CONTEXTMENU}, {&Reader::window, &Reader::point}},
+    {{WM_MOUSEWHEEL}, {&Reader::high_word, &Reader::point, &Reader::mouse_keys}},
+    {{WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_RBUTTONDOWN, WM_RBUTTONUP,
+      WM_RBUTTONDBLCLK, WM_MBUTTONDOWN, WM_MBUTTONUP},
+     {&Reader::point, &Reader::mouse_keys}},
+    {{WM_NCLBUTTONDOWN, WM_NCLBUTTONUP, WM_NCLBUTTONDBLCLK}, {&Reader::number, &Reader::point}},
+    {{WM_HSCROLL, WM_VSCROLL}, {&Reader::scroll}},
+    {{WM_SYSCOMMAND}, {&Reader::hexadecimal}},
+    {{WM_KEYDOWN, WM_KEYUP, WM_CHAR, WM_SYSKEYDOWN, WM_SYSKEYUP, WM_SYSCHAR},
+     {&Reader::hexadecimal, &Reader::key_count, &Reader::key_flags}},
+};
+
+Parts parts_of(UINT message) {
+  for (const auto& [messages, parts] : kReadings) {
+    if (std::find(messages.begin(), messages.end(), message) != messages.end()) return parts;
+  }
+  return {&Reader::number, &Reader::other_number};
 }
 
 }  // namespace
 
 std::string message_name(UINT message) {
-  const auto found = names().find(message);
-  if (found != names().end()) return found->second;
   if (message >= WM_USER && message < WM_APP) return "WM_USER+" + std::to_string(message - WM_USER);
   if (message >= WM_APP && message < 0xC000) return "WM_APP+" + std::to_string(message - WM_APP);
-  return "";
+  return name_in(kMessages, message);
 }
 
-std::string message_details(UINT message, WPARAM wparam, LPARAM lparam,
-                            const WindowNamer& name_of) {
-  const auto other = [&] { return name_of(reinterpret_cast<HWND>(wparam)); };
-  switch (message) {
-    case WM_SIZE:
-      return std::to_string(wparam) + " " +
-             size_text(LOWORD(static_cast<DWORD_PTR>(lparam)),
-                       HIWORD(static_cast<DWORD_PTR>(lparam)));
-    case WM_MOVE:
-      return point_text(lparam);
-    case WM_ACTIVATE:
-      return std::to_string(LOWORD(wparam)) + " " + name_of(reinterpret_cast<HWND>(lparam));
-    case WM_SETFOCUS:
-    case WM_KILLFOCUS:
-      return other();
-    case WM_NCACTIVATE:
-    case WM_ACTIVATEAPP:
-    case WM_NCCALCSIZE:
-    case WM_TIMER:
-      return std::to_string(wparam);
-    case WM_WINDOWPOSCHANGING:
-    case WM_WINDOWPOSCHANGED:
-      return window_position(*reinterpret_cast<const WINDOWPOS*>(lparam));
-    case WM_STYLECHANGING:
-    case WM_STYLECHANGED:
-      return std::to_string(static_cast<int>(wparam));
-    case WM_PARENTNOTIFY:
-      return parent_notice(wparam, lparam, name_of);
-    default:
-      if (message >= WM_MOUSEFIRST && message < WM_MOUSEWHEEL) {
-        return point_text(lparam) + " " + mouse_keys(wparam);
-      }
-      return mouse_details(message, wparam, lparam, name_of);
-  }
+std::string message_details(const Message& sent, const WindowNamer& name_of) {
+  const Reader reader(sent, name_of);
+  std::string text;
+  for (const auto part : parts_of(sent.message)) text += " " + (reader.*part)();
+  return text;
 }
 
 }  // namespace corvane::conformance

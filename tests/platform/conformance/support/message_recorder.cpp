@@ -2,27 +2,11 @@
 
 #include <algorithm>
 
-#include "tests/platform/conformance/support/message_names.h"
 #include "tests/support/rects.h"
 
 namespace corvane::conformance {
 
-namespace {
-
-thread_local MessageRecorder* current_recorder = nullptr;
-
-}  // namespace
-
-MessageRecorder::MessageRecorder() : previous_(current_recorder) {
-  current_recorder = this;
-  record_everything();
-}
-
-MessageRecorder::~MessageRecorder() {
-  for (const std::wstring& name : classes_)
-    UnregisterClassW(name.c_str(), GetModuleHandleW(nullptr));
-  current_recorder = previous_;
-}
+MessageRecorder* MessageRecorder::live = nullptr;
 
 std::wstring MessageRecorder::class_for(const WindowPlan& plan) {
   std::wstring name = L"Recorded." + std::to_wstring(plan.class_style) + L"." +
@@ -95,26 +79,16 @@ void MessageRecorder::only(std::set<UINT> messages) {
 
 void MessageRecorder::ignore(std::set<UINT> messages) { ignored_.merge(messages); }
 
-void MessageRecorder::record_everything() {
-  only_.clear();
-  only_windows_.clear();
-  ignored_ = {WM_ACTIVATEAPP};
-}
-
-void MessageRecorder::dispatching(const MSG& message) { dispatched_ = message; }
-
 int MessageRecorder::count(const std::string& window, UINT message) const {
-  const std::string plain = window + " " + message_name(message) + " ";
-  const std::string queued = window + " (q) " + message_name(message) + " ";
   return static_cast<int>(std::count_if(log_.begin(), log_.end(), [&](const LogLine& line) {
-    return (line.text + " ").starts_with(plain) || (line.text + " ").starts_with(queued);
+    return line.window == window && line.message == message;
   }));
 }
 
 LRESULT CALLBACK MessageRecorder::procedure(HWND window, UINT message, WPARAM wparam,
                                             LPARAM lparam) {
-  if (current_recorder == nullptr) return DefWindowProcW(window, message, wparam, lparam);
-  return current_recorder->handle({window, message, wparam, lparam});
+  if (live == nullptr) return DefWindowProcW(window, message, wparam, lparam);
+  return live->handle({window, message, wparam, lparam});
 }
 
 void MessageRecorder::adopt(HWND window) {
@@ -124,59 +98,54 @@ void MessageRecorder::adopt(HWND window) {
   being_created_.pop_back();
 }
 
-LRESULT MessageRecorder::handle(const Message& message) {
-  adopt(message.window);
-  const std::string name = name_of(message.window);
-  const std::optional<std::size_t> line = record(name, message);
+LRESULT MessageRecorder::handle(const Message& sent) {
+  adopt(sent.window);
+  const std::string name = name_of(sent.window);
+  const std::optional<std::size_t> line = record(name, sent);
   if (line) ++depth_;
-  const auto found = hooks_.find({name, message.message});
-  std::optional<LRESULT> result;
-  if (found != hooks_.end()) {
-    const Hook hook = found->second;  // it may remove or replace itself
-    result = hook(message);
-  }
-  if (!result) result = default_handling(message, line);
+  const auto found = hooks_.find({name, sent.message});
+  const Hook hook = found != hooks_.end() ? found->second : nullptr;  // it may replace itself
+  std::optional<LRESULT> result = hook ? hook(sent) : std::nullopt;
+  if (!result && sent.message == WM_PAINT) result = paint(sent.window, line);
+  if (!result) result = DefWindowProcW(sent.window, sent.message, sent.wparam, sent.lparam);
   if (line) --depth_;
-  if (line && *line < log_.size() && *result != 0) {
-    log_[*line].text += " = " + std::to_string(*result);
-  }
-  if (message.message == WM_NCDESTROY) alive_.erase(message.window);
+  if (*result != 0) append(line, " = " + std::to_string(*result));
+  if (sent.message == WM_NCDESTROY) alive_.erase(sent.window);
   return *result;
 }
 
-LRESULT MessageRecorder::default_handling(const Message& message, std::optional<std::size_t> line) {
-  if (message.message == WM_PAINT) return paint(message, line);
-  return DefWindowProcW(message.window, message.message, message.wparam, message.lparam);
-}
-
-LRESULT MessageRecorder::paint(const Message& message, std::optional<std::size_t> line) {
+LRESULT MessageRecorder::paint(HWND window, std::optional<std::size_t> line) {
   PAINTSTRUCT paint{};
-  BeginPaint(message.window, &paint);
-  if (line && *line < log_.size()) {
-    log_[*line].text +=
-        " " + test::text_of(paint.rcPaint) + " fErase=" + std::to_string(paint.fErase);
-  }
-  EndPaint(message.window, &paint);
+  BeginPaint(window, &paint);
+  append(line, " " + test::text_of(paint.rcPaint) + " fErase=" + std::to_string(paint.fErase));
+  const auto painter = painters_.find(name_of(window));
+  if (painter != painters_.end()) painter->second(paint);
+  EndPaint(window, &paint);
   return 0;
 }
 
 bool MessageRecorder::is_recorded(const std::string& window, UINT message) const {
-  if (message_name(message).empty()) return false;
-  if (!only_windows_.empty() && only_windows_.count(window) == 0) return false;
-  return (only_.empty() || only_.count(message) != 0) && ignored_.count(message) == 0;
+  return !message_name(message).empty() && ignored_.count(message) == 0 &&
+         (only_.empty() || only_.count(message) != 0) &&
+         (only_windows_.empty() || only_windows_.count(window) != 0);
 }
 
-std::optional<std::size_t> MessageRecorder::record(const std::string& window,
-                                                   const Message& message) {
+// Which line it is.
+std::optional<std::size_t> MessageRecorder::record(const std::string& window, const Message& sent) {
   const bool queued =
-      dispatched_ && dispatched_->hwnd == message.window && dispatched_->message == message.message;
+      dispatched_ && dispatched_->hwnd == sent.window && dispatched_->message == sent.message;
   if (queued) dispatched_.reset();
-  if (!is_recorded(window, message.message)) return std::nullopt;
-  const std::string details = message_details(message.message, message.wparam, message.lparam,
-                                              [this](HWND other) { return name_of(other); });
-  log_.push_back({depth_, window + (queued ? " (q) " : " ") + message_name(message.message) +
-                              (details.empty() ? "" : " " + details)});
+  if (!is_recorded(window, sent.message)) return std::nullopt;
+  log_.push_back({window, sent.message,
+                  std::string(2 * depth_, ' ') + window + (queued ? " (q) " : " ") +
+                      message_name(sent.message) +
+                      message_details(sent, [this](HWND other) { return name_of(other); })});
   return log_.size() - 1;
+}
+
+// Unless the log was cleared since.
+void MessageRecorder::append(std::optional<std::size_t> line, const std::string& text) {
+  if (line && *line < log_.size()) log_[*line].text += text;
 }
 
 }  // namespace corvane::conformance

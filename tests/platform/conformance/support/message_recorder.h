@@ -12,15 +12,9 @@
 #include <vector>
 
 #include "corvane/platform/platform.h"
+#include "tests/platform/conformance/support/message_names.h"
 
 namespace corvane::conformance {
-
-struct Message {
-  HWND window;
-  UINT message;
-  WPARAM wparam;
-  LPARAM lparam;
-};
 
 struct WindowPlace {
   int x = 0;
@@ -42,8 +36,9 @@ struct WindowPlan {
 };
 
 struct LogLine {
-  int depth;
-  std::string text;
+  std::string window;
+  UINT message;
+  std::string text;  // all of it, indented by the depth
 };
 
 class MessageRecorder {
@@ -51,9 +46,10 @@ class MessageRecorder {
   // Nothing: the default handling follows.
   using Hook = std::function<std::optional<LRESULT>(const Message&)>;
   using Action = std::function<void()>;
+  using Painter = std::function<void(const PAINTSTRUCT&)>;
 
-  MessageRecorder();
-  ~MessageRecorder();
+  MessageRecorder() { live = this; }
+  ~MessageRecorder() { live = nullptr; }
   MessageRecorder(const MessageRecorder&) = delete;
   MessageRecorder& operator=(const MessageRecorder&) = delete;
 
@@ -69,18 +65,24 @@ class MessageRecorder {
   void answer(const std::string& window, UINT message, LRESULT result);
   void before_default(const std::string& window, UINT message, Action action);
   void after_default(const std::string& window, UINT message, Action action);
-  void remove_hooks() { hooks_.clear(); }
+  // Between BeginPaint and EndPaint.
+  void on_paint(const std::string& window, Painter painter) {
+    painters_[window] = std::move(painter);
+  }
+  void remove_hooks() {
+    hooks_.clear();
+    painters_.clear();
+  }
 
   // What is recorded from now on. only() replaces earlier choices and ignore() adds to them.
   void only(std::set<UINT> messages);
   void ignore(std::set<UINT> messages);
   void only_windows(std::set<std::string> names) { only_windows_ = std::move(names); }
-  void record_everything();
   // It comes once per process, and is never what a case is about unless it says so.
   void record_activation_of_application() { ignored_.erase(WM_ACTIVATEAPP); }
 
   // Announces the message that DispatchMessageW is about to deliver.
-  void dispatching(const MSG& message);
+  void dispatching(const MSG& message) { dispatched_ = message; }
 
   void clear() { log_.clear(); }
   const std::vector<LogLine>& log() const { return log_; }
@@ -88,26 +90,28 @@ class MessageRecorder {
 
  private:
   static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
-  LRESULT handle(const Message& message);
-  LRESULT default_handling(const Message& message, std::optional<std::size_t> line);
-  LRESULT paint(const Message& message, std::optional<std::size_t> line);
+  LRESULT handle(const Message& sent);
+  LRESULT paint(HWND window, std::optional<std::size_t> line);
   void adopt(HWND window);
   bool is_recorded(const std::string& window, UINT message) const;
-  std::optional<std::size_t> record(const std::string& window, const Message& message);
+  std::optional<std::size_t> record(const std::string& window, const Message& sent);
+  void append(std::optional<std::size_t> line, const std::string& text);
+
+  static MessageRecorder* live;
 
   std::map<HWND, std::string> names_;
   std::map<std::string, HWND> windows_;
   std::set<HWND> alive_;
   std::vector<std::string> being_created_;
   std::map<std::pair<std::string, UINT>, Hook> hooks_;
+  std::map<std::string, Painter> painters_;
   std::set<UINT> only_;
-  std::set<UINT> ignored_;
+  std::set<UINT> ignored_ = {WM_ACTIVATEAPP};
   std::set<std::string> only_windows_;
   std::optional<MSG> dispatched_;
   std::vector<LogLine> log_;
-  int depth_ = 0;
+  std::size_t depth_ = 0;
   std::set<std::wstring> classes_;
-  MessageRecorder* previous_;
 };
 
 }  // namespace corvane::conformance

@@ -6,9 +6,7 @@ namespace corvane::conformance {
 
 class ScrollTest : public WindowTest {
  protected:
-  void SetUp() override {
-    WindowTest::SetUp();
-    window_ = create("pop", plan(WS_VSCROLL));
+  ScrollTest() {
     set(SIF_ALL, 600, 300, 0);
     settle();
   }
@@ -30,7 +28,7 @@ class ScrollTest : public WindowTest {
     GetScrollInfo(window_, SB_VERT, &info);
     return info;
   }
-  HWND window_ = nullptr;
+  HWND window_ = create("pop", plan(WS_VSCROLL));
 };
 
 }  // namespace corvane::conformance

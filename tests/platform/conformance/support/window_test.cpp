@@ -1,11 +1,12 @@
 #include "tests/platform/conformance/support/window_test.h"
 
+#include "tests/platform/conformance/support/golden.h"
+
 namespace corvane::conformance {
 
-void WindowTest::SetUp() {
-  recorder_ = std::make_unique<MessageRecorder>();
+WindowTest::WindowTest() {
   filter_messages([this](MSG* message) {
-    recorder_->dispatching(*message);
+    recorder_.dispatching(*message);
     return false;
   });
   move_to(1270, 790);
@@ -13,11 +14,8 @@ void WindowTest::SetUp() {
 }
 
 void WindowTest::TearDown() {
-  const bool stopped = HasFatalFailure();
-  EXPECT_TRUE(stopped || golden_.end());
-  filter_messages({});
-  recorder_->remove_hooks();
-  recorder_.reset();
+  if (!HasFatalFailure()) expect_golden(golden_);
+  recorder_.remove_hooks();
 }
 
 void WindowTest::click(int x, int y) {
@@ -31,7 +29,7 @@ std::string WindowTest::pressed_at(int x, int y) {
   recorder().clear();
   press();
   std::string who;
-  for (const LogLine& line : recorder().log()) who += line.text.substr(0, line.text.find(' '));
+  for (const LogLine& line : recorder().log()) who += line.window;
   release();
   return who;
 }
@@ -66,33 +64,27 @@ void WindowTest::pump_step(const std::string& name) {
 }
 
 void WindowTest::forget() {
-  recorder_->clear();
-  state_ = window_state(recorder_->windows());
+  recorder_.clear();
+  state_ = window_state(recorder_);
 }
 
 void WindowTest::expect_step(const std::string& name, const std::string& returned) {
   std::vector<std::string> lines;
   if (!returned.empty()) lines.push_back("= returned " + returned);
-  for (const LogLine& line : recorder_->log()) {
-    lines.push_back(std::string(static_cast<std::size_t>(2 * line.depth), ' ') + line.text);
-  }
-  for (const std::string& change : state_changes(state_, window_state(recorder_->windows()))) {
+  for (const LogLine& line : recorder_.log()) lines.push_back(line.text);
+  for (const std::string& change : state_changes(state_, window_state(recorder_))) {
     lines.push_back(change);
   }
   if (lines.empty()) lines.emplace_back("nothing");
-  EXPECT_TRUE(golden_.compare(name, lines));
+  if (!name.empty()) golden_ += "  - " + name + "\n";
+  for (const std::string& line : lines) golden_ += "      " + line + "\n";
   forget();
 }
 
 void WindowTest::paint_patches(const std::string& window, std::vector<Patch> patches) {
-  recorder_->on(window, WM_PAINT,
-                [patches = std::move(patches)](const Message& sent) -> std::optional<LRESULT> {
-                  PAINTSTRUCT paint{};
-                  const HDC dc = BeginPaint(sent.window, &paint);
-                  for (const Patch& patch : patches) fill(dc, patch.rect, patch.color);
-                  EndPaint(sent.window, &paint);
-                  return 0;
-                });
+  recorder_.on_paint(window, [patches = std::move(patches)](const PAINTSTRUCT& paint) {
+    for (const auto& [rect, color] : patches) fill(paint.hdc, rect, color);
+  });
 }
 
 RECT update_rect(HWND window) {
@@ -100,7 +92,5 @@ RECT update_rect(HWND window) {
   GetUpdateRect(window, &rect, FALSE);
   return rect;
 }
-
-std::string text_of(POINT point) { return std::to_string(point.x) + "," + std::to_string(point.y); }
 
 }  // namespace corvane::conformance

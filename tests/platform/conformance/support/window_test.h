@@ -1,11 +1,11 @@
 #pragma once
 // A desktop for each case, whose windows record their messages.
+#include <gtest/gtest.h>
+
 #include <concepts>
-#include <memory>
 #include <string>
 #include <vector>
 
-#include "tests/platform/conformance/support/golden.h"
 #include "tests/platform/conformance/support/message_recorder.h"
 #include "tests/platform/conformance/support/window_state.h"
 #include "tests/support/desktop.h"
@@ -20,7 +20,7 @@ using test::window_rect;
 
 class WindowTest : public testing::Test, protected test::Desktop {
  protected:
-  void SetUp() override;
+  WindowTest();
   void TearDown() override;
 
   // The platform's bare click: nothing passes after it.
@@ -38,9 +38,9 @@ class WindowTest : public testing::Test, protected test::Desktop {
                      DWORD extra_style = 0);
   void settle();  // pumps, then forgets
 
-  MessageRecorder& recorder() { return *recorder_; }
-  HWND window(const std::string& name) const { return recorder_->window(name); }
-  std::string name_of(HWND window) const { return recorder_->name_of(window); }
+  MessageRecorder& recorder() { return recorder_; }
+  HWND window(const std::string& name) const { return recorder_.window(name); }
+  std::string name_of(HWND window) const { return recorder_.name_of(window); }
 
   // What happened since the last step, or since forget(), is as the golden file says: what was
   // returned, the messages, and what is different now. Then it is forgotten.
@@ -70,12 +70,11 @@ class WindowTest : public testing::Test, protected test::Desktop {
  private:
   void expect_step(const std::string& name, const std::string& returned);
 
-  std::unique_ptr<MessageRecorder> recorder_;
-  WindowState state_;  // at the last step
-  GoldenTest golden_;
+  MessageRecorder recorder_;
+  WindowState state_;   // at the last step
+  std::string golden_;  // all steps
 };
 
 RECT update_rect(HWND window);
-std::string text_of(POINT point);
 
 }  // namespace corvane::conformance

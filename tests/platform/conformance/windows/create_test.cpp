@@ -57,8 +57,7 @@ TEST_F(CreateWindowTest, RefusedWithNullAndTheError) {
 
 class ClassTest : public CreateWindowTest {
  protected:
-  void SetUp() override {
-    CreateWindowTest::SetUp();
+  ClassTest() {
     given_.style = CS_VREDRAW;
     given_.lpfnWndProc = &DefWindowProcW;
     given_.cbWndExtra = 16;

@@ -12,11 +12,6 @@ constexpr int kExtremes[] = {INT_MIN, INT_MIN + 1, -1000000,    -32769,
 
 class ExtremeValuesTest : public WindowTest {
  protected:
-  void SetUp() override {
-    WindowTest::SetUp();
-    popup_ = settled_popup("pop", 100, 100, 100, 100);
-    child_ = settled_child("child", popup_, 10, 10, 50, 50);
-  }
   void TearDown() override {
     MoveWindow(popup_, 100, 100, 100, 100, TRUE);
     MoveWindow(child_, 10, 10, 50, 50, TRUE);
@@ -30,8 +25,8 @@ class ExtremeValuesTest : public WindowTest {
       for (const int second : kExtremes) action(first, second);
     }
   }
-  HWND popup_ = nullptr;
-  HWND child_ = nullptr;
+  const HWND popup_ = settled_popup("pop", 100, 100, 100, 100);
+  const HWND child_ = settled_child("child", popup_, 10, 10, 50, 50);
 };
 
 TEST_F(ExtremeValuesTest, PositionsOfWindowsAndPoints) {

@@ -9,13 +9,8 @@ constexpr UINT kNothing = kOnlyOrder | SWP_NOZORDER;
 
 class MoveWindowTest : public WindowTest {
  protected:
-  void SetUp() override {
-    WindowTest::SetUp();
-    parent_ = settled_popup("parent", 100, 100, 300, 200);
-    child_ = settled_child("child", parent_, 10, 20, 40, 30);
-  }
-  HWND parent_ = nullptr;
-  HWND child_ = nullptr;
+  const HWND parent_ = settled_popup("parent", 100, 100, 300, 200);
+  const HWND child_ = settled_child("child", parent_, 10, 20, 40, 30);
 };
 
 TEST_F(MoveWindowTest, ObservedForAVisibleChild) {
@@ -95,14 +90,10 @@ TEST_F(MoveWindowTest, NewSizePaintsTheNewPartOrEverything) {
 
 TEST_F(MoveWindowTest, GrowingClipsTheOldPartOut) {
   std::vector<BOOL> visible;
-  recorder().on("child", WM_PAINT, [&](const Message& sent) -> std::optional<LRESULT> {
-    PAINTSTRUCT paint{};
-    const HDC dc = BeginPaint(sent.window, &paint);
+  recorder().on_paint("child", [&](const PAINTSTRUCT& paint) {
     for (const RECT& rect : {RECT{0, 0, 40, 30}, RECT{50, 5, 55, 10}, RECT{5, 40, 10, 45}}) {
-      visible.push_back(RectVisible(dc, &rect) != 0);
+      visible.push_back(RectVisible(paint.hdc, &rect) != 0);
     }
-    EndPaint(sent.window, &paint);
-    return 0;
   });
   MoveWindow(child_, 0, 0, 60, 50, TRUE);
   pump();

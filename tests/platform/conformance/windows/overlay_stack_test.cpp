@@ -8,9 +8,7 @@ constexpr COLORREF key_color = RGB(255, 255, 255);
 
 class OverlayStackTest : public WindowTest {
  protected:
-  void SetUp() override {
-    WindowTest::SetUp();
-    host_ = settled_popup("host", 0, 0, 600, 500);
+  OverlayStackTest() {
     recorder().after_default("background", WM_CREATE, [this] { create_layer(); });
     recorder().after_default("layer", WM_CREATE, [this] {
       create("bar", {.parent = window("layer"), .place = {.width = 0, .height = 0}});
@@ -49,7 +47,7 @@ class OverlayStackTest : public WindowTest {
     settle();
   }
 
-  HWND host_ = nullptr;
+  const HWND host_ = settled_popup("host", 0, 0, 600, 500);
   HWND background_ = nullptr;
   HWND layer_ = nullptr;
   HWND bar_ = nullptr;

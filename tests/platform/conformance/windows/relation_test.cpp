@@ -1,63 +1,49 @@
 // Changing parents and owners, data kept with a window, and the creation hook.
-#include "tests/platform/conformance/support/window_test.h"
+#include "tests/platform/conformance/support/family_test.h"
 
 namespace corvane::conformance {
 namespace {
 
-class RelationTest : public WindowTest {
- protected:
-  void SetUp() override {
-    WindowTest::SetUp();
-    left_ = settled_popup("left", 100, 100, 200, 200);
-    child_ = settled_child("child", left_, 10, 20, 50, 50);
-    inner_ = settled_child("inner", child_, 5, 5, 10, 10);
-    right_ = settled_popup("right", 400, 100, 200, 200);
-  }
-  HWND left_ = nullptr;
-  HWND child_ = nullptr;
-  HWND inner_ = nullptr;
-  HWND right_ = nullptr;
-};
-
+class RelationTest : public FamilyTest {};
 TEST_F(RelationTest, NewParentShowsTheChildAtTheSameClientPosition) {
   recorder().only({WM_PAINT});
-  const HWND former = SetParent(child_, right_);
+  const HWND former = SetParent(parent_, other_);
   pump();
   step("moved", former);
-  EXPECT_EQ(GetParent(child_), right_);
-  EXPECT_EQ(text_of(window_rect(child_)), "410,120,460,170");
-  EXPECT_EQ(WindowFromPoint({420, 130}), inner_);
-  EXPECT_EQ(WindowFromPoint({120, 130}), left_);
-  step("its own descendant", SetParent(child_, inner_));
-  step("itself", SetParent(child_, child_));
-  DestroyWindow(left_);
-  EXPECT_NE(IsWindow(child_), 0);
+  EXPECT_EQ(GetParent(parent_), other_);
+  EXPECT_EQ(text_of(window_rect(parent_)), "520,120,620,220");
+  EXPECT_EQ(WindowFromPoint({535, 135}), child_);
+  EXPECT_EQ(WindowFromPoint({135, 135}), top_);
+  step("its own descendant", SetParent(parent_, child_));
+  step("itself", SetParent(parent_, parent_));
+  DestroyWindow(top_);
+  EXPECT_NE(IsWindow(parent_), 0);
 }
 
 TEST_F(RelationTest, OwnersInACircleDoNoHarm) {
-  const HWND owned = settled_popup("owned", 150, 150, 50, 50, left_);
-  SetWindowLongPtrW(left_, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owned));
-  SetWindowLongPtrW(right_, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(right_));
-  BringWindowToTop(left_);
-  SetActiveWindow(right_);
-  ShowWindow(right_, SW_HIDE);
-  DestroyWindow(left_);
-  DestroyWindow(right_);
+  const HWND owned = settled_popup("owned", 150, 150, 50, 50, top_);
+  SetWindowLongPtrW(top_, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owned));
+  SetWindowLongPtrW(other_, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(other_));
+  BringWindowToTop(top_);
+  SetActiveWindow(other_);
+  ShowWindow(other_, SW_HIDE);
+  DestroyWindow(top_);
+  DestroyWindow(other_);
   pump();
-  EXPECT_EQ(IsWindow(left_), 0);
-  EXPECT_EQ(IsWindow(right_), 0);
+  EXPECT_EQ(IsWindow(top_), 0);
+  EXPECT_EQ(IsWindow(other_), 0);
 }
 
 TEST_F(RelationTest, WindowDataIsKept) {
   const LONG_PTR data = reinterpret_cast<LONG_PTR>(this);
-  EXPECT_EQ(SetWindowLongPtrW(child_, GWLP_USERDATA, data), 0);
-  EXPECT_EQ(GetWindowLongPtrW(child_, GWLP_USERDATA), data);
-  EXPECT_EQ(GetWindowLongPtrW(inner_, GWLP_USERDATA), 0);
-  EXPECT_EQ(SetWindowLongPtrW(child_, GWLP_ID, 77), 0);
-  EXPECT_EQ(GetDlgItem(left_, 77), child_);
-  EXPECT_EQ(GetClassLongPtrW(child_, GCL_STYLE), 0U);
-  EXPECT_EQ(GetWindowLongPtrW(child_, GWLP_HWNDPARENT), reinterpret_cast<LONG_PTR>(left_));
-  EXPECT_EQ(GetWindowThreadProcessId(child_, nullptr), GetCurrentThreadId());
+  EXPECT_EQ(SetWindowLongPtrW(parent_, GWLP_USERDATA, data), 0);
+  EXPECT_EQ(GetWindowLongPtrW(parent_, GWLP_USERDATA), data);
+  EXPECT_EQ(GetWindowLongPtrW(child_, GWLP_USERDATA), 0);
+  EXPECT_EQ(SetWindowLongPtrW(parent_, GWLP_ID, 77), 0);
+  EXPECT_EQ(GetDlgItem(top_, 77), parent_);
+  EXPECT_EQ(GetClassLongPtrW(parent_, GCL_STYLE), 0U);
+  EXPECT_EQ(GetWindowLongPtrW(parent_, GWLP_HWNDPARENT), reinterpret_cast<LONG_PTR>(top_));
+  EXPECT_EQ(GetWindowThreadProcessId(parent_, nullptr), GetCurrentThreadId());
 }
 
 struct HookCall {

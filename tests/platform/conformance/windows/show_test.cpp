@@ -6,14 +6,10 @@ namespace {
 
 class ShowWindowTest : public WindowTest {
  protected:
-  void SetUp() override {
-    WindowTest::SetUp();
-    old_ = settled_popup("old", 0, 0, 50, 50);
-  }
   void show(const std::string& what, HWND window, int command) {
     now_and_later(what, ShowWindow(window, command));
   }
-  HWND old_ = nullptr;
+  const HWND old_ = settled_popup("old", 0, 0, 50, 50);
 };
 
 TEST_F(ShowWindowTest, EachCommandOnAHiddenAndOnAVisibleWindow) {
