@@ -5,7 +5,7 @@
 namespace corvane::system {
 namespace {
 
-constexpr UINT kShortestPeriod = 10;
+constexpr UINT kMinPeriod = 10;
 constexpr UINT kMaxPeriod = 0x7FFFFFFF;
 
 }  // namespace
@@ -13,7 +13,7 @@ constexpr UINT kMaxPeriod = 0x7FFFFFFF;
 UINT_PTR TimerList::set(HWND window, UINT_PTR id, UINT period, TIMERPROC procedure,
                         std::uint64_t now) {
   if (window == nullptr && !contains(window, id)) id = ++next_free_id_;
-  Timer timer{window, id, std::clamp(period, kShortestPeriod, kMaxPeriod), 0, procedure};
+  Timer timer{window, id, std::clamp(period, kMinPeriod, kMaxPeriod), 0, procedure};
   timer.due = now + timer.period;
   kill(window, id);
   timers_.push_back(timer);

@@ -14,7 +14,7 @@ namespace {
 constexpr std::uint64_t kFirstRepeat = 250;  // milliseconds from the press
 constexpr std::uint64_t kNextRepeat = 50;
 // A thumb whose pointer is further than this from the bar's side goes back to where it was.
-constexpr int kFarAside = 6 * kBarThickness;
+constexpr int kMaxSideDistance = 6 * kBarThickness;
 
 UINT code_of(ScrollPart part) {
   switch (part) {
@@ -82,7 +82,7 @@ class ScrollLoop : public ModalLoop {
   bool far_aside(const RECT& bar, POINT point) const {
     RECT near = bar;
     const bool vertical = axis_ == ScrollAxis::vertical;
-    InflateRect(&near, vertical ? kFarAside : 0, vertical ? 0 : kFarAside);
+    InflateRect(&near, vertical ? kMaxSideDistance : 0, vertical ? 0 : kMaxSideDistance);
     return vertical ? point.x < near.left || point.x >= near.right
                     : point.y < near.top || point.y >= near.bottom;
   }

@@ -9,8 +9,8 @@ inline constexpr int kMaxWindowSize = 32767;  // a surface can hold it
 
 // Positions and sizes that are out of bounds are cut, so that sums of them stay in 32 bits.
 constexpr int window_coordinate(int value) {
-  constexpr int kFarCoordinate = 0x3FFFFFF;
-  return corvane::clamp_coordinate(value, -kFarCoordinate, kFarCoordinate);
+  constexpr int kMaxCoordinate = 0x3FFFFFF;
+  return corvane::clamp_coordinate(value, -kMaxCoordinate, kMaxCoordinate);
 }
 constexpr int window_size(int value) { return corvane::clamp_coordinate(value, 0, kMaxWindowSize); }
 
