@@ -72,14 +72,19 @@ TEST_F(HostLoopTest, DescriptorBecomesReadableByAPostFromAnotherThread) {
   EXPECT_FALSE(readable());
 }
 
-TEST_F(HostLoopTest, CountsWhatIsAlive) {
+TEST_F(HostLoopTest, CountsAndDescribesWhatIsAlive) {
   EXPECT_EQ(living_windows(), 1);
-  const HWND child =
-      create("child", {.parent = window_, .style = WS_CHILD, .place = {.width = 5, .height = 5}});
+  const HWND child = create(
+      "child", {.parent = window_, .style = WS_CHILD, .place = {.width = 5, .height = 5}, .id = 7});
   SetTimer(child, 1, 10, nullptr);
   EXPECT_EQ(living_windows(), 2);
   EXPECT_EQ(own().windows.live_timers(), 1);
-  EXPECT_NE(own().windows.window_tree().find("Recorded"), std::string::npos);
+  SetWindowTextW(window_, L"\u0080\u0800\U00010000");
+  const std::string tree = own().windows.window_tree();
+  EXPECT_NE(tree.find(" \"\u0080\u0800\U00010000\" (10,10)-(110,60) focus active\n  Recorded."),
+            std::string::npos)
+      << tree;
+  EXPECT_NE(tree.find(" \"child\" id=7 (10,10)-(15,15) hidden\n"), std::string::npos) << tree;
   DestroyWindow(window_);
   EXPECT_EQ(living_windows(), 0);
   EXPECT_EQ(own().windows.live_timers(), 0);

@@ -57,10 +57,7 @@ const HandleCall kCalls[] = {
     {"GetWindow", [](HWND h) { return GetWindow(h, GW_HWNDNEXT) == nullptr; }},
     {"GetDlgItem", [](HWND h) { return GetDlgItem(h, 1) == nullptr; }},
     {"GetDlgCtrlID", [](HWND h) { return GetDlgCtrlID(h) == 0; }},
-    {"ChildWindowFromPoint",
-     [](HWND h) {
-       return ChildWindowFromPoint(h, {0, 0}) == nullptr;
-     }},
+    {"ChildWindowFromPoint", [](HWND h) { return ChildWindowFromPoint(h, point) == nullptr; }},
     {"GetWindowThreadProcessId", [](HWND h) { return GetWindowThreadProcessId(h, nullptr) == 0; }},
     {"SendMessageW", [](HWND h) { return SendMessageW(h, WM_USER, 0, 0) == 0; }},
     {"SetForegroundWindow", [](HWND h) { return SetForegroundWindow(h) == 0; }},
@@ -78,11 +75,7 @@ const HandleCall kCalls[] = {
 const HandleCall kCallsWithNull[] = {
     {"MapWindowPoints", [](HWND h) { return MapWindowPoints(h, nullptr, &point, 1) == 0; }},
     {"GetTopWindow", [](HWND h) { return GetTopWindow(h) == nullptr; }},
-    {"EnumChildWindows",
-     [](HWND h) {
-       EnumChildWindows(h, &never_called, 0);
-       return true;
-     }},
+    {"EnumChildWindows", [](HWND h) { return EnumChildWindows(h, &never_called, 0) == 0; }},
     {"PostMessageW", [](HWND h) { return PostMessageW(h, WM_USER, 0, 0) == 0; }},
     {"SetTimer", [](HWND h) { return SetTimer(h, 1, 10, nullptr) == 0; }},
     {"SetCapture", [](HWND h) { return SetCapture(h) == nullptr; }},
