@@ -34,13 +34,11 @@ TEST_F(KeyboardTest, GoToTheFocusWindowWithTheirCharacter) {
 
 TEST_F(KeyboardTest, UnicodeInputBecomesItsCharacter) {
   recorder().only({WM_CHAR});
-  INPUT input{};
-  input.type = INPUT_KEYBOARD;
-  input.ki.wScan = 0x4E2D;
-  input.ki.dwFlags = KEYEVENTF_UNICODE;
-  EXPECT_EQ(SendInput(1, &input, sizeof(input)), 1U);
-  input.ki.dwFlags = KEYEVENTF_UNICODE | KEYEVENTF_KEYUP;
-  EXPECT_EQ(SendInput(1, &input, sizeof(input)), 1U);
+  INPUT inputs[2] = {};
+  for (INPUT& input : inputs) input.type = INPUT_KEYBOARD;
+  inputs[0].ki = {0, 0x4E2D, KEYEVENTF_UNICODE, 0, 0};
+  inputs[1].ki = {0, 0x4E2D, KEYEVENTF_UNICODE | KEYEVENTF_KEYUP, 0, 0};
+  EXPECT_EQ(SendInput(2, inputs, sizeof(INPUT)), 2U);
   pump();
   step();
 }

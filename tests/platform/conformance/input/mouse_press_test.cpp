@@ -101,18 +101,12 @@ TEST_F(MousePressTest, RetrievedMessageHasTheScreenPositionAndTime) {
 
 TEST_F(MousePressTest, MovesOfInputAreRelativeOrShareOfTheScreen) {
   move_to(105, 105);
-  INPUT input{};
-  input.type = INPUT_MOUSE;
-  input.mi.dwFlags = MOUSEEVENTF_MOVE;
-  input.mi.dx = 3;
-  input.mi.dy = -4;
+  INPUT input{INPUT_MOUSE, {{3, -4, 0, MOUSEEVENTF_MOVE, 0, 0}}};
   EXPECT_EQ(SendInput(1, &input, sizeof(input)), 1U);
   POINT point{};
   GetCursorPos(&point);
   EXPECT_EQ(text_of(point), "108,101");
-  input.mi.dwFlags |= MOUSEEVENTF_ABSOLUTE;
-  input.mi.dx = 32768;
-  input.mi.dy = 16384;
+  input.mi = {32768, 16384, 0, MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, 0, 0};
   EXPECT_EQ(SendInput(1, &input, sizeof(input)), 1U);
   GetCursorPos(&point);
   EXPECT_EQ(text_of(point), "640,200");

@@ -106,9 +106,7 @@ TEST_F(LayerAttributesTest, HoverAndCursorGoThroughKeyPixelsButACapturedDragDoes
 TEST_F(LayerAttributesTest, PixelsPaintedLastDecide) {
   SetLayeredWindowAttributes(layer_, kWhite, 0, LWA_COLORKEY);
   EXPECT_EQ(on_black(), "layer");
-  const HDC dc = GetDC(layer_);
-  fill(dc, {20, 20, 60, 60}, kWhite);
-  ReleaseDC(layer_, dc);
+  draw(layer_, {20, 20, 60, 60}, kWhite);
   EXPECT_EQ(on_black(), "below");
 }
 

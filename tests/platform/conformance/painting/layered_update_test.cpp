@@ -5,16 +5,14 @@
 namespace corvane::conformance {
 namespace {
 
-constexpr COLORREF kGreen = RGB(0, 255, 0);
-constexpr COLORREF kBlue = RGB(0, 0, 255);
 constexpr std::uint32_t kGreenPixel = 0xFF00FF00;
 constexpr std::uint32_t kBluePixel = 0xFF0000FF;
 
 struct Update {
   std::uint32_t pixel = kGreenPixel;
   COLORREF key = 0;
-  BYTE constant_alpha = 255;
-  BYTE alpha_format = AC_SRC_ALPHA;
+  BYTE constant = 255;
+  BYTE format = AC_SRC_ALPHA;
   DWORD flags = ULW_ALPHA;
 };
 
@@ -25,7 +23,7 @@ class UpdateLayeredTest : public LayeredTest {
   }
   BOOL apply_part(HDC dc, SIZE size, POINT source, const Update& update = {},
                   POINT* position = nullptr) {
-    BLENDFUNCTION blend{AC_SRC_OVER, 0, update.constant_alpha, update.alpha_format};
+    BLENDFUNCTION blend{AC_SRC_OVER, 0, update.constant, update.format};
     SetLastError(0);
     return UpdateLayeredWindow(layer_, nullptr, position, &size, dc, &source, update.key, &blend,
                                update.flags);
@@ -74,7 +72,7 @@ struct UpdateCase {
 };
 
 TEST_F(UpdateLayeredTest, AlphaAndKeyDecideOnPixelAndPress) {
-  const Update keyed = {.key = kGreen, .alpha_format = 0, .flags = ULW_COLORKEY};
+  const Update keyed = {.key = kGreen, .format = 0, .flags = ULW_COLORKEY};
   Update green = keyed;
   green.pixel = 0x0000FF00;
   Update blue = keyed;
@@ -84,19 +82,15 @@ TEST_F(UpdateLayeredTest, AlphaAndKeyDecideOnPixelAndPress) {
            UpdateCase{"half pixel", {.pixel = 0x80008000}, "layer", {127, 128, 0}},
            UpdateCase{"alpha of one", {.pixel = 0x01000100}, "layer", {254, 1, 0}},
            UpdateCase{"clear pixel", {.pixel = 0}, "below", {255, 0, 0}},
-           UpdateCase{"constant zero", {.constant_alpha = 0}, "below", {255, 0, 0}},
-           UpdateCase{"constant half", {.constant_alpha = 128}, "layer", {127, 128, 0}},
-           UpdateCase{
-               "both half", {.pixel = 0x80008000, .constant_alpha = 128}, "layer", {191, 64, 0}},
-           UpdateCase{
-               "constant, clear pixel", {.pixel = 0, .constant_alpha = 200}, "below", {255, 0, 0}},
+           UpdateCase{"constant zero", {.constant = 0}, "below", {255, 0, 0}},
+           UpdateCase{"constant half", {.constant = 128}, "layer", {127, 128, 0}},
+           UpdateCase{"both half", {.pixel = 0x80008000, .constant = 128}, "layer", {191, 64, 0}},
+           UpdateCase{"constant, clear pixel", {.pixel = 0, .constant = 200}, "below", {255, 0, 0}},
            UpdateCase{"key without its flag", {.key = kGreen}, "layer", {0, 255, 0}},
-           UpdateCase{"without pixel alpha",
-                      {.pixel = 0x0000FF00, .alpha_format = 0},
-                      "layer",
-                      {0, 255, 0}},
+           UpdateCase{
+               "without pixel alpha", {.pixel = 0x0000FF00, .format = 0}, "layer", {0, 255, 0}},
            UpdateCase{"opaque flag",
-                      {.pixel = 0x0000FF00, .alpha_format = 0, .flags = ULW_OPAQUE},
+                      {.pixel = 0x0000FF00, .format = 0, .flags = ULW_OPAQUE},
                       "layer",
                       {0, 255, 0}},
            UpdateCase{"keyed pixel", green, "below", {255, 0, 0}},

@@ -4,10 +4,6 @@
 namespace corvane::conformance {
 namespace {
 
-constexpr COLORREF kRed = RGB(255, 0, 0);
-constexpr COLORREF kGreen = RGB(0, 255, 0);
-constexpr COLORREF kWhite = RGB(255, 255, 255);
-
 class PaintChildrenTest : public WindowTest {
  protected:
   // A parent at 100,100 with a child at 50,50 (60 x 40) in it, all painted.
@@ -18,11 +14,7 @@ class PaintChildrenTest : public WindowTest {
     recorder().only({WM_PAINT, WM_ERASEBKGND});
   }
   void invalidate_parent(RECT rect) { InvalidateRect(parent_, &rect, TRUE); }
-  static void fill_window(HWND window) {
-    const HDC dc = GetDC(window);
-    fill(dc, {0, 0, 500, 500}, kRed);
-    ReleaseDC(window, dc);
-  }
+  static void fill_window(HWND window) { draw(window, {0, 0, 500, 500}, kRed); }
   HWND parent_ = nullptr;
   HWND child_ = nullptr;
 };

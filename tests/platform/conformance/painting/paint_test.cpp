@@ -91,15 +91,15 @@ TEST_F(PaintTest, ClipIsTheExactRegion) {
     for (const RECT& rect : {RECT{0, 0, 5, 5}, RECT{110, 110, 115, 115}, RECT{50, 50, 60, 60}}) {
       visible.push_back(RectVisible(paint.hdc, &rect) != 0);
     }
-    fill(paint.hdc, {0, 0, 200, 150}, RGB(255, 0, 0));
+    fill(paint.hdc, {0, 0, 200, 150}, kRed);
   });
   invalidate({0, 0, 10, 10});
   invalidate({100, 100, 120, 120});
   pump();
   EXPECT_EQ(visible, (std::vector<BOOL>{1, 1, 0}));
-  EXPECT_EQ(pixel(105, 105), RGB(255, 0, 0));
-  EXPECT_EQ(pixel(205, 205), RGB(255, 0, 0));
-  EXPECT_EQ(pixel(150, 150), RGB(255, 255, 255));
+  EXPECT_EQ(pixel(105, 105), kRed);
+  EXPECT_EQ(pixel(205, 205), kRed);
+  EXPECT_EQ(pixel(150, 150), kWhite);
 }
 
 TEST_F(PaintTest, RedrawInvalidatesUpdatesAndErases) {
@@ -169,14 +169,11 @@ TEST_F(PaintTest, WhatIsNotShownKeepsNoInvalidation) {
 }
 
 TEST_F(PaintTest, DrawingOutsidePaintIsShownAndClippedToTheWindow) {
-  const HDC dc = GetDC(popup_);
-  ASSERT_NE(dc, nullptr);
-  fill(dc, {-50, -50, 500, 500}, RGB(0, 0, 255));
-  EXPECT_EQ(ReleaseDC(popup_, dc), 1);
-  EXPECT_EQ(pixel(100, 100), RGB(0, 0, 255));
-  EXPECT_EQ(pixel(299, 249), RGB(0, 0, 255));
-  EXPECT_NE(pixel(99, 100), RGB(0, 0, 255));
-  EXPECT_NE(pixel(300, 249), RGB(0, 0, 255));
+  draw(popup_, {-50, -50, 500, 500}, kBlue);
+  EXPECT_EQ(pixel(100, 100), kBlue);
+  EXPECT_EQ(pixel(299, 249), kBlue);
+  EXPECT_NE(pixel(99, 100), kBlue);
+  EXPECT_NE(pixel(300, 249), kBlue);
 }
 
 }  // namespace

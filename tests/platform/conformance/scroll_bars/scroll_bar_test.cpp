@@ -24,7 +24,7 @@ class ScrollBarTest : public ScrollTest {
   void script_after_each(const std::string& name) {
     for (const UINT message : {WM_VSCROLL, WM_HSCROLL}) {
       recorder().before_default(name, message, [this] {
-        seen_.push_back(numbers().nTrackPos);
+        seen_.push_back(track_position());
         if (done_ < script_.size()) script_[done_++]();
       });
     }
@@ -128,7 +128,7 @@ TEST_F(ScrollBarTest, ThumbFollowsThePointer) {
   step();
   EXPECT_EQ(seen_, (std::vector<int>{0, 149, 301, 226, 226, 0}));
   EXPECT_EQ(GetScrollPos(window_, SB_VERT), 0) << "the program has not set it";
-  EXPECT_EQ(numbers().nTrackPos, 0) << "the thumb is let go";
+  EXPECT_EQ(track_position(), 0) << "the thumb is let go";
 }
 
 TEST_F(ScrollBarTest, TrackPositionIsWhereTheThumbIsPut) {

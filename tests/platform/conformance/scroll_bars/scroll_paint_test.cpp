@@ -4,8 +4,6 @@
 namespace corvane::conformance {
 namespace {
 
-constexpr COLORREF kWhite = RGB(255, 255, 255);
-constexpr COLORREF kRed = RGB(255, 0, 0);
 constexpr int kBarX = 291;  // the middle of a bar from 283 to 299
 
 class ScrollPaintTest : public ScrollTest {
@@ -129,9 +127,7 @@ TEST_F(ScrollPaintTest, ClientDrawingNeverReachesIt) {
   paint_patches("pop", {{{0, 0, 1000, 1000}, kRed}});
   InvalidateRect(window_, nullptr, TRUE);
   EXPECT_TRUE(bar_is_whole());
-  const HDC dc = GetDC(window_);
-  fill(dc, {0, 0, 1000, 1000}, kRed);
-  ReleaseDC(window_, dc);
+  draw(window_, {0, 0, 1000, 1000}, kRed);
   EXPECT_TRUE(bar_is_whole());
   EXPECT_EQ(thumb(), before);
   EXPECT_EQ(pixel(282, 250), kRed);

@@ -4,10 +4,6 @@
 
 namespace corvane::conformance {
 
-inline constexpr COLORREF kWhite = RGB(255, 255, 255);
-inline constexpr COLORREF kBlack = RGB(0, 0, 0);
-inline constexpr COLORREF kRed = RGB(255, 0, 0);
-
 class LayeredTest : public WindowTest {
  protected:
   LayeredTest() {

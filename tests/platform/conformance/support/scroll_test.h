@@ -21,12 +21,18 @@ class ScrollTest : public WindowTest {
     const SCROLLINFO info{sizeof(SCROLLINFO), mask, minimum, maximum, page, position, 0};
     return SetScrollInfo(window, bar, &info, TRUE);
   }
-  SCROLLINFO numbers() const {
-    SCROLLINFO info{};
-    info.cbSize = sizeof(info);
-    info.fMask = SIF_ALL;
+  // What the mask names, -1 for the rest: minimum..maximum page position track.
+  std::string numbers(UINT mask = SIF_ALL) const {
+    SCROLLINFO info{sizeof(SCROLLINFO), mask, -1, -1, static_cast<UINT>(-1), -1, -1};
+    EXPECT_NE(GetScrollInfo(window_, SB_VERT, &info), 0);
+    return std::to_string(info.nMin) + ".." + std::to_string(info.nMax) + " " +
+           std::to_string(static_cast<int>(info.nPage)) + " " + std::to_string(info.nPos) + " " +
+           std::to_string(info.nTrackPos);
+  }
+  int track_position() const {
+    SCROLLINFO info{sizeof(SCROLLINFO), SIF_TRACKPOS, 0, 0, 0, 0, 0};
     GetScrollInfo(window_, SB_VERT, &info);
-    return info;
+    return info.nTrackPos;
   }
   HWND window_ = create("pop", plan(WS_VSCROLL));
 };

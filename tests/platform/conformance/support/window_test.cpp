@@ -87,6 +87,12 @@ void WindowTest::paint_patches(const std::string& window, std::vector<Patch> pat
   });
 }
 
+void WindowTest::draw(HWND window, const RECT& rect, COLORREF color) {
+  const HDC dc = GetDC(window);
+  fill(dc, rect, color);
+  EXPECT_EQ(ReleaseDC(window, dc), 1);
+}
+
 RECT update_rect(HWND window) {
   RECT rect{};
   GetUpdateRect(window, &rect, FALSE);

@@ -18,6 +18,12 @@ using test::fill;
 using test::text_of;
 using test::window_rect;
 
+inline constexpr COLORREF kWhite = RGB(255, 255, 255);
+inline constexpr COLORREF kBlack = RGB(0, 0, 0);
+inline constexpr COLORREF kRed = RGB(255, 0, 0);
+inline constexpr COLORREF kGreen = RGB(0, 255, 0);
+inline constexpr COLORREF kBlue = RGB(0, 0, 255);
+
 class WindowTest : public testing::Test, protected test::Desktop {
  protected:
   WindowTest();
@@ -66,6 +72,8 @@ class WindowTest : public testing::Test, protected test::Desktop {
     COLORREF color;
   };
   void paint_patches(const std::string& window, std::vector<Patch> patches);
+  // Outside of a WM_PAINT.
+  static void draw(HWND window, const RECT& rect, COLORREF color);
 
  private:
   void expect_step(const std::string& name, const std::string& returned);

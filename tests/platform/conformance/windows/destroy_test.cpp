@@ -77,10 +77,10 @@ TEST_F(DestroyWindowTest, TheScreenShowsWhatWasBelow) {
   create("below", {.style = WS_POPUP | WS_VISIBLE,
                    .brush = static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH))});
   const HWND popup = settled_popup("pop", 0, 0, 50, 50);
-  EXPECT_EQ(pixel(10, 10), RGB(255, 255, 255));
+  EXPECT_EQ(pixel(10, 10), kWhite);
   DestroyWindow(popup);
   pump();
-  EXPECT_EQ(pixel(10, 10), RGB(0, 0, 0));
+  EXPECT_EQ(pixel(10, 10), kBlack);
 }
 
 }  // namespace

@@ -45,7 +45,7 @@ TEST_F(ExtremeValuesTest, PositionsOfWindowsAndPoints) {
     EXPECT_EQ(WindowFromPoint({x, y}), nullptr);
     EXPECT_EQ(ChildWindowFromPoint(popup_, {x, y}), nullptr);
   });
-  EXPECT_EQ(pixel(50, 50), RGB(255, 255, 255));
+  EXPECT_EQ(pixel(50, 50), kWhite);
 }
 
 TEST_F(ExtremeValuesTest, SizesOfWindows) {
@@ -104,11 +104,7 @@ TEST_F(ExtremeValuesTest, InvalidRectangles) {
 TEST_F(ExtremeValuesTest, PointerStaysOnTheScreen) {
   for (const int value : kExtremes) {
     SetCursorPos(value, value);
-    INPUT input{};
-    input.type = INPUT_MOUSE;
-    input.mi.dwFlags = MOUSEEVENTF_MOVE;
-    input.mi.dx = value;
-    input.mi.dy = value;
+    INPUT input{INPUT_MOUSE, {{value, value, 0, MOUSEEVENTF_MOVE, 0, 0}}};
     SendInput(1, &input, sizeof(input));
     input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
     SendInput(1, &input, sizeof(input));

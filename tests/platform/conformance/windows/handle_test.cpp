@@ -19,7 +19,7 @@ RECT rect;
 POINT point;
 PAINTSTRUCT paint;
 wchar_t text[4] = L"abc";
-
+SCROLLINFO info{sizeof(SCROLLINFO), SIF_ALL, 0, 9, 1, 3, 0};
 const HandleCall kCalls[] = {
     {"DestroyWindow", [](HWND h) { return DestroyWindow(h) == 0; }},
     {"ShowWindow", [](HWND h) { return ShowWindow(h, SW_SHOW) == 0; }},
@@ -67,6 +67,12 @@ const HandleCall kCalls[] = {
        return TrackMouseEvent(&request) == 0;
      }},
     {"BeginPaint", [](HWND h) { return BeginPaint(h, &paint) == nullptr; }},
+    {"SetScrollInfo", [](HWND h) { return SetScrollInfo(h, SB_VERT, &info, TRUE) == 0; }},
+    {"GetScrollInfo", [](HWND h) { return GetScrollInfo(h, SB_VERT, &info) == 0; }},
+    {"SetScrollPos", [](HWND h) { return SetScrollPos(h, SB_VERT, 5, TRUE) == 0; }},
+    {"GetScrollPos", [](HWND h) { return GetScrollPos(h, SB_VERT) == 0; }},
+    {"SetScrollRange", [](HWND h) { return SetScrollRange(h, SB_VERT, 0, 5, TRUE) == 0; }},
+    {"ShowScrollBar", [](HWND h) { return ShowScrollBar(h, SB_VERT, TRUE) == 0; }},
     {"UpdateWindow", [](HWND h) { return UpdateWindow(h) == 0; }},
     {"GetUpdateRect", [](HWND h) { return GetUpdateRect(h, &rect, FALSE) == 0; }},
 };
@@ -155,13 +161,13 @@ TEST_F(HandleTest, ReleasedDeviceContextsAndThoseOfDestroyedWindowsDrawNothing) 
   const HDC released = GetDC(live);
   EXPECT_EQ(ReleaseDC(live, released), 1);
   EXPECT_EQ(ReleaseDC(live, released), 0);
-  fill(released, {0, 0, 50, 50}, RGB(0, 0, 0));
-  EXPECT_EQ(pixel(10, 10), RGB(255, 255, 255));
+  fill(released, {0, 0, 50, 50}, kBlack);
+  EXPECT_EQ(pixel(10, 10), kWhite);
   const HDC dc = GetDC(live);
   DestroyWindow(live);
-  fill(dc, {0, 0, 50, 50}, RGB(255, 255, 255));
+  fill(dc, {0, 0, 50, 50}, kWhite);
   ReleaseDC(live, dc);
-  EXPECT_NE(pixel(10, 10), RGB(255, 255, 255));
+  EXPECT_NE(pixel(10, 10), kWhite);
 }
 
 }  // namespace

@@ -61,7 +61,7 @@ TEST_F(MoveWindowTest, MovedChildKeepsItsPixelsAndTheParentPaintsTheGap) {
   MoveWindow(child_, 100, 20, 40, 30, TRUE);
   pump_step("");
   EXPECT_EQ(pixel(205, 125), RGB(200, 0, 0));
-  EXPECT_EQ(pixel(115, 125), RGB(255, 255, 255));
+  EXPECT_EQ(pixel(115, 125), kWhite);
 }
 
 TEST_F(MoveWindowTest, NewSizePaintsTheNewPartOrEverything) {

@@ -4,8 +4,6 @@
 namespace corvane::conformance {
 namespace {
 
-constexpr COLORREF key_color = RGB(255, 255, 255);
-
 class OverlayStackTest : public WindowTest {
  protected:
   OverlayStackTest() {
@@ -30,7 +28,7 @@ class OverlayStackTest : public WindowTest {
     create("layer", {.parent = window("background"),
                      .place = {.width = 0, .height = 0},
                      .ex_style = WS_EX_LAYERED});
-    SetLayeredWindowAttributes(window("layer"), key_color, 0, LWA_COLORKEY);
+    SetLayeredWindowAttributes(window("layer"), kWhite, 0, LWA_COLORKEY);
     paint_patches("layer", {{{20, 20, 60, 60}, RGB(40, 40, 40)}});
   }
 

@@ -105,7 +105,7 @@ TEST_F(ShowWindowTest, ContentsAppearAndDisappearOnTheScreen) {
   for (const int command : {SW_SHOW, SW_HIDE}) {
     ShowWindow(popup, command);
     pump();
-    EXPECT_EQ(pixel(60, 60), command == SW_SHOW ? RGB(255, 255, 255) : desktop);
+    EXPECT_EQ(pixel(60, 60), command == SW_SHOW ? kWhite : desktop);
   }
 }
 
