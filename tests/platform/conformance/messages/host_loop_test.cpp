@@ -60,6 +60,9 @@ TEST_F(HostLoopTest, AnIdleProgramPresentsNothing) {
     turn();
   }
   EXPECT_EQ(own().display.presents(), presents);
+  draw(window_, {0, 0, 5, 5}, kRed);
+  EXPECT_EQ(pixel(10, 10), kRed);
+  EXPECT_EQ(own().display.presents(), presents + 1) << "who looks at the frame has it presented";
   EXPECT_EQ(count(WM_PAINT), 1);
 }
 

@@ -125,6 +125,8 @@ TEST(ScrollLayoutTest, WithoutAThumbTheTroughIsDead) {
   const ScrollLayout layout = scroll_layout(model(0, 0, 0, 0), 300, kThickness);
   EXPECT_EQ(layout.part_at(5), ScrollPart::line_back);
   EXPECT_EQ(layout.part_at(150), ScrollPart::none);
+  const ScrollModel given = model(0, 600, 300, 150);
+  EXPECT_EQ(position_of_thumb(given, scroll_layout(given, 50, kThickness)), 150);
 }
 
 TEST(ScrollLayoutTest, DraggedThumbMeansThePositionUnderIt) {

@@ -82,6 +82,24 @@ TEST(TwoSystemsTest, TheLatestIsCurrentAndItsEndRestoresTheFormer) {
   EXPECT_EQ(posted_by_another_thread(first.window()), 1400U);
 }
 
+TEST(TwoSystemsTest, TheEndOfOneThatIsNotCurrentDestroysItsWindows) {
+  static int destroyed = 0;
+  Desk first;
+  auto second = std::make_unique<test::Desktop>();
+  WNDCLASSW window_class{};
+  window_class.lpfnWndProc = [](HWND window, UINT message, WPARAM w, LPARAM l) -> LRESULT {
+    if (message == WM_DESTROY) ++destroyed;
+    return DefWindowProcW(window, message, w, l);
+  };
+  window_class.lpszClassName = L"Counted";
+  EXPECT_NE(RegisterClassW(&window_class), 0);
+  CreateWindowExW(0, L"Counted", L"", WS_POPUP, 0, 0, 5, 5, nullptr, nullptr, nullptr, nullptr);
+  first.make_current();
+  second.reset();
+  EXPECT_EQ(destroyed, 1);
+  EXPECT_EQ(system::WindowSystem::current(), &first.own().windows);
+}
+
 TEST(TwoSystemsTest, EachHasItsOwnFocusCaptureAndPointer) {
   Desk first;
   SetCapture(first.window());
