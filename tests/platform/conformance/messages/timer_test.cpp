@@ -107,6 +107,8 @@ TEST_F(TimerTest, WithoutAWindowTheNumberIsTheSystems) {
   advance(50);
   pump();
   EXPECT_EQ(procedure_calls, (std::vector<ProcedureCall>{{nullptr, WM_TIMER, id, GetTickCount()}}));
+  SetTimer(popup_, 77, 5000, nullptr);
+  EXPECT_NE(SetTimer(nullptr, 77, 5000, nullptr), 77U) << "which is another's";
   EXPECT_NE(KillTimer(nullptr, id), 0);
   advance(100);
   pump();

@@ -110,15 +110,16 @@ TEST_F(UpdateLayeredTest, AlphaAndKeyDecideOnPixelAndPress) {
 
 TEST_F(UpdateLayeredTest, EachPixelByItsOwnAlpha) {
   Picture picture(60, 40, 0);
-  picture.fill({0, 0, 20, 40}, kBluePixel);
+  picture.fill({0, 0, 20, 30}, kBluePixel);
   EXPECT_NE(apply(picture), 0);
   EXPECT_EQ(pressed_at(110, 110), "layer");
   EXPECT_EQ(pressed_at(130, 110), "below");
-  EXPECT_EQ(pressed_at(119, 139), "layer");
-  EXPECT_EQ(pressed_at(120, 139), "below");
-  EXPECT_NE(apply_part(picture.dc(), {30, 40}, {10, 0}), 0);
-  EXPECT_EQ(pressed_at(109, 110), "layer") << "the source point chooses the part";
-  EXPECT_EQ(pressed_at(110, 110), "below");
+  EXPECT_EQ(pressed_at(119, 129), "layer");
+  EXPECT_EQ(pressed_at(120, 129), "below");
+  EXPECT_NE(apply_part(picture.dc(), {30, 20}, {10, 20}), 0);
+  EXPECT_EQ(pressed_at(109, 109), "layer") << "the source point chooses the part";
+  EXPECT_EQ(pressed_at(110, 109), "below");
+  EXPECT_EQ(pressed_at(109, 110), "below");
 }
 
 TEST_F(UpdateLayeredTest, RefusesWhatItCannotShow) {

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <initializer_list>
-#include <map>
 #include <sstream>
 #include <utility>
 #include <vector>

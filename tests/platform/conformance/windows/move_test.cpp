@@ -51,6 +51,8 @@ TEST_F(MoveWindowTest, HandlersMayChangeWhatHappens) {
   });
   MoveWindow(child_, 5, 5, 60, 60, TRUE);
   pump_step("the position is changed before");
+  recorder().before_default("child", WM_CHILDACTIVATE, [&] { DestroyWindow(child_); });
+  step("the window is gone", SetWindowPos(child_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE));
 }
 
 TEST_F(MoveWindowTest, MovedChildKeepsItsPixelsAndTheParentPaintsTheGap) {

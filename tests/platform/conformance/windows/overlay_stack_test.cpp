@@ -12,10 +12,7 @@ class OverlayStackTest : public WindowTest {
       create("bar", {.parent = window("layer"), .place = {.width = 0, .height = 0}});
     });
     for (const UINT message : {WM_SIZE, WM_MOVE}) {
-      recorder().on("background", message, [this](const Message&) -> std::optional<LRESULT> {
-        follow();
-        return std::nullopt;
-      });
+      recorder().before_default("background", message, [this] { follow(); });
     }
     recorder().only({WM_NCCREATE, WM_CREATE, WM_SIZE, WM_MOVE});
     background_ = create("background", {.parent = host_, .place = {100, 100, 200, 150}});
@@ -33,8 +30,7 @@ class OverlayStackTest : public WindowTest {
   }
 
   void follow() {
-    RECT rect{};
-    GetWindowRect(window("background"), &rect);
+    const RECT rect = window_rect(window("background"));
     MoveWindow(window("layer"), rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top,
                TRUE);
   }
