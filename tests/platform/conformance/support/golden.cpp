@@ -31,17 +31,25 @@ std::string name_of(const testing::TestInfo& test) {
   return std::string(test.test_suite_name()) + "." + test.name();
 }
 
-// By test; all lines but a test's name are indented.
-std::map<std::string, std::string> read(const Path& path) {
+struct Section {
+  std::string argument;  // lines that begin with '#' before the test's name: why it must be so
+  std::string recorded;
+};
+
+// By test; all other lines but a test's name are indented.
+std::map<std::string, Section> read(const Path& path) {
   std::ifstream file(path);
-  std::map<std::string, std::string> sections;
-  std::string test;
+  std::map<std::string, Section> sections;
+  std::string test, argument;
   for (std::string line; std::getline(file, line);) {
     if (line.empty()) continue;
-    if (line.starts_with(' ')) {
-      sections[test] += line + "\n";
+    if (line.starts_with('#')) {
+      argument += line + "\n";
+    } else if (line.starts_with(' ')) {
+      sections[test].recorded += line + "\n";
     } else {
       test = line;
+      sections[test].argument = std::exchange(argument, "");
     }
   }
   return sections;
@@ -67,7 +75,7 @@ class GoldenFiles : public testing::Environment {
       }
     }
     for (const auto& entry : std::filesystem::directory_iterator(golden_folder())) {
-      for (const auto& [name, text] : read(entry.path())) {
+      for (const auto& [name, section] : read(entry.path())) {
         EXPECT_TRUE(known.contains({entry.path(), name}))
             << entry.path().filename() << " expects something of " << name
             << ", which is no test of that file";
@@ -83,11 +91,12 @@ class GoldenFiles : public testing::Environment {
 
 void expect_golden(const std::string& recorded) {
   const testing::TestInfo& test = *testing::UnitTest::GetInstance()->current_test_info();
+  const Section expected = read(golden_path(test))[name_of(test)];
   if (!renewing()) {
-    EXPECT_EQ(read(golden_path(test))[name_of(test)], recorded) << "- as expected, + as recorded";
+    EXPECT_EQ(expected.recorded, recorded) << "- as expected, + as recorded";
   } else if (!recorded.empty()) {
     std::string& text = renewed_files[golden_path(test)];
-    text += (text.empty() ? "" : "\n") + name_of(test) + "\n" + recorded;
+    text += (text.empty() ? "" : "\n") + expected.argument + name_of(test) + "\n" + recorded;
   }
 }
 
