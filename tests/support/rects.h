@@ -5,6 +5,7 @@
 #include <string>
 
 #include "corvane/platform/platform.h"
+#include "tests/support/golden_file.h"
 
 namespace corvane::test {
 
@@ -18,6 +19,12 @@ inline RECT client_rect(HWND window) {
   RECT rect{};
   EXPECT_NE(::GetClientRect(window, &rect), 0);
   return rect;
+}
+
+// Of the four numbers in a field of a table.
+inline RECT rect_of(const std::string& field) {
+  const auto sides = numbers_of(field);
+  return {sides.at(0), sides.at(1), sides.at(2), sides.at(3)};
 }
 
 inline std::string text_of(const RECT& rect) {

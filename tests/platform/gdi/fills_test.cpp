@@ -12,7 +12,7 @@ class GdiFills : public GdiTest {
 
 TEST_F(GdiFills, RectanglesIncludeLeftTopAndExcludeRightBottom) {
   SetBkColor(dc, RGB(9, 9, 9));
-  const HGDIOBJ before = SelectObject(dc, brush);
+  SelectObject(dc, brush);
   expect_drawn(
       "tests/platform/gdi/rectangles.txt",
       {{"FillRect", [&](const RECT& rect) { FillRect(dc, &rect, brush); }},
@@ -21,16 +21,14 @@ TEST_F(GdiFills, RectanglesIncludeLeftTopAndExcludeRightBottom) {
         [&](const RECT& rect) { Rectangle(dc, rect.left, rect.top, rect.right, rect.bottom); }},
        {"ExtTextOut",
         [&](const RECT& rect) { ExtTextOutW(dc, 0, 0, ETO_OPAQUE, &rect, nullptr, 0, nullptr); }}});
-  SelectObject(dc, before);
 }
 
 TEST_F(GdiFills, SolidDrawingWritesAZeroAlphaByte) {
   surface->fill(surface->rect(), 0xFF112233);
   const RECT rect{0, 0, 10, 10};
   FillRect(dc, &rect, brush);
-  EXPECT_EQ(surface->at(5, 5), 0x00010203u);
   SetPixel(dc, 20, 20, RGB(4, 5, 6));
-  EXPECT_EQ(surface->at(20, 20), 0x00040506u);
+  expect_dots({{5, 5, 0x00010203}, {20, 20, 0x00040506}});
   EXPECT_EQ(GetPixel(dc, 20, 20), static_cast<COLORREF>(RGB(4, 5, 6)));
   EXPECT_EQ(GetPixel(dc, -1, 0), CLR_INVALID);
   EXPECT_EQ(SetPixel(dc, 0, 100, 0), CLR_INVALID);
@@ -38,7 +36,7 @@ TEST_F(GdiFills, SolidDrawingWritesAZeroAlphaByte) {
 
 TEST_F(GdiFills, RectangleDrawsOutlineWithThePenAndInsideWithTheBrush) {
   const Selected pen(dc, CreatePen(PS_SOLID, 1, RGB(7, 0, 0)));
-  const HGDIOBJ before = SelectObject(dc, brush);
+  SelectObject(dc, brush);
   Rectangle(dc, 10, 10, 20, 20);
   EXPECT_EQ(count([](int, int, Pixel color) { return color == 0x070000; }), 36);
   EXPECT_EQ(count([](int, int, Pixel color) { return color == 0x010203; }), 64);
@@ -51,7 +49,6 @@ TEST_F(GdiFills, RectangleDrawsOutlineWithThePenAndInsideWithTheBrush) {
     EXPECT_EQ(drawn(), covered);
     SelectObject(dc, with);
   }
-  SelectObject(dc, before);
 }
 
 TEST_F(GdiFills, ClipRegionLimitsAndMarksExactly) {
@@ -60,26 +57,24 @@ TEST_F(GdiFills, ClipRegionLimitsAndMarksExactly) {
   const RECT all{0, 0, 100, 100};
   FillRect(dc, &all, brush);
   EXPECT_EQ(drawn(), "10,10,50,50 1500");
-  EXPECT_EQ(surface->at(25, 25), kWhite);
   const Region marks = surface->take_marks();
   EXPECT_FALSE(marks.intersects({20, 20, 30, 30}));
   EXPECT_EQ(marks.bounds().left, 10);
   RECT box{};
   SetViewportOrgEx(dc, 10, 10, nullptr);
   EXPECT_EQ(GetClipBox(dc, &box), COMPLEXREGION);
-  EXPECT_EQ(box.left, 0);
-  EXPECT_EQ(box.right, 40);
-  const RECT hole{11, 11, 19, 19};
+  EXPECT_THAT(box, test::is_rect(0, 0, 40, 40));
+  const RECT hole{11, 11, 19, 19}, edge{19, 11, 21, 19};
   EXPECT_FALSE(RectVisible(dc, &hole));
+  EXPECT_TRUE(RectVisible(dc, &edge));
   EXPECT_EQ(IntersectClipRect(dc, 60, 60, 70, 70), NULLREGION);
 }
 
 TEST_F(GdiFills, ContextDrawsOnlyInsideWhatItWasOpenedFor) {
-  HDC part = gdi.open_dc(surface, {30, 30}, Region(RECT{30, 30, 40, 40}));
+  HDC part = open(surface, {30, 30}, Region(RECT{30, 30, 40, 40}));
   const RECT all{-50, -50, 100, 100};
   FillRect(part, &all, brush);
   EXPECT_EQ(drawn(), "30,30,40,40 100");
-  gdi.close_dc(part);
 }
 
 TEST_F(GdiFills, ClassBackgroundBrushes) {
@@ -93,6 +88,15 @@ TEST_F(GdiFills, ClassBackgroundBrushes) {
   EXPECT_FALSE(gdi.fill(*surface, area, nullptr));
   EXPECT_FALSE(gdi.fill(*surface, area, static_cast<HBRUSH>(GetStockObject(NULL_BRUSH))));
   EXPECT_FALSE(gdi.fill(*surface, area, reinterpret_cast<HBRUSH>(0x1234567)));
+}
+
+TEST_F(GdiFills, SystemColors) {
+  for (const auto& row : test::golden_rows("tests/platform/gdi/system_colors.txt")) {
+    const auto parts = test::numbers_of(row.at(1));
+    EXPECT_EQ(GetSysColor(std::stoi(row.at(0))), RGB(parts.at(0), parts.at(1), parts.at(2)))
+        << row.at(2);
+  }
+  for (const int none : {-1, 31}) EXPECT_EQ(GetSysColor(none), 0u);
 }
 
 TEST_F(GdiFills, GdiPlusRectangles) {
@@ -118,33 +122,27 @@ TEST_F(GdiFills, GdiPlusRectangles) {
 TEST_F(GdiFills, GdiPlusBlendsBySourceOver) {
   using namespace Gdiplus;
   Graphics graphics(dc);
-  const SolidBrush half(Color(128, 255, 0, 0));
-  const SolidBrush none(Color(0, 255, 0, 0));
-  graphics.FillRectangle(&half, 0, 0, 10, 10);
-  EXPECT_EQ(surface->at(5, 5) & 0xFFFFFF, 0xFF7F7Fu);
-  surface->fill(surface->rect(), 0);
-  graphics.FillRectangle(&half, 0, 0, 10, 10);
-  EXPECT_EQ(surface->at(5, 5), 0x80800000u);
-  surface->fill(surface->rect(), 0x123456);
-  graphics.FillRectangle(&none, 0, 0, 10, 10);
-  EXPECT_EQ(surface->at(5, 5), 0x123456u);
+  const struct {
+    Pixel before;
+    BYTE alpha;
+    Pixel after;
+  } cases[] = {{kWhite, 128, 0x80FF7F7F}, {0, 128, 0x80800000}, {0x123456, 0, 0x123456}};
+  for (const auto& [before, alpha, after] : cases) {
+    surface->fill(surface->rect(), before);
+    const SolidBrush red(Color(alpha, 255, 0, 0));
+    graphics.FillRectangle(&red, 0, 0, 10, 10);
+    expect_dots({{5, 5, after}});
+  }
 }
 
 TEST_F(GdiFills, GdiPlusTransformsArePrependedAndTurnClockwise) {
   using namespace Gdiplus;
   const SolidBrush red(Color(255, 0, 0));
-  Graphics turned(dc);
-  turned.TranslateTransform(50, 50);
-  turned.RotateTransform(90);
-  turned.TranslateTransform(-50, -50);
-  turned.FillRectangle(&red, 60, 50, 1, 1);
-  EXPECT_EQ(drawn(), "49,60,50,61 1");  // the pixel right of and below (50, 60) turned with it
-  wipe();
-  Graphics moved(dc);
-  moved.TranslateTransform(10, 20);
-  moved.RotateTransform(90);
-  moved.FillRectangle(&red, 5, 0, 1, 1);
-  EXPECT_EQ(drawn(), "9,25,10,26 1");
+  Graphics graphics(dc);
+  graphics.TranslateTransform(10, 20);
+  graphics.RotateTransform(90);
+  graphics.FillRectangle(&red, 5, 0, 1, 1);
+  EXPECT_EQ(drawn(), "9,25,10,26 1");  // the pixel right of and below (10, 25) turned with it
 }
 
 }  // namespace

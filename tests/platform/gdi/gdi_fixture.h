@@ -11,6 +11,7 @@
 
 #include "corvane/platform/system/gdi/gdi.h"
 #include "tests/support/golden_file.h"
+#include "tests/support/rects.h"
 
 namespace corvane::system {
 
@@ -35,15 +36,18 @@ class GdiTest : public testing::Test {
   static constexpr Pixel kWhite = 0xFFFFFF;
   static constexpr int kSize = 100;
 
-  GdiTest() {
-    Gdi::set_current(&gdi);
-    surface = std::make_shared<Surface>(kSize, kSize, kWhite);
-    dc = gdi.open_dc(surface, {0, 0}, Region(surface->rect()));
-  }
+  GdiTest() { Gdi::set_current(&gdi); }
   ~GdiTest() override {
-    gdi.close_dc(dc);
+    for (const HDC each : contexts) gdi.close_dc(each) || DeleteDC(each);
     EXPECT_EQ(gdi.live_objects(), 0) << "objects left behind";
   }
+
+  // Contexts that stay open until the test ends.
+  HDC open(const std::shared_ptr<Surface>& on, POINT origin, const Region& clip) {
+    return contexts.emplace_back(gdi.open_dc(on, origin, clip));
+  }
+  HDC open(const std::shared_ptr<Surface>& on) { return open(on, {0, 0}, Region(on->rect())); }
+  HDC open_memory(HDC like) { return contexts.emplace_back(CreateCompatibleDC(like)); }
 
   using Condition = std::function<bool(int x, int y, Pixel color)>;  // the alpha byte left out
   // How many of the surface's pixels are so; `box` becomes the smallest rectangle around them.
@@ -66,9 +70,7 @@ class GdiTest : public testing::Test {
     RECT box{};
     const int number = count([](int, int, Pixel color) { return color != kWhite; }, &box);
     if (number == 0) return "nothing";
-    return std::to_string(box.left) + "," + std::to_string(box.top) + "," +
-           std::to_string(box.right) + "," + std::to_string(box.bottom) + " " +
-           std::to_string(number);
+    return test::text_of(box) + " " + std::to_string(number);
   }
   // How many pixels are not white outside of these rectangles, or white inside.
   int differing_from(const std::vector<RECT>& rects) const {
@@ -83,21 +85,29 @@ class GdiTest : public testing::Test {
   void expect_drawn(const std::string& file,
                     const std::map<std::string, std::function<void(const RECT&)>>& draw) {
     for (const auto& row : test::golden_rows(file)) {
-      const auto numbers = test::numbers_of(row.at(1));
       wipe();
-      draw.at(row.at(0))({numbers.at(0), numbers.at(1), numbers.at(2), numbers.at(3)});
+      draw.at(row.at(0))(test::rect_of(row.at(1)));
       EXPECT_EQ(drawn(), row.at(2)) << row.at(0) << " in " << row.at(1);
     }
   }
   Pixel seen(int x, int y) const { return surface->at(x, y) & 0xFFFFFF; }
+  // The surface's pixels at these points, all of their bits.
+  struct Dot {
+    int x, y;
+    Pixel color;
+  };
+  void expect_dots(std::initializer_list<Dot> dots) const {
+    for (const auto& [x, y, color] : dots) EXPECT_EQ(surface->at(x, y), color) << x << ", " << y;
+  }
   void wipe() {
     surface->fill(surface->rect(), kWhite);
     surface->take_marks();
   }
 
   Gdi gdi;
-  std::shared_ptr<Surface> surface;
-  HDC dc = nullptr;
+  std::vector<HDC> contexts;
+  std::shared_ptr<Surface> surface = std::make_shared<Surface>(kSize, kSize, kWhite);
+  HDC dc = open(surface);
 };
 
 }  // namespace corvane::system

@@ -26,10 +26,6 @@ TEST_F(GdiLines, FramesOfTheTwoPixelPenOvershootAtTheirFirstCorner) {
   draw(2, {{19, 15}, {60, 15}, {60, 45}, {20, 45}, {20, 14}});
   EXPECT_EQ(
       differing_from({{18, 14, 61, 16}, {19, 44, 61, 46}, {19, 13, 21, 46}, {59, 14, 61, 46}}), 0);
-  wipe();
-  draw(2, {{1, 12}, {98, 12}, {98, 38}, {2, 38}, {2, 11}});
-  EXPECT_EQ(differing_from({{0, 11, 99, 13}, {1, 37, 99, 39}, {1, 10, 3, 39}, {97, 11, 99, 39}}),
-            0);
 }
 
 TEST_F(GdiLines, ObliqueWidePenIsAsWideAsItSays) {
@@ -57,8 +53,7 @@ TEST_F(GdiLines, CurrentPositionMovesAlsoWithoutAPen) {
   LineTo(dc, 30, 40);
   POINT before{};
   MoveToEx(dc, 0, 0, &before);
-  EXPECT_EQ(before.x, 30);
-  EXPECT_EQ(before.y, 40);
+  EXPECT_EQ(std::pair(before.x, before.y), std::pair(30, 40));
   EXPECT_EQ(drawn(), "nothing");
 }
 
@@ -77,7 +72,7 @@ TEST_F(GdiLines, DashesLeaveGapsAndFillThemWhenOpaque) {
 TEST_F(GdiLines, ComplexClipAndOriginHold) {
   Region clip(RECT{0, 0, 40, 100});
   clip.unite(RECT{60, 0, 100, 100});
-  HDC shifted = gdi.open_dc(surface, {10, 10}, clip);
+  HDC shifted = open(surface, {10, 10}, clip);
   for (const int width : {1, 2}) {
     wipe();
     const Selected pen(shifted, CreatePen(PS_SOLID, width, 0));
@@ -90,7 +85,6 @@ TEST_F(GdiLines, ComplexClipAndOriginHold) {
     EXPECT_TRUE(marks.covers({10, 30, 40, 31}));
     EXPECT_FALSE(marks.intersects({40, 0, 60, 100}));
   }
-  gdi.close_dc(shifted);
 }
 
 }  // namespace

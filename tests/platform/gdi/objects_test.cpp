@@ -23,7 +23,7 @@ TEST_F(GdiObjects, SelectedObjectsSurviveDeletion) {
 }
 
 TEST_F(GdiObjects, ObjectsDeletedWhileSelectedGoWithTheContext) {
-  HDC other = gdi.open_dc(surface, {0, 0}, Region(surface->rect()));
+  HDC other = open(surface);
   HBRUSH brush = CreateSolidBrush(0);
   HPEN kept = CreatePen(PS_SOLID, 1, 0);
   SelectObject(other, brush);
@@ -35,8 +35,7 @@ TEST_F(GdiObjects, ObjectsDeletedWhileSelectedGoWithTheContext) {
 }
 
 TEST_F(GdiObjects, ABitmapFitsIntoOneContextOnly) {
-  HDC first = CreateCompatibleDC(dc);
-  HDC second = CreateCompatibleDC(dc);
+  HDC first = CreateCompatibleDC(dc), second = CreateCompatibleDC(dc);
   HBITMAP bitmap = CreateCompatibleBitmap(dc, 5, 5);
   HGDIOBJ fresh = SelectObject(first, bitmap);
   EXPECT_NE(fresh, nullptr);
@@ -54,13 +53,8 @@ TEST_F(GdiObjects, ABitmapFitsIntoOneContextOnly) {
 }
 
 TEST_F(GdiObjects, ImpossibleSizesFail) {
-  struct {
-    int width;
-    int height;
-  } const cases[] = {{100000, 100000}, {-1, 5}, {5, -1}, {40000, 40000}, {2147483647, 1}};
-  for (const auto& size : cases)
-    EXPECT_EQ(CreateCompatibleBitmap(dc, size.width, size.height), nullptr)
-        << size.width << "x" << size.height;
+  for (const SIZE size : {SIZE{100000, 100000}, {-1, 5}, {5, -1}, {40000, 40000}, {2147483647, 1}})
+    EXPECT_EQ(CreateCompatibleBitmap(dc, size.cx, size.cy), nullptr) << size.cx << "x" << size.cy;
   BITMAPINFO info{};
   info.bmiHeader = {sizeof(BITMAPINFOHEADER), 4, 4, 1, 24, BI_RGB, 0, 0, 0, 0, 0};
   void* bits = &info;
@@ -73,7 +67,7 @@ TEST_F(GdiObjects, ImpossibleSizesFail) {
 
 // Every function, with a handle that names nothing and without its pointers.
 TEST_F(GdiObjects, BadHandlesAndPointersFailSoftly) {
-  HDC stale = gdi.open_dc(surface, {0, 0}, Region(surface->rect()));
+  HDC stale = open(surface);
   gdi.close_dc(stale);
   SIZE size{};
   RECT rect{0, 0, 10, 10};
@@ -98,6 +92,10 @@ TEST_F(GdiObjects, BadHandlesAndPointersFailSoftly) {
     EXPECT_EQ(SaveDC(bad), 0);
     EXPECT_FALSE(RestoreDC(bad, -1));
     EXPECT_EQ(GetClipBox(bad, &rect), 0);
+    EXPECT_EQ(IntersectClipRect(bad, 0, 0, 5, 5), 0);
+    EXPECT_EQ(ExcludeClipRect(bad, 0, 0, 5, 5), 0);
+    EXPECT_FALSE(RectVisible(bad, &rect));
+    EXPECT_FALSE(SetViewportOrgEx(bad, 0, 0, nullptr));
     EXPECT_EQ(CreateCompatibleBitmap(bad, 1, 1), nullptr);
     EXPECT_EQ(CreateCompatibleDC(bad ? bad : stale), nullptr);
     EXPECT_EQ(gdi.dc_surface(bad, nullptr), nullptr);
@@ -106,7 +104,9 @@ TEST_F(GdiObjects, BadHandlesAndPointersFailSoftly) {
   }
   EXPECT_EQ(FillRect(dc, nullptr, GetSysColorBrush(0)), 0);
   EXPECT_EQ(FillRect(dc, &rect, reinterpret_cast<HBRUSH>(dc)), 0);
-  EXPECT_EQ(DrawTextW(dc, nullptr, -1, &rect, 0), 0);
+  EXPECT_EQ(GetClipBox(dc, nullptr), 0);
+  EXPECT_FALSE(RectVisible(dc, nullptr));
+  for (const int length : {-1, 1}) EXPECT_EQ(DrawTextW(dc, nullptr, length, &rect, 0), 0);
   EXPECT_EQ(DrawTextW(dc, L"x", 1, nullptr, 0), 0);
   EXPECT_FALSE(GetTextExtentPoint32W(dc, L"x", 1, nullptr));
   EXPECT_FALSE(GetTextMetricsW(dc, nullptr));
@@ -130,6 +130,7 @@ TEST_F(GdiObjects, HandlesOfAnotherSystemNameNothing) {
   EXPECT_EQ(Gdi::current(), nullptr);
   EXPECT_EQ(CreateSolidBrush(0), nullptr);
   EXPECT_EQ(GetStockObject(BLACK_PEN), nullptr);
+  EXPECT_EQ(GetObjectW(pen, 0, nullptr), 0);
   Gdi::set_current(&gdi);
   EXPECT_TRUE(DeleteObject(pen));
 }
@@ -158,16 +159,16 @@ TEST_F(GdiObjects, SaveAndRestore) {
 }
 
 TEST_F(GdiObjects, FontDescriptionIsGivenBack) {
+  constexpr int kWhole = sizeof(LOGFONTW);
   HFONT font = CreateFontW(15, 0, 0, 0, FW_BOLD, 1, 0, 0, DEFAULT_CHARSET, 0, 0,
                            ANTIALIASED_QUALITY, 0, L"a face name that is much too long for it");
   LOGFONTW description{};
-  EXPECT_EQ(GetObjectW(font, sizeof description, &description),
-            static_cast<int>(sizeof description));
+  EXPECT_EQ(GetObjectW(font, kWhole, &description), kWhole);
   EXPECT_EQ(description.lfHeight, 15);
   EXPECT_EQ(description.lfWeight, FW_BOLD);
   EXPECT_EQ(std::wstring(description.lfFaceName), L"a face name that is much too lo");
   EXPECT_EQ(GetObjectW(font, 3, &description), 0);
-  EXPECT_EQ(GetObjectW(font, 0, nullptr), static_cast<int>(sizeof description));
+  EXPECT_EQ(GetObjectW(font, 0, nullptr), kWhole);
   DeleteObject(font);
 }
 
