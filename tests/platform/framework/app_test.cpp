@@ -1,4 +1,4 @@
-#include <gtest/gtest.h>
+#include <optional>
 
 #include "tests/platform/framework/watched_wnd.h"
 #include "tests/support/own_system.h"
@@ -69,10 +69,9 @@ TEST_F(FrameworkApp, FiltersAreAskedFromTheWindowUpAndThoseOfAPopUpBeforeTheMain
                {button_, nullptr, "button popup main button! "},
                {button_, &popup_, "button popup "},
                {popup_, &main_, "popup main "}};
-  for (const auto& each : cases) {
-    if (each.swallowing != nullptr) each.swallowing->swallows = true;
-    EXPECT_EQ(press(each.window), each.seen);
-    if (each.swallowing != nullptr) each.swallowing->swallows = false;
+  for (const auto& [window, swallowing, seen] : cases) {
+    for (FilterWnd* each : {&main_, &child_, &popup_}) each->swallows = each == swallowing;
+    EXPECT_EQ(press(window), seen);
   }
 }
 
@@ -103,29 +102,23 @@ TEST_F(FrameworkApp, TheApplicationMayFilterItself) {
 
 TEST(FrameworkAppLife, TheLastOneMadeIsTheThreadsOne) {
   const test::Desktop desktop;
-  EXPECT_EQ(AfxGetApp(), nullptr);
   EXPECT_EQ(AfxGetMainWnd(), nullptr);
-  {
-    CWinApp outer;
-    {
-      CWinApp inner;
-      EXPECT_EQ(AfxGetApp(), &inner);
-    }
-    EXPECT_EQ(AfxGetApp(), &outer);
-  }
+  std::optional<CWinApp> outer(std::in_place), inner(std::in_place);
+  EXPECT_EQ(AfxGetApp(), &*inner);
+  inner.reset();
+  EXPECT_EQ(AfxGetApp(), &*outer);
+  outer.reset();
   EXPECT_EQ(AfxGetApp(), nullptr);
 }
 
 class TestApp : public CWinApp {
  public:
-  explicit TestApp(bool starts) : starts_(starts) {}
   bool InitInstance() override {
     calls += "init ";
-    if (!starts_) return false;
     window.create();
     m_pMainWnd = &window;
     window.SetTimer(1, 50);
-    return true;
+    return starts;
   }
   int ExitInstance() override {
     calls += "exit ";
@@ -136,22 +129,19 @@ class TestApp : public CWinApp {
     return count < 2;
   }
 
+  bool starts = true;
   std::string calls;
-  int idle_turns = 0;
-  int ticks = 0;
+  int idle_turns = 0, ticks = 0;
   std::function<void()> at_third_tick;
   WatchedWnd window{[this](UINT message, WPARAM, LPARAM) {
     if (message == WM_TIMER && ++ticks == 3) at_third_tick();
   }};
-
- private:
-  bool starts_;
 };
 
 TEST(FrameworkAppRun, EndsWithTheCodeOfTheQuitMessageOrTheMainWindow) {
   for (const int code : {42, 0}) {
     const test::Desktop desktop;
-    TestApp app(true);
+    TestApp app;
     app.at_third_tick = [&app, code] {
       code == 0 ? static_cast<void>(app.window.DestroyWindow()) : ::PostQuitMessage(code);
     };
@@ -161,6 +151,13 @@ TEST(FrameworkAppRun, EndsWithTheCodeOfTheQuitMessageOrTheMainWindow) {
     EXPECT_GE(app.idle_turns, 3);
     EXPECT_EQ(app.m_pMainWnd == nullptr, code == 0);
   }
+  const test::Desktop desktop;
+  TestApp app;
+  app.starts = false;
+  EXPECT_EQ(RunApp(app), 0);
+  EXPECT_EQ(app.calls, "init exit ");
+  EXPECT_EQ(app.ticks, 0) << "what did not start does not run";
+  EXPECT_FALSE(app.CWinApp::OnIdle(0));
 }
 
 TEST(FrameworkAppRun, ATurnHandlesWhatWaitsAndTellsOfTheQuitMessage) {
@@ -179,28 +176,16 @@ TEST(FrameworkAppRun, ATurnHandlesWhatWaitsAndTellsOfTheQuitMessage) {
   EXPECT_FALSE(PumpMessages());
 }
 
-TEST(FrameworkAppRun, DoesNotRunWhatDidNotStart) {
-  const test::Desktop desktop;
-  TestApp app(false);
-  EXPECT_EQ(RunApp(app), 0);
-  EXPECT_EQ(app.calls, "init exit ");
-}
-
 // The tests' environment names the display in memory.
 TEST(FrameworkAppSession, UsesTheWindowSystemThatThereIsOrMakesOne) {
-  EXPECT_EQ(system::WindowSystem::current(), nullptr);
   {
     const CWinApp app;
     EXPECT_NE(system::WindowSystem::current(), nullptr);
-    WatchedWnd window;
-    EXPECT_TRUE(window.create());
+    EXPECT_TRUE(WatchedWnd().create());
   }
   EXPECT_EQ(system::WindowSystem::current(), nullptr);
   test::Desktop desktop;
-  {
-    const CWinApp app;
-    EXPECT_EQ(system::WindowSystem::current(), &desktop.own().windows);
-  }
+  const CWinApp app;
   EXPECT_EQ(system::WindowSystem::current(), &desktop.own().windows);
 }
 

@@ -1,11 +1,8 @@
 // Handlers that delete their own object, its parent, or only its window, in every message. With the
 // address sanitizer these fail on any touch of what is gone.
-#include <gtest/gtest.h>
-
 #include <set>
 
 #include "tests/platform/framework/watched_wnd.h"
-#include "tests/support/desktop.h"
 
 namespace corvane {
 namespace {
@@ -109,9 +106,8 @@ void go_through_everything(test::Desktop& desktop, HWND window) {
   desktop.send_mouse(MOUSEEVENTF_LEFTDOWN);
   turn();
   for (const DWORD flag : {MOUSEEVENTF_LEFTUP, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP,
-                           MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP}) {
+                           MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP})
     desktop.send_mouse(flag);
-  }
   desktop.send_mouse(MOUSEEVENTF_WHEEL, 120);
   turn();
   desktop.key('A');
@@ -179,26 +175,21 @@ INSTANTIATE_TEST_SUITE_P(InEveryMessage, FrameworkDeletion,
                                          Deed::delete_parent));
 
 TEST(FrameworkDeletionAtTheEnd, PostNcDestroyMayDeleteTheObject) {
-  class SelfDeleting : public WatchedWnd {
+  class SelfDeleting : public FragileWnd {
    public:
-    explicit SelfDeleting(int& deleted) : deleted_(deleted) {}
-    ~SelfDeleting() override { ++deleted_; }
+    using FragileWnd::FragileWnd;
 
    protected:
     void PostNcDestroy() override { delete this; }
-
-   private:
-    int& deleted_;
   };
-  int deleted = 0;
   const test::Desktop desktop;
-  auto* const window = new SelfDeleting(deleted);
-  ASSERT_TRUE(window->create());
-  window->DestroyWindow();
-  EXPECT_EQ(deleted, 1);
-  auto* const failing = new SelfDeleting(deleted);
-  EXPECT_FALSE(failing->CreateEx(0, L"no such class", L"", 0, CRect(), nullptr, 0));
-  EXPECT_EQ(deleted, 2);
+  Session session;
+  for (const UINT refused : {WM_NULL, WM_CREATE}) {
+    auto* const window = new SelfDeleting(session);
+    window->refuses = refused;
+    if (window->create()) window->DestroyWindow();
+    EXPECT_EQ(session.alive, 0);
+  }
 }
 
 }  // namespace

@@ -1,18 +1,11 @@
-#include <gtest/gtest.h>
-
 #include "tests/platform/framework/watched_wnd.h"
-#include "tests/support/desktop.h"
 
 namespace corvane {
 namespace {
 
-class FrameworkDrawing : public testing::Test {
+class FrameworkDrawing : public WatchedWndTest {
  protected:
-  void SetUp() override { ASSERT_TRUE(window_.create()); }
   int objects() { return desktop_.living_drawing_objects(); }
-
-  test::Desktop desktop_;
-  WatchedWnd window_;
 };
 
 TEST_F(FrameworkDrawing, ObjectsAreFreedWithTheirOwners) {
@@ -65,8 +58,7 @@ TEST_F(FrameworkDrawing, FillsAndFrames) {
   CClientDC client(&window_);
   client.SetBkColor(RGB(7, 7, 7));
   EXPECT_TRUE(client.FillSolidRect(CRect(10, 10, 20, 20), RGB(200, 100, 50)));
-  EXPECT_EQ(::GetPixel(client, 10, 10), RGB(200, 100, 50));
-  EXPECT_EQ(::GetPixel(client, 19, 19), RGB(200, 100, 50));
+  for (const int at : {10, 19}) EXPECT_EQ(::GetPixel(client, at, at), RGB(200, 100, 50));
   EXPECT_NE(::GetPixel(client, 20, 19), RGB(200, 100, 50));
   EXPECT_EQ(::GetBkColor(client), RGB(7, 7, 7));
   CPen pen(PS_SOLID, 1, RGB(0, 0, 255));
@@ -76,6 +68,9 @@ TEST_F(FrameworkDrawing, FillsAndFrames) {
   client.SelectObject(old);
   EXPECT_EQ(::GetPixel(client, 4, 5), RGB(0, 0, 255));
   EXPECT_FALSE(client.FillSolidRect(nullptr, 0));
+  SIZE size{};
+  ASSERT_TRUE(::GetTextExtentPoint32W(client, L"text", 4, &size));
+  EXPECT_EQ(client.GetTextExtent(L"text"), CSize(size));
 }
 
 TEST_F(FrameworkDrawing, FontsTellWhatTheyWereMadeOf) {

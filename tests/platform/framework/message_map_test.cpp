@@ -4,7 +4,7 @@
 
 #include <concepts>
 #include <string>
-#include <vector>
+#include <tuple>
 
 #include "corvane/platform/framework/scroll_bar.h"
 #include "corvane/platform/framework/wnd.h"
@@ -140,16 +140,13 @@ class Base : public CWnd {
     static const MessageMap map = kMessages.extending(CWnd::GetMessageMap());
     return &map;
   }
-  std::vector<std::string> calls;
+  std::string calls;
 
  protected:
-  void OnClose() { calls.push_back("base close"); }
-  void OnDestroy() { calls.push_back("base destroy"); }
-  LRESULT OnRegisteredMessage(WPARAM, LPARAM) {
-    calls.push_back("base registered");
-    return 0;
-  }
-  void OnMenu() { calls.push_back("base menu"); }
+  void OnClose() { calls += "base close"; }
+  void OnDestroy() { calls += "base destroy"; }
+  LRESULT OnRegisteredMessage(WPARAM, LPARAM) { return calls += "base registered", 0; }
+  void OnMenu() { calls += "base menu"; }
 };
 
 // A class without rows of its own between two that have some.
@@ -167,52 +164,40 @@ class Derived : public Middle {
 
  protected:
   void OnClose() {
-    calls.push_back("derived close");
+    calls += "derived close, ";
     Base::OnClose();
   }
-  void OnTimer(UINT_PTR) { calls.push_back("derived timer"); }
-  void OnButton() { calls.push_back("derived button"); }
+  void OnTimer(UINT_PTR) { calls += "derived timer"; }
+  void OnButton() { calls += "derived button"; }
 };
 
-std::vector<std::string> calls_of(Base& target, const MessageMatch& match) {
-  target.calls.clear();
+std::string calls_of(const MessageMatch& match) {
+  Derived target;
   LRESULT result = 0;
-  if (match) match.call(target, 0, 0, result);
-  return target.calls;
+  return match && match.call(target, 0, 0, result) ? target.calls : "no row";
 }
-
-using Calls = std::vector<std::string>;
 
 TEST(FrameworkMessageMap, SearchesTheClassBeforeItsBases) {
-  Derived derived;
-  Base base;
-  const MessageMap* map = derived.GetMessageMap();
-  EXPECT_EQ(calls_of(derived, map->find(WM_CLOSE)), (Calls{"derived close", "base close"}));
-  EXPECT_EQ(calls_of(derived, map->find(WM_DESTROY)), (Calls{"base destroy"}));
-  EXPECT_EQ(calls_of(derived, map->find(WM_TIMER)), (Calls{"derived timer"}));
-  EXPECT_EQ(calls_of(base, base.GetMessageMap()->find(WM_CLOSE)), (Calls{"base close"}));
-  EXPECT_FALSE(base.GetMessageMap()->find(WM_TIMER));
-  EXPECT_FALSE(map->find(WM_PAINT));
-}
-
-TEST(FrameworkMessageMap, KnowsARegisteredMessageFromWhenItIsRegistered) {
-  Derived derived;
+  const Derived derived;
   const MessageMap* map = derived.GetMessageMap();
   Base::registered = 0;
   EXPECT_FALSE(map->find(0)) << "not registered yet, and not the null message";
   Base::registered = 0xC123;
-  EXPECT_EQ(calls_of(derived, map->find(0xC123)), (Calls{"base registered"}));
-  EXPECT_FALSE(map->find(0xC124));
-}
-
-TEST(FrameworkMessageMap, TellsCommandsByIdAndCode) {
-  Derived derived;
-  const MessageMap* map = derived.GetMessageMap();
-  EXPECT_EQ(calls_of(derived, map->find_command(kCommand, 0)), (Calls{"base menu"}));
-  EXPECT_EQ(calls_of(derived, map->find_command(kCommand, 3)), (Calls{"derived button"}));
-  EXPECT_FALSE(map->find_command(kCommand, 4));
-  EXPECT_FALSE(map->find_command(WM_CLOSE, 0)) << "a message's number is no command";
-  EXPECT_FALSE(map->find(kCommand)) << "a command's id is no message";
+  const std::pair<UINT, const char*> messages[] = {{WM_CLOSE, "derived close, base close"},
+                                                   {WM_DESTROY, "base destroy"},
+                                                   {WM_TIMER, "derived timer"},
+                                                   {WM_PAINT, "no row"},
+                                                   {0xC123, "base registered"},
+                                                   {0xC124, "no row"},
+                                                   {kCommand, "no row"}};
+  for (const auto& [message, calls] : messages) EXPECT_EQ(calls_of(map->find(message)), calls);
+  EXPECT_FALSE(Base().GetMessageMap()->find(WM_TIMER));
+  const std::tuple<UINT, UINT, const char*> commands[] = {{kCommand, 0, "base menu"},
+                                                          {kCommand, 3, "derived button"},
+                                                          {kCommand, 4, "no row"},
+                                                          {WM_CLOSE, 0, "no row"}};
+  for (const auto& [id, code, calls] : commands)
+    EXPECT_EQ(calls_of(map->find_command(id, code)), calls) << id << ", " << code;
 }
 
 // What On<message>(...) refuses to compile.
