@@ -8,13 +8,6 @@
 #include "tests/support/bitmap_file.h"
 
 namespace corvane::test {
-const MessageMap* ControlHost::GetMessageMap() const {
-  static constexpr auto kMessages = MessageTable(On<WM_LBUTTONDOWN>(&ControlHost::OnLButtonDown),
-                                                 On<WM_ERASEBKGND>(&ControlHost::OnEraseBkgnd),
-                                                 On<WM_PAINT>(&ControlHost::OnPaint));
-  static const MessageMap map = kMessages.extending(CWnd::GetMessageMap());
-  return &map;
-}
 
 BOOL ControlHost::OnCommand(WPARAM wparam, LPARAM lparam) {
   commands.push_back({wparam, reinterpret_cast<HWND>(lparam), ::GetFocus(), ::GetCapture()});
@@ -22,20 +15,15 @@ BOOL ControlHost::OnCommand(WPARAM wparam, LPARAM lparam) {
   return TRUE;
 }
 
-void ControlHost::OnLButtonDown(UINT, CPoint point) { presses.push_back(point); }
-
-BOOL ControlHost::OnEraseBkgnd(CDC*) { return TRUE; }
-
-void ControlHost::OnPaint() {
-  CPaintDC dc(this);
-  CRect client;
-  GetClientRect(client);
-  dc.FillSolidRect(client, RGB(200, 180, 160));
+LRESULT ControlHost::WindowProc(UINT message, WPARAM wparam, LPARAM lparam) {
+  if (message == WM_LBUTTONDOWN) presses.emplace_back(LOWORD(lparam), HIWORD(lparam));
+  return CWnd::WindowProc(message, wparam, lparam);
 }
 
 ControlTest::ControlTest() : Desktop({400, 300}) {
   SetSkinFolder(folder_.wide());
-  EXPECT_TRUE(host_->CreateEx(0, nullptr, L"host", WS_POPUP | WS_VISIBLE, CRect(0, 0, 400, 300),
+  const CString host_class = AfxRegisterWndClass(0, nullptr, ::CreateSolidBrush(kHostColor));
+  EXPECT_TRUE(host_->CreateEx(0, host_class, L"host", WS_POPUP | WS_VISIBLE, CRect(0, 0, 400, 300),
                               nullptr, 0));
   pump();
 }

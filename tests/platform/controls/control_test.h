@@ -19,20 +19,15 @@ class ControlHost : public CWnd {
  public:
   struct Command {
     WPARAM wparam;
-    HWND sender;
-    HWND focus;
-    HWND capture;
+    HWND sender, focus, capture;
   };
   std::vector<Command> commands;
   std::vector<CPoint> presses;  // WM_LBUTTONDOWN, client coordinates
   std::function<void()> on_command;
 
  protected:
-  const MessageMap* GetMessageMap() const override;
   BOOL OnCommand(WPARAM wparam, LPARAM lparam) override;
-  void OnLButtonDown(UINT flags, CPoint point);
-  BOOL OnEraseBkgnd(CDC* dc);
-  void OnPaint();
+  LRESULT WindowProc(UINT message, WPARAM wparam, LPARAM lparam) override;
 };
 
 LOGFONTW font_of(int height, int weight, const wchar_t* face);

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 #include <cstring>
-#include <string_view>
+#include <map>
 
 #include "corvane/platform/controls/ui_ctrl_mgr.h"
 #include "corvane/platform/drawing/gdi_dc.h"
@@ -26,9 +26,7 @@ class GdiBtnEx : public test::ControlTest {
   GdiBtnEx() {
     control_.id = kId;
     control_.rect = {50, 40, 146, 80};
-    button_ = std::make_unique<CGdiBtnEx>();
   }
-  ~GdiBtnEx() override { button_.reset(); }
 
   void with_images() {
     const struct {
@@ -50,12 +48,9 @@ class GdiBtnEx : public test::ControlTest {
               CWnd* parent = nullptr) {
     const _MYLANGUAGE language{1, caption, 0};
     CRect rect;
-    ASSERT_EQ(
-        CUICtrlMgr().LoadGdiBtn(*button_, rect,
-                                {parent != nullptr ? parent : host_.get(),
-                                 kId,
-                                 {&control_, caption != nullptr ? &language : nullptr, font}}),
-        1);
+    CWnd* const owner = parent != nullptr ? parent : host_.get();
+    const SkinnedControl skin{&control_, caption != nullptr ? &language : nullptr, font};
+    ASSERT_EQ(CUICtrlMgr().LoadGdiBtn(*button_, rect, {owner, kId, skin}), 1);
     EXPECT_EQ(rect, CRect(control_.rect));
     pump();
   }
@@ -86,8 +81,23 @@ class GdiBtnEx : public test::ControlTest {
   std::size_t clicks() const { return host_->commands.size(); }
   COLORREF face() { return pixel(51, 41); }
 
+  // What is done to the button, its face then, and how many clicks there were.
+  struct Step {
+    std::function<void()> act;
+    COLORREF face;
+    std::size_t clicks;
+  };
+  void play(const std::vector<Step>& steps) {
+    for (const Step& step : steps) {
+      step.act();
+      pump();
+      EXPECT_EQ(std::pair(face(), clicks()), std::pair(step.face, step.clicks))
+          << &step - steps.data();
+    }
+  }
+
   _MYCONTROL control_;
-  std::unique_ptr<CGdiBtnEx> button_;
+  std::unique_ptr<CGdiBtnEx> button_ = std::make_unique<CGdiBtnEx>();
 };
 
 TEST_F(GdiBtnEx, AClickSendsItsCommandWhileTheReleaseIsHandled) {
@@ -112,18 +122,18 @@ TEST_F(GdiBtnEx, AClickSendsItsCommandWhileTheReleaseIsHandled) {
 }
 
 TEST_F(GdiBtnEx, OnlyAReleaseInsideAfterAPressInsideClicks) {
+  with_images();
   create();
-  press_at(kX, kY);
-  release_at(kOutX, kOutY);
-  EXPECT_EQ(clicks(), 0u);
-  press_at(kOutX, kOutY);
-  release_at(kX, kY);
-  EXPECT_EQ(clicks(), 0u);
-  press_at(kX, kY);
-  move_to(kOutX, kOutY);
-  move_to(kX, kY);
-  release_at(kX, kY);
-  EXPECT_EQ(clicks(), 1u);
+  play({{[&] { press_at(kX, kY); }, kPressed, 0},
+        {[&] { move_to(kOutX, kOutY); }, kNormal, 0},
+        {[&] { release_at(kOutX, kOutY); }, kNormal, 0},
+        {[&] { press_at(kOutX, kOutY); }, kNormal, 0},
+        {[&] { release_at(kX, kY); }, kHover, 0},
+        {[&] { press_at(kX, kY); }, kPressed, 0},
+        {[&] { move_to(kOutX, kOutY); }, kNormal, 0},
+        {[&] { move_to(kX, kY); }, kPressed, 0},
+        {[&] { release_at(kX, kY); }, kHover, 1},
+        {[&] { move_to(kOutX, kOutY); }, kNormal, 1}});
   EXPECT_EQ(host_->presses.size(), 1u);  // the one beside the button
 }
 
@@ -143,53 +153,42 @@ TEST_F(GdiBtnEx, TheSpaceBarClicksWhenItIsLetGo) {
   with_images();
   create();
   button_->SetFocus();
-  key_down(VK_SPACE);
-  EXPECT_EQ(face(), kPressed);
-  EXPECT_EQ(clicks(), 0u);
-  key_down(VK_SPACE);
-  key_up(VK_SPACE);
-  EXPECT_EQ(clicks(), 1u);
-  EXPECT_EQ(face(), kNormal);
-  key_down(VK_SPACE);
-  host_->SetFocus();
-  key_up(VK_SPACE);
-  EXPECT_EQ(clicks(), 1u);
-  button_->SetFocus();
-  for (const int other : {VK_RETURN, VK_ESCAPE}) key(other);
-  EXPECT_EQ(clicks(), 1u);
+  play({{[&] { key_down(VK_SPACE); }, kPressed, 0},
+        {[&] { key_down(VK_SPACE); }, kPressed, 0},
+        {[&] { key_up(VK_SPACE); }, kNormal, 1},
+        {[&] { key_down(VK_SPACE); }, kPressed, 1},
+        {[&] { host_->SetFocus(); }, kNormal, 1},
+        {[&] { key_up(VK_SPACE); }, kNormal, 1},
+        {[&] { button_->SetFocus(); }, kNormal, 1},
+        {[&] { key(VK_RETURN); }, kNormal, 1},
+        {[&] { key(VK_ESCAPE); }, kNormal, 1}});
 }
 
 TEST_F(GdiBtnEx, AHiddenButtonForgetsThePointer) {
   with_images();
   create();
-  move_to(kX, kY);
-  ASSERT_EQ(face(), kHover);
-  button_->ShowWindow(SW_HIDE);
-  move_to(kOutX, kOutY);
-  button_->ShowWindow(SW_SHOW);
-  pump();
-  EXPECT_EQ(face(), kNormal);
-  move_to(kX, kY);
-  EXPECT_EQ(face(), kHover);
-  move_to(kOutX, kOutY);
-  EXPECT_EQ(face(), kNormal);
+  const COLORREF host = kHostColor;
+  play({{[&] { move_to(kX, kY); }, kHover, 0},
+        {[&] { button_->ShowWindow(SW_HIDE); }, host, 0},
+        {[&] { move_to(kOutX, kOutY); }, host, 0},
+        {[&] { button_->ShowWindow(SW_SHOW); }, kNormal, 0},
+        {[&] { move_to(kX, kY); }, kHover, 0},
+        {[&] { move_to(kOutX, kOutY); }, kNormal, 0}});
 }
 
 TEST_F(GdiBtnEx, TheParentMayDestroyItInAnswerToAClick) {
-  const struct {
-    const char* name;
-    std::function<void()> act;
-  } cases[] = {{"the window", [&] { button_->DestroyWindow(); }},
-               {"the object", [&] { button_.reset(); }},
-               {"the parent", [&] { host_->DestroyWindow(); }}};
-  for (const auto& each : cases) {
+  const std::pair<const char*, std::function<void()>> cases[] = {
+      {"the window", [&] { button_->DestroyWindow(); }},
+      {"the object", [&] { button_.reset(); }},
+      {"the parent", [&] { host_->DestroyWindow(); }}};
+  for (const auto& [name, act] : cases) {
     if (!button_) button_ = std::make_unique<CGdiBtnEx>();
     create();
     host_->commands.clear();
-    host_->on_command = each.act;
+    host_->on_command = act;
     click(kX, kY);
-    EXPECT_EQ(clicks(), 1u) << each.name;
-    EXPECT_TRUE(!button_ || !button_->GetSafeHwnd()) << each.name;
+    EXPECT_EQ(clicks(), 1u) << name;
+    EXPECT_TRUE(!button_ || !button_->GetSafeHwnd()) << name;
   }
 }
 
@@ -199,8 +198,7 @@ TEST_F(GdiBtnEx, WhatHappensBetweenPressAndReleaseCanPreventTheClick) {
   create(nullptr, nullptr, &panel);
   const struct {
     const char* name;
-    std::function<void()> act;
-    std::function<void()> undo;
+    std::function<void()> act, undo;
   } cases[] = {
       {"hidden", [&] { button_->ShowWindow(SW_HIDE); }, [&] { button_->ShowWindow(SW_SHOW); }},
       {"parent hidden", [&] { panel.ShowWindow(SW_HIDE); }, [&] { panel.ShowWindow(SW_SHOW); }},
@@ -229,7 +227,7 @@ TEST_F(GdiBtnEx, WhatHappensBetweenPressAndReleaseCanPreventTheClick) {
 
 TEST_F(GdiBtnEx, EachLookIsItsImageAndTheCaptionInItsColour) {
   with_images();
-  const std::pair<ButtonLook, std::pair<COLORREF, COLORREF>> looks[] = {
+  std::map<ButtonLook, std::pair<COLORREF, COLORREF>> looks = {
       {ButtonLook::normal, {kNormal, control_.text_color = RGB(255, 250, 245)}},
       {ButtonLook::hover, {kHover, control_.hover_text_color = RGB(255, 255, 0)}},
       {ButtonLook::pressed, {kPressed, control_.pressed_text_color = RGB(0, 255, 255)}},
@@ -251,10 +249,7 @@ TEST_F(GdiBtnEx, EachLookIsItsImageAndTheCaptionInItsColour) {
   for (const auto& each : cases) {
     create(each.caption, each.font);
     in_each_look([&](ButtonLook look) {
-      const auto [face, text] =
-          std::find_if(std::begin(looks), std::end(looks), [look](const auto& one) {
-            return one.first == look;
-          })->second;
+      const auto [face, text] = looks.at(look);
       expect_shown(control_.rect, {face, {}, each.caption, each.expected, box, text});
     });
   }
@@ -265,29 +260,25 @@ TEST_F(GdiBtnEx, EachLookIsItsImageAndTheCaptionInItsColour) {
 }
 
 TEST_F(GdiBtnEx, WithoutImagesItIsPlainAndItsFaceSuitsTheCaption) {
-  const struct {
-    COLORREF text;
-    bool dark;
-  } cases[] = {{RGB(0, 0, 0), false},
-               {RGB(240, 106, 49), false},
-               {RGB(240, 107, 50), true},
-               {RGB(255, 255, 255), true}};
-  for (const auto& each : cases) {
-    SCOPED_TRACE(each.text);
+  const std::pair<COLORREF, bool> cases[] = {{RGB(0, 0, 0), false},
+                                             {RGB(240, 106, 49), false},
+                                             {RGB(240, 107, 50), true},
+                                             {RGB(255, 255, 255), true}};
+  for (const auto& [text, dark] : cases) {
+    SCOPED_TRACE(text);
     control_.text_color = control_.hover_text_color = control_.pressed_text_color =
-        control_.disabled_text_color = control_.selected_text_color = each.text;
+        control_.disabled_text_color = control_.selected_text_color = text;
     create(L"保存");
     in_each_look([&](ButtonLook look) {
       constexpr int kShades[] = {0, 12, -24, 0, -12};  // in the looks' order
-      const auto shaded = [&, shade = kShades[static_cast<int>(look)]](int deeper) {
-        const auto channel = [&](int light, int dark) {
-          return std::max((each.dark ? dark : light) + shade - deeper, 0);
+      const auto shaded = [on = dark, shade = kShades[static_cast<int>(look)]](int deeper) {
+        const auto channel = [&](int light, int dim) {
+          return std::max((on ? dim : light) + shade - deeper, 0);
         };
         return RGB(channel(232, 60), channel(234, 68), channel(236, 76));
       };
-      expect_shown(control_.rect,
-                   {shaded(0), shaded(48), L"保存", test::font_of(-14, FW_NORMAL, L"宋体"),
-                    control_.rect, each.text});
+      expect_shown(control_.rect, {shaded(0), shaded(48), L"保存",
+                                   test::font_of(-14, FW_NORMAL, L"宋体"), control_.rect, text});
     });
   }
 }
@@ -304,30 +295,12 @@ TEST_F(GdiBtnEx, WithoutRecordsItsCaptionIsBlackAndGreyWhenDisabled) {
   expect_shown(place, shown);
 }
 
-TEST_F(GdiBtnEx, FollowsThePointerWhilePressed) {
-  with_images();
-  create();
-  press_at(kX, kY);
-  EXPECT_EQ(face(), kPressed);
-  move_to(kOutX, kOutY);
-  EXPECT_EQ(face(), kNormal);
-  move_to(kX, kY);
-  EXPECT_EQ(face(), kPressed);
-  release_at(kX, kY);
-  EXPECT_EQ(face(), kHover);
-  move_to(kOutX, kOutY);
-  EXPECT_EQ(face(), kNormal);
-}
-
 TEST_F(GdiBtnEx, AStateWithoutItsImageShowsTheNormalOne) {
   with_images();
   control_.hover_image.Empty();
   control_.pressed_image = L"no such file.png";
   create();
-  move_to(kX, kY);
-  EXPECT_EQ(face(), kNormal);
-  press_at(kX, kY);
-  EXPECT_EQ(face(), kNormal);
+  play({{[&] { move_to(kX, kY); }, kNormal, 0}, {[&] { press_at(kX, kY); }, kNormal, 0}});
 }
 
 TEST_F(GdiBtnEx, OnlyTheKeyboardBringsAFocusRing) {
@@ -444,13 +417,9 @@ TEST_F(GdiBtnEx, ANewWindowOfTheObjectStartsAfreshButForItsSelection) {
   release_at(kOutX, kOutY);
   EXPECT_EQ(button_->GetIsSelected(), 1);
   button_->SetSelected(0);
-  create();
-  EXPECT_EQ(face(), kNormal);
-  advance(1000);
-  click(kX, kY);
-  EXPECT_EQ(clicks(), 1u);
-  move_to(kOutX, kOutY);
-  EXPECT_EQ(face(), kNormal);
+  play({{[&] { create(); }, kNormal, 0},
+        {[&] { click(kX, kY); }, kHover, 1},
+        {[&] { move_to(kOutX, kOutY); }, kNormal, 1}});
 }
 
 TEST_F(GdiBtnEx, ItsPressesCanBePostedToTheParentToo) {
@@ -482,6 +451,9 @@ TEST_F(GdiBtnEx, WithoutRecordsOrParentItHasNoSizeOrNoWindow) {
     EXPECT_TRUE(rect.IsRectNull());
     pump();
   }
+  create();  // with a record again
+  button_->GetClientRect(rect);
+  EXPECT_EQ(rect.Size(), CRect(control_.rect).Size());
 }
 
 TEST_F(GdiBtnEx, ImagesOfAStateAreLoadedByThemselves) {
