@@ -3,6 +3,7 @@
 
 #include <cstdlib>
 #include <thread>
+#include <tuple>
 
 #include "corvane/platform/system/display/headless_display.h"
 #include "corvane/platform/system/display/open_display.h"
@@ -27,12 +28,11 @@ TEST(HeadlessDisplay, PresentsOnlyTheDamage) {
   display.present(frame, damage);
 
   EXPECT_EQ(display.presents(), 2);
-  EXPECT_EQ(display.frame().at(4, 4), 0xFF112233);
-  EXPECT_EQ(display.frame().at(5, 4), 0xFF00FF00);
-  EXPECT_EQ(display.frame().at(6, 4), 0xFF445566);
-  EXPECT_EQ(display.frame().at(7, 4), 0xFF112233);
-  EXPECT_EQ(display.frame().at(19, 7), 0xFF112233);
-  EXPECT_EQ(display.frame().at(0, 9), 0xFF445566);
+  const std::tuple<int, int, Pixel> seen[] = {{4, 4, 0xFF112233},  {5, 4, 0xFF00FF00},
+                                              {6, 4, 0xFF445566},  {7, 4, 0xFF112233},
+                                              {19, 7, 0xFF112233}, {0, 9, 0xFF445566}};
+  for (const auto& [x, y, color] : seen)
+    EXPECT_EQ(display.frame().at(x, y), color) << x << ", " << y;
 }
 
 TEST(HeadlessDisplay, PresentsAFrameOfAnotherSizeWhereBothAre) {
@@ -80,52 +80,32 @@ TEST(HeadlessDisplay, DescriptorTellsOfInput) {
   EXPECT_FALSE(readable(display.event_fd()));
 }
 
-// Changes the environment for as long as it lives; no other window system is named in it.
-class Environment {
- public:
-  Environment() {
-    for (const char* const name : {"WAYLAND_DISPLAY", "SDL_VIDEODRIVER"}) set(name, nullptr);
-  }
-  ~Environment() {
-    for (auto one = saved_.rbegin(); one != saved_.rend(); ++one) {
-      put(one->first, one->second ? one->second->c_str() : nullptr);
-    }
-  }
-  void set(const char* name, const char* value) {
-    const char* const old = std::getenv(name);
-    saved_.emplace_back(name, old != nullptr ? std::optional<std::string>(old) : std::nullopt);
-    put(name, value);
-  }
-
- private:
-  static void put(const char* name, const char* value) {
-    value != nullptr ? setenv(name, value, 1) : unsetenv(name);
-  }
-  std::vector<std::pair<const char*, std::optional<std::string>>> saved_;
-};
+// What is opened with these values of CORVANE_DISPLAY, CORVANE_SCREEN and DISPLAY, and what is
+// said.
+std::pair<std::unique_ptr<Display>, std::string> opened(const std::vector<std::string>& values) {
+  for (const char* const other : {"WAYLAND_DISPLAY", "SDL_VIDEODRIVER"}) unsetenv(other);
+  constexpr const char* kNames[] = {"CORVANE_DISPLAY", "CORVANE_SCREEN", "DISPLAY"};
+  for (std::size_t at = 0; at < std::size(kNames); ++at)
+    values.at(at) == "unset" ? unsetenv(kNames[at]) : setenv(kNames[at], values[at].c_str(), 1);
+  testing::internal::CaptureStderr();
+  auto display = open_display();
+  return {std::move(display), testing::internal::GetCapturedStderr()};
+}
 
 TEST(OpenDisplay, ChoosesMemoryAndSize) {
   for (const auto& row : test::golden_rows("tests/platform/display/memory_displays.txt")) {
-    Environment environment;
-    constexpr const char* kNames[] = {"CORVANE_DISPLAY", "CORVANE_SCREEN", "DISPLAY"};
-    for (std::size_t at = 0; at < std::size(kNames); ++at) {
-      environment.set(kNames[at], row.at(at) == "unset" ? nullptr : row.at(at).c_str());
-    }
-    const std::unique_ptr<Display> display = open_display();
+    const auto [display, said] = opened(row);
     ASSERT_NE(dynamic_cast<HeadlessDisplay*>(display.get()), nullptr);
     const SIZE size = display->size();
     EXPECT_EQ((std::vector<int>{size.cx, size.cy}), test::numbers_of(row.at(3))) << row.at(1);
+    EXPECT_EQ(said.find("CORVANE_DISPLAY=unknown") != said.npos, row.at(0) == "unknown") << said;
   }
 }
 
 TEST(OpenDisplay, AWindowThatCannotBeOpenedIsNone) {
-  Environment environment;
-  environment.set("CORVANE_DISPLAY", "sdl");
-  environment.set("DISPLAY", ":no-such-server");
-  testing::internal::CaptureStderr();
-  EXPECT_EQ(open_display(), nullptr);
-  EXPECT_TRUE(testing::internal::GetCapturedStderr().ends_with(
-      "corvane: the native desktop cannot be reached\n"));
+  const auto [display, said] = opened({"sdl", "unset", ":no-such-server"});
+  EXPECT_EQ(display, nullptr);
+  EXPECT_TRUE(said.ends_with("corvane: the native desktop cannot be reached\n"));
 }
 
 }  // namespace

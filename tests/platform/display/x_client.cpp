@@ -6,28 +6,18 @@
 
 namespace corvane::system {
 
-struct XClient::Connection {
-  ::Display* display;
-};
-
-XClient::XClient() : connection_(nullptr) {
-  if (::Display* const display = XOpenDisplay(nullptr)) connection_ = new Connection{display};
-}
+XClient::XClient() : display_(XOpenDisplay(nullptr)) {}
 
 XClient::~XClient() {
-  if (!connection_) return;
-  XCloseDisplay(connection_->display);
-  delete connection_;
+  if (display_ != nullptr) XCloseDisplay(display_);
 }
 
 unsigned long XClient::window_named(const std::string& title) const {
-  ::Display* const display = connection_->display;
-  ::Window root = 0;
-  ::Window parent = 0;
+  ::Window root = 0, parent = 0, found = 0;
   ::Window* children = nullptr;
   unsigned count = 0;
-  if (!XQueryTree(display, DefaultRootWindow(display), &root, &parent, &children, &count)) return 0;
-  ::Window found = 0;
+  if (!XQueryTree(display_, DefaultRootWindow(display_), &root, &parent, &children, &count))
+    return 0;
   for (unsigned i = 0; i < count; ++i)
     if (title_of(children[i]) == title) found = children[i];
   if (children) XFree(children);
@@ -35,13 +25,11 @@ unsigned long XClient::window_named(const std::string& title) const {
 }
 
 std::string XClient::title_of(unsigned long window) const {
-  ::Display* const display = connection_->display;
   Atom type = 0;
   int format = 0;
-  unsigned long length = 0;
-  unsigned long rest = 0;
+  unsigned long length = 0, rest = 0;
   unsigned char* data = nullptr;
-  XGetWindowProperty(display, window, XInternAtom(display, "_NET_WM_NAME", False), 0, 99, False,
+  XGetWindowProperty(display_, window, XInternAtom(display_, "_NET_WM_NAME", False), 0, 99, False,
                      AnyPropertyType, &type, &format, &length, &rest, &data);
   const std::string title = data ? reinterpret_cast<const char*>(data) : "";
   if (data) XFree(data);
@@ -50,12 +38,12 @@ std::string XClient::title_of(unsigned long window) const {
 
 XClient::Place XClient::place(unsigned long window) const {
   XWindowAttributes found{};
-  XGetWindowAttributes(connection_->display, window, &found);
+  XGetWindowAttributes(display_, window, &found);
   return {found.x, found.y, found.width, found.height, found.map_state == IsViewable};
 }
 
 std::uint32_t XClient::pixel(unsigned long window, int x, int y) const {
-  XImage* const image = XGetImage(connection_->display, window, x, y, 1, 1, AllPlanes, ZPixmap);
+  XImage* const image = XGetImage(display_, window, x, y, 1, 1, AllPlanes, ZPixmap);
   if (!image) return 0;
   const auto pixel = static_cast<std::uint32_t>(XGetPixel(image, 0, 0)) & 0x00FFFFFF;
   XDestroyImage(image);
@@ -63,7 +51,7 @@ std::uint32_t XClient::pixel(unsigned long window, int x, int y) const {
 }
 
 std::vector<unsigned long> XClient::cursor() const {
-  XFixesCursorImage* const image = XFixesGetCursorImage(connection_->display);
+  XFixesCursorImage* const image = XFixesGetCursorImage(display_);
   if (!image) return {};
   const std::vector<unsigned long> pixels(image->pixels,
                                           image->pixels + image->width * image->height);
@@ -73,33 +61,32 @@ std::vector<unsigned long> XClient::cursor() const {
 
 void XClient::damage(unsigned long window, std::uint32_t color) const {
   const Place area = place(window);
-  XSetWindowBackground(connection_->display, window, color);
-  XClearArea(connection_->display, window, area.width / 4, area.height / 4,
+  XSetWindowBackground(display_, window, color);
+  XClearArea(display_, window, area.width / 4, area.height / 4,
              static_cast<unsigned>(area.width / 2), static_cast<unsigned>(area.height / 2), True);
-  XSync(connection_->display, False);
+  XSync(display_, False);
 }
 
 void XClient::ask_to_close(unsigned long window) const {
-  ::Display* const display = connection_->display;
   XEvent event{};
   event.xclient.type = ClientMessage;
   event.xclient.window = window;
-  event.xclient.message_type = XInternAtom(display, "WM_PROTOCOLS", False);
+  event.xclient.message_type = XInternAtom(display_, "WM_PROTOCOLS", False);
   event.xclient.format = 32;
-  event.xclient.data.l[0] = static_cast<long>(XInternAtom(display, "WM_DELETE_WINDOW", False));
-  XSendEvent(display, window, False, NoEventMask, &event);
-  XSync(display, False);
+  event.xclient.data.l[0] = static_cast<long>(XInternAtom(display_, "WM_DELETE_WINDOW", False));
+  XSendEvent(display_, window, False, NoEventMask, &event);
+  XSync(display_, False);
 }
 
 void XClient::take_focus_away() const {
-  XSetInputFocus(connection_->display, None, RevertToNone, CurrentTime);
-  XSync(connection_->display, False);
+  XSetInputFocus(display_, None, RevertToNone, CurrentTime);
+  XSync(display_, False);
 }
 
 void XClient::map_key(int key, unsigned long symbol) const {
   KeySym symbols[] = {symbol, symbol};
-  XChangeKeyboardMapping(connection_->display, key, 2, symbols, 1);
-  XSync(connection_->display, False);
+  XChangeKeyboardMapping(display_, key, 2, symbols, 1);
+  XSync(display_, False);
 }
 
 }  // namespace corvane::system

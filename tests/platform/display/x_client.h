@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+struct _XDisplay;  // what the X library calls Display
+
 namespace corvane::system {
 
 class XClient {
@@ -13,7 +15,7 @@ class XClient {
   XClient(const XClient&) = delete;
   XClient& operator=(const XClient&) = delete;
 
-  bool connected() const { return connection_ != nullptr; }
+  bool connected() const { return display_ != nullptr; }
 
   // A top-level window by its UTF-8 title, 0 when there is none.
   unsigned long window_named(const std::string& title) const;
@@ -37,8 +39,7 @@ class XClient {
 
  private:
   std::string title_of(unsigned long window) const;
-  struct Connection;
-  Connection* connection_;
+  _XDisplay* display_;
 };
 
 }  // namespace corvane::system
