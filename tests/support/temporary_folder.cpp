@@ -37,7 +37,7 @@ TemporaryFolder::~TemporaryFolder() {
 }
 
 void TemporaryFolder::folder(const std::string& name) const {
-  EXPECT_TRUE(fs::create_directory(*this / name)) << name;
+  EXPECT_TRUE(fs::create_directories(*this / name)) << name;
 }
 
 std::string TemporaryFolder::file(const std::string& name, std::string_view content) const {

@@ -21,8 +21,8 @@ class TemporaryFolder {
   std::filesystem::path operator/(const std::filesystem::path& name) const { return path_ / name; }
   std::wstring wide() const { return system::wide_path(path_.native()); }
 
-  // Below the folder; the test fails when it cannot be done. `file` makes the folders to it, too,
-  // and returns its path.
+  // Below the folder; the test fails when it cannot be done. `folder` and `file` make the folders
+  // on the way, too; `file` returns its path.
   void folder(const std::string& name) const;
   std::string file(const std::string& name, std::string_view content = {}) const;
   // So many folders of that name inside each other; no path reaches the innermost ones.

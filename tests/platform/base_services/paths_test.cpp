@@ -79,48 +79,30 @@ TEST_F(InstallationPaths, LanguageTexts) {
                "move=second\n"
                "broken=\xFF\n"
                "empty=\n"
-               "last=End");
-  struct Case {
-    const wchar_t* key;
-    const wchar_t* expected;
-  };
-  const Case cases[] = {{L"first", L"Number one"},
-                        {L"move", L"Move to\nanother \\ place \\t=x"},
-                        {L"broken", L"default"},
-                        {L"empty", L""},
-                        {L"last", L"End"},
-                        {L"Last", L"default"},
-                        {L"no equals sign", L"default"},
-                        {L"", L"default"}};
-  for (const auto& each : cases) {
-    EXPECT_EQ(GetLanguageText(each.key, L"default"), each.expected) << narrow_path(each.key);
-  }
+               "last=End\\");
+  const std::pair<const wchar_t*, const wchar_t*> cases[] = {
+      {L"first", L"Number one"}, {L"move", L"Move to\nanother \\ place \\t=x"},
+      {L"broken", L"default"},   {L"empty", L""},
+      {L"last", L"End\\"},       {L"Last", L"default"},
+      {L"", L"default"},         {L"no equals sign", L"default"}};
+  for (const auto& [key, expected] : cases)
+    EXPECT_EQ(GetLanguageText(key, L"default"), expected) << narrow_path(key);
 }
 
 TEST(Utf8, OnlyValidTextIsTaken) {
-  struct Case {
-    const char* bytes;
-    std::optional<std::wstring> expected;
-  };
-  const Case cases[] = {{"", L""},
-                        {"a\x7F", L"a\x7F"},
-                        {"\xC2\x80", L"\x80"},
-                        {"\xE4\xBF\x9D", L"保"},
-                        {"\xF0\x9F\x93\xB7", L"\U0001F4F7"},
-                        {"\xF4\x8F\xBF\xBF", L"\U0010FFFF"},
-                        {"\xF4\x90\x80\x80", std::nullopt},  // above the last code point
-                        {"\xED\xA0\x80", std::nullopt},      // surrogate
-                        {"\xC0\xAF", std::nullopt},          // longer than needed
-                        {"\xE0\x9F\xBF", std::nullopt},      // longer than needed
-                        {"\xF0\x8F\xBF\xBF", std::nullopt},  // longer than needed
-                        {"\x80", std::nullopt},              // no lead byte
-                        {"\xE4\xBF", std::nullopt},          // cut
-                        {"\xE4\xBF"
-                         "a",
-                         std::nullopt},  // cut
-                        {"\xF8\x88\x80\x80\x80", std::nullopt},
-                        {"\xFF", std::nullopt}};
-  for (const auto& each : cases) EXPECT_EQ(wide_from_utf8(each.bytes), each.expected) << each.bytes;
+  const std::pair<const char*, const wchar_t*> valid[] = {{"", L""},
+                                                          {"a\x7F", L"a\x7F"},
+                                                          {"\xC2\x80", L"\x80"},
+                                                          {"\xE4\xBF\x9D", L"保"},
+                                                          {"\xEE\x80\x80", L"\uE000"},
+                                                          {"\xF0\x9F\x93\xB7", L"\U0001F4F7"},
+                                                          {"\xF4\x8F\xBF\xBF", L"\U0010FFFF"}};
+  for (const auto& [bytes, text] : valid) EXPECT_EQ(wide_from_utf8(bytes), text) << bytes;
+  // Above the last code point, surrogates, longer than needed, no lead byte, cut.
+  for (const char* const bytes :
+       {"\xF4\x90\x80\x80", "\xED\xA0\x80", "\xED\xBF\xBF", "\xC0\xAF", "\xE0\x9F\xBF",
+        "\xF0\x8F\xBF\xBF", "\x80", "\xFF", "\xF8\x88\x80\x80\x80", "\xE4\xBF", "\xE4\xBFz"})
+    EXPECT_EQ(wide_from_utf8(bytes), std::nullopt) << bytes;
 }
 
 }  // namespace
