@@ -19,12 +19,10 @@ class DrawingTest : public testing::Test {
   // A picture of 2 x 2 blocks: red, green above blue, clear.
   static Gdiplus::Bitmap quarters(int size) {
     std::vector<std::uint32_t> pixels;
-    for (int y = 0; y < size; ++y) {
-      for (int x = 0; x < size; ++x) {
-        const bool right = x >= size / 2, below = y >= size / 2;
-        pixels.push_back(below ? (right ? 0x00000000 : 0xFF0000FF)
-                               : (right ? 0xFF00FF00 : 0xFFFF0000));
-      }
+    for (int at = 0; at < size * size; ++at) {
+      const bool right = at % size >= size / 2, below = at / size >= size / 2;
+      pixels.push_back(below ? (right ? 0x00000000 : 0xFF0000FF)
+                             : (right ? 0xFF00FF00 : 0xFFFF0000));
     }
     return Gdiplus::Bitmap(size, size, size * 4, PixelFormat32bppARGB,
                            reinterpret_cast<BYTE*>(pixels.data()));
@@ -35,6 +33,13 @@ class DrawingTest : public testing::Test {
     EXPECT_TRUE(result.CreateBufferDC(nullptr, rect));
     result.SetBackColor(rect, color);
     return result;
+  }
+  static void expect_same(const CBufferDC& seen, const CBufferDC& expected) {
+    const CSize size = expected.GetRect().Size();
+    for (int at = 0; at < size.cx * size.cy; ++at) {
+      const int x = at % size.cx, y = at / size.cx;
+      ASSERT_EQ(::GetPixel(seen, x, y), ::GetPixel(expected, x, y)) << x << ", " << y;
+    }
   }
   int live_objects() const { return desktop_.living_drawing_objects(); }
 

@@ -2,6 +2,7 @@
 #include <array>
 
 #include "corvane/platform/base_services/set_font.h"
+#include "corvane/platform/framework/framework.h"
 #include "tests/platform/drawing/drawing_support.h"
 #include "tests/support/rects.h"
 
@@ -16,17 +17,11 @@ TEST_F(GdiDC, DrawsAnImageInItsOwnSizePixelForPixel) {
   const CBufferDC target = buffer(40, 40, kWhite);
   auto image = quarters(20);
   ASSERT_TRUE(drawing_.DrawImage(target, &image, CRect(10, 10, 30, 30)));
-  for (int y = 0; y < 40; ++y) {
-    for (int x = 0; x < 40; ++x) {
-      const bool left = x >= 10 && x < 20, right = x >= 20 && x < 30;
-      const bool upper = y >= 10 && y < 20, lower = y >= 20 && y < 30;
-      const COLORREF above = left ? kRed : right ? kGreen : kWhite;
-      ASSERT_EQ(::GetPixel(target, x, y), upper           ? above
-                                          : lower && left ? kBlue
-                                                          : kWhite)
-          << x << ", " << y;
-    }
-  }
+  CBufferDC expected = buffer(40, 40, kWhite);
+  expected.SetBackColor(CRect(10, 10, 20, 20), kRed);
+  expected.SetBackColor(CRect(20, 10, 30, 20), kGreen);
+  expected.SetBackColor(CRect(10, 20, 20, 30), kBlue);
+  expect_same(target, expected);
 }
 
 TEST_F(GdiDC, ScalesAnImageIntoTheRectangleAndTurnsItClockwiseAboutTheCentre) {
@@ -117,18 +112,13 @@ TEST_F(GdiDC, ASingleLineHasNoBreaks) {
 }
 
 TEST_F(GdiDC, PutsABufferOnALayeredWindow) {
-  WNDCLASSW window_class{};
-  window_class.lpfnWndProc = ::DefWindowProcW;
-  window_class.lpszClassName = L"layer";
-  window_class.hbrBackground = static_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH));
-  ::RegisterClassW(&window_class);
-  const auto create = [](DWORD ex_style) {
-    return ::CreateWindowExW(ex_style, L"layer", L"", WS_POPUP | WS_VISIBLE, 0, 0, 200, 100,
-                             nullptr, nullptr, nullptr, nullptr);
-  };
-  const HWND below = create(0);
-  ::UpdateWindow(below);
-  const HWND above = create(WS_EX_LAYERED);
+  const CString white =
+      AfxRegisterWndClass(0, nullptr, static_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH)));
+  CWnd below, above;
+  for (CWnd* each : {&below, &above})
+    each->CreateEx(each == &above ? WS_EX_LAYERED : 0, white, L"", WS_POPUP | WS_VISIBLE,
+                   CRect(0, 0, 200, 100), nullptr, 0);
+  below.UpdateWindow();
   CBufferDC picture = buffer(60, 40, kBlack);
   auto image = quarters(20);
   drawing_.DrawImage(picture, &image, CRect(0, 0, 20, 20));

@@ -8,7 +8,7 @@ namespace corvane::system {
 namespace {
 
 TEST(WidePath, NamesOnBothSides) {
-  // In the last ones the bytes of U+F75C, an encoded surrogate and an overlong '/': all no UTF-8.
+  // The last ones: the bytes of U+F75C, an encoded surrogate, an overlong '/'.
   const std::pair<const wchar_t*, const char*> cases[] = {
       {L"Z:\\", "/"},
       {L"Z:\\a\\b.txt", "/a/b.txt"},
