@@ -101,7 +101,7 @@ TEST_F(SkinControls, AButtonShowsItsCaptionInItsFontAndColours) {
   test::Shown shown{.face = kMain,
                     .edge = {},
                     .caption = L"保",
-                    .font = test::font_of(-20, FW_BOLD, L"黑体"),
+                    .font = {-20, 0, 0, 0, FW_BOLD, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, L"黑体"},
                     .box = CRect(12, 20, 40, 56),
                     .text = RGB(255, 255, 255)};
   expect_shown(CRect(10, 20, 40, 60), shown);

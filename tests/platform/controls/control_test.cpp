@@ -1,8 +1,5 @@
 #include "tests/platform/controls/control_test.h"
 
-#include <algorithm>
-#include <cwchar>
-
 #include "corvane/platform/base_services/installation.h"
 #include "corvane/platform/drawing/gdi_dc.h"
 #include "tests/support/bitmap_file.h"
@@ -32,15 +29,6 @@ ControlTest::~ControlTest() { SetSkinFolder(L""); }
 
 void ControlTest::write_picture(const std::string& name, int width, int height, COLORREF color) {
   folder_.file("image/" + name, bitmap_file({width, height}, color));
-}
-
-LOGFONTW font_of(int height, int weight, const wchar_t* face) {
-  LOGFONTW font{};
-  font.lfHeight = height;
-  font.lfWeight = weight;
-  font.lfCharSet = DEFAULT_CHARSET;
-  std::copy_n(face, std::wcslen(face), font.lfFaceName);
-  return font;
 }
 
 void ControlTest::expect_shown(const CRect& place, const Shown& shown) {

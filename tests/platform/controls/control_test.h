@@ -30,7 +30,8 @@ class ControlHost : public CWnd {
   LRESULT WindowProc(UINT message, WPARAM wparam, LPARAM lparam) override;
 };
 
-LOGFONTW font_of(int height, int weight, const wchar_t* face);
+inline constexpr LOGFONTW kCaptionFont{-14, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET,
+                                       0,   0, 0, 0, L"宋体"};
 
 // What a button shows: its face, from edge to edge, and its caption in the middle of a box. A plain
 // button has an edge of another colour.
@@ -38,7 +39,7 @@ struct Shown {
   COLORREF face = 0;
   std::optional<COLORREF> edge;
   const wchar_t* caption = L"";
-  LOGFONTW font = font_of(-14, FW_NORMAL, L"宋体");
+  LOGFONTW font = kCaptionFont;
   CRect box;
   COLORREF text = 0;
 };

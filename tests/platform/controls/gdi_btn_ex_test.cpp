@@ -2,8 +2,8 @@
 #include "corvane/platform/controls/gdi_btn_ex.h"
 
 #include <algorithm>
-#include <cstring>
 #include <map>
+#include <tuple>
 
 #include "corvane/platform/controls/ui_ctrl_mgr.h"
 #include "corvane/platform/drawing/gdi_dc.h"
@@ -17,6 +17,8 @@ constexpr int kId = 37;
 constexpr COLORREF kNormal = RGB(10, 20, 30), kHover = RGB(0, 51, 102), kPressed = RGB(70, 80, 90),
                    kDisabled = RGB(100, 110, 120), kSelected = RGB(130, 140, 150);
 
+constexpr LOGFONTW kBold{-18, 0, 0, 0, FW_BOLD, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, L"黑体"};
+
 class GdiBtnEx : public test::ControlTest {
  protected:
   // Points inside and outside of the button.
@@ -29,18 +31,15 @@ class GdiBtnEx : public test::ControlTest {
   }
 
   void with_images() {
-    const struct {
-      CString* name;
-      const char* file;
-      COLORREF color;
-    } images[] = {{&control_.image, "normal.bmp", kNormal},
-                  {&control_.hover_image, "hover.bmp", kHover},
-                  {&control_.pressed_image, "pressed.bmp", kPressed},
-                  {&control_.disabled_image, "disabled.bmp", kDisabled},
-                  {&control_.selected_image, "selected.bmp", kSelected}};
-    for (const auto& image : images) {
-      *image.name = std::wstring(image.file, image.file + std::strlen(image.file));
-      write_picture(image.file, 96, 40, image.color);
+    const std::tuple<CString*, std::string, COLORREF> images[] = {
+        {&control_.image, "normal.bmp", kNormal},
+        {&control_.hover_image, "hover.bmp", kHover},
+        {&control_.pressed_image, "pressed.bmp", kPressed},
+        {&control_.disabled_image, "disabled.bmp", kDisabled},
+        {&control_.selected_image, "selected.bmp", kSelected}};
+    for (const auto& [name, file, color] : images) {
+      *name = std::wstring(file.begin(), file.end());
+      write_picture(file, 96, 40, color);
     }
   }
 
@@ -57,24 +56,19 @@ class GdiBtnEx : public test::ControlTest {
 
   // Brings the button into each of its looks.
   void in_each_look(const std::function<void(ButtonLook)>& check) {
-    const struct {
-      const char* name;
-      ButtonLook look;
-      std::function<void()> enter, leave;
-    } looks[] = {
-        {"normal", ButtonLook::normal, [&] { move_to(kOutX, kOutY); }, [] {}},
-        {"hover", ButtonLook::hover, [&] { move_to(kX, kY); }, [] {}},
-        {"pressed", ButtonLook::pressed, [&] { press_at(kX, kY); }, [&] { release(); }},
-        {"selected", ButtonLook::selected, [&] { button_->SetSelected(1); },
-         [&] { button_->SetSelected(0); }},
-        {"disabled", ButtonLook::disabled, [&] { button_->EnableButton(0); },
-         [&] { button_->EnableButton(1); }},
-    };
-    for (const auto& each : looks) {
-      SCOPED_TRACE(each.name);
-      each.enter();
-      check(each.look);
-      each.leave();
+    const std::pair<ButtonLook, std::function<void()>> looks[] = {
+        {ButtonLook::normal, [&] { move_to(kOutX, kOutY); }},
+        {ButtonLook::hover, [&] { move_to(kX, kY); }},
+        {ButtonLook::pressed, [&] { press_at(kX, kY); }},
+        {ButtonLook::selected, [&] { button_->SetSelected(1); }},
+        {ButtonLook::disabled, [&] { button_->EnableButton(0); }}};
+    for (const auto& [look, enter] : looks) {
+      SCOPED_TRACE(static_cast<int>(look));
+      enter();
+      check(look);
+      release();
+      button_->SetSelected(0);
+      button_->EnableButton(1);
     }
   }
 
@@ -239,13 +233,13 @@ TEST_F(GdiBtnEx, EachLookIsItsImageAndTheCaptionInItsColour) {
   control_.padding_bottom = 2;
   const CRect box(50 + 40, 40 + 8, 146 - 6, 80 - 2);
   _MYFONT record;
-  record.description = std::make_unique<LOGFONTW>(test::font_of(-18, FW_BOLD, L"黑体"));
+  record.description = std::make_unique<LOGFONTW>(kBold);
   const struct {
     const wchar_t* caption;
     const _MYFONT* font;
     LOGFONTW expected;
   } cases[] = {{L"识别", &record, *record.description},
-               {L"识别文字识别文字", nullptr, test::font_of(-14, FW_NORMAL, L"宋体")}};
+               {L"识别文字识别文字", nullptr, test::kCaptionFont}};
   for (const auto& each : cases) {
     create(each.caption, each.font);
     in_each_look([&](ButtonLook look) {
@@ -277,8 +271,8 @@ TEST_F(GdiBtnEx, WithoutImagesItIsPlainAndItsFaceSuitsTheCaption) {
         };
         return RGB(channel(232, 60), channel(234, 68), channel(236, 76));
       };
-      expect_shown(control_.rect, {shaded(0), shaded(48), L"保存",
-                                   test::font_of(-14, FW_NORMAL, L"宋体"), control_.rect, text});
+      expect_shown(control_.rect,
+                   {shaded(0), shaded(48), L"保存", test::kCaptionFont, control_.rect, text});
     });
   }
 }

@@ -2,43 +2,25 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <random>
 #include <vector>
 
 namespace corvane::system {
 namespace {
 
-// What a surface must equal.
-struct PlainPixels {
-  int width, height;
-  std::vector<Pixel> pixels;
+using Rows = std::vector<std::vector<Pixel>>;
 
-  PlainPixels(int w, int h, Pixel color)
-      : width(w), height(h), pixels(static_cast<std::size_t>(w * h), color) {}
-  Pixel& at(int x, int y) { return pixels[static_cast<std::size_t>(y * width + x)]; }
-  void fill(const RECT& rect, Pixel color) {
-    for (int y = std::max(0, rect.top); y < std::min(height, rect.bottom); ++y)
-      for (int x = std::max(0, rect.left); x < std::min(width, rect.right); ++x) at(x, y) = color;
-  }
-  PlainPixels resized(int w, int h) {
-    PlainPixels result(w, h, 0);
-    for (int y = 0; y < std::min(h, height); ++y)
-      for (int x = 0; x < std::min(w, width); ++x) result.at(x, y) = at(x, y);
-    return result;
-  }
-};
-
-std::vector<Pixel> pixels_of(const Surface& surface) {
-  std::vector<Pixel> all, scratch;
+Rows rows_of(const Surface& surface) {
+  Rows rows;
+  std::vector<Pixel> scratch;
   for (int y = 0; y < surface.height(); ++y) {
     const Pixel* row = surface.read_row(y, scratch);
-    all.insert(all.end(), row, row + surface.width());
+    rows.emplace_back(row, row + surface.width());
   }
-  return all;
+  return rows;
 }
 
-TEST(GdiSurface, EqualsPlainPixelsUnderRandomWork) {
+TEST(GdiSurface, EqualsPlainRowsUnderRandomWork) {
   std::mt19937 random{7};
   const auto below = [&random](int limit) {
     return static_cast<int>(random() % static_cast<unsigned>(limit));
@@ -46,28 +28,31 @@ TEST(GdiSurface, EqualsPlainPixelsUnderRandomWork) {
   using Order = Surface::RowOrder;
   for (int round = 0; round < 180; ++round) {
     const bool pinned = round % 3 != 0;
-    const int width = 1 + below(20), height = 1 + below(20);
-    Surface surface(width, height, 3);
-    PlainPixels plain(width, height, 3);
+    Surface surface(1 + below(20), 1 + below(20), 3);
+    Rows plain = rows_of(surface);
     if (pinned) surface.pin(round % 3 == 1 ? Order::TopDown : Order::BottomUp);
     for (int step = 0; step < 30; ++step) {
       const auto color = static_cast<Pixel>(below(3));
       RECT rect{below(30) - 5, below(30) - 5, below(30) - 5, below(30) - 5};
-      if (below(3) == 0) rect = {0, rect.top, plain.width, rect.bottom};
+      if (below(3) == 0) rect = {0, rect.top, surface.width(), rect.bottom};
       if (below(8) == 0) rect = surface.rect();
       surface.fill(rect, color);
-      plain.fill(rect, color);
-      const int y = below(plain.height);
-      if (below(3) == 0) surface.row(y)[plain.width - 1] = plain.at(plain.width - 1, y) = 9;
+      for (int y = 0; y < surface.height(); ++y)
+        for (int x = 0; x < surface.width(); ++x)
+          if (PtInRect(&rect, {x, y}))
+            plain.at(static_cast<std::size_t>(y)).at(static_cast<std::size_t>(x)) = color;
+      const int y = below(surface.height());
+      if (below(3) == 0)
+        surface.row(y)[surface.width() - 1] = plain.at(static_cast<std::size_t>(y)).back() = 9;
       if (!pinned && below(10) == 0) {
-        const int new_width = 1 + below(20), new_height = 1 + below(20);
-        surface.resize(new_width, new_height);
-        plain = plain.resized(new_width, new_height);
+        surface.resize(1 + below(20), 1 + below(20));
+        plain.resize(static_cast<std::size_t>(surface.height()));
+        for (auto& row : plain) row.resize(static_cast<std::size_t>(surface.width()));
       }
-      ASSERT_EQ(pixels_of(surface), plain.pixels) << "round " << round << " step " << step;
-      ASSERT_EQ(surface.at(0, 0), plain.at(0, 0));
+      ASSERT_EQ(rows_of(surface), plain) << "round " << round << " step " << step;
+      ASSERT_EQ(surface.at(0, 0), plain.front().front());
       const Surface copy(surface);
-      ASSERT_EQ(pixels_of(copy), plain.pixels);
+      ASSERT_EQ(rows_of(copy), plain);
     }
   }
 }
