@@ -11,6 +11,7 @@
 #include <functional>
 #include <set>
 #include <thread>
+#include <tuple>
 
 #include "tests/platform/display/x_client.h"
 
@@ -223,11 +224,7 @@ TEST_F(SdlDisplayTest, BringsKeysAndText) {
 }
 
 TEST_F(SdlDisplayTest, BringsTextOfOtherScripts) {
-  const struct {
-    const char* key;
-    unsigned long symbol;
-    const wchar_t* text;
-  } letters[] = {
+  const std::tuple<const char*, unsigned long, const wchar_t*> letters[] = {
       {"eacute", 0x00E9, L"é"}, {"U4E2D", 0x01004E2D, L"中"}, {"U1F4F7", 0x0101F4F7, L"📷"}};
   constexpr int unused_key = 220;
   for (const auto& [key, symbol, text] : letters) {
@@ -247,10 +244,8 @@ TEST_F(SdlDisplayTest, TellsOfAutomaticRepeats) {
 }
 
 TEST_F(SdlDisplayTest, FollowsTheWindowsSizeButIsNeverSmallerThanTheLeastWindow) {
-  const struct {
-    SIZE window, desktop;
-    Pixel color;
-  } cases[] = {{{800, 333}, {800, 333}, 0x010203}, {{200, 400}, {320, 400}, 0x0A0B0C}};
+  const std::tuple<SIZE, SIZE, Pixel> cases[] = {{{800, 333}, {800, 333}, 0x010203},
+                                                 {{200, 400}, {320, 400}, 0x0A0B0C}};
   for (const auto& [window, desktop, color] : cases) {
     tool("windowsize " + std::to_string(window_) + " " + std::to_string(window.cx) + " " +
          std::to_string(window.cy));

@@ -1,5 +1,6 @@
 // Pictures and texts drawn into buffers and put on layered windows.
 #include <array>
+#include <tuple>
 
 #include "corvane/platform/base_services/set_font.h"
 #include "corvane/platform/framework/framework.h"
@@ -79,24 +80,22 @@ CRect ink_of(HDC dc, const CRect& within, COLORREF background) {
 
 TEST_F(GdiDC, PlacesTextByItsFormat) {
   const CRect box(20, 20, 180, 80);
-  const struct {
-    UINT format;
-    int x, y;  // -1: at the start, 0: in the middle, 1: at the end
-  } cases[] = {{DT_LEFT | DT_TOP, -1, -1},
-               {DT_CENTER | DT_VCENTER, 0, 0},
-               {DT_RIGHT | DT_BOTTOM, 1, 1},
-               {DT_CENTER | DT_BOTTOM, 0, 1},
-               {DT_RIGHT | DT_VCENTER, 1, 0}};
-  for (const auto& each : cases) {
+  // How far right and down: -1 at the start, 0 in the middle, 1 at the end.
+  const std::tuple<UINT, int, int> cases[] = {{DT_LEFT | DT_TOP, -1, -1},
+                                              {DT_CENTER | DT_VCENTER, 0, 0},
+                                              {DT_RIGHT | DT_BOTTOM, 1, 1},
+                                              {DT_CENTER | DT_BOTTOM, 0, 1},
+                                              {DT_RIGHT | DT_VCENTER, 1, 0}};
+  for (const auto& [format, x, y] : cases) {
     const CBufferDC target = buffer(200, 100, kWhite);
     ASSERT_TRUE(
-        drawing_.DrawTextW(target, L"国国", &kFont, box, 0xFF000000, each.format | DT_SINGLELINE));
+        drawing_.DrawTextW(target, L"国国", &kFont, box, 0xFF000000, format | DT_SINGLELINE));
     const CRect ink = ink_of(target, CRect(0, 0, 200, 100), kWhite);
-    ASSERT_FALSE(ink.IsRectEmpty()) << each.format;
+    ASSERT_FALSE(ink.IsRectEmpty()) << format;
     const int left = ink.left - box.left, right = box.right - ink.right;
     const int above = ink.top - box.top, below = box.bottom - ink.bottom;
-    EXPECT_NEAR(each.x < 0 ? left : each.x > 0 ? right : left - right, 0, 8) << each.format;
-    EXPECT_NEAR(each.y < 0 ? above : each.y > 0 ? below : above - below, 0, 8) << each.format;
+    EXPECT_NEAR(x < 0 ? left : x > 0 ? right : left - right, 0, 8) << format;
+    EXPECT_NEAR(y < 0 ? above : y > 0 ? below : above - below, 0, 8) << format;
   }
 }
 

@@ -156,25 +156,21 @@ void play(Session& session) {
   EXPECT_EQ(desktop.living_windows(), 0);
 }
 
-class FrameworkDeletion : public testing::TestWithParam<Deed> {};
-
-TEST_P(FrameworkDeletion, LeavesNoTraceBehind) {
+TEST(FrameworkDeletion, InEveryMessageLeavesNoTraceBehind) {
   Session undisturbed;
   play(undisturbed);
   ASSERT_EQ(undisturbed.seen.size(), kHandled);
   for (const UINT message : undisturbed.seen) {
-    SCOPED_TRACE(message);
-    Session session{.trigger = message, .deed = GetParam(), .seen = {}};
-    play(session);
-    EXPECT_EQ(session.deeds, 1);
+    for (const Deed deed : {Deed::delete_self, Deed::destroy_self, Deed::delete_parent}) {
+      SCOPED_TRACE(std::to_string(message) + ", deed " + std::to_string(static_cast<int>(deed)));
+      Session session{.trigger = message, .deed = deed, .seen = {}};
+      play(session);
+      EXPECT_EQ(session.deeds, 1);
+    }
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(InEveryMessage, FrameworkDeletion,
-                         testing::Values(Deed::delete_self, Deed::destroy_self,
-                                         Deed::delete_parent));
-
-TEST(FrameworkDeletionAtTheEnd, PostNcDestroyMayDeleteTheObject) {
+TEST(FrameworkDeletion, PostNcDestroyMayDeleteTheObject) {
   class SelfDeleting : public FragileWnd {
    public:
     using FragileWnd::FragileWnd;

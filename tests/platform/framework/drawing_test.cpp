@@ -36,6 +36,7 @@ TEST_F(FrameworkDrawing, ContextsAreFreedWithTheirScopes) {
     EXPECT_TRUE(memory.CreateCompatibleDC(&client));
     EXPECT_FALSE(memory.CreateCompatibleDC(&client)) << "has one";
     EXPECT_GT(objects(), before);
+    EXPECT_TRUE(memory.DeleteDC());
   }
   EXPECT_EQ(objects(), before);
 }

@@ -1,4 +1,6 @@
 // The standard scroll bars of a window object.
+#include <tuple>
+
 #include "tests/platform/framework/watched_wnd.h"
 
 namespace corvane {
@@ -36,11 +38,8 @@ TEST_F(FrameworkScrolling, SetsAndGets) {
 }
 
 TEST_F(FrameworkScrolling, LimitIsTheLastPositionWithAFullPage) {
-  const struct {
-    int minimum, maximum;
-    UINT page;
-    int limit;
-  } cases[] = {{0, 600, 300, 301}, {0, 100, 0, 100}, {0, 100, 1, 100}, {-50, 10, 11, 0}};
+  const std::tuple<int, int, UINT, int> cases[] = {
+      {0, 600, 300, 301}, {0, 100, 0, 100}, {0, 100, 1, 100}, {-50, 10, 11, 0}};
   for (const auto& [minimum, maximum, page, limit] : cases) {
     set(minimum, maximum, page, 0);
     EXPECT_EQ(window_.GetScrollLimit(SB_VERT), limit) << page;

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <cwchar>
+#include <tuple>
 
 #include "corvane/platform/framework/c_string.h"
 
@@ -21,12 +22,10 @@ CString formatted(const wchar_t* format, const Arguments&... arguments) {
 
 TEST(FrameworkString, TakesPartsWithClampedPositions) {
   const CString text(L"移动成功abc");
-  const struct {
-    int first, count;
-    const wchar_t* part;
-  } cases[] = {{0, 2, L"移动"}, {4, 99, L"abc"}, {7, 1, L""},   {99, 1, L""},
-               {-5, 1, L"移"},  {2, -1, L""},    {3, 2, L"功a"}};
-  for (const auto& each : cases) EXPECT_EQ(text.Mid(each.first, each.count), each.part);
+  const std::tuple<int, int, const wchar_t*> cases[] = {
+      {0, 2, L"移动"}, {4, 99, L"abc"}, {7, 1, L""},   {99, 1, L""},
+      {-5, 1, L"移"},  {2, -1, L""},    {3, 2, L"功a"}};
+  for (const auto& [first, count, part] : cases) EXPECT_EQ(text.Mid(first, count), part);
   EXPECT_EQ(text.Left(4) + text.Right(3), text);
   EXPECT_EQ(text.Left(99), text);
   EXPECT_EQ(text.Right(99), text);

@@ -1,3 +1,5 @@
+#include <tuple>
+
 #include "corvane/platform/system/gdi/gdiplus.h"
 #include "tests/platform/gdi/gdi_fixture.h"
 
@@ -122,11 +124,8 @@ TEST_F(GdiFills, GdiPlusRectangles) {
 TEST_F(GdiFills, GdiPlusBlendsBySourceOver) {
   using namespace Gdiplus;
   Graphics graphics(dc);
-  const struct {
-    Pixel before;
-    BYTE alpha;
-    Pixel after;
-  } cases[] = {{kWhite, 128, 0x80FF7F7F}, {0, 128, 0x80800000}, {0x123456, 0, 0x123456}};
+  const std::tuple<Pixel, BYTE, Pixel> cases[] = {
+      {kWhite, 128, 0x80FF7F7F}, {0, 128, 0x80800000}, {0x123456, 0, 0x123456}};
   for (const auto& [before, alpha, after] : cases) {
     surface->fill(surface->rect(), before);
     const SolidBrush red(Color(alpha, 255, 0, 0));

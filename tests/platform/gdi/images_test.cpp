@@ -5,6 +5,7 @@
 
 #include <limits>
 #include <random>
+#include <tuple>
 #include <vector>
 
 #include "corvane/platform/system/gdi/gdiplus.h"
@@ -234,14 +235,11 @@ TEST_F(GdiImages, BitmapsFromMemoryArePremultiplied) {
   const Bitmap upside_down(1, 2, -4, PixelFormat32bppARGB, reinterpret_cast<BYTE*>(&rows[1]));
   EXPECT_EQ(upside_down.pixels()->at(0, 0), 0xFF000002u);
   constexpr DWORD kArgb = PixelFormat32bppARGB;
-  const struct {
-    int width, height, stride;
-    DWORD format;
-  } bad[] = {{0, 1, 4, kArgb},
-             {2, 1, 4, kArgb},
-             {1, -1, 4, kArgb},
-             {20000, 20000, 80000, kArgb},
-             {1, 1, 4, 0}};
+  const std::tuple<int, int, int, DWORD> bad[] = {{0, 1, 4, kArgb},
+                                                  {2, 1, 4, kArgb},
+                                                  {1, -1, 4, kArgb},
+                                                  {20000, 20000, 80000, kArgb},
+                                                  {1, 1, 4, 0}};
   for (const auto& [width, height, stride, format] : bad) {
     const Bitmap refused(width, height, stride, format, reinterpret_cast<BYTE*>(rows.data()));
     EXPECT_EQ(refused.GetLastStatus(), InvalidParameter);

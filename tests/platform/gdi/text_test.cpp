@@ -1,4 +1,5 @@
 #include <cmath>
+#include <tuple>
 
 #include "corvane/platform/system/gdi/font_faces.h"
 #include "corvane/platform/system/gdi/gdiplus.h"
@@ -58,10 +59,7 @@ TEST_F(GdiText, CellsArePlacedByTheFormulas) {
   ASSERT_GT(width, 20);
   ASSERT_LT(width, 60);
   const RECT rect{10, 20, 91, 61};
-  const struct {
-    UINT format;
-    int left, top;
-  } cases[] = {
+  const std::tuple<UINT, int, int> cases[] = {
       {DT_SINGLELINE, 10, 20},
       {DT_SINGLELINE | DT_VCENTER, 10, 20 + 41 / 2 - 15 / 2},
       {DT_SINGLELINE | DT_BOTTOM, 10, 61 - 15},
@@ -71,11 +69,8 @@ TEST_F(GdiText, CellsArePlacedByTheFormulas) {
       {DT_SINGLELINE | DT_RIGHT, 91 - width, 20},
       {DT_SINGLELINE | DT_CENTER | DT_VCENTER, 10 + (81 - width) / 2, 20 + 41 / 2 - 15 / 2},
   };
-  for (const auto& item : cases) {
-    EXPECT_THAT(cell_of(L"Hello", rect, item.format),
-                test::is_rect(item.left, item.top, item.left + width, item.top + 15))
-        << item.format;
-  }
+  for (const auto& [format, x, y] : cases)
+    EXPECT_THAT(cell_of(L"Hello", rect, format), test::is_rect(x, y, x + width, y + 15)) << format;
   // Clipped, and centred also when it is wider.
   EXPECT_THAT(cell_of(L"Hello wide text", {40, 20, 60, 30}, DT_SINGLELINE | DT_CENTER),
               test::is_rect(40, 20, 60, 30));
@@ -103,15 +98,13 @@ TEST_F(GdiText, CalcRectChangesTheRectangleAndDrawsNothing) {
 }
 
 TEST_F(GdiText, PrefixesUnderlineAndDisappear) {
-  const struct {
-    const wchar_t *text, *shown;
-    int underlined;
-  } cases[] = {{L"&File", L"File", 0}, {L"Sa&ve", L"Save", 2}, {L"a && b", L"a & b", -1},
-               {L"end&", L"end", -1},  {L"&a&b", L"ab", 1},    {L"", L"", -1}};
-  for (const auto& item : cases) {
-    const PrefixedText result = without_prefixes(item.text);
-    EXPECT_EQ(result.text, item.shown);
-    EXPECT_EQ(result.underlined, item.underlined) << item.text;
+  const std::tuple<const wchar_t*, const wchar_t*, int> cases[] = {
+      {L"&File", L"File", 0}, {L"Sa&ve", L"Save", 2}, {L"a && b", L"a & b", -1},
+      {L"end&", L"end", -1},  {L"&a&b", L"ab", 1},    {L"", L"", -1}};
+  for (const auto& [text, shown, underlined] : cases) {
+    const PrefixedText result = without_prefixes(text);
+    EXPECT_EQ(result.text, shown);
+    EXPECT_EQ(result.underlined, underlined) << text;
   }
   for (const auto& [flag, shown] : {std::pair(0u, L"File"), std::pair(DT_NOPREFIX, L"&File")}) {
     RECT rect{0, 0, 0, 0};

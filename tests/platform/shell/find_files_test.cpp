@@ -8,6 +8,7 @@
 #include <set>
 #include <string>
 #include <thread>
+#include <tuple>
 #include <vector>
 
 #include "corvane/platform/system/shell/name_pattern.h"
@@ -123,14 +124,12 @@ TEST_F(FindFiles, WhatCannotBeFound) {
   folder_.folder("a");
   folder_.file("file");
   constexpr DWORD kFile = ERROR_FILE_NOT_FOUND, kPath = ERROR_PATH_NOT_FOUND;
-  const struct {
-    const wchar_t* path;
-    DWORD of_search;  // 0: none is made
-    DWORD of_query;
-  } cases[] = {{L"gone", kFile, kFile}, {L"gone*", kFile, 0},   {L"a\\", kFile, 0},
-               {L"gone\\", 0, kFile},   {L"gone\\*", kPath, 0}, {L"gone\\x", kPath, kPath},
-               {L"file\\", 0, kPath},   {L"file\\*", kPath, 0}, {L"file\\x", kPath, kPath},
-               {L"x\x110000", kFile, 0}};
+  // The errors of a search and of a query; 0: none is made.
+  const std::tuple<const wchar_t*, DWORD, DWORD> cases[] = {
+      {L"gone", kFile, kFile}, {L"gone*", kFile, 0},   {L"a\\", kFile, 0},
+      {L"gone\\", 0, kFile},   {L"gone\\*", kPath, 0}, {L"gone\\x", kPath, kPath},
+      {L"file\\", 0, kPath},   {L"file\\*", kPath, 0}, {L"file\\x", kPath, kPath},
+      {L"x\x110000", kFile, 0}};
   for (const auto& [name, of_search, of_query] : cases) {
     SCOPED_TRACE(testing::PrintToString(name));
     EXPECT_TRUE(of_search == 0 || error_of(in(name)) == of_search);
