@@ -11,32 +11,24 @@
 namespace corvane {
 namespace {
 
-// True: it was a click.
-template <typename Change>
-std::function<bool(ButtonBehavior&)> no_click(Change change) {
-  return [change](ButtonBehavior& button) {
-    change(button);
-    return false;
-  };
-}
-
-const std::map<std::string, std::function<bool(ButtonBehavior&)>> kEvents = {
-    {"move in", no_click([](auto& b) { b.move(true); })},
-    {"move out", no_click([](auto& b) { b.move(false); })},
-    {"leave", no_click([](auto& b) { b.leave(); })},
-    {"press", no_click([](auto& b) { b.press(true); })},
-    {"press outside", no_click([](auto& b) { b.press(false); })},
-    {"release", [](auto& b) { return b.release(true); }},
-    {"release outside", [](auto& b) { return b.release(false); }},
-    {"space down", no_click([](auto& b) { b.space_down(); })},
-    {"space up", [](auto& b) { return b.space_up(); }},
-    {"cancel", no_click([](auto& b) { b.cancel(); })},
-    {"focus", no_click([](auto& b) { b.gain_focus(); })},
-    {"blur", no_click([](auto& b) { b.lose_focus(); })},
-    {"enable", no_click([](auto& b) { b.set_enabled(true); })},
-    {"disable", no_click([](auto& b) { b.set_enabled(false); })},
-    {"select", no_click([](auto& b) { b.set_selected(true); })},
-    {"deselect", no_click([](auto& b) { b.set_selected(false); })}};
+// What happens to a button; the flag tells whether it was a click.
+const std::map<std::string, std::function<void(ButtonBehavior&, bool&)>> kEvents = {
+    {"move in", [](auto& b, bool&) { b.move(true); }},
+    {"move out", [](auto& b, bool&) { b.move(false); }},
+    {"leave", [](auto& b, bool&) { b.leave(); }},
+    {"press", [](auto& b, bool&) { b.press(true); }},
+    {"press outside", [](auto& b, bool&) { b.press(false); }},
+    {"release", [](auto& b, bool& clicked) { clicked = b.release(true); }},
+    {"release outside", [](auto& b, bool& clicked) { clicked = b.release(false); }},
+    {"space down", [](auto& b, bool&) { b.space_down(); }},
+    {"space up", [](auto& b, bool& clicked) { clicked = b.space_up(); }},
+    {"cancel", [](auto& b, bool&) { b.cancel(); }},
+    {"focus", [](auto& b, bool&) { b.gain_focus(); }},
+    {"blur", [](auto& b, bool&) { b.lose_focus(); }},
+    {"enable", [](auto& b, bool&) { b.set_enabled(true); }},
+    {"disable", [](auto& b, bool&) { b.set_enabled(false); }},
+    {"select", [](auto& b, bool&) { b.set_selected(true); }},
+    {"deselect", [](auto& b, bool&) { b.set_selected(false); }}};
 
 TEST(ButtonBehavior, Scenes) {
   constexpr const char* kLooks[] = {"normal", "hover", "pressed", "disabled", "selected"};
@@ -48,7 +40,8 @@ TEST(ButtonBehavior, Scenes) {
       scene = row.at(1);
       continue;
     }
-    const bool clicked = kEvents.at(row.at(0))(button);
+    bool clicked = false;
+    kEvents.at(row.at(0))(button, clicked);
     const auto [look, ring] = button.appearance();
     std::string marks;
     for (const auto& [holds, name] : {std::pair(ring, "ring"), std::pair(clicked, "click"),

@@ -221,7 +221,7 @@ TEST_F(GdiBtnEx, WhatHappensBetweenPressAndReleaseCanPreventTheClick) {
 
 TEST_F(GdiBtnEx, EachLookIsItsImageAndTheCaptionInItsColour) {
   with_images();
-  std::map<ButtonLook, std::pair<COLORREF, COLORREF>> looks = {
+  const std::map<ButtonLook, std::pair<COLORREF, COLORREF>> looks = {
       {ButtonLook::normal, {kNormal, control_.text_color = RGB(255, 250, 245)}},
       {ButtonLook::hover, {kHover, control_.hover_text_color = RGB(255, 255, 0)}},
       {ButtonLook::pressed, {kPressed, control_.pressed_text_color = RGB(0, 255, 255)}},
@@ -234,17 +234,13 @@ TEST_F(GdiBtnEx, EachLookIsItsImageAndTheCaptionInItsColour) {
   const CRect box(50 + 40, 40 + 8, 146 - 6, 80 - 2);
   _MYFONT record;
   record.description = std::make_unique<LOGFONTW>(kBold);
-  const struct {
-    const wchar_t* caption;
-    const _MYFONT* font;
-    LOGFONTW expected;
-  } cases[] = {{L"识别", &record, *record.description},
-               {L"识别文字识别文字", nullptr, test::kCaptionFont}};
-  for (const auto& each : cases) {
-    create(each.caption, each.font);
-    in_each_look([&](ButtonLook look) {
+  const std::tuple<const wchar_t*, const _MYFONT*, LOGFONTW> cases[] = {
+      {L"识别", &record, *record.description}, {L"识别文字识别文字", nullptr, test::kCaptionFont}};
+  for (const auto& [caption, font, expected] : cases) {
+    create(caption, font);
+    in_each_look([&, shown = caption, drawn_in = expected](ButtonLook look) {
       const auto [face, text] = looks.at(look);
-      expect_shown(control_.rect, {face, {}, each.caption, each.expected, box, text});
+      expect_shown(control_.rect, {face, {}, shown, drawn_in, box, text});
     });
   }
   button_->SetText(L"");
