@@ -295,6 +295,7 @@ TEST_F(GdiImages, ShrinkingKeepsTheMeanAndTheCopy) {
   EXPECT_EQ(clone->cache(), image->cache());
   EXPECT_EQ(clone->pixels(), image->pixels());
   const Surface first(*surface);
+  wipe();
   Graphics(dc).DrawImage(clone.get(), Rect(0, 0, 31, 13));
   const auto differs = [&](int x, int y, Pixel) { return surface->at(x, y) != first.at(x, y); };
   EXPECT_EQ(count(differs), 0);
