@@ -129,7 +129,7 @@ void Desktop::close() {
   for (const HWND window : all_windows()) {
     if (IsWindow(window)) DestroyWindow(window);
   }
-  desktop_.own().windows.process_pending();
+  desktop_.own().windows.process_pending(nullptr, &corvane::PreTranslateInput);
 }
 
 HWND Desktop::window(ByteStream& stream) const {
@@ -300,6 +300,8 @@ void Desktop::resize_screen(ByteStream& stream) {
   desktop_.own().display.resize({stream.coordinate(), stream.coordinate()});
 }
 
-void Desktop::turn_loop(ByteStream&) { desktop_.own().windows.process_pending(); }
+void Desktop::turn_loop(ByteStream&) {
+  desktop_.own().windows.process_pending(nullptr, &corvane::PreTranslateInput);
+}
 
 void Desktop::take_frame(ByteStream&) { desktop_.frame(); }

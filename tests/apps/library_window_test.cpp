@@ -32,7 +32,10 @@ class LibraryWindow : public testing::Test {
     for (const char* name : {"a.png", "b.png"})
       WriteTestPicture(library_ / "一月" / name, 320, 200);
   }
-  ~LibraryWindow() override { SetSkinFolder(L""); }
+  ~LibraryWindow() override {
+    SetSkinFolder(L"");
+    system::mount_drive(L'Q', "");  // where a test has mounted it
+  }
 
   // As with the program's arguments; empty: none.
   void Start(const std::string& picture = {}) {
@@ -172,7 +175,6 @@ TEST_F(LibraryWindow, ADriveIsALibraryAndAPictureGivenBesideItSelectsItsFolder) 
   EXPECT_EQ(window_.browser().Folder(), L"Q:");
   EXPECT_EQ(window_.last_saved(), L"Q:\\a_1.png");
   EXPECT_EQ(Tree().ListSort(), 3 * kRow);
-  system::mount_drive(L'Q', "");
 }
 
 TEST_F(LibraryWindow, TheTreesBarFollowsTheWindowsHeight) {

@@ -10,7 +10,7 @@
 namespace capture {
 namespace {
 
-// The screen is 1280 x 800, the toolbar 76 high, the library 260 wide, the strip 144 high; a
+// The window is 1280 x 800, the toolbar 76 high, the library 260 wide, the strip 144 high; a
 // picture of 800 x 500 stands in the middle of what is left, at its own size.
 constexpr POINT kPictureCorner{370, 116};
 constexpr POINT kCropButton{56, 38};

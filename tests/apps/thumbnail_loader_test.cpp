@@ -53,7 +53,9 @@ class HeldDecoding {
       return nullptr;
     };
   }
-  void WaitUntilBegun() { begun_.get_future().wait_for(kPatience); }
+  void WaitUntilBegun() {
+    EXPECT_EQ(begun_.get_future().wait_for(kPatience), std::future_status::ready);
+  }
 
   std::promise<void> begun_;
   std::atomic<bool> go_on_ = false;

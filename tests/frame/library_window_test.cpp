@@ -7,8 +7,7 @@
 #include <utility>
 
 #include "corvane/platform/framework/win_app.h"
-#include "corvane/platform/system/display/headless_display.h"
-#include "corvane/platform/system/user/window_system.h"
+#include "tests/support/desktop.h"
 #include "tests/support/host_window.h"
 
 namespace corvane {
@@ -96,14 +95,14 @@ class LibraryWindowTest : public testing::Test {
     return window;
   }
 
-  system::WindowSystem windows_{std::make_unique<system::HeadlessDisplay>()};
+  test::Desktop desktop_;
   std::string log_;
 };
 
 TEST_F(LibraryWindowTest, TheWindowEndsBeforeTheMembers) {
   open<CPlainWindow>(std::nullopt).reset();
   EXPECT_EQ(log_, "OnDestroy;member ended;");
-  EXPECT_EQ(windows_.live_windows(), 0);
+  EXPECT_EQ(desktop_.living_windows(), 0);
 }
 
 TEST_F(LibraryWindowTest, DeletedWhileItsWindowIsBeingDestroyedItHandlesNothingMore) {
@@ -116,7 +115,7 @@ TEST_F(LibraryWindowTest, DeletedWhileItsWindowIsBeingDestroyedItHandlesNothingM
   ASSERT_TRUE(child->Create(nullptr, L"", WS_CHILD, CRect(0, 0, 5, 5), &parent, 1));
   ::DestroyWindow(*child);
   EXPECT_EQ(log_, "member ended;");
-  EXPECT_EQ(windows_.live_windows(), 1);
+  EXPECT_EQ(desktop_.living_windows(), 1);
 }
 
 TEST_F(LibraryWindowTest, AHostsClassAddsToItsMessagesAndClass) {

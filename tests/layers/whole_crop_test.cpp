@@ -8,7 +8,6 @@
 #include "corvane/frame/layer_messages.h"
 #include "corvane/platform/base_services/set_font.h"
 #include "tests/layers/support/crop_scene.h"
-#include "tests/support/own_system.h"
 #include "tests/support/source_folder.h"
 
 namespace corvane::test {
@@ -16,7 +15,6 @@ namespace {
 
 using corvane::CRect;
 using corvane::WM_CUT_CMD;
-using corvane::system::CursorShape;
 
 constexpr int dimming = 120;
 constexpr RECT middle = {150, 200, 550, 300};
@@ -94,7 +92,7 @@ TEST_F(WholeCropTest, TextRecognitionFromStartToEnd) {
   EXPECT_EQ(pixel(50, 50), picture_color(50, 50));
 }
 
-// The same text drawn here into a black picture of the same size, compared where it has ink.
+// The same text drawn here into a black picture of the same size.
 TEST_F(WholeCropTest, HintIsBoldGreenAndInTheMiddle) {
   start(true, true);
   CRect client(0, 0, 700, 500);
@@ -169,17 +167,15 @@ TEST_F(WholeCropTest, MouseInTheClearFrameMovesItAndItsBar) {
 TEST_F(WholeCropTest, CursorTellsWhatADragWouldDo) {
   start(false);
   drag({100, 80}, {400, 280});
-  const auto& cursor = [this] { return desktop_.own().display.cursor(); };
-  const std::vector<std::pair<POINT, CursorShape>> cases = {{{50, 50}, CursorShape::cross},
-                                                            {{400, 80}, CursorShape::size_nesw},
-                                                            {{300, 150}, CursorShape::size_all}};
+  const std::vector<std::pair<POINT, LPCWSTR>> cases = {
+      {{50, 50}, IDC_CROSS}, {{400, 80}, IDC_SIZENESW}, {{300, 150}, IDC_SIZEALL}};
   for (const auto& [point, shape] : cases) {
     desktop_.move_to(on_screen(point.x, point.y));
-    EXPECT_EQ(cursor(), shape) << point.x << ", " << point.y;
+    EXPECT_EQ(::GetCursor(), ::LoadCursorW(nullptr, shape)) << point.x << ", " << point.y;
   }
   background_.ShowWindow(SW_SHOW);
   desktop_.press();
-  EXPECT_EQ(cursor(), CursorShape::cross) << "there is no frame any more";
+  EXPECT_EQ(::GetCursor(), ::LoadCursorW(nullptr, IDC_CROSS)) << "there is no frame any more";
 }
 
 TEST_F(WholeCropTest, BarComesOnlyAfterANewFrameAndOnlyWhenItIsUsed) {

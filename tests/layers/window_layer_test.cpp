@@ -140,6 +140,10 @@ TEST_F(WindowLayerTest, PressBesideTheButtonsDragsTheParentInFull) {
   ASSERT_EQ(commands.size(), 1U);
   EXPECT_EQ(commands[0].wparam, 0xF012U);
   EXPECT_EQ(commands[0].lparam, 0);
+  drag_by_layer(on_screen(225, 70), on_screen(200, 80));
+  host_.forget();
+  layer_.SendMessageW(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(200, 80));
+  EXPECT_EQ(host_.count(WM_SYSCOMMAND), 1U) << "sent, not posted";
   BOOL in_full = FALSE;
   ::SystemParametersInfoW(SPI_GETDRAGFULLWINDOWS, 0, &in_full, 0);
   EXPECT_TRUE(in_full);

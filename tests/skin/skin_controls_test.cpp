@@ -59,6 +59,7 @@ class SkinControls : public test::ControlTest {
     EXPECT_EQ(
         bar.SendMessageW(WM_COMMAND, command.wparam, reinterpret_cast<LPARAM>(command.sender)),
         TRUE);
+    EXPECT_EQ(host_->commands.size(), 2u) << "sent, not posted";
   }
 
   CXmlListMgr skin_;
@@ -162,7 +163,7 @@ TEST_F(SkinControls, ATabStripNeedsARecord) {
   skin_.LoadListTab(strip, rect_, host_.get(), kUnknown);
   EXPECT_EQ(strip.GetSafeHwnd(), nullptr);
   EXPECT_EQ(rect_, CRect(1, 2, 3, 4));
-  EXPECT_EQ(CUICtrlMgr().LoadTabBtn(strip, 1, {}), 0);
+  EXPECT_EQ(CUICtrlMgr().LoadTabBtn(strip, {&strip, 1, {}}), 0);
   EXPECT_EQ(strip.GetBtnCount(), 0);
 
   skin_.LoadListTab(strip, rect_, host_.get(), 2);

@@ -14,7 +14,6 @@ class Frame {
   Frame(SIZE size, std::vector<std::uint32_t> pixels) : size_(size), pixels_(std::move(pixels)) {}
 
   COLORREF at(int x, int y) const;  // screen coordinates; CLR_INVALID outside
-  COLORREF at(POINT point) const { return at(point.x, point.y); }
   // Of the rectangle's pixels, which may lie outside of the screen. `bounds` becomes the smallest
   // rectangle around the counted ones.
   int count(const RECT& rect, const std::function<bool(COLORREF)>& condition,

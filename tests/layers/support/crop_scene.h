@@ -6,8 +6,8 @@
 
 namespace corvane::test {
 
-// Creates the background's window over the client area of `host`. The brush that changes what shows
-// through least is mid-grey.
+// Creates the background's window over the client area of `host`, with a mid-grey brush, through
+// which the picture shows least changed.
 bool create_over(corvane::CCutBgLayer& background, HWND host);
 // The window between the background and the bar; null when it does not exist.
 HWND rect_layer_of(HWND background);

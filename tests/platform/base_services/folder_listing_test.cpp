@@ -175,14 +175,24 @@ TEST_F(FolderListing, ListingThatThrowsLeavesTheFolderUsable) {
   EXPECT_EQ(names_in(*outer), Names{L"a"});
 }
 
+class FewDescriptors {
+ public:
+  FewDescriptors() {
+    getrlimit(RLIMIT_NOFILE, &before_);
+    const rlimit few{256, before_.rlim_max};
+    setrlimit(RLIMIT_NOFILE, &few);
+  }
+  ~FewDescriptors() { setrlimit(RLIMIT_NOFILE, &before_); }
+
+ private:
+  rlimit before_{};
+};
+
 TEST_F(FolderListing, DeeperThanAnyPath) {
   constexpr int levels = 5000;
   const test::TemporaryFolder folder(test::TemporaryFolder::Place::memory);
   folder.chain("deep", levels);
-  rlimit before{};
-  getrlimit(RLIMIT_NOFILE, &before);
-  const rlimit few{256, before.rlim_max};
-  setrlimit(RLIMIT_NOFILE, &few);
+  const FewDescriptors few;
   std::vector<std::unique_ptr<OpenFolder>> all;  // every one of them stays open
   all.push_back(opened(folder.wide()));
   while (all.back()) all.push_back(all.back()->open_child(L"deep"));
@@ -200,7 +210,6 @@ TEST_F(FolderListing, DeeperThanAnyPath) {
   const auto by_path = opened(path);
   ASSERT_TRUE(by_path);
   EXPECT_EQ(by_path->identity(), bottom->identity());
-  setrlimit(RLIMIT_NOFILE, &before);
 }
 
 TEST_F(FolderListing, FolderOpenedAgainIsTheSameOrNone) {

@@ -30,7 +30,7 @@ TEST(GdiSurface, EqualsPlainRowsUnderRandomWork) {
     const bool pinned = round % 3 != 0;
     Surface surface(1 + below(20), 1 + below(20), 3);
     Rows plain = rows_of(surface);
-    if (pinned) surface.pin(round % 3 == 1 ? Order::TopDown : Order::BottomUp);
+    if (pinned) surface.pin(round % 3 == 1 ? Order::top_down : Order::bottom_up);
     for (int step = 0; step < 30; ++step) {
       const auto color = static_cast<Pixel>(below(3));
       RECT rect{below(30) - 5, below(30) - 5, below(30) - 5, below(30) - 5};
@@ -74,7 +74,7 @@ TEST(GdiSurface, WholeRowsOfOneColourHoldNoPixels) {
 
 TEST(GdiSurface, PinnedPixelsStayAtTheirAddress) {
   Surface surface(4, 3);
-  Pixel* first = surface.pin(Surface::RowOrder::BottomUp);
+  Pixel* first = surface.pin(Surface::RowOrder::bottom_up);
   surface.fill(surface.rect(), 8);
   first[0] = 1;  // the lowest row in a bottom-up picture
   EXPECT_EQ(surface.at(0, 2), 1u);

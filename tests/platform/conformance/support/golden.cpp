@@ -89,15 +89,18 @@ class GoldenFiles : public testing::Environment {
 
 }  // namespace
 
-void expect_golden(const std::string& recorded) {
+void expect_golden(const std::optional<std::string>& recorded) {
   const testing::TestInfo& test = *testing::UnitTest::GetInstance()->current_test_info();
   const Section expected = read(golden_path(test))[name_of(test)];
   if (!renewing()) {
-    EXPECT_EQ(expected.recorded, recorded) << "- as expected, + as recorded";
-  } else if (!recorded.empty()) {
-    std::string& text = renewed_files[golden_path(test)];
-    text += (text.empty() ? "" : "\n") + expected.argument + name_of(test) + "\n" + recorded;
+    EXPECT_EQ(expected.recorded, recorded.value_or(expected.recorded))
+        << "- as expected, + as recorded";
+    return;
   }
+  const std::string section = recorded.value_or(expected.recorded);
+  if (section.empty()) return;
+  std::string& text = renewed_files[golden_path(test)];
+  text += (text.empty() ? "" : "\n") + expected.argument + name_of(test) + "\n" + section;
 }
 
 }  // namespace corvane::conformance

@@ -78,7 +78,7 @@ class MessageRecorder {
   void only(std::set<UINT> messages);
   void ignore(std::set<UINT> messages);
   void only_windows(std::set<std::string> names) { only_windows_ = std::move(names); }
-  // It comes once per process, and is never what a case is about unless it says so.
+  // WM_ACTIVATEAPP, which is left out otherwise: it comes once for each window system.
   void record_activation_of_application() { ignored_.erase(WM_ACTIVATEAPP); }
 
   // Announces the message that DispatchMessageW is about to deliver.

@@ -14,7 +14,7 @@ WindowTest::WindowTest() {
 }
 
 void WindowTest::TearDown() {
-  if (!HasFatalFailure()) expect_golden(golden_);
+  expect_golden(HasFatalFailure() ? std::nullopt : std::optional(golden_));
   recorder_.remove_hooks();
 }
 

@@ -83,7 +83,8 @@ TEST(TwoSystemsTest, TheLatestIsCurrentAndItsEndRestoresTheFormer) {
 }
 
 TEST(TwoSystemsTest, TheEndOfOneThatIsNotCurrentDestroysItsWindows) {
-  static int destroyed = 0;
+  static int destroyed;
+  destroyed = 0;
   Desk first;
   auto second = std::make_unique<test::Desktop>();
   WNDCLASSW window_class{};
