@@ -4,11 +4,10 @@
 
 #include "apps/capture/sorted_listing.h"
 #include "corvane/platform/platform.h"
+#include "corvane/trees/shared/folder_path.h"
 
 namespace capture {
 namespace {
-
-constexpr wchar_t kSeparator = L'\\';
 
 void add(FolderEntries& entries, const WIN32_FIND_DATAW& found) {
   const std::wstring_view name = found.cFileName;
@@ -77,22 +76,20 @@ std::wstring first_folder_with_pictures(const std::wstring& root) {
 
 bool lies_in(std::wstring_view root, std::wstring_view path) {
   if (!path.starts_with(root)) return false;
-  return path.size() == root.size() || path[root.size()] == kSeparator;
+  return path.size() == root.size() || path[root.size()] == corvane::kPathSeparator;
 }
 
 std::wstring path_in(std::wstring folder, std::wstring_view name) {
-  folder += kSeparator;
-  return folder.append(name);
+  corvane::append_component(folder, name);
+  return folder;
 }
 
 std::wstring folder_of(const std::wstring& path) {
-  const std::size_t separator = path.rfind(kSeparator);
-  return separator == std::wstring::npos ? std::wstring() : path.substr(0, separator);
+  return std::wstring(corvane::parent_path(path));
 }
 
 std::wstring name_of(const std::wstring& path) {
-  const std::size_t separator = path.rfind(kSeparator);
-  return separator == std::wstring::npos ? path : path.substr(separator + 1);
+  return std::wstring(corvane::last_component(path));
 }
 
 std::wstring name_from(const std::vector<std::wstring>& names, const std::wstring& name, int step) {

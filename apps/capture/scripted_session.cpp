@@ -28,7 +28,7 @@ POINT at(const CRect& rect, int percent_x, int percent_y) {
   return {rect.left + rect.Width() * percent_x / 100, rect.top + rect.Height() * percent_y / 100};
 }
 
-CRect OnScreen(const CWnd& window) {
+CRect on_screen(const CWnd& window) {
   CRect rect;
   window.GetWindowRect(rect);
   return rect;
@@ -92,11 +92,11 @@ class Session {
     }
     click(row_of(inner));
     frame("a click on a folder shows its pictures");
-    const CRect strip = OnScreen(window_.browser().strip());
+    const CRect strip = on_screen(window_.browser().strip());
     turn_wheel(strip.CenterPoint(), -4);
     frame("the wheel moves the row of pictures");
     turn_wheel(strip.CenterPoint(), 4);
-    turn_wheel(OnScreen(window_.browser().pane().tree()).CenterPoint(), -9);
+    turn_wheel(on_screen(window_.browser().pane().tree()).CenterPoint(), -9);
     frame("the wheel moves the tree");
     if (window_.browser().strip().names().empty()) return;
     click(picture_in_strip(0));
@@ -159,13 +159,13 @@ class Session {
 
   CRect shown_picture() const {
     CRect rect(window_.view().ShownRect());
-    rect.OffsetRect(OnScreen(window_.view()).TopLeft());
+    rect.OffsetRect(on_screen(window_.view()).TopLeft());
     return rect;
   }
 
   CRect framed_part() const {
     CRect rect = window_.crop().GetCutRect();
-    rect.OffsetRect(OnScreen(window_.view()).TopLeft());
+    rect.OffsetRect(on_screen(window_.view()).TopLeft());
     return rect;
   }
   POINT corner() const { return {framed_part().right, framed_part().bottom}; }

@@ -11,7 +11,7 @@ constexpr int kPadding = 6;  // between a cell's edge and its picture
 constexpr int kNameHeight = 22;
 constexpr int kTrackHeight = 6;
 constexpr int kTrackMargin = 4;  // above and below
-constexpr int kShortestMark = 36;
+constexpr int kMinMark = 36;
 constexpr int kMinPictureSize = 24;
 
 }  // namespace
@@ -105,7 +105,7 @@ RECT CStripLayout::ScrollMark() const {
   const int whole = track.right - track.left;
   if (whole <= 0) return {};
   auto share = static_cast<long long>(whole) * area_.cx / row_width();
-  const int length = std::min(std::max(static_cast<int>(share), kShortestMark), whole);
+  const int length = std::min(std::max(static_cast<int>(share), kMinMark), whole);
   auto way = static_cast<long long>(whole - length) * scroll_ / ScrollLimit();
   const LONG left = track.left + static_cast<LONG>(way);
   return {left, track.top, left + length, track.bottom};

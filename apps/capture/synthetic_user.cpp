@@ -75,7 +75,7 @@ void turn_wheel(POINT point, int notches) {
 }
 
 void press_key(int virtual_key) {
-  for (DWORD const flags : {DWORD{0}, DWORD{KEYEVENTF_KEYUP}}) {
+  for (const DWORD flags : {DWORD{0}, DWORD{KEYEVENTF_KEYUP}}) {
     INPUT input{};
     input.type = INPUT_KEYBOARD;
     input.ki.wVk = static_cast<WORD>(virtual_key);

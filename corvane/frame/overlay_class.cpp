@@ -6,7 +6,7 @@
 namespace corvane {
 namespace {
 
-constexpr const wchar_t* kName = L"CorvaneCropOverlay";
+constexpr const wchar_t* kName = L"CorvaneOverlay";
 constexpr COLORREF kNearlyWhite = RGB(254, 254, 254);
 
 }  // namespace

@@ -15,10 +15,10 @@ constexpr int clamp_coordinate(std::int64_t value, int low = (std::numeric_limit
 }
 
 // Coordinates as near to 0 as this can be added and subtracted once without overflow.
-inline constexpr int kFarthestCoordinate = (1 << 30) - 1;
+inline constexpr int kMaxSummable = (1 << 30) - 1;
 
 constexpr int clamp_to_summable(std::int64_t value) {
-  return clamp_coordinate(value, -kFarthestCoordinate, kFarthestCoordinate);
+  return clamp_coordinate(value, -kMaxSummable, kMaxSummable);
 }
 
 // Wraps round where the platform's own rectangles do.

@@ -8,7 +8,7 @@ namespace {
 template <typename Record>
 Record* first_with_id(const std::list<Record*>& records, int id) {
   const auto found = std::find_if(records.begin(), records.end(), [id](const Record* record) {
-    return record && record->id == id;
+    return record != nullptr && record->id == id;
   });
   return found == records.end() ? nullptr : *found;
 }

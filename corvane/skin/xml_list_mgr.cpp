@@ -103,12 +103,12 @@ void CXmlListMgr::LoadGdiEditEx(CGdiEditEx& edit, CRect& rect, CWnd* parent, int
 
 void CXmlListMgr::LoadListTab(CListTab& strip, CRect& rect, CWnd* parent, int id) const {
   if (_MYCONTROL* const control = GetCtrl(id)) {
-    CUICtrlMgr().LoadListTab(strip, rect, parent, control);
+    CUICtrlMgr().LoadListTab(strip, rect, {parent, static_cast<UINT>(id), {control}});
   }
 }
 
 void CXmlListMgr::AddListTabBtn(CListTab& strip, int id) const {
-  CUICtrlMgr().LoadTabBtn(strip, id, lists_.joined(id));
+  CUICtrlMgr().LoadTabBtn(strip, {&strip, static_cast<UINT>(id), lists_.joined(id)});
 }
 
 void CXmlListMgr::LoadListBar(CListBar& bar, CRect& rect, CWnd* parent, int id) const {

@@ -47,17 +47,7 @@ int CCutBgLayer::OnCreate(LPCREATESTRUCT creation) {
   if (CWnd::OnCreate(creation) == -1) return -1;
   if (!become_overlay(*this)) return -1;
   SetLayeredWindowAttributes(kUnusedKey, kPracticallyInvisible, LWA_ALPHA);
-  return create_rect_layer() ? 0 : -1;
-}
-
-// False: this window did not outlive it.
-bool CCutBgLayer::create_rect_layer() {
-  const WindowWatch watch(*this);
-  rect_layer_.CreateEx(WS_EX_TOOLWINDOW, overlay_class(), L"cutRectLayer", WS_POPUP, 0, 0, 0, 0,
-                       m_hWnd, nullptr);
-  if (watch.object_gone()) return false;
-  if (rect_layer_.GetSafeHwnd() != nullptr) rect_layer_.ShowWindow(SW_HIDE);
-  return !watch.window_gone();
+  return create_overlay(rect_layer_, L"cutRectLayer", *this) ? 0 : -1;
 }
 
 void CCutBgLayer::OnSize(UINT kind, int width, int height) {

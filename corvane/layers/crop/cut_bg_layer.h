@@ -43,7 +43,6 @@ class CCutBgLayer : public LibraryWindow<CWnd> {
 
  private:
   const WindowDescription& description() const override;
-  bool create_rect_layer();
   void cover_with_rect_layer();
 
   CCutRectLayer rect_layer_;

@@ -79,7 +79,7 @@ int CCutRectLayer::OnCreate(LPCREATESTRUCT creation) {
   create_fill_buffers();
   if (!become_overlay(*this)) return -1;
   SetLayeredWindowAttributes(kClear, kDimming, LWA_COLORKEY | LWA_ALPHA);
-  return create_bar() ? 0 : -1;
+  return create_overlay(button_layer_, L"cutBtnLayer", *this) ? 0 : -1;
 }
 
 void CCutRectLayer::create_fill_buffers() {
@@ -88,16 +88,6 @@ void CCutRectLayer::create_fill_buffers() {
   dark_buffer_.SetBackColor(kBufferRect, kDark);
   clear_buffer_.CreateBufferDC(dc, kBufferRect);
   clear_buffer_.SetBackColor(kBufferRect, kClear);
-}
-
-// False: the layer did not outlive it. A bar that cannot be made leaves the layer without one.
-bool CCutRectLayer::create_bar() {
-  const WindowWatch watch(*this);
-  button_layer_.CreateEx(WS_EX_TOOLWINDOW, overlay_class(), L"cutBtnLayer", WS_POPUP, 0, 0, 0, 0,
-                         m_hWnd, nullptr);
-  if (watch.object_gone()) return false;
-  if (button_layer_.GetSafeHwnd() != nullptr) button_layer_.ShowWindow(SW_HIDE);
-  return !watch.window_gone();
 }
 
 void CCutRectLayer::OnPaint() {

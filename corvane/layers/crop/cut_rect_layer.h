@@ -51,7 +51,6 @@ class CCutRectLayer : public LibraryWindow<CWnd> {
  private:
   const WindowDescription& description() const override;
   void create_fill_buffers();
-  bool create_bar();
   bool has_bar() const { return show_buttons_ && button_layer_.GetSafeHwnd() != nullptr; }
   void hide_bar();
   void place_bar();

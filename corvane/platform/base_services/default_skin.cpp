@@ -22,8 +22,8 @@ std::optional<path> skin_beside(const path& folder) {
 }
 
 std::optional<path> skin_above(path folder) {
-  constexpr int kFarCoordinate = 6;
-  for (int i = 0; i < kFarCoordinate && folder.has_relative_path(); ++i) {
+  constexpr int kMaxLevels = 6;
+  for (int i = 0; i < kMaxLevels && folder.has_relative_path(); ++i) {
     folder = folder.parent_path();
     if (holds_skin(folder / "skins/default")) return folder / "skins/default";
   }

@@ -83,7 +83,7 @@ bool WindowsFolder::list_folders(const FoundFolder& found) {
 class WindowsListing : public FolderListing {
  public:
   std::unique_ptr<OpenFolder> open(const wchar_t* path) override {
-    return path ? WindowsFolder::open(long_path(std::wstring(path) + L"\\")) : nullptr;
+    return path != nullptr ? WindowsFolder::open(long_path(std::wstring(path) + L"\\")) : nullptr;
   }
 };
 

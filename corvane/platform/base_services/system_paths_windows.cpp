@@ -15,9 +15,9 @@ std::wstring wide_from_thread_code_page(std::string_view text) {
 }
 
 std::filesystem::path folder_of_module(HMODULE module) {
-  constexpr DWORD kLongestPath = 32768;
-  std::wstring file(kLongestPath, L'\0');
-  file.resize(GetModuleFileNameW(module, file.data(), kLongestPath));
+  constexpr DWORD kMaxPath = 32768;
+  std::wstring file(kMaxPath, L'\0');
+  file.resize(GetModuleFileNameW(module, file.data(), kMaxPath));
   return std::filesystem::path(file).parent_path();
 }
 
@@ -61,7 +61,7 @@ std::filesystem::path program_folder() { return folder_of_module(nullptr); }
 std::optional<std::filesystem::path> path_from_environment(const char* name) {
   const std::filesystem::path wide_name(name);
   const wchar_t* const value = _wgetenv(wide_name.c_str());
-  if (!value || !*value) return std::nullopt;
+  if (value == nullptr || *value == L'\0') return std::nullopt;
   return std::filesystem::path(value);
 }
 

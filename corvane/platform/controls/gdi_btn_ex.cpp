@@ -61,7 +61,7 @@ template <typename Event>
 void CGdiBtnEx::feed(Event event) {
   const auto before = behavior_.appearance();
   event();
-  if (!m_hWnd) return;
+  if (m_hWnd == nullptr) return;
   if (behavior_.appearance() != before) Invalidate(FALSE);
   const bool captured = ::GetCapture() == m_hWnd;
   if (behavior_.wants_capture() && !captured) {

@@ -75,15 +75,14 @@ int CUICtrlMgr::LoadGdiEditEx(CGdiEditEx& edit, CRect& rect, const ControlToLoad
   return load_skinned(edit, rect, load);
 }
 
-int CUICtrlMgr::LoadListTab(CListTab& strip, CRect& rect, CWnd* parent, const _MYCONTROL* control) {
-  const UINT id = control != nullptr ? static_cast<UINT>(control->id) : 0;
-  return load_skinned(strip, rect, {parent, id, {control, nullptr, nullptr}});
+int CUICtrlMgr::LoadListTab(CListTab& strip, CRect& rect, const ControlToLoad& load) {
+  return load_skinned(strip, rect, load);
 }
 
-int CUICtrlMgr::LoadTabBtn(CListTab& strip, int id, const SkinnedControl& skin) {
+int CUICtrlMgr::LoadTabBtn(CListTab& strip, const ControlToLoad& load) {
   if (strip.GetSafeHwnd() == nullptr) return 0;
   CRect rect;
-  return LoadGdiBtn(strip.AddBtn(), rect, {&strip, static_cast<UINT>(id), skin});
+  return LoadGdiBtn(strip.AddBtn(), rect, {&strip, load.id, load.skin});
 }
 
 }  // namespace corvane

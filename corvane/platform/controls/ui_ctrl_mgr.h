@@ -40,10 +40,9 @@ class CUICtrlMgr {
   int LoadGdiSlider(CGdiSlider& slider, CRect& rect, const ControlToLoad& load);
   int LoadGdiComboBox(CGdiComboBox& box, CRect& rect, const ControlToLoad& load);
   int LoadGdiEditEx(CGdiEditEx& edit, CRect& rect, const ControlToLoad& load);
-  // The window id is the record's.
-  int LoadListTab(CListTab& strip, CRect& rect, CWnd* parent, const _MYCONTROL* control);
-  // Adds a button to a strip that has a window.
-  int LoadTabBtn(CListTab& strip, int id, const SkinnedControl& skin);
+  int LoadListTab(CListTab& strip, CRect& rect, const ControlToLoad& load);
+  // Adds a button to a strip that has a window and is its parent.
+  int LoadTabBtn(CListTab& strip, const ControlToLoad& load);
 };
 
 }  // namespace corvane

@@ -8,7 +8,7 @@
 namespace corvane {
 namespace {
 
-constexpr int kLargestField = 4096;  // characters; a wider field is cut to this width
+constexpr int kMaxField = 4096;  // characters; a wider field is cut to this width
 
 struct Conversion {
   std::wstring flags;
@@ -46,11 +46,11 @@ class Formatter {
       const FormatArgument* argument = next_argument();
       const auto* number = argument != nullptr ? std::get_if<long long>(argument) : nullptr;
       return (number != nullptr)
-                 ? static_cast<int>(std::clamp<long long>(*number, -kLargestField, kLargestField))
+                 ? static_cast<int>(std::clamp<long long>(*number, -kMaxField, kMaxField))
                  : 0;
     }
     for (; *at_ >= L'0' && *at_ <= L'9'; ++at_) {
-      value = std::min(value * 10 + static_cast<int>(*at_ - L'0'), kLargestField);
+      value = std::min(value * 10 + static_cast<int>(*at_ - L'0'), kMaxField);
     }
     return value;
   }

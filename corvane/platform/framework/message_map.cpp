@@ -8,7 +8,7 @@ namespace {
 
 template <class Fits>
 MessageMatch first_match(const MessageMap* map, const Fits& fits) {
-  for (; map; map = map->base) {
+  for (; map != nullptr; map = map->base) {
     for (const MessageEntry& entry : map->entries) {
       if (fits(entry)) return {&entry, map->table};
     }

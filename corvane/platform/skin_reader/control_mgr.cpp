@@ -9,17 +9,17 @@
 namespace corvane {
 namespace {
 
-constexpr std::int32_t kLargestCoordinate = 32767;
+constexpr std::int32_t kMaxCoordinate = 32767;
 constexpr COLORREF kBlack = RGB(0, 0, 0);
 constexpr COLORREF kGrey = RGB(128, 128, 128);
 constexpr COLORREF kWhite = RGB(255, 255, 255);
 
 std::int32_t position_of(pugi::xml_node node, const char* attribute) {
-  return number_of(node, attribute, -kLargestCoordinate - 1, kLargestCoordinate).value_or(0);
+  return number_of(node, attribute, -kMaxCoordinate - 1, kMaxCoordinate).value_or(0);
 }
 
 std::int32_t extent_of(pugi::xml_node node, const char* attribute) {
-  return number_of(node, attribute, 0, kLargestCoordinate).value_or(0);
+  return number_of(node, attribute, 0, kMaxCoordinate).value_or(0);
 }
 
 RECT rect_of(pugi::xml_node node) {

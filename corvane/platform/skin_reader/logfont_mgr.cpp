@@ -12,7 +12,7 @@ namespace {
 constexpr const wchar_t* kDefaultFace = L"宋体";
 constexpr std::int32_t kDefaultSize = 14;
 constexpr std::int32_t kMaxSize = 1000;
-constexpr std::int32_t kLargestWeight = 1000;
+constexpr std::int32_t kMaxWeight = 1000;
 
 BYTE switch_of(pugi::xml_node node, const char* attribute) {
   return parse_switch(node.attribute(attribute).value()).value_or(false) ? 1 : 0;
@@ -26,7 +26,7 @@ std::wstring face_of(pugi::xml_node node) {
 std::unique_ptr<LOGFONTW> description_of(pugi::xml_node node) {
   auto description = std::make_unique<LOGFONTW>();
   description->lfHeight = -number_of(node, "size", 1, kMaxSize).value_or(kDefaultSize);
-  description->lfWeight = number_of(node, "weight", 1, kLargestWeight).value_or(FW_NORMAL);
+  description->lfWeight = number_of(node, "weight", 1, kMaxWeight).value_or(FW_NORMAL);
   description->lfItalic = switch_of(node, "italic");
   description->lfUnderline = switch_of(node, "underline");
   description->lfCharSet = DEFAULT_CHARSET;

@@ -1,5 +1,7 @@
 #include "corvane/trees/model/tree_node.h"
 
+#include "corvane/platform/geometry.h"
+
 namespace corvane {
 
 _NODE::~_NODE() { free_children(); }
@@ -9,6 +11,13 @@ void _NODE::free_children() {
   std::list<_NODE> doomed = std::move(children_);
   children_.clear();
   for (_NODE& node : doomed) doomed.splice(doomed.end(), node.children_);
+}
+
+RECT row_in_client(const _NODE& node, int position) {
+  RECT row = node.row();
+  row.top = clamp_coordinate(std::int64_t{row.top} - position);
+  row.bottom = clamp_coordinate(std::int64_t{row.bottom} - position);
+  return row;
 }
 
 }  // namespace corvane

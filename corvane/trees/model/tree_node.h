@@ -39,4 +39,8 @@ class _NODE {
   _NODE* parent_ = nullptr;
 };
 
+// Where the node's row, as last laid out, lies in the client area of a window that shows the
+// content from `position` (pixels) on. Rows above or below the client area have such a place, too.
+RECT row_in_client(const _NODE& node, int position);
+
 }  // namespace corvane

@@ -9,8 +9,6 @@
 namespace corvane {
 namespace {
 
-constexpr COLORREF kBackground = RGB(255, 255, 255);
-
 // Climbs to the nearest folder that exists, or to the first component.
 CString existing_part(CString path) {
   while (!::PathFileExistsW(path) && path.Find(kPathSeparator) >= 0) {
@@ -135,30 +133,15 @@ void CTreeCtrlEx2::OnDestroy() {
 }
 
 BOOL CTreeCtrlEx2::OnEraseBkgnd(CDC* dc) {
-  CRect client;
-  GetClientRect(client);
-  if (!buffer_.HasSizeOf(client)) {
-    buffer_.CreateBufferDC(dc != nullptr ? dc->GetSafeHdc() : nullptr, client);
-    buffer_.SetBackColor(client, kBackground);
-  }
+  buffer_.fit(*this, dc);
   return TRUE;
 }
 
 void CTreeCtrlEx2::OnPaint() {
   const WindowWatch watch(*this);
   CPaintDC paint(this);
-  if (!watch.object_gone()) draw_now(paint);
-}
-
-void CTreeCtrlEx2::draw_now(CDC& target) {
-  if (buffer_.GetDC() == nullptr) return;
-  const WindowWatch watch(*this);
-  CRect client;
-  GetClientRect(client);
-  OnEraseBkgnd(&target);  // the size may have changed without anything being erased
-  buffer_.SetBackColor(client, kBackground);
-  DoDraw(buffer_, client);
-  if (!watch.object_gone() && buffer_.HasSizeOf(client)) buffer_.Paste(target, client, SRCCOPY);
+  if (watch.object_gone()) return;
+  buffer_.draw_now(*this, paint, [this](HDC dc, CRect client) { DoDraw(dc, client); });
 }
 
 void CTreeCtrlEx2::DoDraw(HDC dc, CRect rect) {
@@ -187,7 +170,7 @@ void CTreeCtrlEx2::OpenVscroll(int show, int maximum, int page) {
   info.nPage = static_cast<UINT>(page);
   const WindowWatch watch(*this);
   SetScrollInfo(SB_VERT, &info, TRUE);
-  if (!watch.object_gone()) ShowScrollBar(SB_VERT, static_cast<BOOL>(show != 0));
+  if (!watch.object_gone()) ShowScrollBar(SB_VERT, show != 0 ? TRUE : FALSE);
 }
 
 int CTreeCtrlEx2::scroll_position() const { return GetScrollPos(SB_VERT); }

@@ -12,13 +12,13 @@
 #include "corvane/frame/layer_messages.h"
 #include "corvane/frame/library_window.h"
 #include "corvane/platform/base_services/folder_listing.h"
-#include "corvane/platform/drawing/buffer_dc.h"
 #include "corvane/skin/xml_list_mgr.h"
 #include "corvane/trees/model/tree_model.h"
 #include "corvane/trees/owner_drawn/tree_layout.h"
 #include "corvane/trees/owner_drawn/tree_row_painter.h"
 #include "corvane/trees/owner_drawn/tree_scrolling.h"
 #include "corvane/trees/shared/folder_images.h"
+#include "corvane/trees/shared/tree_buffer.h"
 
 namespace corvane {
 
@@ -116,13 +116,12 @@ class CTreeCtrlEx2 : public LibraryWindow<CWnd> {
   void scroll_to(int position);
   _NODE* make_current_at(CPoint point);
   void repaint();
-  void draw_now(CDC& target);  // everything, whether invalid or not
 
   TreeModel model_;
   TreeLayout layout_;
   std::unique_ptr<FolderListing> listing_;
   CXmlListMgr skin_;
-  CBufferDC buffer_;
+  TreeBuffer buffer_;
   FolderImages images_;
   TreeRowPainter painter_{images_};
   int menu_enabled_ = 0;

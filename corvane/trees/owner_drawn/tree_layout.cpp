@@ -16,13 +16,6 @@ RECT row_rect(int row, int width) {
 
 }  // namespace
 
-RECT row_in_client(const _NODE& node, int position) {
-  RECT row = node.row();
-  row.top = clamp_coordinate(std::int64_t{row.top} - position);
-  row.bottom = clamp_coordinate(std::int64_t{row.bottom} - position);
-  return row;
-}
-
 LONG TreeLayout::arrange(TreeModel& model, int width) {
   if (model.empty()) return 0;
   if (!is_complete(model) || width != width_) {

@@ -14,10 +14,6 @@ namespace corvane {
 
 inline constexpr int kTreeRowHeight = 30;  // pixels
 
-// Where the node's row, as last laid out, lies in the client area of a window that shows the
-// content from `position` on. Rows above or below the client area have such a place, too.
-RECT row_in_client(const _NODE& node, int position);
-
 class TreeLayout {
  public:
   // Gives every visible node its row, `width` pixels wide; the height of all rows. 0 and nothing

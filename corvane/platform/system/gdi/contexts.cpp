@@ -13,13 +13,13 @@ namespace {
 template <class Value>
 Value exchange_attribute(HDC dc, Value DcState::*attribute, Value value, Value failure) {
   DeviceContext* context = find_dc(dc);
-  return context ? std::exchange(context->state.*attribute, value) : failure;
+  return context != nullptr ? std::exchange(context->state.*attribute, value) : failure;
 }
 
 template <class Value>
 Value attribute_of(HDC dc, Value DcState::*attribute, Value failure) {
   const DeviceContext* context = find_dc(dc);
-  return context ? context->state.*attribute : failure;
+  return context != nullptr ? context->state.*attribute : failure;
 }
 
 // An object that was deleted since the state was saved stays as it is selected now.

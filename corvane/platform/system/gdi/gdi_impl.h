@@ -36,7 +36,7 @@ struct Gdi::Impl {
   template <class Kind>
   Kind* get(const void* handle) {
     GdiObject* object = objects.find(handle);
-    return object ? std::get_if<Kind>(&object->kind) : nullptr;
+    return object != nullptr ? std::get_if<Kind>(&object->kind) : nullptr;
   }
   // The colour of a brush handle or of a system colour index + 1; no_color is set for the null
   // brush. False for neither.

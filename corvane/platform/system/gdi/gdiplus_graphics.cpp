@@ -13,6 +13,8 @@ using namespace corvane::system;
 
 namespace {
 
+constexpr double kMaxCoordinate = 1 << 22;  // pixels; beyond it nothing is told apart
+
 // Turning by quarters is exact.
 void rotate(cairo_matrix_t& matrix, double degrees) {
   const double turn = std::fmod(std::fmod(degrees, 360.0) + 360.0, 360.0);
@@ -51,7 +53,7 @@ std::optional<Cut> cut_to_picture(const Image& image, const RectF& target, const
 
 template <class State>
 Status draw_part(State& state, const Image* image, const RectF& target, const RectF& part) {
-  if (!image || !image->pixels()) return state.done(InvalidParameter);
+  if (image == nullptr || image->pixels() == nullptr) return state.done(InvalidParameter);
   if (target.Width == 0 || target.Height == 0 || !(part.Width > 0 && part.Height > 0)) {
     return state.done(Ok);
   }
@@ -104,11 +106,10 @@ void set_source(cairo_t* cairo, const Color& color) {
 }
 
 RECT mapped_bounds(const cairo_matrix_t& matrix, const RectF& area, double margin) {
-  const double k_farthest = 1 << 22;
-  double left = k_farthest;
-  double top = k_farthest;
-  double right = -k_farthest;
-  double bottom = -k_farthest;
+  double left = kMaxCoordinate;
+  double top = kMaxCoordinate;
+  double right = -kMaxCoordinate;
+  double bottom = -kMaxCoordinate;
   for (int corner = 0; corner < 4; ++corner) {
     double x = area.X + (corner % 2 == 1 ? area.Width : 0);
     double y = area.Y + (corner / 2 == 1 ? area.Height : 0);
@@ -118,8 +119,8 @@ RECT mapped_bounds(const cairo_matrix_t& matrix, const RectF& area, double margi
     right = std::max(right, x + margin);
     bottom = std::max(bottom, y + margin);
   }
-  const auto pixel = [k_farthest](double value) {
-    return static_cast<LONG>(std::clamp(value, -k_farthest, k_farthest));
+  const auto pixel = [](double value) {
+    return static_cast<LONG>(std::clamp(value, -kMaxCoordinate, kMaxCoordinate));
   };
   return {pixel(std::floor(left)), pixel(std::floor(top)), pixel(std::ceil(right)),
           pixel(std::ceil(bottom))};

@@ -16,7 +16,7 @@ namespace {
 
 using corvane_system::Gdiplus::Image;
 
-constexpr double kFarCoordinate = 1 << 22;  // pixels; Cairo's coordinates end at twice this
+constexpr double kMaxCoordinate = 1 << 22;  // pixels; Cairo's coordinates end at twice this
 
 // Pixels to draw: a part of a surface.
 struct Source {
@@ -41,7 +41,7 @@ Source shrunk(const Image& image, const RECT& part, int width, int height) {
 }
 
 bool is_whole(double value) {
-  return std::abs(value) < kFarCoordinate && std::abs(value - std::round(value)) < 1e-3;
+  return std::abs(value) < kMaxCoordinate && std::abs(value - std::round(value)) < 1e-3;
 }
 
 // The pixels that the placement covers exactly, when it is upright and on whole pixels.
@@ -112,15 +112,15 @@ void paint_blocks(DeviceContext& dc, const Source& source, const RECT& target) {
 
 // What the placement covers, in pixels; nothing when that is out of all bounds.
 std::optional<RECT> reach_of(const ImagePlacement& placement) {
-  double left = kFarCoordinate;
-  double top = kFarCoordinate;
-  double right = -kFarCoordinate;
-  double bottom = -kFarCoordinate;
+  double left = kMaxCoordinate;
+  double top = kMaxCoordinate;
+  double right = -kMaxCoordinate;
+  double bottom = -kMaxCoordinate;
   for (int corner = 0; corner < 4; ++corner) {
     double x = placement.x + (corner % 2) * placement.width;
     double y = placement.y + (corner / 2) * placement.height;
     cairo_matrix_transform_point(&placement.matrix, &x, &y);
-    if (!(std::abs(x) < kFarCoordinate && std::abs(y) < kFarCoordinate)) return std::nullopt;
+    if (!(std::abs(x) < kMaxCoordinate && std::abs(y) < kMaxCoordinate)) return std::nullopt;
     left = std::min(left, x);
     top = std::min(top, y);
     right = std::max(right, x);
@@ -132,7 +132,7 @@ std::optional<RECT> reach_of(const ImagePlacement& placement) {
 
 // How many surface pixels the part's width and height take.
 int device_length(double dx, double dy) {
-  return static_cast<int>(std::clamp(std::ceil(std::hypot(dx, dy) - 1e-3), 1.0, kFarCoordinate));
+  return static_cast<int>(std::clamp(std::ceil(std::hypot(dx, dy) - 1e-3), 1.0, kMaxCoordinate));
 }
 
 // The edges do not fade: colours go on beyond the picture, the outline cuts them off.

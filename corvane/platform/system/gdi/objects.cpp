@@ -12,13 +12,13 @@ using namespace corvane::system;
 
 namespace {
 
-constexpr int kWidestPen = 32767;
+constexpr int kMaxPenWidth = 32767;
 constexpr std::int64_t kMaxBitmapPixels = std::int64_t{1} << 28;  // pixels; 1 GiB
 
 template <class Handle>
 Handle add(GdiObject object) {
   Gdi::Impl* tables = current_tables();
-  return tables ? static_cast<Handle>(tables->add(std::move(object))) : nullptr;
+  return tables != nullptr ? static_cast<Handle>(tables->add(std::move(object))) : nullptr;
 }
 
 // Null with an error when the size is negative or the pixels would not fit into memory.
@@ -70,7 +70,7 @@ int give(const Description& description, int size, void* out) {
 }  // namespace
 
 HPEN CreatePen(int style, int width, COLORREF color) {
-  const int checked_width = std::clamp(width, 0, kWidestPen);
+  const int checked_width = std::clamp(width, 0, kMaxPenWidth);
   return add<HPEN>({.kind = PenObject{style, checked_width, color & 0xFFFFFF}});
 }
 
@@ -130,9 +130,9 @@ HBITMAP CreateDIBSection(HDC, const BITMAPINFO* info, UINT usage, void** bits, H
     std::shared_ptr<Surface> pixels = make_pixels(info->bmiHeader.biWidth, std::abs(height));
     if (!pixels) return nullptr;
     void* first =
-        pixels->pin(height > 0 ? Surface::RowOrder::BottomUp : Surface::RowOrder::TopDown);
+        pixels->pin(height > 0 ? Surface::RowOrder::bottom_up : Surface::RowOrder::top_down);
     const HBITMAP bitmap = add<HBITMAP>({.kind = BitmapObject{std::move(pixels), false, first}});
-    if (bits && bitmap) *bits = first;
+    if (bits != nullptr && bitmap != nullptr) *bits = first;
     return bitmap;
   });
 }

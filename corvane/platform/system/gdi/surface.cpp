@@ -139,7 +139,7 @@ void Surface::resize(int width, int height) {
 }
 
 Pixel* Surface::pin(RowOrder order) {
-  const bool bottom_up = order == RowOrder::BottomUp;
+  const bool bottom_up = order == RowOrder::bottom_up;
   if (bottom_up != bottom_up_) {
     Pixel* first = pixels();
     for (int y = 0; y < height_ / 2; ++y) {

@@ -60,7 +60,7 @@ class Surface {
 
   // Keeps all rows real from now on, for pixels that are handed out by address; returns the
   // lowest address. Bottom-up: the first row in memory is the lowest one.
-  enum class RowOrder { TopDown, BottomUp };
+  enum class RowOrder { top_down, bottom_up };
   Pixel* pin(RowOrder order);
 
   // Damage since the last take, in surface coordinates; many pieces become their bounding box.

@@ -170,7 +170,7 @@ BOOL ExtTextOutW(HDC dc, int x, int y, UINT options, const RECT* rect, LPCWSTR t
   if (context == nullptr || (text == nullptr && length > 0) || length > kMaxRun) return FALSE;
   return softly(FALSE, [&] {
     Region clip = context->clip();
-    if (rect) {
+    if (rect != nullptr) {
       const std::optional<RECT> area = ordered(context->to_surface(*rect));
       if (area && (options & ETO_OPAQUE)) {
         context->fill(*area, context->pixel(context->state.back_color));

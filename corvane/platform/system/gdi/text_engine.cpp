@@ -196,7 +196,7 @@ std::shared_ptr<const TextLayout> TextEngine::layout(const LOGFONTW& font,
 
 std::shared_ptr<const TextLayout> TextEngine::make(const LOGFONTW& font,
                                                    const TextRequest& request) {
-  constexpr int kWidest = 1 << 20;  // pixels; in the library's units it still fits
+  constexpr int kMaxWidth = 1 << 20;  // pixels; in the library's units it still fits
   const Font& used = this->font(font);
   PangoLayout* layout = pango_layout_new(context_);
   pango_layout_set_font_description(layout, used.description);
@@ -206,7 +206,7 @@ std::shared_ptr<const TextLayout> TextEngine::make(const LOGFONTW& font,
   pango_layout_set_attributes(layout, attributes);
   pango_attr_list_unref(attributes);
   if (request.wrap_width >= 0) {
-    pango_layout_set_width(layout, std::min(request.wrap_width, kWidest) * PANGO_SCALE);
+    pango_layout_set_width(layout, std::min(request.wrap_width, kMaxWidth) * PANGO_SCALE);
   }
   pango_layout_set_wrap(layout, PANGO_WRAP_WORD);
   if (request.ellipsize) pango_layout_set_ellipsize(layout, PANGO_ELLIPSIZE_END);

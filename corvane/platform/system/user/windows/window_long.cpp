@@ -19,7 +19,7 @@ void layered_style_changed(Window& window) {
 
 LONG_PTR change_style(HWND window, int index, DWORD value) {
   Window* found = find(window);
-  DWORD const& slot = index == GWL_STYLE ? found->style : found->ex_style;
+  const DWORD& slot = index == GWL_STYLE ? found->style : found->ex_style;
   STYLESTRUCT styles{slot, value};
   const DWORD old = slot;
   auto which = static_cast<WPARAM>(static_cast<LONG_PTR>(index));
