@@ -6,7 +6,7 @@ namespace corvane {
 
 enum class KeyFilter {
   to_parent,        // Escape goes to the layer's parent window
-  to_main_window,   // Escape goes to the application's main window
+  to_main_window,   // Escape goes to the application's main window, or the top-level one above
   drawing_surface,  // as to_parent; the wheel goes to the layer itself
   swallow_only      // nobody gets Escape
 };

@@ -9,9 +9,11 @@ void post_unchanged(HWND window, const MSG& message) {
   if (window != nullptr) ::PostMessageW(window, message.message, message.wParam, message.lParam);
 }
 
-HWND main_window() {
+// A host without a main window gets it at the top-level window above the layer.
+HWND main_window(HWND layer) {
   const CWnd* main = AfxGetMainWnd();
-  return main != nullptr ? main->GetSafeHwnd() : nullptr;
+  if (main != nullptr && main->GetSafeHwnd() != nullptr) return main->GetSafeHwnd();
+  return ::GetAncestor(::GetParent(layer), GA_ROOT);
 }
 
 }  // namespace
@@ -28,7 +30,7 @@ bool filter_layer_key(KeyFilter filter, HWND layer, const MSG* message) {
       post_unchanged(::GetParent(layer), *message);
       break;
     case KeyAction::post_to_main_window:
-      post_unchanged(main_window(), *message);
+      post_unchanged(main_window(layer), *message);
       break;
     case KeyAction::send_to_layer:
       ::SendMessageW(layer, message->message, message->wParam, message->lParam);

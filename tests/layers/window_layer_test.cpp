@@ -112,6 +112,16 @@ TEST_F(WindowLayerTest, SetBtnRectMovesTheFirstButtonOfThatId) {
   EXPECT_EQ(desktop_.pixel(corner), white) << "no longer covered";
 }
 
+TEST_F(WindowLayerTest, AMovedButtonShowsWhatLiesBehindItsNewPlace) {
+  DWORD halves[] = {0xFF0000FF, 0xFF00FF00};
+  Gdiplus::Bitmap image(2, 1, 8, PixelFormat32bppARGB, reinterpret_cast<BYTE*>(halves));
+  layer_.SetBgImage(&image, CRect());
+  create({13});
+  layer_.SetBtnRect(13, CRect(220, 50, 280, 90));
+  desktop_.pump();
+  EXPECT_EQ(desktop_.pixel(on_screen(222, 52)), desktop_.pixel(on_screen(222, 45)));
+}
+
 TEST_F(WindowLayerTest, ClickPostsOnceAndDragsNothing) {
   create({11, 12});
   EXPECT_EQ(command(nullptr), 0) << "commands of others are left to the default";
@@ -211,6 +221,11 @@ TEST_F(WindowLayerTest, EscapeGoesToTheMainWindowNotToTheParentAndEnterToNobody)
     EXPECT_THAT(desktop_.take_keys(),
                 testing::ElementsAre(AppDesktop::Key(host_, WM_KEYDOWN, VK_ESCAPE)));
   }
+  host_.DestroyWindow();
+  desktop_.key(VK_ESCAPE);
+  EXPECT_THAT(desktop_.take_keys(),
+              testing::ElementsAre(AppDesktop::Key(parent, WM_KEYDOWN, VK_ESCAPE)))
+      << "without a main window it goes to the top-level window above";
 }
 
 TEST_F(WindowLayerTest, DestroyedAndCreatedAgain) {

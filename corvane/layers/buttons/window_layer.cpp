@@ -60,7 +60,10 @@ void CWindowLayer::SetBtnRect(int id, CRect rect) {
   const ButtonPointer button = find(id);
   if (!button) return;
   button->rect = rect;
-  if (button->control.GetSafeHwnd() != nullptr) button->control.MoveWindow(rect, TRUE);
+  if (button->control.GetSafeHwnd() == nullptr) return;
+  const WindowWatch watch(*this);
+  button->control.MoveWindow(rect, TRUE);
+  if (!watch.object_gone()) button->control.SetBkGnd(background_.dc(), rect);
 }
 
 void CWindowLayer::SetBgImage(Gdiplus::Image* image, CRect) { image_ = image; }
