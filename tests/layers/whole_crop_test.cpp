@@ -222,6 +222,61 @@ TEST_F(WholeCropTest, ShowingAndHidingEmptyTheFrame) {
   }
 }
 
+TEST_F(WholeCropTest, AFrameThatIsGoneIsNotSeenAnyMore) {
+  const RECT everything = {0, 0, 700, 500};
+  start();
+  drag({100, 80}, {400, 280});
+  background_.SetOCRMode(1);
+  background_.ShowWindow(SW_SHOW);
+  desktop_.pump();
+  EXPECT_FALSE(has_green({90, 70, 140, 290}));
+  EXPECT_TRUE(has_green(middle)) << "the hint is back";
+  background_.SetOCRMode(0);
+  drag({100, 80}, {400, 280});
+  desktop_.click(on_screen(500, 400));
+  EXPECT_FALSE(has_green(everything)) << "a click frames nothing";
+}
+
+TEST_F(WholeCropTest, ADragEndsWithItsCapture) {
+  for (const bool hide : {true, false}) {
+    start();
+    desktop_.press_at(on_screen(hide ? 100 : 150, 80));
+    desktop_.move_to(on_screen(400, 280));
+    if (hide) {
+      background_.ShowWindow(SW_HIDE);
+    } else {
+      ::SetCapture(host_);
+    }
+    EXPECT_EQ(bar_is_shown(), !hide) << "a frame that was drawn can be saved";
+    EXPECT_EQ(::GetCapture(), hide ? nullptr : host_.GetSafeHwnd());
+    ::ReleaseCapture();
+    desktop_.release();
+    EXPECT_EQ(bar_is_shown(), !hide);
+    start();
+    desktop_.move_to(on_screen(200, 200));
+    EXPECT_THAT(background_.GetCutRect(), is_rect(0, 0, 0, 0)) << "hovering draws nothing";
+  }
+}
+
+TEST_F(WholeCropTest, ABarThatIsShownStaysWithItsFrameAndGoesWithItsUse) {
+  start();
+  drag({100, 80}, {400, 280});
+  const auto expect_bar = [this](POINT end, int width, int height) {
+    EXPECT_THAT(window_rect(bar()), is_rect(end.x - width, end.y, end.x, end.y + height));
+  };
+  background_.SetOCRMode(1);
+  expect_bar(on_screen(400, 280), 150, 34);
+  background_.SetWindowPos(nullptr, 100, 50, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+  expect_bar({500, 330}, 150, 34);
+  background_.SetWindowPos(nullptr, 0, 0, 700, 300, SWP_NOMOVE | SWP_NOZORDER);
+  expect_bar({500, 350 - 34}, 150, 34);
+  background_.ShowBtn(0);
+  EXPECT_TRUE(bar_is_shown()) << "nothing is hidden at once";
+  desktop_.press_at({300, 200});
+  desktop_.move_to({310, 200});
+  EXPECT_FALSE(bar_is_shown());
+}
+
 TEST_F(WholeCropTest, OnlyADragIsRepaintedAndNotBeforeTheNextTurn) {
   start();
   drag({100, 80}, {400, 280});

@@ -35,7 +35,8 @@ const WindowDescription& CCutRectLayer::description() const {
       On<WM_DESTROY>(&CCutRectLayer::OnDestroy), On<WM_PAINT>(&CCutRectLayer::OnPaint),
       On<WM_ERASEBKGND>(&CCutRectLayer::OnEraseBkgnd),
       On<WM_LBUTTONDOWN>(&CCutRectLayer::OnLButtonDown),
-      On<WM_LBUTTONUP>(&CCutRectLayer::OnLButtonUp), On<WM_MOUSEMOVE>(&CCutRectLayer::OnMouseMove));
+      On<WM_LBUTTONUP>(&CCutRectLayer::OnLButtonUp), On<WM_MOUSEMOVE>(&CCutRectLayer::OnMouseMove),
+      On<WM_CAPTURECHANGED>(&CCutRectLayer::OnCaptureChanged), On<WM_MOVE>(&CCutRectLayer::OnMove));
   static const WindowDescription description{
       classCCutRectLayer, kMessages.extending(base_messages()), KeyFilter::to_parent};
   return description;
@@ -45,7 +46,15 @@ int CCutRectLayer::ShowWindow(int command) {
   frame_.clear();
   const WindowWatch watch(*this);
   hide_bar();
-  return watch.object_gone() ? FALSE : CWnd::ShowWindow(command);
+  if (watch.object_gone()) return FALSE;
+  const int was_visible = CWnd::ShowWindow(command);
+  if (watch.window_gone()) return was_visible;
+  if (IsWindowVisible()) {
+    Invalidate(FALSE);  // the former frame, when the window was up already
+  } else if (::GetCapture() == m_hWnd) {
+    ::ReleaseCapture();
+  }
+  return was_visible;
 }
 
 CRect CCutRectLayer::GetCutRect() const { return frame_.rectangle(); }
@@ -54,7 +63,9 @@ void CCutRectLayer::ShowBtn(int use_bar) { show_buttons_ = use_bar != 0; }
 
 void CCutRectLayer::SetOCRMode(int text_recognition) {
   text_recognition_ = text_recognition != 0;
+  const WindowWatch watch(*this);
   button_layer_.SetOCRMode(text_recognition);
+  if (!watch.object_gone() && bar_is_shown()) place_bar();
 }
 
 void CCutRectLayer::SetParentHwnd(HWND window) { button_layer_.SetParentHwnd(window); }
@@ -130,7 +141,7 @@ void CCutRectLayer::OnMouseMove(UINT flags, CPoint point) {
   GetClientRect(client);
   show_cursor_of(frame_.move(point, client));
   if (frame_.dragging()) {
-    if (has_bar() && button_layer_.IsWindowVisible()) place_bar();
+    update_shown_bar();
     if (watch.object_gone()) return;
     Invalidate(FALSE);
   }
@@ -139,17 +150,63 @@ void CCutRectLayer::OnMouseMove(UINT flags, CPoint point) {
 
 void CCutRectLayer::OnLButtonUp(UINT flags, CPoint point) {
   const WindowWatch watch(*this);
+  const bool drew = end_drag();  // before the capture goes, which would end it too
   ::ReleaseCapture();
   if (watch.object_gone()) return;
-  if (frame_.release() && has_bar()) {
-    place_bar();
-    if (!watch.object_gone() && has_bar()) button_layer_.ShowWindow(SW_SHOW);
-  }
+  if (drew) show_new_frame(SW_SHOW);
   if (!watch.object_gone()) CWnd::OnLButtonUp(flags, point);
 }
 
+// Somebody else has the mouse: the drag ends where it is. The bar must not take the activation
+// away.
+void CCutRectLayer::OnCaptureChanged(CWnd* new_owner) {
+  if (new_owner != nullptr && new_owner->GetSafeHwnd() == m_hWnd) return;
+  if (end_drag()) show_new_frame(SW_SHOWNOACTIVATE);
+}
+
+// True: it was to draw a new frame.
+bool CCutRectLayer::end_drag() {
+  const bool drew = frame_.drag_mode() == crop_hit::outside;
+  frame_.release();
+  return drew;
+}
+
+void CCutRectLayer::show_new_frame(int bar_command) {
+  if (m_hWnd == nullptr || !IsWindowVisible()) return;
+  if (frame_.empty()) return Invalidate(FALSE);  // a click: the former frame still stands there
+  if (!show_buttons_ || button_layer_.GetSafeHwnd() == nullptr) return;
+  const WindowWatch watch(*this);
+  place_bar();
+  if (!watch.window_gone() && IsWindowVisible()) button_layer_.ShowWindow(bar_command);
+}
+
+void CCutRectLayer::OnSize(UINT kind, int width, int height) {
+  const WindowWatch watch(*this);
+  CWnd::OnSize(kind, width, height);
+  if (!watch.object_gone()) update_shown_bar();
+}
+
+void CCutRectLayer::OnMove(int x, int y) {
+  const WindowWatch watch(*this);
+  CWnd::OnMove(x, y);
+  if (!watch.object_gone()) update_shown_bar();
+}
+
+bool CCutRectLayer::bar_is_shown() const {
+  return button_layer_.GetSafeHwnd() != nullptr && button_layer_.IsWindowVisible();
+}
+
 void CCutRectLayer::hide_bar() {
-  if (has_bar()) button_layer_.ShowWindow(SW_HIDE);
+  if (bar_is_shown()) button_layer_.ShowWindow(SW_HIDE);
+}
+
+void CCutRectLayer::update_shown_bar() {
+  if (!bar_is_shown()) return;
+  if (show_buttons_) {
+    place_bar();
+  } else {
+    hide_bar();
+  }
 }
 
 void CCutRectLayer::place_bar() {

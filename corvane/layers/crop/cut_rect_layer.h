@@ -17,13 +17,14 @@ class CCutRectLayer : public LibraryWindow<CWnd> {
 
   static const CRuntimeClass classCCutRectLayer;
 
-  // Empties the rectangle, hides the bar, and shows or hides this window. Returns whether it was
-  // visible before.
+  // Empties the rectangle, hides the bar, and shows or hides this window. Hiding it in the middle
+  // of a drag ends the drag. Returns whether it was visible before.
   int ShowWindow(int command);
   // As it stands, in client coordinates. It is empty when nothing was drawn, and inverted when an
   // edge was dragged past its opposite.
   CRect GetCutRect() const;
-  // Non-zero: the bar is used. Nothing is shown or hidden at once.
+  // Non-zero: the bar is used. Nothing is shown or hidden at once; a bar that is up and no longer
+  // used goes at the next step of a drag.
   void ShowBtn(int use_bar);
   // Non-zero: text recognition, with a hint while the rectangle is empty and its own row of
   // buttons. The row changes only while the bar's window exists; nothing is repainted at once.
@@ -41,19 +42,24 @@ class CCutRectLayer : public LibraryWindow<CWnd> {
 
   int OnCreate(LPCREATESTRUCT creation);
   using CWnd::OnDestroy;
-  using CWnd::OnSize;
+  void OnSize(UINT kind, int width, int height);
+  void OnMove(int x, int y);
   void OnPaint();
   BOOL OnEraseBkgnd(CDC* dc);
   void OnLButtonDown(UINT flags, CPoint point);
   void OnLButtonUp(UINT flags, CPoint point);
   void OnMouseMove(UINT flags, CPoint point);
+  void OnCaptureChanged(CWnd* new_owner);
 
  private:
   const WindowDescription& description() const override;
   void create_fill_buffers();
-  bool has_bar() const { return show_buttons_ && button_layer_.GetSafeHwnd() != nullptr; }
+  bool bar_is_shown() const;
   void hide_bar();
   void place_bar();
+  void update_shown_bar();
+  bool end_drag();
+  void show_new_frame(int bar_command);
   void draw_hint(HDC dc, CRect client) const;
 
   CBufferDC dark_buffer_;
