@@ -22,13 +22,14 @@ const MessageMap* CGdiBtnEx::GetMessageMap() const {
 
 void CGdiBtnEx::SetSkin(const ButtonSkin& skin) {
   skin_ = skin;
-  Invalidate(FALSE);
+  look_changed();
 }
 
 void CGdiBtnEx::SetText(const CString& text) {
   text_ = text;
+  const WindowWatch watch(*this);
   if (m_hWnd != nullptr) SetWindowTextW(text_);
-  Invalidate(FALSE);
+  if (!watch.object_gone()) look_changed();
 }
 
 void CGdiBtnEx::SetBkGnd(HDC source, const CRect& rect) {
@@ -36,7 +37,7 @@ void CGdiBtnEx::SetBkGnd(HDC source, const CRect& rect) {
   if (source != nullptr && background_.CreateBufferDC(source, rect)) {
     BitBlt(background_, 0, 0, rect.Width(), rect.Height(), source, rect.left, rect.top, SRCCOPY);
   }
-  Invalidate(FALSE);
+  repaint();
 }
 
 void CGdiBtnEx::DoDraw(HDC dc, const CRect& rect) const {
@@ -62,13 +63,38 @@ void CGdiBtnEx::feed(Event event) {
   const auto before = behavior_.appearance();
   event();
   if (m_hWnd == nullptr) return;
-  if (behavior_.appearance() != before) Invalidate(FALSE);
+  const WindowWatch watch(*this);
+  if (behavior_.appearance() != before) look_changed();
+  if (watch.window_gone()) return;
   const bool captured = ::GetCapture() == m_hWnd;
   if (behavior_.wants_capture() && !captured) {
     ::SetCapture(m_hWnd);
   } else if (!behavior_.wants_capture() && captured) {
     ::ReleaseCapture();
   }
+}
+
+void CGdiBtnEx::look_changed() {
+  repaint();
+  if (const auto listener = look_listener_; listener) listener();
+}
+
+void CGdiBtnEx::repaint() {
+  if (m_hWnd == nullptr) return;
+  CRect client;
+  GetClientRect(client);
+  if (shows_parent(client)) {
+    ::MapWindowPoints(m_hWnd, ::GetParent(m_hWnd), reinterpret_cast<POINT*>(&client), 2);
+    ::InvalidateRect(::GetParent(m_hWnd), client, TRUE);
+  }
+  Invalidate(FALSE);
+}
+
+// Whether the button draws over what its parent has painted. A parent that clips its children
+// paints nothing there.
+bool CGdiBtnEx::shows_parent(const CRect& client) const {
+  return !has_background(client) &&
+         (::GetWindowLongW(::GetParent(m_hWnd), GWL_STYLE) & WS_CLIPCHILDREN) == 0;
 }
 
 bool CGdiBtnEx::holds(CPoint point) const {
@@ -94,19 +120,38 @@ void CGdiBtnEx::OnPaint() {
   CRect client;
   GetClientRect(client);
   if (client.IsRectEmpty()) return;
+  if (shows_parent(client)) {
+    background_.Paste(dc, CRect(CPoint(0, 0), background_.GetRect().Size()));
+    return DoDraw(dc, client);
+  }
   build_picture(client);
-  picture_.Paste(dc.GetSafeHdc(), client);
+  if (!watch.window_gone()) picture_.Paste(dc, client);
 }
 
 void CGdiBtnEx::build_picture(const CRect& client) {
   if (!picture_.HasSizeOf(client)) picture_.CreateBufferDC(nullptr, client);
-  if (!background_.HasSizeOf(client)) {
-    picture_.SetBackColor(client, GetSysColor(COLOR_BTNFACE));
-  }
+  const WindowWatch watch(*this);
+  if (!has_background(client)) let_parent_draw(picture_);
+  if (watch.object_gone()) return;
   // What was lent before the button got another size still stands behind most of it.
-  const CRect lent(CPoint(0, 0), background_.GetRect().Size());
-  background_.Paste(picture_, lent);
+  background_.Paste(picture_, CRect(CPoint(0, 0), background_.GetRect().Size()));
   DoDraw(picture_, client);
+}
+
+// The part of the parent that lies behind, drawn by the parent in its own coordinates; a parent
+// that draws nothing when asked leaves a plain face.
+void CGdiBtnEx::let_parent_draw(HDC dc) const {
+  CRect client;
+  GetClientRect(client);
+  CDC::FromHandle(dc)->FillSolidRect(client, ::GetSysColor(COLOR_BTNFACE));
+  const HWND parent = ::GetParent(m_hWnd);
+  POINT corner{0, 0};
+  ::MapWindowPoints(m_hWnd, parent, &corner, 1);
+  POINT former{};
+  ::SetViewportOrgEx(dc, -corner.x, -corner.y, &former);
+  ::SendMessageW(parent, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc), 0);
+  ::SendMessageW(parent, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT);
+  ::SetViewportOrgEx(dc, former.x, former.y, nullptr);
 }
 
 void CGdiBtnEx::OnSize(UINT kind, int width, int height) {

@@ -2,6 +2,9 @@
 // A push button drawn from a skin: five images by state, a caption, a focus ring when the keyboard
 // brought the focus. Clicking it, by mouse or with the space bar, sends the parent WM_COMMAND with
 // MAKEWPARAM(id, BN_CLICKED) and the button's window. CUICtrlMgr creates its window.
+#include <functional>
+#include <utility>
+
 #include "corvane/platform/controls/button_behavior.h"
 #include "corvane/platform/controls/button_skin.h"
 #include "corvane/platform/drawing/buffer_dc.h"
@@ -18,10 +21,16 @@ class CGdiBtnEx : public CWnd {
   const CString& GetText() const { return text_; }
 
   // Copies the part of a picture that lies behind the button: `rect` of the context, which is the
-  // button's rectangle in its parent. A null context: nothing lies behind.
+  // button's rectangle in its parent. A null context, or no call: what the parent has painted shows
+  // through; a parent with WS_CLIPCHILDREN is asked for it (WM_ERASEBKGND, WM_PRINTCLIENT).
   void SetBkGnd(HDC source, const CRect& rect);
   // Draws the button as it looks now, without what lies behind.
   void DoDraw(HDC dc, const CRect& rect) const;
+
+  // Called after each change of the button's look, on the thread of its window: for a layer that
+  // draws its buttons into a picture of its own, where they cannot paint themselves. It may end the
+  // button. Nothing may throw.
+  void SetLookListener(std::function<void()> listener) { look_listener_ = std::move(listener); }
 
   void EnableButton(int enable);
   int IsDisabled() const { return behavior_.enabled() ? 0 : 1; }
@@ -60,11 +69,17 @@ class CGdiBtnEx : public CWnd {
   bool holds(CPoint point) const;
   void report_press(CPoint point) const;
   void click() const;
+  bool has_background(const CRect& client) const { return background_.HasSizeOf(client); }
+  bool shows_parent(const CRect& client) const;
+  void look_changed();
+  void repaint();
   void build_picture(const CRect& client);
+  void let_parent_draw(HDC dc) const;
 
   ButtonBehavior behavior_;
   ButtonSkin skin_;
   CString text_;
+  std::function<void()> look_listener_;
   CBufferDC background_;  // what lies behind the button, as last given
   CBufferDC picture_;     // what is painted; kept because its size seldom changes
   CRect normal_rect_;

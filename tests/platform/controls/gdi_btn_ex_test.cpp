@@ -340,19 +340,50 @@ TEST_F(GdiBtnEx, ShowsWhatLiesBehindWhereItsImageIsClear) {
     const test::Frame seen = frame();
     return std::pair(seen.at(50, 40), seen.at(50 + width - 1, 40 + height - 1));
   };
-  const COLORREF plain = ::GetSysColor(COLOR_BTNFACE);
-  EXPECT_EQ(corners(96, 40), std::pair(plain, plain));
-  button_->SetBkGnd(behind, CRect(control_.rect));
-  behind.Release();  // the button keeps its own copy
-  pump();
-  EXPECT_EQ(corners(96, 40), std::pair(kBehind, kBehind));
-  EXPECT_GT(frame().count_other_than(CRect(control_.rect), kBehind), 50);
-  button_->MoveWindow(50, 40, 100, 50);
-  pump();
-  EXPECT_EQ(corners(100, 50), std::pair(kBehind, plain)) << "until the parent lends another";
-  button_->SetBkGnd(nullptr, CRect(control_.rect));
-  pump();
-  EXPECT_EQ(corners(100, 50), std::pair(plain, plain));
+  for (const DWORD clip : {DWORD{0}, DWORD{WS_CLIPCHILDREN}}) {
+    host_->ModifyStyle(WS_CLIPCHILDREN, clip);
+    button_->MoveWindow(&control_.rect);
+    button_->SetText(L"");
+    pump();
+    EXPECT_EQ(corners(96, 40), std::pair(kHostColor, kHostColor)) << "what the parent shows there";
+    button_->SetBkGnd(behind, CRect(control_.rect));
+    pump();
+    EXPECT_EQ(corners(96, 40), std::pair(kBehind, kBehind));
+    EXPECT_GT(frame().count_other_than(CRect(control_.rect), kBehind), 50);
+    button_->MoveWindow(50, 40, 100, 50);
+    pump();
+    EXPECT_EQ(corners(100, 50), std::pair(kBehind, kHostColor)) << "until the parent lends another";
+    button_->SetBkGnd(nullptr, CRect());
+    pump();
+    EXPECT_EQ(corners(100, 50), std::pair(kHostColor, kHostColor));
+  }
+}
+
+TEST_F(GdiBtnEx, InAPastedLayerTheLayerDrawsItAndHearsOfEveryChange) {
+  with_images();
+  create();
+  host_->ModifyStyleEx(0, WS_EX_LAYERED);
+  CBufferDC picture;
+  ASSERT_TRUE(picture.CreateBufferDC(nullptr, CRect(0, 0, 400, 300)));
+  const auto draw = [&] {
+    button_->DoDraw(picture, control_.rect);
+    EXPECT_TRUE(CGdiDC().Paste(*host_, picture, 255));
+  };
+  draw();
+  move_to(kX, kY);
+  EXPECT_EQ(face(), kNormal) << "it does not paint itself into the picture";
+  button_->SetLookListener(draw);
+  const std::pair<std::function<void()>, COLORREF> changes[] = {
+      {[&] { press_at(kX, kY); }, kPressed},
+      {[&] { release_at(kX, kY); }, kHover},
+      {[&] { move_to(kOutX, kOutY); }, kNormal},
+      {[&] { button_->SetSelected(1); }, kSelected},
+      {[&] { button_->EnableButton(0); }, kDisabled}};
+  for (const auto& [change, color] : changes) {
+    change();
+    pump();
+    EXPECT_EQ(face(), color);
+  }
 }
 
 TEST_F(GdiBtnEx, DrawsItselfElsewhereAsItLooksNow) {
@@ -384,9 +415,11 @@ TEST_F(GdiBtnEx, NothingIsErasedBeforeItIsDrawn) {
   Counting& button = *counting;
   button_ = std::move(counting);
   create();
+  CBufferDC behind;
+  ASSERT_TRUE(behind.CreateBufferDC(nullptr, control_.rect));
   const std::function<void()> changes[] = {
-      [&] { button.SetSkin(ButtonSkin()); }, [&] { button.SetText(L"text"); },
-      [&] { button.SetBkGnd(nullptr, CRect()); }, [&] { button.SetSelected(1); },
+      [&] { button.SetBkGnd(behind, control_.rect); }, [&] { button.SetText(L"text"); },
+      [&] { button.SetSkin(ButtonSkin()); }, [&] { button.SetSelected(1); },
       [&] { button.SetWindowPos(nullptr, 0, 0, 20, 20, SWP_NOMOVE | SWP_NOZORDER); }};
   for (const auto& change : changes) {
     button.erased = 0;

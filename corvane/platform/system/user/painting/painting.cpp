@@ -12,11 +12,13 @@ namespace {
 // A region of many small pieces costs more than painting its bounds.
 constexpr int kMaxPieces = 64;
 
-// A window whose pixels the program supplies is never asked to paint.
+// A window whose pixels the program supplies is never asked to paint, nor are the children in it:
+// what they draw would be lost.
 bool records_updates(const Window& window) {
-  if (window.layered.content) return false;
+  bool own_pixels = false;
   for (const Window* it = &window; it->parent != nullptr; it = it->parent) {
-    if (!it->redraw) return false;
+    if (!it->redraw || (!own_pixels && it->layered.content)) return false;
+    own_pixels = own_pixels || it->surface != nullptr;
   }
   return shown_on_screen(window);
 }
