@@ -60,8 +60,9 @@ std::wstring CLibraryPane::in_tree(const std::wstring& path) const {
 
 void CLibraryPane::LeaveVanishedFolder() {
   const std::wstring vanished = Current();
-  tree_.SetCurPath(nullptr);
-  const std::wstring left = Current();
+  std::wstring left = vanished;
+  while (!left.empty() && !folder_exists(left)) left = folder_of(left);
+  SetCurrent(left);
   if (vanished == left || !lies_in(left, vanished)) return;
   const std::size_t end = vanished.find(L'\\', left.size() + 1);
   tree_.DelNode(in_tree(vanished.substr(0, end)).c_str());

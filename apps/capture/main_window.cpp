@@ -4,7 +4,6 @@
 
 #include "apps/capture/capture_messages.h"
 #include "apps/capture/picture_folder.h"
-#include "apps/capture/picture_saving.h"
 #include "apps/capture/texts.h"
 #include "apps/capture/window_layout.h"
 #include "corvane/platform/base_services/system_paths.h"
@@ -29,7 +28,8 @@ const MessageMap* CMainWindow::GetMessageMap() const {
                    OnMessage<WM_CUT_CMD>(&CMainWindow::OnCropCommand),
                    OnMessage<WM_PICTURE_CHOSEN>(&CMainWindow::OnPictureChosen),
                    OnMessage<WM_FOLDER_CHOSEN>(&CMainWindow::OnFolderChosen),
-                   OnMessage<WM_PICTURE_CLICKED>(&CMainWindow::OnPictureClicked));
+                   OnMessage<WM_PICTURE_CLICKED>(&CMainWindow::OnPictureClicked),
+                   OnMessage<WM_WORK_DONE>(&CMainWindow::OnWorkDone));
   static const MessageMap map = kMessages.extending(CWnd::GetMessageMap());
   return &map;
 }
@@ -51,6 +51,8 @@ bool CMainWindow::Open(Beginning beginning) {
 }
 
 bool CMainWindow::create_parts() {
+  work_ = std::make_unique<CBackgroundWork>(
+      [window = m_hWnd] { ::PostMessageW(window, WM_WORK_DONE, 0, 0); });
   view_.SetEmptyText(L"图库里还没有图片\n把图片放进图库的文件夹，或按“打开”选择一张图片");
   return toolbar_.Open(this) && browser_.Create(this) &&
          view_.CreateEx(0, nullptr, L"picture", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), this,
@@ -109,7 +111,7 @@ CRect CMainWindow::CropButtonOnScreen(CropCommand command) const {
   return rect;
 }
 
-void CMainWindow::show_picture(std::unique_ptr<CPicture> picture) {
+void CMainWindow::show_picture(std::shared_ptr<const CPicture> picture) {
   end_crop();
   view_.SetPicture(picture.get());
   picture_ = std::move(picture);
@@ -125,7 +127,7 @@ void CMainWindow::show_picture(std::unique_ptr<CPicture> picture) {
 }
 
 void CMainWindow::open_path(const std::wstring& path) {
-  std::unique_ptr<CPicture> picture = CPicture::Open(native_path(path).string());
+  std::shared_ptr<const CPicture> picture = CPicture::Open(native_path(path).string());
   if (picture == nullptr) {
     browser_.MarkUnreadable(path);
     view_.ShowNotice(CString(L"无法打开：") + name_for_user(path));
@@ -222,31 +224,36 @@ LRESULT CMainWindow::OnCropCommand(WPARAM command, LPARAM) {
 
 void CMainWindow::save_framed() {
   const RECT part = framed_pixels();
-  std::vector<std::uint8_t> png;
-  if (!::IsRectEmpty(&part)) png = picture_->EncodePart(part);
   end_crop();
-  if (png.empty()) {
+  if (::IsRectEmpty(&part)) {
     view_.ShowNotice(L"所选区域里没有图片");
     return;
   }
-  save_in_current_folder(png);
-}
-
-void CMainWindow::save_in_current_folder(const std::vector<std::uint8_t>& png) {
   CString notice = browser_.LeaveVanishedFolder();
   if (!notice.IsEmpty()) notice += L"。";
   const std::wstring folder = browser_.Folder();
-  SavedPart saved{{}, ENOENT};
-  if (!folder.empty()) {
-    saved = save_numbered(folder, name_of(wide_path_of(picture_->path())), png);
-  }
+  if (folder.empty()) return show_saved({{}, ENOENT}, folder, notice);
+  save_part(part, folder, notice);
+}
+
+void CMainWindow::save_part(const RECT& part, const std::wstring& folder, const CString& notice) {
+  view_.ShowBusy(L"正在保存……");
+  work_->Begin([this, part, folder, notice, picture = picture_] {
+    SavedPart saved{{}, ENOMEM};
+    const std::vector<std::uint8_t> png = picture->EncodePart(part);
+    if (!png.empty()) saved = save_numbered(folder, name_of(wide_path_of(picture->path())), png);
+    return [this, folder, notice, saved] { show_saved(saved, folder, notice); };
+  });
+}
+
+void CMainWindow::show_saved(const SavedPart& saved, const std::wstring& folder, CString notice) {
   if (saved.name.empty()) {
     view_.ShowNotice(notice + L"无法保存：" + save_error_text(saved.error));
     return;
   }
   last_saved_ = path_in(folder, saved.name);
   browser_.Refresh();
-  browser_.ScrollToNew(saved.name);
+  if (browser_.Folder() == folder) browser_.ScrollToNew(saved.name);
   view_.ShowNotice(notice + L"已保存到“" + name_for_user(folder) + L"”：" + saved.name.c_str());
 }
 
@@ -258,7 +265,18 @@ void CMainWindow::recognise_framed() {
     view_.ShowNotice(L"所选区域太小，没有可识别的文字");
     return;
   }
-  recognition_.Read(picture_->EncodePart(part), stage_on_screen());
+  view_.ShowBusy(L"正在准备识别……");
+  work_->Begin([this, part, picture = picture_] {
+    return [this, png = picture->EncodePart(part)] {
+      view_.ShowNotice(png.empty() ? L"内存不足" : L"");
+      if (!png.empty()) recognition_.Read(png, stage_on_screen());
+    };
+  });
+}
+
+LRESULT CMainWindow::OnWorkDone(WPARAM, LPARAM) {
+  work_->FinishDone();
+  return 0;
 }
 
 void CMainWindow::show_open_panel() {

@@ -5,9 +5,11 @@
 #include <memory>
 #include <string>
 
+#include "apps/capture/background_work.h"
 #include "apps/capture/library_browser.h"
 #include "apps/capture/open_panel.h"
 #include "apps/capture/picture.h"
+#include "apps/capture/picture_saving.h"
 #include "apps/capture/picture_view.h"
 #include "apps/capture/recognition_panel.h"
 #include "apps/capture/toolbar.h"
@@ -17,9 +19,9 @@ namespace capture {
 
 // What the program begins with. Full wide paths.
 struct Beginning {
-  std::wstring library;               // the root folder
-  std::wstring folder;                // selected when it lies in the library, else the root
-  std::unique_ptr<CPicture> picture;  // may be null
+  std::wstring library;                     // the root folder
+  std::wstring folder;                      // selected when it lies in the library, else the root
+  std::shared_ptr<const CPicture> picture;  // may be null
 };
 
 // The crop bar's commands.
@@ -38,7 +40,8 @@ class CMainWindow : public corvane::CWnd {
   corvane::CRect CropButtonOnScreen(CropCommand command) const;  // empty while there is no bar
   const CPicture* picture() const { return picture_.get(); }
   const std::wstring& last_saved() const { return last_saved_; }  // full wide path
-  bool recognising() const { return recognition_.Running(); }
+  bool recognising() const { return saving() || recognition_.Running(); }
+  bool saving() const { return work_ != nullptr && work_->Busy(); }
 
  protected:
   const corvane::MessageMap* GetMessageMap() const override;
@@ -50,6 +53,7 @@ class CMainWindow : public corvane::CWnd {
   LRESULT OnPictureChosen(WPARAM, LPARAM);
   LRESULT OnFolderChosen(WPARAM, LPARAM);
   LRESULT OnPictureClicked(WPARAM, LPARAM);
+  LRESULT OnWorkDone(WPARAM, LPARAM);
 
  private:
   enum class CropMode { picture, text };
@@ -60,7 +64,7 @@ class CMainWindow : public corvane::CWnd {
   void place_crop_layer();
   RECT stage_on_screen() const;
 
-  void show_picture(std::unique_ptr<CPicture> picture);
+  void show_picture(std::shared_ptr<const CPicture> picture);
   void open_path(const std::wstring& path);
   void open_neighbour(int step);
   void refresh_library();
@@ -68,11 +72,12 @@ class CMainWindow : public corvane::CWnd {
   void end_crop();
   RECT framed_pixels() const;  // of the picture
   void save_framed();
-  void save_in_current_folder(const std::vector<std::uint8_t>& png);
+  void save_part(const RECT& part, const std::wstring& folder, const corvane::CString& notice);
+  void show_saved(const SavedPart& saved, const std::wstring& folder, corvane::CString notice);
   void recognise_framed();
   void show_open_panel();
 
-  std::unique_ptr<CPicture> picture_;
+  std::shared_ptr<const CPicture> picture_;
   std::wstring last_saved_;
   CToolbar toolbar_;
   CLibraryBrowser browser_;
@@ -81,6 +86,7 @@ class CMainWindow : public corvane::CWnd {
   CropMode crop_mode_ = CropMode::picture;
   CRecognitionPanel recognition_;
   COpenPanel open_panel_;
+  std::unique_ptr<CBackgroundWork> work_;  // made with the window
 };
 
 }  // namespace capture

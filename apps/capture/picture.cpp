@@ -1,6 +1,7 @@
 #include "apps/capture/picture.h"
 
 #include <filesystem>
+#include <new>
 #include <system_error>
 
 #include "corvane/platform/system/gdi/image_encoder.h"
@@ -30,8 +31,12 @@ SIZE CPicture::size() const {
 
 std::vector<std::uint8_t> CPicture::EncodePart(const RECT& part) const {
   if (image_->pixels() == nullptr) return {};
-  return corvane::system::encode_png(*image_->pixels(), part,
-                                     corvane::system::Opacity::pixel_alpha);
+  try {
+    return corvane::system::encode_png(*image_->pixels(), part,
+                                       corvane::system::Opacity::pixel_alpha);
+  } catch (const std::bad_alloc&) {
+    return {};
+  }
 }
 
 }  // namespace capture

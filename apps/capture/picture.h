@@ -18,7 +18,7 @@ class CPicture {
   Gdiplus::Image* image() const { return image_.get(); }
   SIZE size() const;  // pixels
 
-  // The part as a PNG file; pixels of the picture.
+  // The part (pixels of the picture) as a PNG file; empty when memory is short. Any thread.
   std::vector<std::uint8_t> EncodePart(const RECT& part) const;
 
  private:

@@ -3,7 +3,6 @@
 #include <cerrno>
 #include <cstring>
 
-#include "apps/capture/picture_folder.h"
 #include "apps/capture/texts.h"
 #include "corvane/platform/system/shell/new_file.h"
 #include "corvane/platform/system/shell/wide_path.h"
@@ -17,19 +16,24 @@ constexpr int kMaxNumber = 100000;
 
 SavedPart save_numbered(const std::wstring& folder, const std::wstring& picture_name,
                         const std::vector<std::uint8_t>& png) {
-  using corvane::system::NewFileResult;
+  using Placed = corvane::system::NewFile::Placed;
+  corvane::system::NewFile file(corvane::system::file_system_path(folder));
+  if (!file.write(png.data(), png.size())) return {{}, errno};
   const std::size_t dot = picture_name.rfind(L'.');
-  const std::wstring stem = dot == 0 ? picture_name : picture_name.substr(0, dot);
-  for (int number = 1; number < kMaxNumber; ++number) {
-    const std::wstring name = stem + L"_" + std::to_wstring(number) + L".png";
-    const std::string path = corvane::system::file_system_path(path_in(folder, name));
-    switch (corvane::system::write_new_file(path, png.data(), png.size())) {
-      case NewFileResult::written:
-        return {name, 0};
-      case NewFileResult::exists:
-        continue;
-      case NewFileResult::failed:
-        return {{}, errno};
+  std::wstring stem = dot == 0 ? picture_name : picture_name.substr(0, dot);
+  for (int number = 1; number < kMaxNumber;) {
+    std::wstring name = stem + L"_" + std::to_wstring(number) + L".png";
+    std::string bytes;
+    if (!corvane::system::append_bytes(bytes, name, '_')) return {{}, EINVAL};
+    const Placed placed = file.place(bytes);
+    if (placed == Placed::yes) return {std::move(name), 0};
+    if (placed == Placed::name_taken) {
+      ++number;
+    } else if (errno == ENAMETOOLONG && stem.size() > 1) {
+      stem.pop_back();
+      number = 1;
+    } else {
+      return {{}, errno};
     }
   }
   return {{}, EEXIST};

@@ -13,7 +13,8 @@ struct SavedPart {
   int error = 0;      // then why, as errno tells it
 };
 // Saves the bytes in the folder (wide path) as STEM_1.png, STEM_2.png ..., whole or not at all and
-// never over an existing file. The stem is `picture_name` without its ending.
+// never over an existing file. The stem is `picture_name` without its ending, shortened where the
+// file system wants a shorter name. Any thread.
 SavedPart save_numbered(const std::wstring& folder, const std::wstring& picture_name,
                         const std::vector<std::uint8_t>& png);
 

@@ -60,6 +60,12 @@ void CPictureView::ShowNotice(const CString& text) {
   Invalidate(FALSE);
 }
 
+void CPictureView::ShowBusy(const CString& text) {
+  KillTimer(kNoticeTimer);
+  notice_ = text;
+  Invalidate(FALSE);
+}
+
 BOOL CPictureView::OnEraseBkgnd(CDC*) { return TRUE; }
 
 void CPictureView::OnPaint() {

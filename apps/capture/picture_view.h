@@ -13,6 +13,8 @@ class CPictureView : public corvane::CWnd {
   RECT ShownRect() const;
   // Shows a line of text at the bottom for a few seconds.
   void ShowNotice(const corvane::CString& text);
+  // The same until the next notice: something is being done.
+  void ShowBusy(const corvane::CString& text);
   const corvane::CString& notice() const { return notice_; }  // empty when none is shown
   // What stands on the stage while there is no picture; '\n' begins another, smaller line.
   void SetEmptyText(const corvane::CString& text);

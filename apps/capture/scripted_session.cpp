@@ -59,6 +59,7 @@ class Session {
     drag(middle(), {middle().x + picture.Width() / 40, middle().y + picture.Height() / 80});
     frame("the rectangle was moved");
     click_crop_bar(CropCommand::save);
+    wait_while([this] { return window_.saving(); });
     frame("the part was saved in the current folder");
     copy_crop();
   }
@@ -105,6 +106,7 @@ class Session {
     const CRect picture = shown_picture();
     drag(at(picture, 20, 20), at(picture, 80, 70));
     click_crop_bar(CropCommand::save);
+    wait_while([this] { return window_.saving(); });
     frame("a part of it was saved beside it");
   }
 

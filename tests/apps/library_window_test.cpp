@@ -1,6 +1,7 @@
 // The program's window on a display in memory, driven by mouse and wheel: folders, pictures, crops.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "apps/capture/launch.h"
 #include "apps/capture/main_window.h"
@@ -74,6 +75,7 @@ class LibraryWindow : public testing::Test {
     window_.view().ClientToScreen(picture);
     desktop_.drag({picture.left + 100, picture.top + 100}, {picture.left + 300, picture.top + 250});
     desktop_.click(window_.CropButtonOnScreen(CropCommand::save).CenterPoint());
+    while (window_.saving() && desktop_.wait_for_post(10000)) desktop_.pump();
   }
   // Null when it is no picture or never comes.
   Thumbnail WaitForThumbnail(const std::wstring& name) {
@@ -202,6 +204,16 @@ TEST_F(LibraryWindow, AFolderThatVanishedIsLeftForTheNearestOneAbove) {
   CropAndSave();
   EXPECT_THAT(Notice(), HasSubstr("无法保存"));
   EXPECT_TRUE(std::filesystem::is_empty(folder_.path())) << "a library that vanished takes none";
+}
+
+TEST_F(LibraryWindow, AFolderThatBecameAFileIsLeftToo) {
+  Start();
+  desktop_.click(RowOf(L"\\二月"));
+  std::filesystem::remove(library_ / "二月");
+  ASSERT_EQ(mkfifo((library_ / "二月").c_str(), 0600), 0);
+  CropAndSave();
+  EXPECT_EQ(window_.browser().Folder(), Path(L""));
+  EXPECT_EQ(window_.last_saved(), Path(L"\\page_1.png"));
 }
 
 TEST_F(LibraryWindow, WithoutPicturesItSaysSoAndEveryButtonIsHarmless) {

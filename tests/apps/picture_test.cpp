@@ -29,10 +29,14 @@ TEST(SaveNumbered, NeverReplacesAFileOrALinkAndTellsWhyItCouldNot) {
   for (const auto& [picture, name] : cases) {
     EXPECT_EQ(save_numbered(folder.wide(), picture, {'1', '2', '3'}).name, name);
   }
+  // A name has 255 bytes at most, these characters have three each.
+  const std::wstring longest(84, L'页');
+  EXPECT_EQ(save_numbered(folder.wide(), longest + L".gif", {'1'}).name,
+            longest.substr(1) + L"_1.png");
   EXPECT_EQ(BytesOf(folder / "页_1.png"), "somebody's");
   EXPECT_EQ(BytesOf(folder / "页_3.png"), "123");
   const std::filesystem::directory_iterator files(folder.path());
-  EXPECT_EQ(std::distance(begin(files), end(files)), 5) << "no temporary file is left";
+  EXPECT_EQ(std::distance(begin(files), end(files)), 6) << "no temporary file is left";
   const SavedPart saved = save_numbered(folder.wide() + L"\\gone", L"a.png", {'1'});
   EXPECT_TRUE(saved.name.empty());
   EXPECT_EQ(saved.error, ENOENT);

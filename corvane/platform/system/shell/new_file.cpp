@@ -2,45 +2,19 @@
 
 #include <fcntl.h>
 #include <stdio.h>
-#include <stdlib.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
+#include <random>
+#include <utility>
 
 namespace corvane::system {
 namespace {
 
 constexpr std::size_t kBlock = 1 << 20;
-
-std::string folder_of(const std::string& path) {
-  const std::size_t slash = path.rfind('/');
-  if (slash == std::string::npos) return ".";
-  return slash == 0 ? "/" : path.substr(0, slash);
-}
-
-bool write_all(int file, const char* bytes, std::size_t size) {
-  while (size > 0) {
-    const ssize_t written = write(file, bytes, std::min(size, kBlock));
-    if (written < 0 && errno == EINTR) continue;
-    if (written <= 0) return false;
-    bytes += written;
-    size -= static_cast<std::size_t>(written);
-  }
-  return fsync(file) == 0;
-}
-
-// Not every file system knows the rename that refuses to replace; a hard link refuses as well.
-bool put_in_place(const std::string& temporary, const std::string& path) {
-  if (renameat2(AT_FDCWD, temporary.c_str(), AT_FDCWD, path.c_str(), RENAME_NOREPLACE) == 0) {
-    return true;
-  }
-  if (errno != EINVAL && errno != ENOSYS) return false;
-  if (link(temporary.c_str(), path.c_str()) != 0) return false;
-  unlink(temporary.c_str());
-  return true;
-}
+constexpr mode_t kMode = 0666;  // what the user's mask leaves of it
+constexpr int kHiddenNames = 100;
 
 void sync_folder(const std::string& folder) {
   const int handle = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
@@ -49,28 +23,74 @@ void sync_folder(const std::string& folder) {
   close(handle);
 }
 
+bool write_all(int file, const char* bytes, std::size_t size) {
+  while (size > 0) {
+    const ssize_t written = ::write(file, bytes, std::min(size, kBlock));
+    if (written < 0 && errno == EINTR) continue;
+    if (written <= 0) return false;
+    bytes += written;
+    size -= static_cast<std::size_t>(written);
+  }
+  return fsync(file) == 0;
+}
+
 }  // namespace
 
-NewFileResult write_new_file(const std::string& path, const void* bytes, std::size_t size) {
-  const std::string folder = folder_of(path);
-  std::string temporary = folder + "/.corvane-XXXXXX";
-  const int file = mkostemp(temporary.data(), O_CLOEXEC);
-  if (file < 0) return NewFileResult::failed;
-  fchmod(file, 0644);
-  bool complete = write_all(file, static_cast<const char*>(bytes), size);
-  int error = errno;
-  if (close(file) != 0 && complete) {
-    complete = false;
-    error = errno;
+NewFile::NewFile(std::string folder, Until until_placed)
+    : folder_(std::move(folder)), until_placed_(until_placed) {}
+
+NewFile::~NewFile() {
+  if (file_ >= 0) close(file_);
+  if (!hidden_.empty()) unlink(hidden_.c_str());
+}
+
+bool NewFile::write(const void* bytes, std::size_t size) {
+  return (open_unnamed() || open_hidden()) &&
+         write_all(file_, static_cast<const char*>(bytes), size);
+}
+
+bool NewFile::open_unnamed() {
+  // Such a file gets its name by way of /proc.
+  if (until_placed_ == Until::hidden || access("/proc/self/fd", X_OK) != 0) return false;
+  file_ = open(folder_.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, kMode);
+  return file_ >= 0;
+}
+
+bool NewFile::open_hidden() {
+  std::random_device random;
+  for (int i = 0; i < kHiddenNames; ++i) {
+    std::string path = folder_ + "/.corvane-" + std::to_string(random());
+    file_ = open(path.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, kMode);
+    if (file_ >= 0) {
+      hidden_ = std::move(path);
+      return true;
+    }
+    if (errno != EEXIST) return false;
   }
-  if (complete && put_in_place(temporary, path)) {
-    sync_folder(folder);
-    return NewFileResult::written;
+  return false;
+}
+
+NewFile::Placed NewFile::place(const std::string& name) {
+  if (file_ < 0) {
+    errno = EBADF;
+    return Placed::failed;
   }
-  if (complete) error = errno;
-  unlink(temporary.c_str());
-  errno = error;
-  return complete && error == EEXIST ? NewFileResult::exists : NewFileResult::failed;
+  const std::string path = folder_ + "/" + name;
+  if (!link_as(path)) return errno == EEXIST ? Placed::name_taken : Placed::failed;
+  sync_folder(folder_);
+  return Placed::yes;
+}
+
+// Not every file system knows the rename that refuses to replace; a hard link refuses as well.
+bool NewFile::link_as(const std::string& path) const {
+  if (hidden_.empty()) {
+    const std::string open_file = "/proc/self/fd/" + std::to_string(file_);
+    return linkat(AT_FDCWD, open_file.c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW) == 0;
+  }
+  if (renameat2(AT_FDCWD, hidden_.c_str(), AT_FDCWD, path.c_str(), RENAME_NOREPLACE) == 0) {
+    return true;
+  }
+  return (errno == EINVAL || errno == ENOSYS) && link(hidden_.c_str(), path.c_str()) == 0;
 }
 
 }  // namespace corvane::system

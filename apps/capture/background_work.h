@@ -1,0 +1,43 @@
+#pragma once
+// Work that takes longer than a frame: done by a thread of its own, one piece after the other, and
+// finished on the user-interface thread.
+#include <condition_variable>
+#include <deque>
+#include <functional>
+#include <mutex>
+#include <thread>
+#include <vector>
+
+namespace capture {
+
+class CBackgroundWork {
+ public:
+  using Finish = std::function<void()>;
+  // Called by the thread; returns what is left to do on the user-interface thread. Must not throw.
+  using Work = std::function<Finish()>;
+
+  // `ready` is called by the thread when something can be finished: it asks for FinishDone.
+  explicit CBackgroundWork(std::function<void()> ready);
+  // Does all that was begun, and finishes none of it.
+  ~CBackgroundWork();
+  CBackgroundWork(const CBackgroundWork&) = delete;
+  CBackgroundWork& operator=(const CBackgroundWork&) = delete;
+
+  void Begin(Work work);
+  void FinishDone();
+  bool Busy() const { return unfinished_ > 0; }
+
+ private:
+  void run();
+
+  std::function<void()> ready_;
+  int unfinished_ = 0;  // user-interface thread only
+  std::mutex lock_;     // guards all that follows
+  std::condition_variable changed_;
+  std::deque<Work> waiting_;
+  std::vector<Finish> done_;
+  bool ending_ = false;
+  std::thread thread_;  // the last: it uses the others
+};
+
+}  // namespace capture
