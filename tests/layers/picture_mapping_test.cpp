@@ -29,6 +29,21 @@ struct MapCase {
   RECT pixels;
 };
 
+TEST(FramedAt, Table) {
+  constexpr RECT whole = {lowest, lowest, highest, highest};
+  const struct {
+    RECT framed, shown, shown_now, expected;
+  } cases[] = {{{30, 40, 50, 70}, {10, 20, 110, 120}, {0, 0, 200, 50}, {40, 10, 80, 25}},
+               {{30, 40, 50, 70}, {10, 20, 110, 120}, {10, 20, 110, 120}, {30, 40, 50, 70}},
+               {{0, 10, 120, 5}, {10, 20, 110, 120}, {0, 0, 50, 33}, {-5, -3, 55, -5}},
+               {{30, 40, 50, 70}, {10, 20, 10, 120}, {0, 0, 200, 50}, {30, 40, 50, 70}},
+               {{30, 40, 50, 70}, {10, 20, 110, 120}, {0, 0, 0, 0}, {30, 40, 50, 70}},
+               {whole, {0, 0, 1, 1}, whole, whole}};
+  for (const auto& [framed, shown, shown_now, expected] : cases) {
+    EXPECT_THAT(corvane::framed_at(framed, shown, shown_now), same_rect(expected));
+  }
+}
+
 TEST(PicturePixels, Table) {
   constexpr RECT nothing = {0, 0, 0, 0};
   const std::vector<MapCase> cases = {

@@ -277,6 +277,21 @@ TEST_F(WholeCropTest, ABarThatIsShownStaysWithItsFrameAndGoesWithItsUse) {
   EXPECT_FALSE(bar_is_shown());
 }
 
+TEST_F(WholeCropTest, AHostMayFrameAPartItself) {
+  start();
+  background_.SetCutRect(CRect(300, 50, 600, 200));
+  EXPECT_THAT(background_.GetCutRect(), is_rect(300, 50, 600, 200));
+  EXPECT_TRUE(bar_is_shown());
+  desktop_.pump();
+  EXPECT_EQ(layer_sign(450, 100), ' ');
+  drag({450, 100}, {460, 100});
+  EXPECT_THAT(background_.GetCutRect(), is_rect(310, 50, 610, 200)) << "it is like a drawn one";
+  background_.SetCutRect(CRect(5, 5, 5, 5));
+  desktop_.pump();
+  EXPECT_FALSE(bar_is_shown());
+  EXPECT_EQ(layer_sign(450, 100), '.');
+}
+
 TEST_F(WholeCropTest, OnlyADragIsRepaintedAndNotBeforeTheNextTurn) {
   start();
   drag({100, 80}, {400, 280});

@@ -39,6 +39,8 @@ class CropFrame {
   bool empty() const;
   // The rectangle becomes (0, 0, 0, 0); a drag that is going on goes on.
   void clear();
+  // Any rectangle; a drag that is going on goes on from there.
+  void set_rectangle(const RECT& rectangle) { rectangle_ = rectangle; }
 
   // A crop_hit code from outside to inside. Handles win over the inside, lower codes over higher.
   int hit_test(POINT point) const;

@@ -43,6 +43,8 @@ HWND CCutBgLayer::GetBarHwnd() const { return rect_layer_.GetBarHwnd(); }
 
 CRect CCutBgLayer::GetCutRect() const { return rect_layer_.GetCutRect(); }
 
+void CCutBgLayer::SetCutRect(CRect rectangle) { rect_layer_.SetCutRect(rectangle); }
+
 int CCutBgLayer::OnCreate(LPCREATESTRUCT creation) {
   if (CWnd::OnCreate(creation) == -1) return -1;
   if (!become_overlay(*this)) return -1;

@@ -32,6 +32,8 @@ class CCutBgLayer : public LibraryWindow<CWnd> {
   HWND GetBarHwnd() const;
   // The crop rectangle in client coordinates; see CCutRectLayer::GetCutRect.
   CRect GetCutRect() const;
+  // See CCutRectLayer::SetCutRect.
+  void SetCutRect(CRect rectangle);
 
   int OnCreate(LPCREATESTRUCT creation);
   void OnSize(UINT kind, int width, int height);

@@ -59,6 +59,16 @@ int CCutRectLayer::ShowWindow(int command) {
 
 CRect CCutRectLayer::GetCutRect() const { return frame_.rectangle(); }
 
+void CCutRectLayer::SetCutRect(CRect rectangle) {
+  frame_.set_rectangle(rectangle);
+  if (m_hWnd == nullptr) return;
+  const WindowWatch watch(*this);
+  if (frame_.empty()) hide_bar();
+  if (watch.window_gone()) return;
+  Invalidate(FALSE);
+  show_new_frame(SW_SHOWNOACTIVATE);
+}
+
 void CCutRectLayer::ShowBtn(int use_bar) { show_buttons_ = use_bar != 0; }
 
 void CCutRectLayer::SetOCRMode(int text_recognition) {

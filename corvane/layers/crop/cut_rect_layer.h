@@ -23,6 +23,9 @@ class CCutRectLayer : public LibraryWindow<CWnd> {
   // As it stands, in client coordinates. It is empty when nothing was drawn, and inverted when an
   // edge was dragged past its opposite.
   CRect GetCutRect() const;
+  // Frames that rectangle, as if the user had drawn it: for a host that scales its picture anew in
+  // the middle of a crop. An empty one frames nothing. The bar comes and goes with it.
+  void SetCutRect(CRect rectangle);
   // Non-zero: the bar is used. Nothing is shown or hidden at once; a bar that is up and no longer
   // used goes at the next step of a drag.
   void ShowBtn(int use_bar);

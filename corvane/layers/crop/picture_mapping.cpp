@@ -1,6 +1,7 @@
 #include "corvane/layers/crop/picture_mapping.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
 
 #include "corvane/platform/geometry.h"
@@ -28,6 +29,15 @@ std::int64_t scaled(std::int64_t value, std::int64_t numerator, std::int64_t den
   return std::max<std::int64_t>(1, (value * numerator + denominator / 2) / denominator);
 }
 
+// In floating point: the product of two lengths may have 64 bits.
+LONG moved_along(LONG value, Span from, Span to) {
+  const auto length = static_cast<double>(from.last - from.first);
+  const auto length_now = static_cast<double>(to.last - to.first);
+  const double place = static_cast<double>(value - from.first) / length * length_now;
+  constexpr double kFarOutside = 1e12;  // clamped again with its origin
+  return clamp_coordinate(to.first + std::llround(std::clamp(place, -kFarOutside, kFarOutside)));
+}
+
 }  // namespace
 
 RECT picture_pixels(SIZE picture, const RECT& shown, const RECT& framed) {
@@ -38,6 +48,15 @@ RECT picture_pixels(SIZE picture, const RECT& shown, const RECT& framed) {
   if (across.first >= across.last || down.first >= down.last) return {0, 0, 0, 0};
   return {clamp_coordinate(across.first), clamp_coordinate(down.first),
           clamp_coordinate(across.last), clamp_coordinate(down.last)};
+}
+
+RECT framed_at(const RECT& framed, const RECT& shown, const RECT& shown_now) {
+  if (!has_area(shown) || !has_area(shown_now)) return framed;
+  const Span across{shown.left, shown.right}, across_now{shown_now.left, shown_now.right};
+  const Span down{shown.top, shown.bottom}, down_now{shown_now.top, shown_now.bottom};
+  return {moved_along(framed.left, across, across_now), moved_along(framed.top, down, down_now),
+          moved_along(framed.right, across, across_now),
+          moved_along(framed.bottom, down, down_now)};
 }
 
 RECT fit_picture(SIZE picture, const RECT& area) {

@@ -15,6 +15,10 @@ namespace corvane {
 // gives exactly the whole picture.
 RECT picture_pixels(SIZE picture, const RECT& shown, const RECT& framed);
 
+// Where what a rectangle of the view frames stands when the picture is shown at another place or
+// scale, to the nearest pixel. Unchanged when one of the places is empty.
+RECT framed_at(const RECT& framed, const RECT& shown, const RECT& shown_now);
+
 // Where a picture is shown in `area`: centred, as large as fits with its proportions kept, small
 // pictures at their own size. At least one pixel wide and high; (0, 0, 0, 0) when the picture or
 // the area is empty.
