@@ -10,7 +10,7 @@ CBackgroundWork::CBackgroundWork(std::function<void()> ready)
 CBackgroundWork::~CBackgroundWork() {
   {
     const std::lock_guard guard(lock_);
-    ending_ = true;
+    stop_.request_stop();
   }
   changed_.notify_one();
   thread_.join();
@@ -32,18 +32,20 @@ void CBackgroundWork::FinishDone() {
     done.swap(done_);
   }
   unfinished_ -= static_cast<int>(done.size());
-  for (const Finish& finish : done) finish();
+  for (const Finish& finish : done) {
+    if (finish) finish();
+  }
 }
 
 void CBackgroundWork::run() {
   std::unique_lock guard(lock_);
   for (;;) {
-    changed_.wait(guard, [this] { return ending_ || !waiting_.empty(); });
+    changed_.wait(guard, [this] { return stop_.stop_requested() || !waiting_.empty(); });
     if (waiting_.empty()) return;
     const Work work = std::move(waiting_.front());
     waiting_.pop_front();
     guard.unlock();
-    Finish finish = work();
+    Finish finish = work(stop_.get_token());
     guard.lock();
     done_.push_back(std::move(finish));
     ready_();

@@ -5,6 +5,7 @@
 #include <deque>
 #include <functional>
 #include <mutex>
+#include <stop_token>
 #include <thread>
 #include <vector>
 
@@ -13,12 +14,14 @@ namespace capture {
 class CBackgroundWork {
  public:
   using Finish = std::function<void()>;
-  // Called by the thread; returns what is left to do on the user-interface thread. Must not throw.
-  using Work = std::function<Finish()>;
+  // Called by the thread; returns what is left to do on the user-interface thread, or nothing. Must
+  // not throw. Stop is requested at the end of the program: work that changes nothing gives up
+  // then.
+  using Work = std::function<Finish(const std::stop_token& stop)>;
 
   // `ready` is called by the thread when something can be finished: it asks for FinishDone.
   explicit CBackgroundWork(std::function<void()> ready);
-  // Does all that was begun, and finishes none of it.
+  // Asks what was begun to stop, waits until it is done, and finishes none of it.
   ~CBackgroundWork();
   CBackgroundWork(const CBackgroundWork&) = delete;
   CBackgroundWork& operator=(const CBackgroundWork&) = delete;
@@ -36,7 +39,7 @@ class CBackgroundWork {
   std::condition_variable changed_;
   std::deque<Work> waiting_;
   std::vector<Finish> done_;
-  bool ending_ = false;
+  std::stop_source stop_;
   std::thread thread_;  // the last: it uses the others
 };
 

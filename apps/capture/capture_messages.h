@@ -1,5 +1,5 @@
 #pragma once
-// What the program's windows post to each other; wParam and lParam are 0.
+// What the program's windows post to each other; wParam and lParam are 0 unless told.
 #include "corvane/platform/platform.h"
 
 namespace capture {
@@ -14,5 +14,7 @@ constexpr UINT WM_PICTURE_CLICKED = WM_APP + 3;
 constexpr UINT WM_THUMBNAILS_LOADED = WM_APP + 4;
 // Working thread -> main window: a piece of work can be finished.
 constexpr UINT WM_WORK_DONE = WM_APP + 5;
+// Library pane -> main window, sent: the user drags its edge. wParam: the width asked for, pixels.
+constexpr UINT WM_LIBRARY_DRAGGED = WM_APP + 6;
 
 }  // namespace capture

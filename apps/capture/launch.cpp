@@ -1,6 +1,5 @@
 #include "apps/capture/launch.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <string_view>
 #include <system_error>
@@ -13,8 +12,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t kMaxAttempts = 20;  // at pictures that cannot be opened
-
 // A full path without a separator at its end; empty when it cannot be told.
 std::wstring full_path(const std::string& path) {
   std::error_code error;
@@ -23,18 +20,6 @@ std::wstring full_path(const std::string& path) {
   std::wstring wide = corvane::wide_path_of(full);
   while (wide.ends_with(L'\\')) wide.pop_back();
   return wide;
-}
-
-std::unique_ptr<CPicture> first_picture_of(const std::wstring& folder) {
-  std::optional<FolderEntries> entries = read_folder(folder);
-  if (!entries) return nullptr;
-  const std::size_t attempts = std::min(entries->pictures.size(), kMaxAttempts);
-  for (std::size_t i = 0; i < attempts; ++i) {
-    auto picture =
-        CPicture::Open(corvane::native_path(path_in(folder, entries->pictures[i])).string());
-    if (picture != nullptr) return picture;
-  }
-  return nullptr;
 }
 
 }  // namespace
@@ -75,13 +60,6 @@ Launch prepare_launch(const Arguments& arguments) {
   if (beginning.library.empty() || !read_folder(beginning.library)) {
     launch.error = "cannot open the folder " + arguments.library;
     return launch;
-  }
-  if (beginning.picture != nullptr) return launch;
-  beginning.folder = first_folder_with_pictures(beginning.library);
-  if (beginning.folder.empty()) {
-    beginning.folder = beginning.library;
-  } else {
-    beginning.picture = first_picture_of(beginning.folder);
   }
   return launch;
 }

@@ -18,7 +18,7 @@ struct Launch {
   Beginning beginning;
   std::string error;  // one line, when it cannot begin
 };
-// Looks the library up and opens the first picture. Byte paths.
+// Looks the library up and opens the picture that was named. Byte paths.
 Launch prepare_launch(const Arguments& arguments);
 
 }  // namespace capture

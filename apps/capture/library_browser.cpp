@@ -22,7 +22,11 @@ void CLibraryBrowser::Place(const RECT& pane, const RECT& strip) {
 
 void CLibraryBrowser::Load(const std::wstring& root, const std::wstring& folder) {
   pane_.SetRoot(root);
-  pane_.SetCurrent(lies_in(root, folder) ? folder : root);
+  SelectFolder(lies_in(root, folder) ? folder : root);
+}
+
+void CLibraryBrowser::SelectFolder(const std::wstring& folder) {
+  pane_.SetCurrent(folder);
   show_entries(Folder());
 }
 
@@ -69,8 +73,7 @@ void CLibraryBrowser::MarkOpened(const std::wstring& path) {
   reached_ = path;
   const std::wstring folder = folder_of(path);
   if (folder != Folder() && lies_in(pane_.root(), folder)) {
-    pane_.SetCurrent(folder);
-    show_entries(folder);
+    SelectFolder(folder);
     return;
   }
   strip_.Mark(folder == Folder() ? name_of(path) : std::wstring());

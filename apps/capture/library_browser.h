@@ -14,8 +14,9 @@ class CLibraryBrowser {
   bool Create(corvane::CWnd* parent);
   void Place(const RECT& pane, const RECT& strip);  // the parent's client coordinates
 
-  // Loads the library and selects a folder of it (the root when it does not lie in the library).
+  // Shows the library and selects a folder of it (the root when it does not lie in the library).
   void Load(const std::wstring& root, const std::wstring& folder);
+  void SelectFolder(const std::wstring& folder);
   // The current folder; empty when the whole library is gone.
   std::wstring Folder() const;
   // When the current folder has vanished, the nearest folder above it becomes the current one. What

@@ -16,6 +16,9 @@ using namespace corvane;
 constexpr SIZE kOpenPanelSize{640, 560};
 constexpr SIZE kMinReadableSize{8, 8};  // pixels of the picture
 
+constexpr wchar_t kNoPicturesText[] =
+    L"图库里还没有图片\n把图片放进图库的文件夹，或按“打开”选择一张图片";
+
 CString name_for_user(const std::wstring& path) { return CString(name_of(path).c_str()); }
 
 }  // namespace
@@ -23,13 +26,13 @@ CString name_for_user(const std::wstring& path) { return CString(name_of(path).c
 const MessageMap* CMainWindow::GetMessageMap() const {
   static constexpr auto kMessages =
       MessageTable(On<WM_ERASEBKGND>(&CMainWindow::OnEraseBkgnd), On<WM_SIZE>(&CMainWindow::OnSize),
-                   On<WM_KEYDOWN>(&CMainWindow::OnKeyDown),
                    OnMessage<WM_LAYER_BTN_CLICK>(&CMainWindow::OnToolbarButton),
                    OnMessage<WM_CUT_CMD>(&CMainWindow::OnCropCommand),
                    OnMessage<WM_PICTURE_CHOSEN>(&CMainWindow::OnPictureChosen),
                    OnMessage<WM_FOLDER_CHOSEN>(&CMainWindow::OnFolderChosen),
                    OnMessage<WM_PICTURE_CLICKED>(&CMainWindow::OnPictureClicked),
-                   OnMessage<WM_WORK_DONE>(&CMainWindow::OnWorkDone));
+                   OnMessage<WM_WORK_DONE>(&CMainWindow::OnWorkDone),
+                   OnMessage<WM_LIBRARY_DRAGGED>(&CMainWindow::OnLibraryDragged));
   static const MessageMap map = kMessages.extending(CWnd::GetMessageMap());
   return &map;
 }
@@ -47,13 +50,35 @@ bool CMainWindow::Open(Beginning beginning) {
   CWnd::ShowWindow(SW_SHOW);
   browser_.Load(beginning.library, beginning.folder);
   show_picture(std::move(beginning.picture));
+  load_library(beginning.library);
   return true;
 }
 
+void CMainWindow::load_library(const std::wstring& library) {
+  if (picture_ == nullptr) {
+    view_.SetEmptyText(L"正在读取图库……");
+    library_work_->Begin([this, library](const std::stop_token& stop) {
+      return [this, first = find_first_picture(library, stop)] { show_first(first); };
+    });
+  }
+  library_work_->Begin([this, root = browser_.pane().RootInTree()](const std::stop_token& stop) {
+    return [this, folders = read_folders(root, stop)] { browser_.pane().ShowFolders(folders); };
+  });
+}
+
+void CMainWindow::show_first(const FirstPicture& first) {
+  view_.SetEmptyText(kNoPicturesText);
+  const bool user_was_first = picture_ != nullptr || browser_.Folder() != browser_.pane().root();
+  if (user_was_first || first.folder.empty()) return;
+  browser_.SelectFolder(first.folder);
+  if (first.picture != nullptr) show_picture(first.picture);
+}
+
 bool CMainWindow::create_parts() {
-  work_ = std::make_unique<CBackgroundWork>(
-      [window = m_hWnd] { ::PostMessageW(window, WM_WORK_DONE, 0, 0); });
-  view_.SetEmptyText(L"图库里还没有图片\n把图片放进图库的文件夹，或按“打开”选择一张图片");
+  const auto work_done = [window = m_hWnd] { ::PostMessageW(window, WM_WORK_DONE, 0, 0); };
+  library_work_ = std::make_unique<CBackgroundWork>(work_done);
+  work_ = std::make_unique<CBackgroundWork>(work_done);
+  view_.SetEmptyText(kNoPicturesText);
   return toolbar_.Open(this) && browser_.Create(this) &&
          view_.CreateEx(0, nullptr, L"picture", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), this,
                         0) &&
@@ -81,14 +106,31 @@ void CMainWindow::OnSize(UINT kind, int width, int height) {
 }
 
 void CMainWindow::layout() {
+  const CRect framed = crop_.GetCutRect();
+  const RECT shown = view_.ShownRect();
   CRect client;
   GetClientRect(client);
-  const WindowLayout layout = lay_out({client.right, client.bottom}, CToolbar::kHeight);
+  const WindowLayout layout =
+      lay_out({client.right, client.bottom}, CToolbar::kHeight, library_width_);
   toolbar_.Place(client.Width());
   browser_.Place(layout.library, layout.strip);
   view_.MoveWindow(&layout.stage);
   view_.Invalidate(FALSE);
   place_crop_layer();
+  if (crop_.IsWindowVisible()) keep_framed(framed, shown);
+}
+
+// The picture was scaled anew: the same part of it stays framed.
+void CMainWindow::keep_framed(const CRect& framed, const RECT& shown) {
+  if (framed != kept_.now) kept_ = {framed, shown, framed};
+  kept_.now = CRect(framed_at(kept_.framed, kept_.shown, view_.ShownRect()));
+  crop_.SetCutRect(kept_.now);
+}
+
+LRESULT CMainWindow::OnLibraryDragged(WPARAM width, LPARAM) {
+  library_width_ = static_cast<int>(width);
+  layout();
+  return 0;
 }
 
 RECT CMainWindow::stage_on_screen() const {
@@ -98,10 +140,8 @@ RECT CMainWindow::stage_on_screen() const {
 }
 
 void CMainWindow::place_crop_layer() {
-  CRect stage(stage_on_screen());
+  const CRect stage(stage_on_screen());
   crop_.MoveWindow(stage);
-  // The picture was scaled anew, so what was framed is somewhere else now.
-  if (crop_.IsWindowVisible()) start_crop(crop_mode_);
 }
 
 CRect CMainWindow::CropButtonOnScreen(CropCommand command) const {
@@ -112,7 +152,11 @@ CRect CMainWindow::CropButtonOnScreen(CropCommand command) const {
 }
 
 void CMainWindow::show_picture(std::shared_ptr<const CPicture> picture) {
+  if (crop_.IsWindowVisible() && picture_ != nullptr) {
+    view_.ShowNotice(L"换了图片，框选已取消");
+  }
   end_crop();
+  recognition_.Close();
   view_.SetPicture(picture.get());
   picture_ = std::move(picture);
   if (picture_ == nullptr) {
@@ -162,6 +206,7 @@ LRESULT CMainWindow::OnPictureClicked(WPARAM, LPARAM) {
 }
 
 LRESULT CMainWindow::OnToolbarButton(WPARAM id, LPARAM) {
+  if (!keyboard_led_) SetFocus();  // the keys stay the picture's
   switch (static_cast<ToolbarButton>(id)) {
     case ToolbarButton::crop:
       start_crop(CropMode::picture);
@@ -238,7 +283,7 @@ void CMainWindow::save_framed() {
 
 void CMainWindow::save_part(const RECT& part, const std::wstring& folder, const CString& notice) {
   view_.ShowBusy(L"正在保存……");
-  work_->Begin([this, part, folder, notice, picture = picture_] {
+  work_->Begin([this, part, folder, notice, picture = picture_](const std::stop_token&) {
     SavedPart saved{{}, ENOMEM};
     const std::vector<std::uint8_t> png = picture->EncodePart(part);
     if (!png.empty()) saved = save_numbered(folder, name_of(wide_path_of(picture->path())), png);
@@ -266,7 +311,7 @@ void CMainWindow::recognise_framed() {
     return;
   }
   view_.ShowBusy(L"正在准备识别……");
-  work_->Begin([this, part, picture = picture_] {
+  work_->Begin([this, part, picture = picture_](const std::stop_token&) {
     return [this, png = picture->EncodePart(part)] {
       view_.ShowNotice(png.empty() ? L"内存不足" : L"");
       if (!png.empty()) recognition_.Read(png, stage_on_screen());
@@ -275,6 +320,7 @@ void CMainWindow::recognise_framed() {
 }
 
 LRESULT CMainWindow::OnWorkDone(WPARAM, LPARAM) {
+  library_work_->FinishDone();
   work_->FinishDone();
   return 0;
 }
@@ -291,20 +337,6 @@ void CMainWindow::show_open_panel() {
 LRESULT CMainWindow::OnPictureChosen(WPARAM, LPARAM) {
   open_path(open_panel_.ChosenPath());
   return 0;
-}
-
-void CMainWindow::OnKeyDown(UINT key, UINT, UINT) {
-  switch (key) {
-    case VK_ESCAPE:
-      end_crop();
-      break;
-    case VK_LEFT:
-    case VK_RIGHT:
-      open_neighbour(key == VK_RIGHT ? 1 : -1);
-      break;
-    default:
-      Default();
-  }
 }
 
 }  // namespace capture

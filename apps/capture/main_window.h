@@ -6,6 +6,8 @@
 #include <string>
 
 #include "apps/capture/background_work.h"
+#include "apps/capture/first_picture.h"
+#include "apps/capture/key_commands.h"
 #include "apps/capture/library_browser.h"
 #include "apps/capture/open_panel.h"
 #include "apps/capture/picture.h"
@@ -21,7 +23,7 @@ namespace capture {
 struct Beginning {
   std::wstring library;                     // the root folder
   std::wstring folder;                      // selected when it lies in the library, else the root
-  std::shared_ptr<const CPicture> picture;  // may be null
+  std::shared_ptr<const CPicture> picture;  // null: the library's first
 };
 
 // The crop bar's commands.
@@ -29,7 +31,7 @@ enum class CropCommand { again = 1, cancel = 2, save = 3, recognise = 4, read = 
 
 class CMainWindow : public corvane::CWnd {
  public:
-  // Fills the screen with the window.
+  // Fills the screen with the window; what it shows comes while it can be used.
   bool Open(Beginning beginning);
 
   // For the scripted session and tests.
@@ -41,27 +43,38 @@ class CMainWindow : public corvane::CWnd {
   const CPicture* picture() const { return picture_.get(); }
   const std::wstring& last_saved() const { return last_saved_; }  // full wide path
   bool recognising() const { return saving() || recognition_.Running(); }
+  bool loading() const { return library_work_ != nullptr && library_work_->Busy(); }
   bool saving() const { return work_ != nullptr && work_->Busy(); }
 
  protected:
   const corvane::MessageMap* GetMessageMap() const override;
   BOOL OnEraseBkgnd(corvane::CDC* dc);
   void OnSize(UINT kind, int width, int height);
-  void OnKeyDown(UINT key, UINT repeats, UINT flags);
+  BOOL PreTranslateMessage(MSG* message) override;
   LRESULT OnToolbarButton(WPARAM id, LPARAM);
   LRESULT OnCropCommand(WPARAM command, LPARAM);
   LRESULT OnPictureChosen(WPARAM, LPARAM);
   LRESULT OnFolderChosen(WPARAM, LPARAM);
   LRESULT OnPictureClicked(WPARAM, LPARAM);
   LRESULT OnWorkDone(WPARAM, LPARAM);
+  LRESULT OnLibraryDragged(WPARAM width, LPARAM);
 
  private:
   enum class CropMode { picture, text };
 
+  bool take_key(UINT key);
+  void perform(KeyCommand command);
+  void move_focus(int step);
+  std::vector<HWND> parts_for_keys() const;
+  void cancel();
+
   bool create_parts();
   bool create_crop_layer();
+  void load_library(const std::wstring& library);
+  void show_first(const FirstPicture& first);
   void layout();
   void place_crop_layer();
+  void keep_framed(const corvane::CRect& framed, const RECT& shown);
   RECT stage_on_screen() const;
 
   void show_picture(std::shared_ptr<const CPicture> picture);
@@ -84,9 +97,20 @@ class CMainWindow : public corvane::CWnd {
   CPictureView view_;
   corvane::CCutBgLayer crop_;
   CropMode crop_mode_ = CropMode::picture;
+  // What the user framed last and where the picture stood then, so that many changes of the
+  // window's size do not add up; and what that has become.
+  struct {
+    corvane::CRect framed;
+    RECT shown{};
+    corvane::CRect now;
+  } kept_;
+  int library_width_ = 0;  // as the user dragged it; 0: as the window gives it
   CRecognitionPanel recognition_;
   COpenPanel open_panel_;
-  std::unique_ptr<CBackgroundWork> work_;  // made with the window
+  bool keyboard_led_ = false;  // the keyboard, not the mouse, chose what has the focus
+  // Made with the window; saving does not wait for a library to be read.
+  std::unique_ptr<CBackgroundWork> library_work_;
+  std::unique_ptr<CBackgroundWork> work_;
 };
 
 }  // namespace capture

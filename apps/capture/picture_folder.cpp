@@ -59,9 +59,9 @@ bool folder_exists(const std::wstring& folder) {
   return search != INVALID_HANDLE_VALUE || GetLastError() == ERROR_ACCESS_DENIED;
 }
 
-std::wstring first_folder_with_pictures(const std::wstring& root) {
+std::wstring first_folder_with_pictures(const std::wstring& root, const std::stop_token& stop) {
   std::vector<std::wstring> waiting = {root};  // the last comes next
-  while (!waiting.empty()) {
+  while (!waiting.empty() && !stop.stop_requested()) {
     std::wstring folder = std::move(waiting.back());
     waiting.pop_back();
     std::optional<FolderEntries> entries = read_folder(folder);

@@ -2,6 +2,7 @@
 // The folders of a picture library and the pictures in them. All paths are full wide paths without
 // a separator at the end.
 #include <optional>
+#include <stop_token>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,9 +22,9 @@ struct FolderEntries {
 std::optional<FolderEntries> read_folder(const std::wstring& folder);
 bool folder_exists(const std::wstring& folder);
 
-// The first folder at or below the root, in order, that holds a picture; empty: there is
-// none.
-std::wstring first_folder_with_pictures(const std::wstring& root);
+// The first folder at or below the root, in order, that holds a picture; empty: there is none, or
+// it was stopped.
+std::wstring first_folder_with_pictures(const std::wstring& root, const std::stop_token& stop = {});
 
 // Whether the path is the root or lies below it.
 bool lies_in(std::wstring_view root, std::wstring_view path);

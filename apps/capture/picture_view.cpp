@@ -22,16 +22,6 @@ constexpr int kNoticePadding = 18;
 constexpr int kNoticeFontHeight = 17;
 constexpr int kEmptyLineDistance = 36;
 
-int text_width(HDC dc, const CString& text, const LOGFONTW& font) {
-  HFONT handle = CreateFontIndirectW(&font);
-  HGDIOBJ former = SelectObject(dc, handle);
-  SIZE extent{};
-  GetTextExtentPoint32W(dc, text, text.GetLength(), &extent);
-  SelectObject(dc, former);
-  DeleteObject(handle);
-  return extent.cx;
-}
-
 }  // namespace
 
 const MessageMap* CPictureView::GetMessageMap() const {
@@ -104,15 +94,26 @@ void CPictureView::draw_empty_stage(HDC dc, const RECT& client) const {
 }
 
 void CPictureView::draw_notice(HDC dc, const RECT& client) const {
+  constexpr UINT kLines = DT_CENTER | DT_WORDBREAK | DT_NOPREFIX;
   const LOGFONTW font = ui_font(kNoticeFontHeight);
-  const int width = text_width(dc, notice_, font) + 2 * kNoticePadding;
-  const int left = (client.right - width) / 2;
-  const int top = client.bottom - kNoticeHeight - 2 * kMargin;
-  const CRect box(left, top, left + width, top + kNoticeHeight);
+  const HFONT handle = ::CreateFontIndirectW(&font);
+  const HGDIOBJ former = ::SelectObject(dc, handle);
+  const int most = client.right - 2 * kMargin - 2 * kNoticePadding;
+  CRect text(0, 0, std::max(most, 1), 0);
+  ::DrawTextW(dc, notice_, notice_.GetLength(), text, kLines | DT_CALCRECT);
+  CRect box(0, 0, std::min<int>(text.Width(), most) + 2 * kNoticePadding,
+            text.Height() + kNoticeHeight - kNoticeFontHeight);
+  box.OffsetRect((client.right - box.Width()) / 2, client.bottom - 2 * kMargin - box.Height());
   fill_with(dc, box, kPanelColor);
   frame_with(dc, box, kPanelEdgeColor);
   fill_with(dc, CRect(box.left, box.top, box.left + 4, box.bottom), kAccentColor);
-  CGdiDC().DrawTextW(dc, notice_, &font, box, kTextArgb, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+  text = box;
+  text.DeflateRect(kNoticePadding, (kNoticeHeight - kNoticeFontHeight) / 2);
+  ::SetTextColor(dc, kTextColor);
+  ::SetBkMode(dc, TRANSPARENT);
+  ::DrawTextW(dc, notice_, notice_.GetLength(), text, kLines | DT_END_ELLIPSIS);
+  ::SelectObject(dc, former);
+  ::DeleteObject(handle);
 }
 
 void CPictureView::OnTimer(UINT_PTR id) {

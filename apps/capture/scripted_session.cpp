@@ -39,7 +39,7 @@ class Session {
   Session(CMainWindow& window, fs::path folder) : window_(window), folder_(std::move(folder)) {}
 
   int play() {
-    handle_waiting_messages();
+    wait_while([this] { return window_.loading(); });
     frame("the picture, its folder and the folder's pictures");
     if (window_.picture() == nullptr) return failed_ ? 1 : 0;
     crop();

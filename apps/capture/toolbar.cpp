@@ -8,6 +8,9 @@ using namespace corvane;
 constexpr int kList = 100;
 constexpr int kBackground = 7;
 constexpr int kQuitMargin = 12;
+constexpr ToolbarButton kButtons[] = {ToolbarButton::crop, ToolbarButton::text,
+                                      ToolbarButton::open, ToolbarButton::previous,
+                                      ToolbarButton::next, ToolbarButton::quit};
 
 }  // namespace
 
@@ -17,28 +20,52 @@ bool CToolbar::Open(CWnd* parent) {
   skin_.LoadGdiImage(background_, unused, kBackground);
   layer_.SetXmlListMgr(&skin_);
   layer_.SetBgImage(background_.GetImage(), CRect());
-  for (const ToolbarButton button :
-       {ToolbarButton::crop, ToolbarButton::text, ToolbarButton::open, ToolbarButton::previous,
-        ToolbarButton::next, ToolbarButton::quit}) {
-    layer_.AddBtn(static_cast<int>(button));
-  }
+  for (const ToolbarButton button : kButtons) layer_.AddBtn(static_cast<int>(button));
   layer_.CreateEx(0, nullptr, L"toolbar", WS_CHILD | WS_CLIPCHILDREN, CRect(0, 0, 0, 0), parent, 0);
   layer_.ShowWindow(SW_SHOW);
+  for (const ToolbarButton button : kButtons) {
+    natural_.push_back(layer_.GetBtnRect(static_cast<int>(button)));
+  }
   return layer_.GetSafeHwnd() != nullptr;
 }
 
 void CToolbar::Place(int width) {
   layer_.MoveWindow(0, 0, width, kHeight);
-  const int quit = static_cast<int>(ToolbarButton::quit);
-  CRect place = layer_.GetBtnRect(quit);
-  place.OffsetRect(width - kQuitMargin - place.right, 0);
-  layer_.SetBtnRect(quit, place);
+  std::vector<CRect> places = natural_;
+  CRect& quit = places.back();
+  quit.OffsetRect(width - kQuitMargin - quit.right, 0);
+  const int count = static_cast<int>(places.size());
+  if (quit.left < places[places.size() - 2].right) {
+    for (int i = 0; i < count; ++i) {
+      places[static_cast<std::size_t>(i)].left = width * i / count;
+      places[static_cast<std::size_t>(i)].right = width * (i + 1) / count;
+    }
+  }
+  for (std::size_t i = 0; i < places.size(); ++i) {
+    layer_.SetBtnRect(static_cast<int>(kButtons[i]), places[i]);
+  }
 }
 
 CRect CToolbar::ButtonOnScreen(ToolbarButton button) const {
   CRect rect = layer_.GetBtnRect(static_cast<int>(button));
   layer_.ClientToScreen(rect);
   return rect;
+}
+
+std::vector<HWND> CToolbar::Buttons() const {
+  std::vector<HWND> windows;
+  for (const ToolbarButton button : kButtons) {
+    windows.push_back(::GetDlgItem(layer_, static_cast<int>(button)));
+  }
+  return windows;
+}
+
+BOOL CToolbar::Layer::PreTranslateMessage(MSG* message) {
+  const bool enter = message->message == WM_KEYDOWN && message->wParam == VK_RETURN;
+  if (!enter || message->hwnd == m_hWnd) return CWindowLayer::PreTranslateMessage(message);
+  const auto id = static_cast<DWORD_PTR>(::GetDlgCtrlID(message->hwnd));
+  SendMessageW(WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), reinterpret_cast<LPARAM>(message->hwnd));
+  return TRUE;
 }
 
 }  // namespace capture

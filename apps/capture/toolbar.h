@@ -1,6 +1,8 @@
 #pragma once
 // The program's toolbar, with its buttons, captions and background from the skin. The parent gets
 // its WM_LAYER_BTN_CLICK.
+#include <vector>
+
 #include "corvane/corvane.h"
 
 namespace capture {
@@ -13,14 +15,24 @@ class CToolbar {
   static constexpr int kHeight = 76;  // pixels
 
   bool Open(corvane::CWnd* parent);
-  // At the top of the parent's client area; the last button goes to the right edge.
+  // At the top of the parent's client area; the last button goes to the right edge. Where there is
+  // too little room for all, they share it.
   void Place(int width);
   corvane::CRect ButtonOnScreen(ToolbarButton button) const;
+  // The buttons' windows from left to right.
+  std::vector<HWND> Buttons() const;
 
  private:
+  // Enter clicks the button that has the focus.
+  class Layer : public corvane::CWindowLayer {
+   public:
+    BOOL PreTranslateMessage(MSG* message) override;
+  };
+
+  std::vector<corvane::CRect> natural_;  // the buttons' places in the skin
   corvane::CXmlListMgr skin_;  // this and the background outlive the layer, which borrows them
   corvane::CGdiImage background_;
-  corvane::CWindowLayer layer_;
+  Layer layer_;
 };
 
 }  // namespace capture

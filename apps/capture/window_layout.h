@@ -10,7 +10,8 @@ struct WindowLayout {  // client coordinates, pixels
   RECT strip{};        // below the picture
 };
 
-// On a window too small for all, the stage gets what there is.
-WindowLayout lay_out(SIZE client, int toolbar_height);
+// On a window too small for all, the stage gets what there is. `library_width`: as wide as asked
+// for, as far as the stage keeps its least size; 0: by the window's width.
+WindowLayout lay_out(SIZE client, int toolbar_height, int library_width = 0);
 
 }  // namespace capture

@@ -44,7 +44,9 @@ class LibraryWindow : public testing::Test {
     ASSERT_EQ(launch.error, "");
     desktop_.app().m_pMainWnd = &window_;
     ASSERT_TRUE(window_.Open(std::move(launch.beginning)));
-    desktop_.pump();
+    do {
+      desktop_.pump();
+    } while (window_.loading() && desktop_.wait_for_post(10000));
   }
 
   std::wstring Path(const wchar_t* below) const { return wide_path_of(library_) + below; }
@@ -75,7 +77,14 @@ class LibraryWindow : public testing::Test {
     window_.view().ClientToScreen(picture);
     desktop_.drag({picture.left + 100, picture.top + 100}, {picture.left + 300, picture.top + 250});
     desktop_.click(window_.CropButtonOnScreen(CropCommand::save).CenterPoint());
+    WaitForSaving();
+  }
+  void WaitForSaving() {
     while (window_.saving() && desktop_.wait_for_post(10000)) desktop_.pump();
+  }
+  void Press(const std::vector<int>& keys) {
+    for (const int key : keys) desktop_.key_down(key);
+    for (const int key : keys) desktop_.key_up(key);
   }
   // Null when it is no picture or never comes.
   Thumbnail WaitForThumbnail(const std::wstring& name) {
@@ -188,6 +197,47 @@ TEST_F(LibraryWindow, TheTreesBarFollowsTheWindowsHeight) {
   }
 }
 
+TEST_F(LibraryWindow, TheSamePartStaysFramedHoweverTheWindowChanges) {
+  Start();
+  ClickButton(ToolbarButton::crop);
+  CRect picture(window_.view().ShownRect());
+  window_.view().ClientToScreen(picture);
+  desktop_.drag({picture.left + 100, picture.top + 100}, {picture.left + 300, picture.top + 250});
+  // The library's edge is dragged to and fro, and the window gets smaller and larger.
+  CRect pane;
+  window_.browser().pane().GetWindowRect(pane);
+  for (const int x : {700, 300, 1100, 500}) {
+    desktop_.drag({pane.right - 4, 90}, {x, 90});
+    window_.browser().pane().GetWindowRect(pane);
+    EXPECT_EQ(pane.right, std::min(x + 4, 1280 - 200));
+    window_.MoveWindow(0, 0, 1280, 900 - x / 4);
+  }
+  window_.MoveWindow(0, 0, 1280, 800);
+  desktop_.drag({pane.right - 4, 90}, {256, 90});
+  desktop_.click(window_.CropButtonOnScreen(CropCommand::save).CenterPoint());
+  WaitForSaving();
+  const auto saved = CPicture::Open(library_ / "page_1.png");
+  ASSERT_NE(saved, nullptr);
+  EXPECT_EQ(saved->size().cx, 200);
+  EXPECT_EQ(saved->size().cy, 150);
+}
+
+TEST_F(LibraryWindow, NoButtonCoversAnotherInANarrowWindow) {
+  Start();
+  for (const int width : {1280, 560, 400, 320}) {
+    window_.MoveWindow(0, 0, width, 600);
+    int right = 0;
+    for (const ToolbarButton button :
+         {ToolbarButton::crop, ToolbarButton::text, ToolbarButton::open, ToolbarButton::previous,
+          ToolbarButton::next, ToolbarButton::quit}) {
+      const CRect place = window_.toolbar().ButtonOnScreen(button);
+      EXPECT_GE(place.left, right);
+      right = place.right;
+    }
+    EXPECT_LE(right, width);
+  }
+}
+
 TEST_F(LibraryWindow, AFolderThatVanishedIsLeftForTheNearestOneAbove) {
   Start();
   desktop_.double_click(RowOf(L"\\一月"));
@@ -230,6 +280,51 @@ TEST_F(LibraryWindow, WithoutPicturesItSaysSoAndEveryButtonIsHarmless) {
   WriteTestPicture(library_ / "new.png", 100, 100);
   ClickButton(ToolbarButton::next);
   EXPECT_EQ(Opened(), "new.png");
+}
+
+TEST_F(LibraryWindow, TheKeysArePicturesFoldersAndButtonsWhateverWasClicked) {
+  Start(library_ / "一月" / "a.png");
+  for (const ToolbarButton clicked : {ToolbarButton::crop, ToolbarButton::text}) {
+    ClickButton(clicked);
+    desktop_.key(VK_RIGHT);
+    EXPECT_EQ(Opened(), "a.png") << "not while a part is framed";
+    desktop_.key(VK_ESCAPE);
+    EXPECT_FALSE(window_.crop().IsWindowVisible());
+    desktop_.key(VK_RIGHT);
+    EXPECT_EQ(Opened(), "b.png");
+    desktop_.key(VK_LEFT);
+  }
+  ClickButton(ToolbarButton::open);
+  const HWND box = ::GetActiveWindow();
+  EXPECT_NE(box, window_.GetSafeHwnd());
+  desktop_.click(CellInStrip(0));
+  desktop_.key(VK_ESCAPE);
+  EXPECT_FALSE(::IsWindowVisible(box)) << "also when something else was clicked";
+  const std::pair<std::vector<int>, const wchar_t*> walk[] = {
+      {{VK_UP}, L""},         {{VK_UP}, L""},
+      {{VK_DOWN}, L"\\一月"}, {{VK_DOWN}, L"\\一月\\上旬"},
+      {{VK_UP}, L"\\一月"},   {{VK_SHIFT, VK_LEFT}, L"\\一月"},
+      {{VK_DOWN}, L"\\二月"}};
+  for (const auto& [keys, folder] : walk) {
+    Press(keys);
+    EXPECT_EQ(window_.browser().Folder(), Path(folder));
+  }
+  // Tab reaches the toolbar's first button, the arrow the second one: it frames text.
+  for (const int key : {VK_TAB, VK_RIGHT, VK_RETURN}) desktop_.key(key);
+  EXPECT_TRUE(window_.crop().IsWindowVisible());
+}
+
+TEST_F(LibraryWindow, AKeySavesWhatIsFramed) {
+  Start();
+  Press({VK_CONTROL, 'S'});
+  EXPECT_THAT(Notice(), HasSubstr("裁剪"));
+  ClickButton(ToolbarButton::crop);
+  CRect picture(window_.view().ShownRect());
+  window_.view().ClientToScreen(picture);
+  desktop_.drag(picture.TopLeft(), picture.CenterPoint());
+  Press({VK_CONTROL, 'S'});
+  WaitForSaving();
+  EXPECT_EQ(window_.last_saved(), Path(L"\\page_1.png"));
 }
 
 // It lists the folder above, those inside and the pictures; what is open is marked.

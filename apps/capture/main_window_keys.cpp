@@ -1,0 +1,99 @@
+// The keys of the main window: they reach it before the window that has the focus.
+#include <algorithm>
+
+#include "apps/capture/main_window.h"
+
+namespace capture {
+
+using namespace corvane;
+
+namespace {
+
+LONG left_edge(HWND window) {
+  RECT rect{};
+  ::GetWindowRect(window, &rect);
+  return rect.left;
+}
+
+}  // namespace
+
+BOOL CMainWindow::PreTranslateMessage(MSG* message) {
+  if (message->message == WM_LBUTTONDOWN) keyboard_led_ = false;
+  if (message->message == WM_KEYDOWN && take_key(static_cast<UINT>(message->wParam))) return TRUE;
+  return CWnd::PreTranslateMessage(message);
+}
+
+bool CMainWindow::take_key(UINT key) {
+  const KeyPress press = key_press(key);
+  const std::optional<KeyCommand> command = key_command(press);
+  // A box that has the focus has arrows of its own.
+  const bool main_is_active = ::GetActiveWindow() == m_hWnd || crop_.IsWindowVisible();
+  if (!command || (!main_is_active && !press.control)) return false;
+  perform(*command);
+  return true;
+}
+
+void CMainWindow::perform(KeyCommand command) {
+  const std::vector<HWND> parts = parts_for_keys();
+  const bool on_button = std::find(parts.begin() + 1, parts.end(), ::GetFocus()) != parts.end();
+  switch (command) {
+    case KeyCommand::cancel:
+      return cancel();
+    case KeyCommand::next_picture:
+    case KeyCommand::previous_picture: {
+      const int step = command == KeyCommand::next_picture ? 1 : -1;
+      if (on_button) return move_focus(step);
+      if (!crop_.IsWindowVisible()) open_neighbour(step);  // what is framed is not lost by a key
+      return;
+    }
+    case KeyCommand::folder_above:
+    case KeyCommand::folder_below:
+      return browser_.pane().SelectNeighbour(command == KeyCommand::folder_below ? 1 : -1);
+    case KeyCommand::open_folder:
+    case KeyCommand::close_folder:
+      return browser_.pane().OpenCurrent(command == KeyCommand::open_folder);
+    case KeyCommand::open_picture:
+      return show_open_panel();
+    case KeyCommand::save:
+      if (crop_.IsWindowVisible()) return save_framed();
+      return view_.ShowNotice(L"先按“裁剪”框选要保存的部分");
+    case KeyCommand::next_part:
+    case KeyCommand::previous_part:
+      return move_focus(command == KeyCommand::next_part ? 1 : -1);
+  }
+}
+
+void CMainWindow::cancel() {
+  if (open_panel_.IsWindowVisible() || recognition_.IsWindowVisible()) {
+    open_panel_.Close();
+    recognition_.Close();
+  } else {
+    end_crop();
+  }
+}
+
+// The picture, whose keys are the window's own, and every button that can be seen, from left to
+// right.
+std::vector<HWND> CMainWindow::parts_for_keys() const {
+  std::vector<HWND> parts = {m_hWnd};
+  for (const HWND button : toolbar_.Buttons()) parts.push_back(button);
+  const auto first_of_bar = static_cast<std::ptrdiff_t>(parts.size());
+  for (HWND button = ::GetWindow(crop_.GetBarHwnd(), GW_CHILD); button != nullptr;
+       button = ::GetWindow(button, GW_HWNDNEXT)) {
+    if (::IsWindowVisible(button)) parts.push_back(button);
+  }
+  std::sort(parts.begin() + first_of_bar, parts.end(),
+            [](HWND one, HWND other) { return left_edge(one) < left_edge(other); });
+  return parts;
+}
+
+void CMainWindow::move_focus(int step) {
+  const std::vector<HWND> parts = parts_for_keys();
+  const auto count = static_cast<std::ptrdiff_t>(parts.size());
+  const auto here = std::find(parts.begin(), parts.end(), ::GetFocus());
+  const std::ptrdiff_t index = here == parts.end() ? 0 : here - parts.begin();
+  keyboard_led_ = true;
+  ::SetFocus(parts[static_cast<std::size_t>((index + step + count) % count)]);
+}
+
+}  // namespace capture
