@@ -92,7 +92,7 @@ std::wstring CLibraryPane::Current() const {
 CRect CLibraryPane::row_of_current() {
   const _NODE* node = tree_.FindNode(tree_.GetCurPath(), nullptr);
   if (tree_.ListSort() == 0 || node == nullptr) return {};
-  CRect row(row_in_client(*node, tree_.GetScrollPos(SB_VERT)));
+  const CRect row(row_in_client(*node, tree_.GetScrollPos(SB_VERT)));
   return tree_.HitTest(row.CenterPoint()) == node ? row : CRect();
 }
 
@@ -208,8 +208,9 @@ BOOL CLibraryPane::OnSetCursor(CWnd* window, UINT hit_code, UINT mouse_message) 
   CPoint point;
   ::GetCursorPos(&point);
   ScreenToClient(&point);
-  if (window != this || !is_on_edge(point))
+  if (window != this || !is_on_edge(point)) {
     return CWnd::OnSetCursor(window, hit_code, mouse_message);
+  }
   ::SetCursor(::LoadCursorW(nullptr, IDC_SIZEWE));
   return TRUE;
 }

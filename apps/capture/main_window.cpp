@@ -291,7 +291,8 @@ void CMainWindow::save_part(const RECT& part, const std::wstring& folder, const 
   });
 }
 
-void CMainWindow::show_saved(const SavedPart& saved, const std::wstring& folder, CString notice) {
+void CMainWindow::show_saved(const SavedPart& saved, const std::wstring& folder,
+                             const CString& notice) {
   if (saved.name.empty()) {
     view_.ShowNotice(notice + L"无法保存：" + save_error_text(saved.error));
     return;

@@ -86,7 +86,8 @@ class CMainWindow : public corvane::CWnd {
   RECT framed_pixels() const;  // of the picture
   void save_framed();
   void save_part(const RECT& part, const std::wstring& folder, const corvane::CString& notice);
-  void show_saved(const SavedPart& saved, const std::wstring& folder, corvane::CString notice);
+  void show_saved(const SavedPart& saved, const std::wstring& folder,
+                  const corvane::CString& notice);
   void recognise_framed();
   void show_open_panel();
 

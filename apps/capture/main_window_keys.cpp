@@ -27,7 +27,7 @@ bool CMainWindow::take_key(UINT key) {
   const KeyPress press = key_press(key);
   const std::optional<KeyCommand> command = key_command(press);
   // A box that has the focus has arrows of its own.
-  const bool main_is_active = ::GetActiveWindow() == m_hWnd || crop_.IsWindowVisible();
+  const bool main_is_active = ::GetActiveWindow() == m_hWnd || crop_.IsWindowVisible() != FALSE;
   if (!command || (!main_is_active && !press.control)) return false;
   perform(*command);
   return true;

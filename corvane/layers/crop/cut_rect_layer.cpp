@@ -203,7 +203,7 @@ void CCutRectLayer::OnMove(int x, int y) {
 }
 
 bool CCutRectLayer::bar_is_shown() const {
-  return button_layer_.GetSafeHwnd() != nullptr && button_layer_.IsWindowVisible();
+  return button_layer_.GetSafeHwnd() != nullptr && button_layer_.IsWindowVisible() != FALSE;
 }
 
 void CCutRectLayer::hide_bar() {

@@ -21,8 +21,8 @@ template <class Draw>
 int draw_with_brush(HDC dc, const RECT* rect, HBRUSH brush, Draw draw) {
   DeviceContext* context = find_dc(dc);
   std::optional<COLORREF> color;
-  if (context == nullptr || rect == nullptr || !current_tables()->brush_color(brush, &color))
-    return 0;
+  if (context == nullptr || rect == nullptr) return 0;
+  if (!current_tables()->brush_color(brush, &color)) return 0;
   return softly(0, [&] {
     const std::optional<RECT> area = ordered(context->to_surface(*rect));
     if (area && color) draw(*context, *area, context->pixel(*color));
