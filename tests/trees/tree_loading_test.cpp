@@ -87,23 +87,35 @@ TEST_F(LoadingTest, LinksBackStayWithoutChildren) {
   EXPECT_TRUE(load_folders(model_, listing_, L"D:\\Lib\\Photos\\a\\above",
                            model_.find(L"D:\\Lib\\Photos\\a")));
   EXPECT_EQ(tree_text(*model_.find(L"D:\\Lib\\Photos\\a\\above")),
-            L"above 2\n Photos 3\n Other 3\n  inner 4\n")
+            L"above 2\n Photos 3\n  a 4\n   b 5\n    to_a 6\n   to_root 5\n   above 5\n  aside 4\n"
+            L"   inner 5\n Other 3\n  inner 4\n")
       << "what is asked for is listed";
 }
 
 // Folders full of links to each other would be read in every order that there is.
-TEST_F(LoadingTest, AFolderIsReadThroughAHundredLinksAndNoMore) {
+TEST_F(LoadingTest, LinksBelowLinksLeadToAFolderAHundredTimesAndOthersAlways) {
+  constexpr int kLinks = 150;
   listing_.add(L"D:\\Lib\\Other\\inner");
-  for (int i = 0; i < 144; ++i) {
-    const std::wstring folder = kPhotos + (L'\\' + std::to_wstring(i / 12));
-    listing_.add_link(folder + L"\\to " + std::to_wstring(i), L"D:\\Lib\\Other");
+  listing_.add(L"D:\\Lib\\Deep\\deepest");
+  listing_.add_link(L"D:\\Lib\\Other\\to deep", L"D:\\Lib\\Deep");
+  for (int i = 0; i < kLinks; ++i) {
+    listing_.add_link(kPhotos + (L"\\" + std::to_wstring(i)), L"D:\\Lib\\Other");
   }
   load();
-  int followed = 0;
-  for (const _NODE& folder : model_.root().children()) {
-    for (const _NODE& link : folder.children()) followed += link.children().empty() ? 0 : 1;
+  int followed_below = 0;
+  for (const _NODE& link : model_.root().children()) {
+    ASSERT_EQ(link.children().size(), 2u) << link.name().AsStdString().size();
+    followed_below += link.children().back().children().empty() ? 0 : 1;
   }
-  EXPECT_EQ(followed, 100);
+  EXPECT_EQ(model_.root().children().size(), static_cast<std::size_t>(kLinks));
+  EXPECT_EQ(followed_below, 100);
+}
+
+TEST_F(LoadingTest, FoldersThatShareOneNumberAreReadAllTheSame) {
+  listing_.give_all_one_number();
+  listing_.add(L"D:\\Lib\\Photos\\a\\b");
+  listing_.add_link(L"D:\\Lib\\Photos\\to_root", L"D:\\Lib\\Photos");
+  EXPECT_EQ(load(), L"-Photos 0\n a 1\n  b 2\n to_root 1\n");
 }
 
 // What is missing is what lay below the failure, nothing else. The root is opened first, then the

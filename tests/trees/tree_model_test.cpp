@@ -30,6 +30,24 @@ TEST_F(TreeModelTest, AddsEachNameOnceAndExactly) {
   EXPECT_EQ(tree_text(model_), L"-Photos 0\n a 1\n  b 2\n A 1\n") << "expanded: -";
 }
 
+TEST_F(TreeModelTest, FindsEveryOneOfManyChildrenAgainThoughNamesChangeAndGo) {
+  constexpr int kMany = 16000;  // far too long when each name is compared with all others
+  std::vector<_NODE*> added;
+  for (int round = 0; round < 2; ++round) {
+    for (int i = 0; i < kMany; ++i) {
+      added.push_back(model_.add_child(std::to_wstring(i).c_str(), a_));
+      ASSERT_EQ(added[static_cast<std::size_t>(i)], added.back());
+    }
+  }
+  model_.rename(added[7], L"seven");
+  EXPECT_EQ(model_.add_child(L"seven", a_), added[7]);
+  EXPECT_NE(model_.add_child(L"7", a_), added[7]);
+  model_.remove(added[9]);
+  const _NODE* const again = model_.add_child(L"9", a_);
+  EXPECT_EQ(again, &a_->children().back());
+  EXPECT_EQ(a_->children().size(), kMany + 2u) << "b and another 7";
+}
+
 TEST_F(TreeModelTest, StartsOverWithTheNameOfANodeThatGoes) {
   model_.set_expanded(*root_, false);
   model_.set_current_path(L"D:\\Lib\\Photos\\a");

@@ -386,6 +386,11 @@ TEST_F(TreeWindowTest, ReadsTheSystemsFoldersOrTheListingThatItWasGiven) {
     EXPECT_EQ(tree_.GetCurPath(), root + nearest);
     std::filesystem::remove_all(disk / "2023/May");
   }
+  std::wstring deep = (root + L"\\2023").AsStdString();
+  for (int i = 0; i < 5000; ++i) deep += L"\\removed folder";  // too many to ask for each
+  tree_.SetCurPath(deep.c_str());
+  tree_.SetCurPath(nullptr);
+  EXPECT_EQ(tree_.GetCurPath(), root + L"\\2023");
   auto listing = std::make_unique<FakeListing>();
   listing->add(L"Q:\\Lib\\inner");
   tree_.SetFolderListing(std::move(listing));

@@ -21,7 +21,7 @@ class FolderLoad {
     if (!folder) return false;
     guard_.enter_all_above(listing_, path_);
     // What was asked for is listed wherever it leads.
-    if (!enter(std::move(folder), top)) return false;
+    if (!enter(std::move(folder), top, FolderKind::folder)) return false;
     while (!levels_.empty()) step();
     return true;
   }
@@ -39,14 +39,14 @@ class FolderLoad {
   };
 
   // Adds the nodes of the folder's sub-folders; they are loaded in later steps.
-  bool enter(std::unique_ptr<OpenFolder> folder, _NODE& node) {
+  bool enter(std::unique_ptr<OpenFolder> folder, _NODE& node, FolderKind found_as) {
     Level level;
     ChildNames names(model_, node);
     const bool listed = folder->list_folders([&](std::wstring_view name, FolderKind kind) {
       if (!name.starts_with(L'.')) level.children.push_back({&names.child(name), kind});
     });
     if (level.children.empty()) return listed;
-    guard_.enter(folder->identity());
+    guard_.enter(folder->identity(), found_as);
     level.folder = std::move(folder);
     levels_.push_back(std::move(level));
     return listed;
@@ -64,7 +64,7 @@ class FolderLoad {
     if (level.next == level.children.size()) level.folder.reset();
     if (!folder) return;
     if (!guard_.lets_in(folder->identity(), child.kind)) return;
-    enter(std::move(folder), *child.node);
+    enter(std::move(folder), *child.node, child.kind);
   }
 
   TreeModel& model_;

@@ -12,9 +12,9 @@ namespace corvane {
 //
 // True: the folder could be listed. Otherwise its node is in the tree without children of the
 // disk's. Below it, folders that cannot be listed, that vanish meanwhile, or that are links back to
-// a folder above themselves stay without children; so does each link to a folder that a hundred
-// links led to before. The cost is linear in the number of folders; neither the depth nor the
-// length of a path is limited.
+// a folder above themselves stay without children; so does each link below another link to a folder
+// that a hundred such links led to before. The cost is linear in the number of folders; neither the
+// depth nor the length of a path is limited.
 bool load_folders(TreeModel& model, FolderListing& listing, const wchar_t* path, _NODE* parent);
 
 }  // namespace corvane

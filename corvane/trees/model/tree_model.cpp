@@ -21,10 +21,23 @@ std::wstring_view without_base(std::wstring_view path, std::wstring_view base) {
 _NODE* TreeModel::add_child(const wchar_t* name, _NODE* parent) {
   if (name == nullptr) return nullptr;
   if (parent == nullptr) return start_over(name);
-  for (_NODE& child : parent->children_) {
-    if (child.name_ == name) return &child;
+  _NODE* const known = child_named(name, *parent);
+  return known != nullptr ? known : &append_child(name, *parent);
+}
+
+_NODE* TreeModel::child_named(std::wstring_view name, _NODE& parent) {
+  constexpr std::size_t kMaxSearchedOneByOne = 8;
+  if (parent.children_.size() <= kMaxSearchedOneByOne) {
+    const auto found = std::find_if(parent.children_.begin(), parent.children_.end(),
+                                    [name](const _NODE& each) { return view(each.name_) == name; });
+    return found == parent.children_.end() ? nullptr : &*found;
   }
-  return &append_child(name, *parent);
+  if (!parent.child_names_) {
+    parent.child_names_ = std::make_unique<_NODE::NameIndex>();
+    for (_NODE& each : parent.children_) parent.child_names_->emplace(view(each.name_), &each);
+  }
+  const auto found = parent.child_names_->find(name);
+  return found == parent.child_names_->end() ? nullptr : found->second;
 }
 
 _NODE* TreeModel::start_over(std::wstring_view name) {
@@ -40,6 +53,7 @@ _NODE& TreeModel::append_child(std::wstring_view name, _NODE& parent) {
   child.name_ = std::wstring(name);
   child.level_ = parent.level_ + 1;
   child.parent_ = &parent;
+  if (parent.child_names_) parent.child_names_->emplace(view(child.name_), &child);
   ++revision_;
   return child;
 }
@@ -89,6 +103,7 @@ bool TreeModel::is_path_of(const CString& path, const _NODE& node) const {
 bool TreeModel::rename(_NODE* node, const wchar_t* name) {
   if (node == nullptr || name == nullptr || *name == L'\0') return false;
   const CString former_path = path_of(node);
+  if (node->parent_ != nullptr) node->parent_->child_names_.reset();
   node->name_ = name;
   highlight_path_ = path_of(node);
   if (current_path_ == former_path) current_path_ = highlight_path_;
@@ -106,6 +121,7 @@ bool TreeModel::remove(_NODE* node) {
     return sibling.name_ == node->name_;
   });
   if (found == siblings.end()) return false;
+  node->parent_->child_names_.reset();
   siblings.erase(found);
   ++revision_;
   return true;

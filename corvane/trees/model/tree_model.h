@@ -60,6 +60,7 @@ class TreeModel {
 
  private:
   _NODE* start_over(std::wstring_view name);
+  static _NODE* child_named(std::wstring_view name, _NODE& parent);  // null: there is none
 
   _NODE root_;
   CString base_path_;

@@ -10,6 +10,7 @@ _NODE::~_NODE() { free_children(); }
 void _NODE::free_children() {
   std::list<_NODE> doomed = std::move(children_);
   children_.clear();
+  child_names_.reset();
   for (_NODE& node : doomed) doomed.splice(doomed.end(), node.children_);
 }
 

@@ -2,6 +2,9 @@
 // One folder of the owner-drawn tree. Nodes are made, changed and removed by the tree (TreeModel,
 // CTreeCtrlEx2) only; a pointer to a node is valid until that very node is removed.
 #include <list>
+#include <memory>
+#include <string_view>
+#include <unordered_map>
 
 #include "corvane/platform/framework/c_string.h"
 #include "corvane/platform/platform.h"
@@ -29,6 +32,8 @@ class _NODE {
   friend class TreeLayout;
   friend class TreeWalk;
 
+  using NameIndex = std::unordered_map<std::wstring_view, _NODE*>;
+
   void free_children();
 
   CString name_;
@@ -36,6 +41,7 @@ class _NODE {
   int level_ = 0;
   RECT row_{0, 0, 0, 0};
   std::list<_NODE> children_;
+  std::unique_ptr<NameIndex> child_names_;  // the first child of each name; null: not needed yet
   _NODE* parent_ = nullptr;
 };
 

@@ -1,5 +1,9 @@
 #include "corvane/trees/owner_drawn/tree_ctrl_ex2.h"
 
+#include <algorithm>
+#include <string>
+#include <vector>
+
 #include "corvane/platform/framework/paint_dc.h"
 #include "corvane/platform/geometry.h"
 #include "corvane/trees/model/tree_loading.h"
@@ -9,12 +13,22 @@
 namespace corvane {
 namespace {
 
-// Climbs to the nearest folder that exists, or to the first component.
-CString existing_part(CString path) {
-  while (!::PathFileExistsW(path) && path.Find(kPathSeparator) >= 0) {
-    path = std::wstring(parent_path(path.AsStdString()));
+// The path, or of those above it the longest that exists; its first component if none does. What
+// lies below a folder that is missing is missing too, so not every one has to be asked for.
+CString existing_part(const CString& path) {
+  if (::PathFileExistsW(path)) return path;
+  const std::wstring& whole = path.AsStdString();
+  std::vector<std::size_t> ends;  // of the paths above it, the shortest first
+  for (std::size_t at = whole.find(kPathSeparator); at != std::wstring::npos;
+       at = whole.find(kPathSeparator, at + 1)) {
+    ends.push_back(at);
   }
-  return path;
+  if (ends.empty()) return path;
+  const auto missing =
+      std::partition_point(std::next(ends.begin()), ends.end(), [&whole](std::size_t end) {
+        return ::PathFileExistsW(whole.substr(0, end).c_str()) != FALSE;
+      });
+  return CString(whole.substr(0, *std::prev(missing)));
 }
 
 }  // namespace

@@ -8,7 +8,7 @@
 namespace corvane {
 namespace {
 
-constexpr int kMaxLinksFollowed = 100;  // to one folder
+constexpr int kMaxLinksFollowed = 100;  // to one folder, below other links
 
 }  // namespace
 
@@ -20,15 +20,27 @@ void CircleGuard::enter_all_above(FolderListing& listing, std::wstring_view path
   std::wstring_view above = parent_path(path);
   for (; !above.empty(); above = parent_path(above)) {
     const auto folder = listing.open(std::wstring(above).c_str());
-    if (folder != nullptr) enter(folder->identity());
+    if (folder != nullptr) enter(folder->identity(), FolderKind::folder);
   }
 }
 
+void CircleGuard::enter(const FolderIdentity& folder, FolderKind kind) {
+  entered_.push_back({folder, kind});
+  if (kind == FolderKind::link) ++links_entered_;
+}
+
+void CircleGuard::leave() {
+  if (entered_.back().kind == FolderKind::link) --links_entered_;
+  entered_.pop_back();
+}
+
 bool CircleGuard::lets_in(const FolderIdentity& folder, FolderKind kind) {
-  const bool leads_back = std::find(entered_.rbegin(), entered_.rend(), folder) != entered_.rend();
+  if (kind != FolderKind::link) return true;
+  const bool leads_back = std::any_of(entered_.rbegin(), entered_.rend(),
+                                      [&](const Entered& each) { return each.folder == folder; });
   if (leads_back) return false;
   // Folders full of links to each other would be read in every order that there is.
-  return kind != FolderKind::link || ++links_followed_[folder] <= kMaxLinksFollowed;
+  return links_entered_ == 0 || ++links_followed_[folder] <= kMaxLinksFollowed;
 }
 
 }  // namespace corvane

@@ -8,7 +8,9 @@ class FakeFolder : public OpenFolder {
  public:
   FakeFolder(FakeListing& listing, std::wstring path) : listing_(listing), path_(std::move(path)) {}
 
-  FolderIdentity identity() const override { return {1, std::hash<std::wstring>()(path_)}; }
+  FolderIdentity identity() const override {
+    return {1, listing_.one_number_ ? 1 : std::hash<std::wstring>()(path_)};
+  }
 
   bool list_folders(const FoundFolder& found) override {
     if (listing_.fails()) return false;

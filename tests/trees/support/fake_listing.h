@@ -15,6 +15,9 @@ class FakeListing : public FolderListing {
   // An entry of that path which leads to another folder.
   void add_link(const std::wstring& path, const std::wstring& target);
 
+  // As some file systems of other machines do.
+  void give_all_one_number() { one_number_ = true; }
+
   std::unique_ptr<OpenFolder> open(const wchar_t* path) override;
 
   // The operation with that number, counted from 1 and from now on, fails: opening a folder,
@@ -32,6 +35,7 @@ class FakeListing : public FolderListing {
 
   std::map<std::wstring, std::vector<std::wstring>> names_;
   std::map<std::wstring, std::wstring> links_;
+  bool one_number_ = false;
   int failing_ = 0;
   int operations_ = 0;
 };
