@@ -114,7 +114,8 @@ void COpenPanel::open_entry(int index) {
   if (index < 0) return;
   const Entry entry = entries_[static_cast<std::size_t>(index)];
   if (entry.folder) {
-    ListFolder(entry.path, folder_);
+    const std::wstring came_from = folder_;  // which listing replaces
+    ListFolder(entry.path, came_from);
     return;
   }
   chosen_ = entry.path;

@@ -333,7 +333,9 @@ TEST_F(LibraryWindow, TheKeysWalkThroughTheOpenPanel) {
   const std::pair<std::vector<int>, const char*> cases[] = {
       {{VK_UP, VK_UP, VK_RETURN, VK_DOWN, VK_DOWN, VK_DOWN, VK_DOWN, VK_DOWN, VK_RETURN}, "b.png"},
       {{VK_UP, VK_RETURN}, "a.png"},
-      {{VK_DOWN, VK_ESCAPE, VK_RETURN}, "a.png"}};
+      {{VK_DOWN, VK_ESCAPE, VK_RETURN}, "a.png"},
+      // The folder that one came from is marked: out of it, back into it, out again.
+      {{VK_UP, VK_UP, VK_RETURN, VK_RETURN, VK_RETURN, VK_DOWN, VK_DOWN, VK_RETURN}, "page.png"}};
   for (const auto& [keys, opened] : cases) {
     ClickButton(ToolbarButton::open);
     for (const int key : keys) desktop_.key(key);
