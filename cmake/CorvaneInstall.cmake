@@ -12,6 +12,7 @@ install(TARGETS corvane EXPORT CorvaneTargets
 # Headers that see another library's headers are private to their room.
 install(DIRECTORY corvane DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h"
   PATTERN "platform/system" EXCLUDE
+  PATTERN "skin_reader/element_rules.h" EXCLUDE
   PATTERN "skin_reader/skin_document.h" EXCLUDE)
 if(NOT WIN32)
   # Of the window system, what platform.h needs and what a host or a test of a host can use.

@@ -17,5 +17,6 @@
 #include "corvane/platform/framework/framework.h"
 #include "corvane/platform/images/gdi_image.h"
 #include "corvane/platform/platform.h"
+#include "corvane/platform/skin_reader/skin_complaints.h"
 #include "corvane/skin/xml_list_mgr.h"
 #include "corvane/trees/owner_drawn/tree_ctrl_ex2.h"

@@ -1,15 +1,18 @@
 #include "corvane/platform/skin_reader/control_mgr.h"
 
+#include <string>
 #include <string_view>
 
 #include "corvane/platform/skin_reader/append_record.h"
 #include "corvane/platform/skin_reader/attribute_values.h"
+#include "corvane/platform/skin_reader/element_rules.h"
 #include "corvane/platform/skin_reader/skin_document.h"
 
 namespace corvane {
 namespace {
 
 constexpr std::int32_t kMaxCoordinate = 32767;
+constexpr std::string_view kStatePlace = "{state}";
 constexpr COLORREF kBlack = RGB(0, 0, 0);
 constexpr COLORREF kGrey = RGB(128, 128, 128);
 constexpr COLORREF kWhite = RGB(255, 255, 255);
@@ -30,11 +33,10 @@ RECT rect_of(pugi::xml_node node) {
 
 // The image that "images" names for one state, for example "save_{state}.png".
 std::wstring image_from_pattern(pugi::xml_node node, std::string_view state) {
-  constexpr std::string_view kPlace = "{state}";
   std::string name = node.attribute("images").value();
-  const auto place = name.find(kPlace);
+  const auto place = name.find(kStatePlace);
   if (place == std::string::npos) return {};
-  return parse_image_name(name.replace(place, kPlace.size(), state)).value_or(L"");
+  return parse_image_name(name.replace(place, kStatePlace.size(), state)).value_or(L"");
 }
 
 std::wstring image_of(pugi::xml_node node, const char* attribute, std::string_view state = {}) {
@@ -66,6 +68,61 @@ void read_caption_look(pugi::xml_node node, _MYCONTROL& control) {
   control.padding_bottom = extent_of(node, "padding-bottom");
 }
 
+bool is_position(std::string_view value) {
+  return parse_number(value, -kMaxCoordinate - 1, kMaxCoordinate).has_value();
+}
+
+bool is_extent(std::string_view value) {
+  return parse_number(value, 0, kMaxCoordinate).has_value();
+}
+
+bool is_image(std::string_view value) { return parse_image_name(value).has_value(); }
+
+bool is_image_pattern(std::string_view value) {
+  return is_image(value) && value.find(kStatePlace) != std::string_view::npos;
+}
+
+constexpr char kPosition[] = "a whole number from -32768 to 32767";
+constexpr char kExtent[] = "a whole number from 0 to 32767";
+constexpr char kImage[] = "the name of a file in the folder image";
+
+constexpr AttributeRule kListRules[] = {{"id", is_any_number, kAnyNumber, true},
+                                        {"background", is_color, kColor}};
+constexpr AttributeRule kControlRules[] = {
+    {"id", is_any_number, kAnyNumber, true},
+    {"x", is_position, kPosition},
+    {"y", is_position, kPosition},
+    {"width", is_extent, kExtent},
+    {"height", is_extent, kExtent},
+    {"images", is_image_pattern, "the name of a file in the folder image with {state} in it"},
+    {"image", is_image, kImage},
+    {"image-hover", is_image, kImage},
+    {"image-pressed", is_image, kImage},
+    {"image-disabled", is_image, kImage},
+    {"image-selected", is_image, kImage},
+    {"image-forward", is_image, kImage},
+    {"image-backward", is_image, kImage},
+    {"caption", is_any_number, kAnyNumber},
+    {"text-color", is_color, kColor},
+    {"text-color-hover", is_color, kColor},
+    {"text-color-pressed", is_color, kColor},
+    {"text-color-disabled", is_color, kColor},
+    {"text-color-selected", is_color, kColor},
+    {"padding-left", is_extent, kExtent},
+    {"padding-top", is_extent, kExtent},
+    {"padding-right", is_extent, kExtent},
+    {"padding-bottom", is_extent, kExtent},
+    {"tool-tip", is_any_text, kAnyText}};
+
+void check(const SkinDocument& document, pugi::xml_node list) {
+  check_attributes(document, list, kListRules);
+  check_contents(document, list, "control");
+  for (const auto& node : list.children("control")) {
+    check_attributes(document, node, kControlRules);
+    check_contents(document, node, "");
+  }
+}
+
 void append_control(pugi::xml_node node, std::list<_MYCONTROL*>& controls) {
   auto control = std::make_unique<_MYCONTROL>();
   control->id = *id_of(node);
@@ -84,13 +141,21 @@ void append_control(pugi::xml_node node, std::list<_MYCONTROL*>& controls) {
 
 int CControlMgr::Load(const char* path) {
   document_ = SkinDocument::load(path, "controls");
+  if (document_) check_contents(*document_, document_->root(), "list");
   return document_ ? 1 : 0;
 }
 
 DWORD CControlMgr::ReadControl(std::list<_MYCONTROL*>& controls, int list_id,
                                DWORD* background) const {
-  const auto list = document_ ? document_->list(list_id) : pugi::xml_node{};
-  if (!list) return 0;
+  if (!document_) return 0;
+  const auto list = document_->list(list_id);
+  if (!list) {
+    document_->complain_at(0,
+                           "there is no list " + std::to_string(list_id) + ", which a window reads",
+                           "add it, for example from the default skin");
+    return 0;
+  }
+  check(*document_, list);
   if (background != nullptr) *background = color_of(list, "background").value_or(kWhite);
   DWORD count = 0;
   for (const auto& node : list.children("control")) {
@@ -99,6 +164,15 @@ DWORD CControlMgr::ReadControl(std::list<_MYCONTROL*>& controls, int list_id,
     ++count;
   }
   return count;
+}
+
+std::vector<int> CControlMgr::ListIds() const {
+  return document_ ? document_->list_ids() : std::vector<int>{};
+}
+
+std::vector<int> CControlMgr::Lines(int list_id) const {
+  return document_ ? document_->record_lines(document_->list(list_id), "control")
+                   : std::vector<int>{};
 }
 
 }  // namespace corvane

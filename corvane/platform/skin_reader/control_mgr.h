@@ -2,6 +2,7 @@
 // Reads the controls of one list from "ui_control.xml". docs/skin.md describes the format.
 #include <list>
 #include <memory>
+#include <vector>
 
 #include "corvane/platform/platform.h"
 #include "corvane/platform/skin_reader/records.h"
@@ -20,6 +21,11 @@ class CControlMgr {
   // id are left out. Returns how many were appended. *background (may be null) receives the list's
   // background colour, white when the file names none; it is left alone when there is no such list.
   DWORD ReadControl(std::list<_MYCONTROL*>& controls, int list_id, DWORD* background) const;
+
+  // For programs that check skins: the lists, and in which lines of the file the records of one
+  // stand, in the order in which they are appended.
+  std::vector<int> ListIds() const;
+  std::vector<int> Lines(int list_id) const;
 
  private:
   std::shared_ptr<const SkinDocument> document_;  // shared by copies of the reader

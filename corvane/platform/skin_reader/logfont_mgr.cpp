@@ -2,8 +2,10 @@
 
 #include <algorithm>
 
+#include "corvane/platform/base_services/utf8.h"
 #include "corvane/platform/skin_reader/append_record.h"
 #include "corvane/platform/skin_reader/attribute_values.h"
+#include "corvane/platform/skin_reader/element_rules.h"
 #include "corvane/platform/skin_reader/skin_document.h"
 
 namespace corvane {
@@ -21,6 +23,27 @@ BYTE switch_of(pugi::xml_node node, const char* attribute) {
 std::wstring face_of(pugi::xml_node node) {
   auto face = text_of(node, "face");
   return face.empty() || face.size() >= LF_FACESIZE ? kDefaultFace : face;
+}
+
+bool is_face(std::string_view value) {
+  const auto face = wide_from_utf8(value);
+  return face && !face->empty() && face->size() < LF_FACESIZE;
+}
+bool is_up_to_1000(std::string_view value) { return parse_number(value, 1, 1000).has_value(); }
+bool is_switch(std::string_view value) { return parse_switch(value).has_value(); }
+
+constexpr char kUpTo1000[] = "a whole number from 1 to 1000";
+constexpr AttributeRule kFontRules[] = {
+    {"id", is_any_number, kAnyNumber, true}, {"face", is_face, "a name of 1 to 31 characters"},
+    {"size", is_up_to_1000, kUpTo1000},      {"weight", is_up_to_1000, kUpTo1000},
+    {"italic", is_switch, "true or false"},  {"underline", is_switch, "true or false"}};
+
+void check(const SkinDocument& document) {
+  check_contents(document, document.root(), "font");
+  for (const auto& node : document.root().children("font")) {
+    check_attributes(document, node, kFontRules);
+    check_contents(document, node, "");
+  }
 }
 
 std::unique_ptr<LOGFONTW> description_of(pugi::xml_node node) {
@@ -44,6 +67,7 @@ int CLogfontMgr::Load(const char* path) {
 
 DWORD CLogfontMgr::ReadLogfont(std::list<_MYFONT*>& fonts) const {
   if (!document_) return 0;
+  check(*document_);
   DWORD count = 0;
   for (const auto& node : document_->root().children("font")) {
     const auto id = id_of(node);
@@ -55,6 +79,10 @@ DWORD CLogfontMgr::ReadLogfont(std::list<_MYFONT*>& fonts) const {
     ++count;
   }
   return count;
+}
+
+std::vector<int> CLogfontMgr::Lines() const {
+  return document_ ? document_->record_lines(document_->root(), "font") : std::vector<int>{};
 }
 
 }  // namespace corvane

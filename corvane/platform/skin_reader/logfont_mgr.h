@@ -2,6 +2,7 @@
 // Reads the fonts of "ui_logfont.xml", which all lists share. docs/skin.md describes the format.
 #include <list>
 #include <memory>
+#include <vector>
 
 #include "corvane/platform/platform.h"
 #include "corvane/platform/skin_reader/records.h"
@@ -20,6 +21,8 @@ class CLogfontMgr {
   // are left out. Returns how many were appended. A description's height is minus the character
   // height in pixels.
   DWORD ReadLogfont(std::list<_MYFONT*>& fonts) const;
+
+  std::vector<int> Lines() const;  // as CControlMgr's
 
  private:
   std::shared_ptr<const SkinDocument> document_;  // shared by copies of the reader
