@@ -68,9 +68,8 @@ std::wstring normalised(std::wstring_view face) {
   return lower;
 }
 
-}  // namespace
-
-std::string font_families(std::wstring_view face) {
+// Empty: the face is neither in the table nor a host's.
+std::string known_families(std::wstring_view face) {
   const std::wstring name = normalised(face);
   {
     HostFaces& faces = host_faces();
@@ -81,8 +80,17 @@ std::string font_families(std::wstring_view face) {
   for (const KnownFace& known : kKnownFaces) {
     if (known.face == name) return known.families;
   }
-  return to_utf8(face) + "," + kSans;
+  return {};
 }
+
+}  // namespace
+
+std::string font_families(std::wstring_view face) {
+  const std::string families = known_families(face);
+  return families.empty() ? to_utf8(face) + "," + kSans : families;
+}
+
+bool stands_for_others(std::wstring_view face) { return !known_families(face).empty(); }
 
 void map_font_face(std::wstring_view face, std::string families) {
   HostFaces& faces = host_faces();
