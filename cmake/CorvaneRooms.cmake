@@ -61,3 +61,14 @@ function(corvane_test name)
   set_tests_properties(${name} PROPERTIES TIMEOUT ${TEST_TIMEOUT}
     ENVIRONMENT "CORVANE_DISPLAY=${display}")
 endfunction()
+
+# corvane_wayland_test(NAME SIZE widthxheight CASES filter)
+# Some cases of an XVFB test once more (NAME_wayland), on a Wayland desktop of this size.
+function(corvane_wayland_test name)
+  cmake_parse_arguments(TEST "" "SIZE;CASES" "" ${ARGN})
+  add_test(NAME ${name}_wayland
+    COMMAND ${PROJECT_SOURCE_DIR}/scripts/with-xvfb ${PROJECT_SOURCE_DIR}/scripts/with-weston
+      $<TARGET_FILE:${name}> --gtest_filter=${TEST_CASES} --gtest_shuffle --gtest_brief=1)
+  set_tests_properties(${name}_wayland PROPERTIES TIMEOUT 240
+    ENVIRONMENT "CORVANE_DISPLAY=sdl;CORVANE_WESTON_SIZE=${TEST_SIZE}")
+endfunction()

@@ -45,10 +45,11 @@ class DesktopUser {
     }
     return true;
   }
-  // A window whose title ends with this one.
+  // The window with this title, or the Wayland desktop that it fills (scripts/with-weston).
   bool SeesWindow(const std::string& title) {
+    const char* const desktop = std::getenv("CORVANE_DESKTOP_WINDOW");
     return Waits([&] {
-      window_ = screen_.window_named(title);
+      window_ = screen_.window_named(desktop != nullptr ? desktop : title);
       return window_ != 0 && Place().shown;
     });
   }

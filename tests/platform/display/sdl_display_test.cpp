@@ -1,5 +1,6 @@
-// SdlDisplay on a real X server: input comes from xdotool, pixels and windows are looked at through
-// a connection of the test's own.
+// SdlDisplay on a real X server and, SdlDisplayTest, on a Wayland desktop in a window of one
+// (scripts/with-weston): input comes from xdotool, pixels and windows are looked at through a
+// connection of the test's own.
 #include "corvane/platform/system/display/sdl/sdl_display.h"
 
 #include <gtest/gtest.h>
@@ -20,6 +21,12 @@ namespace {
 
 constexpr const wchar_t* title = L"Corvane 显示 test";
 constexpr const char* title_utf8 = "Corvane 显示 test";
+
+// The X server's window in which the display's window is seen.
+std::string seen_title() {
+  const char* const desktop = std::getenv("CORVANE_DESKTOP_WINDOW");
+  return desktop != nullptr ? desktop : title_utf8;
+}
 
 using Events = std::vector<InputEvent>;
 using Condition = std::function<bool(const InputEvent&)>;
@@ -66,12 +73,12 @@ class SdlDisplayOpenTest : public ::testing::Test {
   }
 
   void show() {
+    present_color(0xFF203040);
     display_->show();
     ASSERT_TRUE(happens([&] {
-      window_ = server_.window_named(title_utf8);
+      window_ = server_.window_named(seen_title());
       return window_ != 0 && server_.place(window_).shown;
     }));
-    present_color(0xFF203040);
     ASSERT_TRUE(happens([&] { return server_.pixel(window_, 639, 479) == 0x203040; }));
     tool("windowfocus " + std::to_string(window_));
     ASSERT_TRUE(arrives(is_focus(true)));
@@ -130,6 +137,7 @@ class SdlDisplayTest : public SdlDisplayOpenTest {
     if (!HasFatalFailure()) show();
   }
 };
+class SdlDisplayOnXTest : public SdlDisplayTest {};
 
 TEST_F(SdlDisplayTest, PresentsOnlyTheDamage) {
   Surface frame(640, 480, 0xFFFF0000);
@@ -144,7 +152,17 @@ TEST_F(SdlDisplayTest, PresentsOnlyTheDamage) {
     EXPECT_EQ(server_.pixel(window_, x, y), 0x203040u);
 }
 
-TEST_F(SdlDisplayTest, RepaintsWhatWasExposed) {
+TEST_F(SdlDisplayTest, ShowsAllOfManyPartsThatWerePresentedAtOnce) {
+  for (int part = 0; part < 10; ++part) {
+    const Surface frame(640, 480, 0xFF000010 + static_cast<Pixel>(part));
+    display_->present(frame, Region({part * 64, 0, part * 64 + 64, 480}));
+  }
+  ASSERT_TRUE(happens([&] { return server_.pixel(window_, 639, 479) == 0x19; }));
+  for (int part = 0; part < 10; ++part)
+    EXPECT_EQ(server_.pixel(window_, part * 64 + 20, 7), 0x10u + part);
+}
+
+TEST_F(SdlDisplayOnXTest, RepaintsWhatWasExposed) {
   server_.damage(window_, 0x777777);
   EXPECT_EQ(server_.pixel(window_, 320, 240), 0x777777u);
   EXPECT_TRUE(happens([&] { return server_.pixel(window_, 320, 240) == 0x203040; }));
@@ -172,7 +190,7 @@ TEST_F(SdlDisplayTest, BringsMouseMovesButtonsAndModifiers) {
   EXPECT_EQ(press->position.y, 45);
 }
 
-TEST_F(SdlDisplayTest, BringsTheWheelAndTheLeaving) {
+TEST_F(SdlDisplayTest, BringsTheWheel) {
   tool("mousemove " + at(300, 200));
   tool("click 4");
   ASSERT_TRUE(arrives(is_at(InputKind::mouse_wheel, 300, 200)));
@@ -181,11 +199,16 @@ TEST_F(SdlDisplayTest, BringsTheWheelAndTheLeaving) {
   tool("click 5");
   ASSERT_TRUE(arrives(is(InputKind::mouse_wheel)));
   EXPECT_EQ(find(events_, is(InputKind::mouse_wheel))->wheel, -120);
+}
+
+TEST_F(SdlDisplayOnXTest, TellsOfTheLeaving) {
+  tool("mousemove " + at(300, 200));
+  ASSERT_TRUE(arrives(is_at(InputKind::mouse_move, 300, 200)));
   tool("mousemove " + at(-30, -30));
   EXPECT_TRUE(arrives(is(InputKind::mouse_leave)));
 }
 
-TEST_F(SdlDisplayTest, KeepsTheMouseWhileCaptured) {
+TEST_F(SdlDisplayOnXTest, KeepsTheMouseWhileCaptured) {
   tool("mousemove " + at(100, 100));
   ASSERT_TRUE(arrives(is_at(InputKind::mouse_move, 100, 100)));
   display_->set_capture(true);
@@ -223,7 +246,7 @@ TEST_F(SdlDisplayTest, BringsKeysAndText) {
   }
 }
 
-TEST_F(SdlDisplayTest, BringsTextOfOtherScripts) {
+TEST_F(SdlDisplayOnXTest, BringsTextOfOtherScripts) {
   const std::tuple<const char*, unsigned long, const wchar_t*> letters[] = {
       {"eacute", 0x00E9, L"é"}, {"U4E2D", 0x01004E2D, L"中"}, {"U1F4F7", 0x0101F4F7, L"📷"}};
   constexpr int unused_key = 220;
@@ -245,7 +268,8 @@ TEST_F(SdlDisplayTest, TellsOfAutomaticRepeats) {
 
 TEST_F(SdlDisplayTest, FollowsTheWindowsSizeButIsNeverSmallerThanTheLeastWindow) {
   const std::tuple<SIZE, SIZE, Pixel> cases[] = {{{800, 333}, {800, 333}, 0x010203},
-                                                 {{200, 400}, {320, 400}, 0x0A0B0C}};
+                                                 {{200, 400}, {320, 400}, 0x0A0B0C},
+                                                 {{640, 480}, {640, 480}, 0x0D0E0F}};
   for (const auto& [window, desktop, color] : cases) {
     tool("windowsize " + std::to_string(window_) + " " + std::to_string(window.cx) + " " +
          std::to_string(window.cy));
@@ -259,14 +283,14 @@ TEST_F(SdlDisplayTest, FollowsTheWindowsSizeButIsNeverSmallerThanTheLeastWindow)
   }
 }
 
-TEST_F(SdlDisplayTest, TellsOfClosingAndLostFocus) {
+TEST_F(SdlDisplayOnXTest, TellsOfClosingAndLostFocus) {
   server_.ask_to_close(window_);
   EXPECT_TRUE(arrives(is(InputKind::close)));
   server_.take_focus_away();
   EXPECT_TRUE(arrives(is_focus(false)));
 }
 
-TEST_F(SdlDisplayTest, MovesWindowAndPointer) {
+TEST_F(SdlDisplayOnXTest, MovesWindowAndPointer) {
   const XClient::Place before = server_.place(window_);
   EXPECT_TRUE(display_->warp_pointer({77, 66}));
   EXPECT_TRUE(arrives(is_at(InputKind::mouse_move, 77, 66)));
@@ -280,7 +304,7 @@ TEST_F(SdlDisplayTest, MovesWindowAndPointer) {
   tool("mouseup 1");
 }
 
-TEST_F(SdlDisplayTest, DescriptorTellsOfInputAndAnotherThread) {
+TEST_F(SdlDisplayOnXTest, DescriptorTellsOfInputAndAnotherThread) {
   display_->poll(events_);
   std::thread other([&] { display_->wake(); });
   EXPECT_TRUE(display_->wait(std::nullopt));
@@ -294,7 +318,7 @@ TEST_F(SdlDisplayTest, DescriptorTellsOfInputAndAnotherThread) {
   EXPECT_TRUE(arrives(is_at(InputKind::mouse_move, 20, 20)));
 }
 
-TEST_F(SdlDisplayTest, ShowsTheNativeCursors) {
+TEST_F(SdlDisplayOnXTest, ShowsTheNativeCursors) {
   tool("mousemove " + at(200, 200));
   ASSERT_TRUE(arrives(is_at(InputKind::mouse_move, 200, 200)));
   std::set<std::vector<unsigned long>> seen;

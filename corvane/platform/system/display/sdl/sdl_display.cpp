@@ -8,7 +8,9 @@
 #include <cstring>
 #include <string_view>
 
+#include "corvane/platform/system/display/sdl/presenter.h"
 #include "corvane/platform/system/display/sdl/sdl_cursors.h"
+#include "corvane/platform/system/display/sdl/sdl_driver.h"
 #include "corvane/platform/system/display/sdl/sdl_events.h"
 #include "corvane/platform/system/display/sdl/sdl_native_pointer.h"
 #include "corvane/platform/system/display/sdl/sdl_waiter.h"
@@ -16,11 +18,6 @@
 namespace corvane::system {
 
 namespace {
-
-bool is_driver(const char* name) {
-  const char* const driver = SDL_GetCurrentVideoDriver();
-  return driver != nullptr && std::strcmp(driver, name) == 0;
-}
 
 class VideoSession {
  public:
@@ -49,8 +46,6 @@ struct Hint {
 };
 
 constexpr Hint kHints[] = {
-    // Without a graphics processor the accelerated way is many times slower.
-    {SDL_HINT_FRAMEBUFFER_ACCELERATION, "0"},
     // The process, its signals, and the desktop's habits belong to the host.
     {SDL_HINT_NO_SIGNAL_HANDLERS, "1"},
     {SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1"},
@@ -63,22 +58,6 @@ constexpr Hint kHints[] = {
 
 // Wayland tells no program where its windows or the pointer are.
 bool knows_desktop_positions() { return !is_driver("wayland"); }
-
-void copy_rect(SDL_Surface& target, const Surface& frame, const RECT& rect,
-               std::vector<Pixel>& scratch) {
-  const int width = rect.right - rect.left;
-  for (int y = rect.top; y < rect.bottom; ++y) {
-    const Pixel* const source = frame.read_row(y, scratch) + rect.left;
-    auto* const row = static_cast<std::uint8_t*>(target.pixels) + y * target.pitch +
-                      rect.left * target.format->BytesPerPixel;
-    if (target.format->format == SDL_PIXELFORMAT_RGB888) {
-      std::memcpy(row, source, static_cast<std::size_t>(width) * sizeof(Pixel));
-    } else {
-      SDL_ConvertPixels(width, 1, SDL_PIXELFORMAT_RGB888, source, width * 4, target.format->format,
-                        row, target.pitch);
-    }
-  }
-}
 
 // X writes titles and reads input methods in the process's character set, and refuses Chinese ones
 // while that is still the plain "C" that every process starts with.
@@ -94,39 +73,11 @@ void use_unicode_locale() {
 struct SdlDisplay::Native {
   VideoSession session;
   std::unique_ptr<SDL_Window, WindowDeleter> window;
+  std::unique_ptr<Presenter> presenter;
   std::unique_ptr<SdlWaiter> waiter;
   SdlCursors cursors;
   SdlEvents events;
-  bool has_content = false;  // something was presented since the last change of size
-
-  void present(const Surface& frame, const Region& damage);
-  void repaint();
 };
-
-void SdlDisplay::Native::present(const Surface& frame, const Region& damage) {
-  SDL_Surface* const surface = SDL_GetWindowSurface(window.get());
-  if (surface == nullptr) return;
-  Region shown = damage;
-  shown.intersect(frame.rect());
-  shown.intersect(RECT{0, 0, surface->w, surface->h});
-  if (shown.empty()) return;
-  std::vector<Pixel> scratch;
-  std::vector<SDL_Rect> updated;
-  for (const RECT& rect : shown.rects()) {
-    copy_rect(*surface, frame, rect, scratch);
-    updated.push_back({rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top});
-  }
-  SDL_UpdateWindowSurfaceRects(window.get(), updated.data(), static_cast<int>(updated.size()));
-  has_content = true;
-  waiter->notice_queued_events();
-}
-
-// The window surface still holds what was presented.
-void SdlDisplay::Native::repaint() {
-  if (has_content && (SDL_GetWindowSurface(window.get()) != nullptr)) {
-    SDL_UpdateWindowSurface(window.get());
-  }
-}
 
 std::unique_ptr<SdlDisplay> SdlDisplay::open(SIZE size) {
   use_unicode_locale();
@@ -138,6 +89,8 @@ std::unique_ptr<SdlDisplay> SdlDisplay::open(SIZE size) {
                                         real.cx, real.cy,
                                         SDL_WINDOW_HIDDEN | SDL_WINDOW_RESIZABLE));
   if (!native->window) return nullptr;
+  native->presenter = open_presenter(native->window.get());
+  if (native->presenter == nullptr) return nullptr;
   SDL_SetWindowMinimumSize(native->window.get(), kMinWindowSize.cx, kMinWindowSize.cy);
   native->waiter = std::make_unique<SdlWaiter>(native->window.get());
   return std::unique_ptr<SdlDisplay>(new SdlDisplay(std::move(native), real));
@@ -151,7 +104,8 @@ SdlDisplay::~SdlDisplay() = default;
 SIZE SdlDisplay::size() const { return size_; }
 
 void SdlDisplay::present(const Surface& frame, const Region& damage) {
-  native_->present(frame, damage);
+  native_->presenter->present(frame, damage);
+  native_->waiter->notice_queued_events();
 }
 
 std::uint64_t SdlDisplay::now() const {
@@ -167,11 +121,11 @@ void SdlDisplay::poll(std::vector<InputEvent>& events) {
     const std::size_t before = events.size();
     native_->events.translate(event, events);
     if (event.type == SDL_WINDOWEVENT && event.window.event == SDL_WINDOWEVENT_EXPOSED) {
-      native_->repaint();
+      native_->presenter->repaint();
     }
     if (events.size() > before && events.back().kind == InputKind::resize) {
       size_ = {events.back().position.x, events.back().position.y};
-      native_->has_content = false;
+      native_->presenter->resized();
     }
   }
 }
@@ -227,6 +181,7 @@ bool SdlDisplay::warp_pointer(POINT point) {
 
 void SdlDisplay::show() {
   SDL_ShowWindow(native_->window.get());
+  native_->presenter->shown();
   SDL_StartTextInput();
   native_->waiter->notice_queued_events();
 }

@@ -10,8 +10,9 @@ namespace corvane::system {
 
 class SdlDisplay : public Display {
  public:
-  // The window stays hidden until show(). Null when the native desktop cannot be reached. A process
-  // whose LC_CTYPE is still the "C" of its start gets the user's, or else C.UTF-8.
+  // The window stays hidden until show(). Null when the native desktop cannot be reached or
+  // the window could show nothing. A process whose LC_CTYPE is still the "C" of its start gets the
+  // user's, or else C.UTF-8.
   static std::unique_ptr<SdlDisplay> open(SIZE size);
   ~SdlDisplay() override;
 
