@@ -1,6 +1,7 @@
 // corvane-capture [--library FOLDER] [--script FOLDER] [PICTURE]
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 
 #include "apps/capture/launch.h"
 #include "apps/capture/main_window.h"
@@ -45,6 +46,10 @@ int main(int count, char** values) {
     std::fprintf(stderr, "corvane-capture: %s\n", launch.error.c_str());
     return kUsageError;
   }
+#ifndef _WIN32
+  // Somebody is to see it, unless the environment says otherwise.
+  if (arguments.script_folder.empty()) setenv("CORVANE_DISPLAY", "sdl", 0);
+#endif
   CCaptureApp app(std::move(launch.beginning));
   if (arguments.script_folder.empty()) return corvane::RunApp(app);
   if (!app.InitInstance()) return 1;

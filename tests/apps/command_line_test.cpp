@@ -77,11 +77,15 @@ TEST_F(CommandLine, SaysInOneLineWhatCannotBeDone) {
     EXPECT_EQ(outcome.status, 2) << each.arguments;
     EXPECT_THAT(outcome.text, testing::MatchesRegex(each.said)) << each.arguments;
   }
-  const Outcome outcome =
-      RunCommand(here + "CORVANE_DISPLAY=sdl WAYLAND_DISPLAY= DISPLAY=:no-such-server " + kProgram +
-                 "whole.png 2>&1 >/dev/null");
-  EXPECT_EQ(outcome.status, 1);
-  EXPECT_THAT(outcome.text, testing::EndsWith("corvane: the native desktop cannot be reached\n"));
+  for (const std::string desktop :
+       {"CORVANE_DISPLAY=sdl DISPLAY=:no-such-server ", "CORVANE_DISPLAY= DISPLAY=:no-such-server ",
+        "-u CORVANE_DISPLAY -u DISPLAY "}) {
+    const Outcome outcome =
+        RunCommand(here + "env -u WAYLAND_DISPLAY " + desktop + "SDL_VIDEODRIVER=x11 " + kProgram +
+                   "whole.png 2>&1 >/dev/null");
+    EXPECT_EQ(outcome.status, 1) << desktop;
+    EXPECT_EQ(outcome.text, "corvane: no window can be shown on the native desktop\n");
+  }
 }
 
 TEST_F(CommandLine, AScriptedSessionLeavesItsFramesAndTheCropsOfALibrary) {

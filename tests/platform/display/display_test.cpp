@@ -103,9 +103,11 @@ TEST(OpenDisplay, ChoosesMemoryAndSize) {
 }
 
 TEST(OpenDisplay, AWindowThatCannotBeOpenedIsNone) {
-  const auto [display, said] = opened({"sdl", "unset", ":no-such-server"});
-  EXPECT_EQ(display, nullptr);
-  EXPECT_TRUE(said.ends_with("corvane: the native desktop cannot be reached\n"));
+  for (const std::string kind : {"sdl", "unset"}) {
+    const auto [display, said] = opened({kind, "unset", ":no-such-server"});
+    EXPECT_EQ(display, nullptr) << kind;
+    EXPECT_TRUE(said.ends_with("corvane: no window can be shown on the native desktop\n")) << said;
+  }
 }
 
 }  // namespace

@@ -52,11 +52,12 @@ std::unique_ptr<Display> open_display() {
   if (kind == "headless" || (!only_native && !has_native_desktop())) {
     return std::make_unique<HeadlessDisplay>(size);
   }
-  if (auto display = SdlDisplay::open(size)) return display;
-  std::fprintf(stderr, "corvane: the native desktop cannot be reached%s\n",
-               only_native ? "" : "; showing nothing, running in memory");
-  if (only_native) return nullptr;
-  return std::make_unique<HeadlessDisplay>(size);
+  // A program that nobody sees would run on for ever.
+  auto display = SdlDisplay::open(size);
+  if (display == nullptr) {
+    std::fprintf(stderr, "corvane: no window can be shown on the native desktop\n");
+  }
+  return display;
 }
 
 }  // namespace corvane::system
