@@ -1,5 +1,6 @@
 // Dragging a window by the system command for its caption.
 #include "tests/platform/conformance/support/window_test.h"
+#include "tests/support/own_system.h"
 
 namespace corvane::conformance {
 namespace {
@@ -90,6 +91,22 @@ TEST_F(DragTest, ObservedThatWithoutAButtonItDragsUntilPressAndRelease) {
              }};
   move_to(110, 110);
   step("", SendMessageW(popup_, WM_SYSCOMMAND, SC_MOVE | HTCAPTION, 0));
+}
+
+// What moves is the native window, of which there is none here.
+TEST_F(DragTest, WindowThatFillsTheScreenStaysAndFollowsItsSize) {
+  MoveWindow(popup_, 0, 0, 1280, 800, TRUE);
+  settle();
+  drag("a drag", {[] {
+         SetCursorPos(130, 115);
+         button_up();
+       }});
+  recorder().before_default("pop", WM_SIZE, type(VK_ESCAPE));
+  drag("cancelled after a change of size", {[this] { own().display.resize({400, 250}); }});
+  drag("the next one", {[] {
+         SetCursorPos(130, 115);
+         button_up();
+       }});
 }
 
 TEST_F(DragTest, PressOnACaptionDragsToo) {

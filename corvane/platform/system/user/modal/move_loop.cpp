@@ -20,7 +20,6 @@ class MoveLoop : public ModalLoop {
     start_frame_ = found.frame;
     // Where the press was: the pointer may be further by now.
     start_pointer_ = state.input.routed_pointer;
-    fills_screen_ = is_top_level(found) && (EqualRect(&found.frame, &state.desktop->frame) != 0);
   }
 
   void run() { run_turns(); }
@@ -62,13 +61,23 @@ class MoveLoop : public ModalLoop {
   }
 
   Turn on_key(int virtual_key) {
-    if (virtual_key == VK_ESCAPE) place(start_frame_);
+    if (virtual_key == VK_ESCAPE && !fills_screen()) place(start_frame_);
     return virtual_key == VK_ESCAPE || virtual_key == VK_RETURN ? Turn::last : Turn::more;
   }
 
+  // Asked anew each time: the native window's size may change meanwhile, and that window's with it.
+  bool fills_screen() const {
+    const Window* found = state_.find(window_);
+    return found != nullptr && is_top_level(*found) &&
+           EqualRect(&found->frame, &state_.desktop->frame) != 0;
+  }
+
   void follow(POINT pointer) {
-    dragging_natively_ = fills_screen_ && state_.display->drag_native_window(start_pointer_);
-    if (dragging_natively_) return;
+    if (fills_screen()) {
+      // Moving it inside the native window would only uncover what lies behind it.
+      dragging_natively_ = state_.display->drag_native_window(start_pointer_);
+      return;
+    }
     RECT frame = start_frame_;
     OffsetRect(&frame, pointer.x - start_pointer_.x, pointer.y - start_pointer_.y);
     const Window* found = state_.find(window_);
@@ -89,7 +98,6 @@ class MoveLoop : public ModalLoop {
   HWND window_;
   RECT start_frame_{};
   POINT start_pointer_{};
-  bool fills_screen_ = false;
   bool dragging_natively_ = false;
 };
 
