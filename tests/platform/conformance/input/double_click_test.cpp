@@ -46,6 +46,26 @@ TEST_F(DoubleClickTest, WithoutTheClassStyleEveryPressIsAPress) {
   step();
 }
 
+TEST_F(DoubleClickTest, SecondPressIsAnnouncedAsAPress) {
+  create("child", {.parent = window("pop"),
+                   .style = WS_CHILD | WS_VISIBLE,
+                   .place = {20, 20, 60, 60},
+                   .class_style = CS_DBLCLKS});
+  left();
+  recorder().only({WM_PARENTNOTIFY, WM_MOUSEACTIVATE, WM_LBUTTONDBLCLK});
+  forget();
+  left();
+  step();
+}
+
+TEST_F(DoubleClickTest, OutsideTheClientAreaEveryClassHasThem) {
+  make("plain", 0);
+  recorder().answer("plain", WM_NCHITTEST, HTBORDER);
+  recorder().only({WM_NCLBUTTONDOWN, WM_NCLBUTTONDBLCLK});
+  for (int times = 0; times < 3; ++times) left();
+  step();
+}
+
 struct SecondClick {
   const char* label;
   unsigned delay;

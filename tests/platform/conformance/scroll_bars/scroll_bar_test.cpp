@@ -16,8 +16,9 @@ class ScrollBarTest : public ScrollTest {
  protected:
   ScrollBarTest() {
     script_after_each("pop");
-    recorder().only({WM_NCLBUTTONDOWN, WM_SYSCOMMAND, WM_VSCROLL, WM_HSCROLL, WM_CAPTURECHANGED,
-                     WM_LBUTTONDOWN, WM_LBUTTONUP, WM_NCLBUTTONUP, WM_MOUSEWHEEL});
+    recorder().only({WM_NCLBUTTONDOWN, WM_NCLBUTTONDBLCLK, WM_SYSCOMMAND, WM_VSCROLL, WM_HSCROLL,
+                     WM_CAPTURECHANGED, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_NCLBUTTONUP,
+                     WM_MOUSEWHEEL});
   }
   // One action of the script follows each message of the bar.
   using Script = std::vector<std::function<void()>>;

@@ -75,14 +75,15 @@ WPARAM mouse_keys(const System& state) {
   return keys;
 }
 
-// The second press of a double-click replaces the button-down; a third starts anew.
-bool completes_double_click(System& state, HWND window, const InputEvent& event) {
+// The second press of a double-click replaces the button-down; a third starts anew. Outside the
+// client area it does so in windows of every class.
+bool completes_double_click(System& state, HWND window, int hit_code, const InputEvent& event) {
   LastPress& last = state.input.last_press;
   const bool second = last.window == window && last.button == event.button &&
                       state.now() - last.time <= kDoubleClickTime &&
                       std::abs(event.position.x - last.position.x) <= kDoubleClickBox / 2 &&
                       std::abs(event.position.y - last.position.y) <= kDoubleClickBox / 2;
-  if (second && takes_double_clicks(window)) {
+  if (second && (hit_code != HTCLIENT || takes_double_clicks(window))) {
     last = LastPress{};
     return true;
   }
@@ -109,7 +110,7 @@ bool prepare_press(System& state, const Hit& hit, UINT message, POINT point) {
 void deliver_captured(System& state, const InputEvent& event, UINT message) {
   HWND window = state.input.capture;
   if (event.kind == InputKind::mouse_button && event.down &&
-      completes_double_click(state, window, event)) {
+      completes_double_click(state, window, HTCLIENT, event)) {
     message = double_click_of(event.button);
   }
   check_leave(state, window);
@@ -145,12 +146,11 @@ void route_mouse(System& state, const InputEvent& event) {
   // 3. The window that the pointer left is told.
   check_leave(state, hit.code == HTCLIENT ? hit.window : nullptr);
   if (hit.window == nullptr) return;
-  // 4. The second of two quick presses becomes a double-click.
-  if (press && completes_double_click(state, hit.window, event)) {
-    message = double_click_of(event.button);
-  }
-  // 5. A press tells the parents and activates; the window may discard it.
+  // 4. A press tells the parents and activates; the window may discard it.
+  const bool second = press && completes_double_click(state, hit.window, hit.code, event);
   if (press && !prepare_press(state, hit, message, event.position)) return;
+  // 5. The second of two quick presses becomes a double-click.
+  if (second) message = double_click_of(event.button);
   // 6. The cursor.
   send(hit.window, WM_SETCURSOR, reinterpret_cast<WPARAM>(hit.window),
        MAKELPARAM(static_cast<WORD>(hit.code), message));
