@@ -1,5 +1,6 @@
 // Keyboard focus, activation, and windows that are disabled.
 #include "tests/platform/conformance/support/family_test.h"
+#include "tests/support/own_system.h"
 
 namespace corvane::conformance {
 namespace {
@@ -93,7 +94,36 @@ TEST_F(FocusTest, DisablingAndEnabling) {
   step("enabling again", EnableWindow(sibling_, TRUE));
   step("a window without the focus", EnableWindow(sibling_, FALSE));
   give_focus(child_);
-  step("a parent of the focused child", EnableWindow(parent_, FALSE));
+  step("a parent of the focused child leaves it there", EnableWindow(parent_, FALSE));
+}
+
+// In the order in which the platform documents the messages; of their sequence it says nothing.
+TEST_F(FocusTest, AnotherProgramTakesTheDesktopsFocusAndGivesItBack) {
+  const auto desktop_focus = [this](bool gained) {
+    system::InputEvent event;
+    event.kind = system::InputKind::focus;
+    event.down = gained;
+    own().display.push(event);
+    pump();
+    EXPECT_EQ(GetForegroundWindow(), gained ? GetActiveWindow() : nullptr);
+  };
+  recorder().only({WM_SETFOCUS, WM_KILLFOCUS, WM_NCACTIVATE, WM_ACTIVATE, WM_ACTIVATEAPP});
+  give_focus(sibling_);
+  for (const bool gained : {false, true, true, false}) {
+    desktop_focus(gained);
+    step(gained ? "given back" : "taken");
+  }
+  SetActiveWindow(other_);
+  step("one that is activated meanwhile");
+  desktop_focus(true);
+  step("tells only the program then");
+  desktop_focus(false);
+  DestroyWindow(other_);
+  forget();
+  desktop_focus(true);
+  step("the next one, for the one that was active is gone");
+  DestroyWindow(top_);
+  step("the last one's end");
 }
 
 TEST_F(FocusTest, HiddenPopupGivesTheActivationToItsEnabledOwner) {

@@ -1,5 +1,7 @@
 #include "corvane/platform/system/user/input/activation.h"
 
+#include <utility>
+
 #include "corvane/platform/system/user/messages/send_message.h"
 #include "corvane/platform/system/user/windows/z_order.h"
 
@@ -19,6 +21,22 @@ bool may_be_active(const Window& window) {
          (window.ex_style & WS_EX_NOACTIVATE) == 0 && !window.destroying;
 }
 
+// No window of the program is active from now on.
+void deactivate_program(System& state) {
+  HWND old = std::exchange(state.input.active, nullptr);
+  if (old != nullptr) deactivate(old, nullptr);
+  if (state.input.active != nullptr) return;
+  if (std::exchange(state.input.application_active, false)) send(old, WM_ACTIVATEAPP, FALSE, 0);
+  if (state.input.active == nullptr) change_focus(nullptr);
+}
+
+HWND next_active_after(const System& state, HWND window) {
+  for (const Window* other : state.desktop->children) {
+    if (other->handle != window && may_be_active(*other)) return other->handle;
+  }
+  return nullptr;
+}
+
 }  // namespace
 
 void activate(HWND window, UINT how) {
@@ -31,7 +49,7 @@ void activate(HWND window, UINT how) {
   if (target != nullptr) raise(*state, *target);
   if (old != nullptr) deactivate(old, window);
   if (state->input.active != window) return;
-  if (window != nullptr && !state->input.application_active) {
+  if (window != nullptr && !state->input.application_active && !state->input.in_background) {
     state->input.application_active = true;
     send(window, WM_ACTIVATEAPP, TRUE, 0);
   }
@@ -52,13 +70,34 @@ void activate_next_after(HWND window) {
     activate(owner->handle, WA_ACTIVE);
     return;
   }
-  for (Window* other : state->desktop->children) {
-    if (other->handle != window && may_be_active(*other)) {
-      activate(other->handle, WA_ACTIVE);
-      return;
-    }
+  if (HWND next = next_active_after(*state, window)) {
+    activate(next, WA_ACTIVE);
+  } else {
+    deactivate_program(*state);
   }
-  activate(nullptr, WA_ACTIVE);
+}
+
+void leave_foreground() {
+  System* state = system();
+  if (state == nullptr || state->input.in_background) return;
+  state->input.in_background = true;
+  state->input.active_before = state->input.active;
+  deactivate_program(*state);
+}
+
+void enter_foreground() {
+  System* state = system();
+  if (state == nullptr || !state->input.in_background) return;
+  state->input.in_background = false;
+  if (HWND active = state->input.active) {
+    // A window became active meanwhile; only the program has to be told yet.
+    state->input.application_active = true;
+    send(active, WM_ACTIVATEAPP, TRUE, 0);
+    return;
+  }
+  Window* former = state->find(state->input.active_before);
+  const bool returns = former != nullptr && may_be_active(*former);
+  activate(returns ? former->handle : next_active_after(*state, nullptr), WA_ACTIVE);
 }
 
 void change_focus(HWND window) {
@@ -126,10 +165,13 @@ BOOL SetForegroundWindow(HWND window) {
   if (found == nullptr) return FALSE;
   HWND top = top_level_of(*found)->handle;
   SetActiveWindow(top);
-  return GetActiveWindow() == top ? TRUE : FALSE;
+  return GetForegroundWindow() == top ? TRUE : FALSE;
 }
 
-HWND GetForegroundWindow() { return GetActiveWindow(); }
+HWND GetForegroundWindow() {
+  System* state = corvane::system::system();
+  return state == nullptr || state->input.in_background ? nullptr : state->input.active;
+}
 
 BOOL EnableWindow(HWND window, BOOL enable) {
   Window* found = checked(window);
@@ -145,8 +187,8 @@ BOOL EnableWindow(HWND window, BOOL enable) {
   found = find(window);
   if (found == nullptr) return was_disabled ? TRUE : FALSE;
   found->style |= WS_DISABLED;
-  Window* focus = find(GetFocus());
-  if (focus != nullptr && (focus == found || is_descendant(*found, *focus))) change_focus(nullptr);
+  // A focused child keeps the focus, and gets the keys.
+  if (GetFocus() == window) change_focus(nullptr);
   send(window, WM_ENABLE, FALSE, 0);
   return was_disabled ? TRUE : FALSE;
 }

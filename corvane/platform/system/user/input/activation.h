@@ -9,6 +9,9 @@ namespace corvane::system {
 void activate(HWND window, UINT how);
 // Moves the activation away from a window that is hidden or destroyed.
 void activate_next_after(HWND window);
+// The desktop gives its focus to another program, or back.
+void leave_foreground();
+void enter_foreground();
 // Moves the focus; both may be null. Sends WM_KILLFOCUS and WM_SETFOCUS.
 void change_focus(HWND window);
 bool can_take_focus(const Window& window);

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "corvane/platform/system/user/input/activation.h"
 #include "corvane/platform/system/user/input/keyboard_routing.h"
 #include "corvane/platform/system/user/input/mouse_routing.h"
 #include "corvane/platform/system/user/messages/post_message.h"
@@ -34,9 +35,13 @@ void remember_state(System& state, const InputEvent& event) {
 }
 
 void route_focus(System& state, const InputEvent& event) {
-  if (event.down) return;
+  if (event.down) {
+    enter_foreground();
+    return;
+  }
   state.input.keys_retrieved.fill(false);
   if (HWND captured = state.input.capture) send(captured, WM_CANCELMODE);
+  leave_foreground();
 }
 
 // A changed size of the display: windows that filled the screen fill it again.

@@ -31,6 +31,8 @@ struct InputState {
   HWND focus = nullptr;
   HWND active = nullptr;
   bool application_active = false;
+  bool in_background = false;    // another program has the desktop's focus
+  HWND active_before = nullptr;  // was active when that began
   HWND tracked_for_leave = nullptr;
   HWND pointer_window = nullptr;  // got the last mouse message
   HCURSOR cursor = nullptr;

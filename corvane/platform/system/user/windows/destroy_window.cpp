@@ -69,8 +69,8 @@ void finish_with_children(HWND window) {
 void forget_input(System& state, HWND window) {
   InputState& input = state.input;
   std::erase_if(input.routed, [window](const MSG& message) { return message.hwnd == window; });
-  for (HWND* slot : {&input.capture, &input.focus, &input.active, &input.tracked_for_leave,
-                     &input.pointer_window, &input.last_press.window}) {
+  for (HWND* slot : {&input.capture, &input.focus, &input.active, &input.active_before,
+                     &input.tracked_for_leave, &input.pointer_window, &input.last_press.window}) {
     if (*slot == window) *slot = nullptr;
   }
 }
