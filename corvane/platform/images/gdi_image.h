@@ -1,5 +1,5 @@
 #pragma once
-// A picture of the skin, decoded from a file.
+// A picture, decoded from a file; parts of it can be saved.
 #include <memory>
 
 #include "corvane/platform/platform.h"
@@ -12,6 +12,12 @@ class CGdiImage {
   // Replaces the picture by that of a file (wide path). 1, or 0 when there is no such file or it is
   // no picture; then the object is empty.
   int Load(const wchar_t* path);
+
+  // Writes a part (pixels of the picture, cut to it) as PNG or, when the wide path ends with ".jpg"
+  // or ".jpeg", as JPEG; the ending is compared without regard to case, others are refused. A file
+  // of that name is replaced. In a JPEG what was clear is white. 1, or 0 when the part is empty or
+  // cannot be written.
+  int Save(const wchar_t* path, const RECT& part) const;
 
   // The picture, or null; valid until this object changes, never freed by the caller.
   Gdiplus::Image* GetImage() const { return image_.get(); }

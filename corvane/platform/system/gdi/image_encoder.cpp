@@ -28,39 +28,58 @@ void write_pixel(guchar* out, Pixel pixel, bool with_alpha) {
   if (with_alpha) out[3] = static_cast<guchar>(alpha);
 }
 
-void copy_rows(const Surface& surface, const RECT& part, GdkPixbuf* pixbuf, bool with_alpha) {
+// Premultiplied pixels never exceed their alpha.
+Pixel on_white(Pixel pixel) { return pixel + (255 - (pixel >> 24)) * 0x010101u; }
+
+enum class Format { rgb, rgb_on_white, rgba };
+
+void copy_rows(const Surface& surface, const RECT& part, GdkPixbuf* pixbuf, Format format) {
+  const bool with_alpha = format == Format::rgba;
   const int channels = with_alpha ? 4 : 3;
   auto stride = static_cast<std::size_t>(gdk_pixbuf_get_rowstride(pixbuf));
   guchar* base = gdk_pixbuf_get_pixels(pixbuf);
   for (int y = part.top; y < part.bottom; ++y) {
     guchar* out = base + static_cast<std::size_t>(y - part.top) * stride;
     for (int x = part.left; x < part.right; ++x, out += channels) {
-      write_pixel(out, surface.at(x, y), with_alpha);
+      const Pixel pixel = surface.at(x, y);
+      write_pixel(out, format == Format::rgb_on_white ? on_white(pixel) : pixel, with_alpha);
     }
   }
 }
 
-}  // namespace
-
-std::vector<std::uint8_t> encode_png(const Surface& surface, const RECT& part, Opacity opacity) {
+PixbufPointer copy_part(const Surface& surface, const RECT& part, Format format) {
   RECT inside{};
   const RECT whole = surface.rect();
-  if (!IntersectRect(&inside, &part, &whole)) return {};
-  const bool with_alpha = opacity == Opacity::pixel_alpha;
-  const PixbufPointer pixbuf(gdk_pixbuf_new(GDK_COLORSPACE_RGB, static_cast<gboolean>(with_alpha),
-                                            kBitsPerSample, inside.right - inside.left,
-                                            inside.bottom - inside.top));
-  if (pixbuf == nullptr) return {};
-  copy_rows(surface, inside, pixbuf.get(), with_alpha);
+  if (!IntersectRect(&inside, &part, &whole)) return nullptr;
+  PixbufPointer pixbuf(gdk_pixbuf_new(GDK_COLORSPACE_RGB,
+                                      static_cast<gboolean>(format == Format::rgba), kBitsPerSample,
+                                      inside.right - inside.left, inside.bottom - inside.top));
+  if (pixbuf != nullptr) copy_rows(surface, inside, pixbuf.get(), format);
+  return pixbuf;
+}
+
+std::vector<std::uint8_t> file_of(GdkPixbuf* pixbuf, const char* type, const char* option,
+                                  const char* value) {
   gchar* bytes = nullptr;
   gsize size = 0;
-  if (!gdk_pixbuf_save_to_buffer(pixbuf.get(), &bytes, &size, "png", nullptr, "compression", "3",
-                                 nullptr)) {
+  if (pixbuf == nullptr ||
+      !gdk_pixbuf_save_to_buffer(pixbuf, &bytes, &size, type, nullptr, option, value, nullptr)) {
     return {};
   }
   std::vector<std::uint8_t> result(bytes, bytes + size);
   g_free(bytes);
   return result;
+}
+
+}  // namespace
+
+std::vector<std::uint8_t> encode_png(const Surface& surface, const RECT& part, Opacity opacity) {
+  const Format format = opacity == Opacity::pixel_alpha ? Format::rgba : Format::rgb;
+  return file_of(copy_part(surface, part, format).get(), "png", "compression", "3");
+}
+
+std::vector<std::uint8_t> encode_jpeg(const Surface& surface, const RECT& part) {
+  return file_of(copy_part(surface, part, Format::rgb_on_white).get(), "jpeg", "quality", "90");
 }
 
 }  // namespace corvane::system

@@ -1,5 +1,5 @@
 #pragma once
-// A surface's pixels as the bytes of a PNG file.
+// A surface's pixels as the bytes of a file.
 #include <cstdint>
 #include <vector>
 
@@ -13,5 +13,7 @@ enum class Opacity { opaque, pixel_alpha };
 // Empty when the part is empty or memory is short.
 std::vector<std::uint8_t> encode_png(const Surface& surface, const RECT& part,
                                      Opacity opacity = Opacity::opaque);
+// The same as JPEG, on white by the pixels' alpha.
+std::vector<std::uint8_t> encode_jpeg(const Surface& surface, const RECT& part);
 
 }  // namespace corvane::system
