@@ -1,5 +1,7 @@
 #include "corvane/platform/system/display/sdl/sdl_cursors.h"
 
+#include "corvane/platform/system/display/sdl/drawn_cursors.h"
+
 namespace corvane::system {
 
 namespace {
@@ -10,27 +12,20 @@ SDL_SystemCursor native_shape(CursorShape shape) {
       return SDL_SYSTEM_CURSOR_IBEAM;
     case CursorShape::wait:
       return SDL_SYSTEM_CURSOR_WAIT;
-    case CursorShape::cross:
-      return SDL_SYSTEM_CURSOR_CROSSHAIR;
-    case CursorShape::size_nwse:
-      return SDL_SYSTEM_CURSOR_SIZENWSE;
-    case CursorShape::size_nesw:
-      return SDL_SYSTEM_CURSOR_SIZENESW;
-    case CursorShape::size_we:
-      return SDL_SYSTEM_CURSOR_SIZEWE;
-    case CursorShape::size_ns:
-      return SDL_SYSTEM_CURSOR_SIZENS;
-    case CursorShape::size_all:
-      return SDL_SYSTEM_CURSOR_SIZEALL;
-    case CursorShape::no:
-      return SDL_SYSTEM_CURSOR_NO;
-    case CursorShape::hand:
-      return SDL_SYSTEM_CURSOR_HAND;
-    case CursorShape::none:
-    case CursorShape::arrow:
-      break;
+    default:
+      return SDL_SYSTEM_CURSOR_ARROW;
   }
-  return SDL_SYSTEM_CURSOR_ARROW;
+}
+
+SDL_Cursor* make_cursor(CursorShape shape) {
+  DrawnCursor drawn = draw_cursor(shape);
+  if (drawn.pixels.empty()) return SDL_CreateSystemCursor(native_shape(shape));
+  SDL_Surface* const picture = SDL_CreateRGBSurfaceWithFormatFrom(
+      drawn.pixels.data(), drawn.size.cx, drawn.size.cy, 32,
+      drawn.size.cx * static_cast<int>(sizeof(Pixel)), SDL_PIXELFORMAT_ARGB8888);
+  SDL_Cursor* const cursor = SDL_CreateColorCursor(picture, drawn.hotspot.x, drawn.hotspot.y);
+  SDL_FreeSurface(picture);
+  return cursor;
 }
 
 }  // namespace
@@ -40,8 +35,8 @@ void SdlCursors::show(CursorShape shape) {
   shown_ = shape;
   SDL_ShowCursor(shape == CursorShape::none ? SDL_DISABLE : SDL_ENABLE);
   if (shape == CursorShape::none) return;
-  Cursor& cursor = cursors_[native_shape(shape)];
-  if (!cursor) cursor.reset(SDL_CreateSystemCursor(native_shape(shape)));
+  Cursor& cursor = cursors_[shape];
+  if (!cursor) cursor.reset(make_cursor(shape));
   if (cursor) SDL_SetCursor(cursor.get());
 }
 

@@ -8,7 +8,7 @@
 
 namespace corvane::system {
 
-// The native desktop's cursors, made when first asked for.
+// The native desktop's cursors and some of our own, made when first asked for.
 class SdlCursors {
  public:
   void show(CursorShape shape);
@@ -19,7 +19,7 @@ class SdlCursors {
   };
   using Cursor = std::unique_ptr<SDL_Cursor, Deleter>;
 
-  std::map<SDL_SystemCursor, Cursor> cursors_;
+  std::map<CursorShape, Cursor> cursors_;
   CursorShape shown_ = CursorShape::arrow;
 };
 

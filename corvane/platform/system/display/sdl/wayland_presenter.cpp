@@ -30,7 +30,7 @@ wl_shm* shared_memory_of(wl_display* display) {
   wl_proxy_wrapper_destroy(queued);
   wl_shm* memory = nullptr;
   static constexpr wl_registry_listener kListener{&on_global, &on_global_remove};
-  wl_registry_add_listener(registry, &kListener, &memory);
+  wl_registry_add_listener(registry, &kListener, static_cast<void*>(&memory));
   wl_display_roundtrip_queue(display, queue);
   if (memory != nullptr) wl_proxy_set_queue(reinterpret_cast<wl_proxy*>(memory), nullptr);
   wl_registry_destroy(registry);
