@@ -75,7 +75,7 @@ void read_fonts(const std::string& path) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  corvane::SetSkinComplaintHandler([](const corvane::SkinComplaint&) {});
+  corvane::set_skin_complaint_handler([](const corvane::SkinComplaint&) {});
   const InputFile file(data, size);
   const auto path = file.path();
   read_controls(path);

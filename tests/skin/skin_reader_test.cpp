@@ -27,11 +27,11 @@ struct OwnedList {
 class SkinReader : public testing::Test {
  protected:
   SkinReader() { listen(); }
-  ~SkinReader() override { SetSkinComplaintHandler(nullptr); }
+  ~SkinReader() override { set_skin_complaint_handler(nullptr); }
 
   void listen() {  // from the beginning
     complaints.clear();
-    SetSkinComplaintHandler([this](const SkinComplaint& each) {
+    set_skin_complaint_handler([this](const SkinComplaint& each) {
       const std::wstring text = each.text();
       const std::size_t name = text.find(L".xml");
       complaints += narrow_path(text.substr(name == text.npos ? 0 : name + 4)) + '\n';

@@ -26,7 +26,7 @@ int main(int count, char** values) {
       corvane::CString(corvane::wide_path_of(std::filesystem::absolute(values[count - 1], error)))
           .TrimRight(L"\\"));
   int faults = 0;
-  corvane::SetSkinComplaintHandler([&faults](const corvane::SkinComplaint& complaint) {
+  corvane::set_skin_complaint_handler([&faults](const corvane::SkinComplaint& complaint) {
     ++faults;
     std::printf("%s\n", corvane::narrow_path(complaint.text()).c_str());
   });

@@ -42,7 +42,7 @@ std::wstring SkinComplaint::text() const {
   return text + L": " + what.AsStdString() + L"; " + to_do.AsStdString();
 }
 
-void SetSkinComplaintHandler(SkinComplaintHandler handler) {
+void set_skin_complaint_handler(SkinComplaintHandler handler) {
   Listener& only = listener();
   const std::lock_guard lock(only.mutex);
   only.handler =

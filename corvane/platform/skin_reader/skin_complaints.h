@@ -23,7 +23,7 @@ using SkinComplaintHandler = std::function<void(const SkinComplaint&)>;
 // Who hears in this process from now on, of faults that were told before, too. Null, as at first:
 // they are written to the standard error output. Any thread may call it; the handler is called on
 // the thread that reads.
-void SetSkinComplaintHandler(SkinComplaintHandler handler);
+void set_skin_complaint_handler(SkinComplaintHandler handler);
 
 void complain(const SkinComplaint& complaint);
 
