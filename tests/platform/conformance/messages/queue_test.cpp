@@ -81,6 +81,13 @@ TEST_F(QueueTest, PostingToNoWindowMakesAThreadMessage) {
   EXPECT_TRUE(recorder().log().empty());
 }
 
+TEST_F(QueueTest, HoldsTenThousandMessages) {
+  for (int times = 0; times < 10000; ++times) ASSERT_NE(PostMessageW(popup_, WM_USER, 0, 0), 0);
+  EXPECT_EQ(PostMessageW(popup_, WM_USER, 0, 0), 0);
+  EXPECT_EQ(next(nullptr, 0, 0), WM_USER);
+  EXPECT_NE(PostMessageW(popup_, WM_USER, 0, 0), 0);
+}
+
 TEST_F(QueueTest, PendingMessagesGoWithTheirWindow) {
   SetCursorPos(10, 10);
   send_mouse(MOUSEEVENTF_LEFTDOWN);

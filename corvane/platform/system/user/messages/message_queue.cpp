@@ -3,6 +3,11 @@
 #include <algorithm>
 
 namespace corvane::system {
+namespace {
+
+constexpr std::size_t kMaxMessages = 10000;
+
+}  // namespace
 
 void MessageQueue::add_window(HWND window) {
   const std::lock_guard lock(mutex_);
@@ -18,6 +23,7 @@ void MessageQueue::remove_window(HWND window) {
 bool MessageQueue::post(const MSG& message) {
   const std::lock_guard lock(mutex_);
   if (message.hwnd != nullptr && windows_.count(message.hwnd) == 0) return false;
+  if (messages_.size() >= kMaxMessages) return false;
   messages_.push_back(message);
   return true;
 }

@@ -15,7 +15,8 @@ class MessageQueue {
   void add_window(HWND window);
   void remove_window(HWND window);
 
-  // False when the window is not one of this queue's. Null: a thread message.
+  // False when the window is not one of this queue's (null: a thread message), or when more
+  // messages wait than a program that retrieves any would leave.
   bool post(const MSG& message);
   void post_quit(int exit_code);
 
