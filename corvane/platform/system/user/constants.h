@@ -241,6 +241,7 @@
 #define MK_MBUTTON 0x0010
 #define SC_MOVE 0xF010u
 #define SC_CLOSE 0xF060u
+#define SC_KEYMENU 0xF100u
 #define SC_VSCROLL 0xF070u
 #define SC_HSCROLL 0xF080u
 #define WHEEL_DELTA 120
@@ -280,6 +281,8 @@
 #define VK_ADD 0x6B
 #define VK_SUBTRACT 0x6D
 #define VK_F1 0x70
+#define VK_F4 0x73
+#define VK_F10 0x79
 #define VK_F12 0x7B
 
 // --- Synthetic input

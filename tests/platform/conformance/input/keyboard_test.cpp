@@ -63,6 +63,23 @@ TEST_F(KeyboardTest, WithAltOrWithoutFocusTheyAreSystemKeys) {
   step("without any window nobody does");
 }
 
+TEST_F(KeyboardTest, AltAloneOpensTheMenuAndItsCombinationsAreSystemKeys) {
+  recorder().only({WM_KEYUP, WM_SYSKEYDOWN, WM_SYSKEYUP, WM_SYSCOMMAND, WM_CLOSE});
+  SetFocus(child_);
+  forget();
+  for (const int menu : {VK_MENU, VK_F10}) key(menu);
+  step("Alt alone, F10");
+  for (const bool alt_first : {false, true}) {
+    key_down(VK_MENU);
+    key_down('X');
+    for (const bool alt : {alt_first, !alt_first}) key_up(alt ? int{VK_MENU} : int{'X'});
+    step(alt_first ? "Alt goes up first" : "Alt goes up last");
+  }
+  key_down(VK_MENU);
+  key(VK_F4);
+  step("Alt+F4");
+}
+
 TEST_F(KeyboardTest, StateIsThatOfTheRetrievedMessageAndOfNow) {
   send_key(VK_SHIFT, true);
   EXPECT_NE(GetAsyncKeyState(VK_SHIFT) & 0x8000, 0);

@@ -40,6 +40,32 @@ TEST_F(MoveWindowTest, ObservedForAHiddenWindow) {
   pump_step("negative sizes become zero");
 }
 
+TEST_F(MoveWindowTest, WindowsWithAFrameHaveTheirSizeLimited) {
+  recorder().only({WM_GETMINMAXINFO});
+  for (const DWORD style : {WS_POPUP, WS_CAPTION, WS_POPUP | WS_THICKFRAME}) {
+    const HWND sized = create("sized", {.style = style, .place = {.width = 320, .height = 250}});
+    recorder().on("sized", WM_GETMINMAXINFO, [](const Message& sent) -> std::optional<LRESULT> {
+      auto& info = *reinterpret_cast<MINMAXINFO*>(sent.lparam);
+      info.ptMinTrackSize = {300, 200};
+      info.ptMaxTrackSize.x = 500;
+      return 0;
+    });
+    forget();
+    MoveWindow(sized, 0, 0, 100, 100, TRUE);
+    step("small");
+    MoveWindow(sized, 0, 0, 700, 900, TRUE);
+    step("large");
+    SetWindowPos(sized, nullptr, 5, 5, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    step("moved");
+  }
+}
+
+TEST_F(MoveWindowTest, OrderThatStaysIsMarked) {
+  recorder().only({WM_WINDOWPOSCHANGED});
+  SetWindowPos(child_, HWND_TOP, 1, 2, 40, 30, SWP_NOACTIVATE);
+  step("on top already");
+}
+
 TEST_F(MoveWindowTest, HandlersMayChangeWhatHappens) {
   recorder().answer("parent", WM_WINDOWPOSCHANGED, 0);
   recorder().only({WM_MOVE, WM_SIZE});

@@ -26,6 +26,7 @@ struct InputState {
   std::array<bool, 256> keys_now{};        // for GetAsyncKeyState
   std::array<bool, 256> keys_retrieved{};  // for GetKeyState
   LastPress last_press;
+  int menu_key = 0;  // Alt or F10 went down, and nothing since
 
   HWND capture = nullptr;
   HWND focus = nullptr;

@@ -31,8 +31,13 @@ void route_key(System& state, const InputEvent& event) {
   auto slot = static_cast<std::size_t>(event.virtual_key & 0xFF);
   const bool was_down = state.input.keys_retrieved[slot];
   state.input.keys_retrieved[slot] = event.down;
+  const bool menu_key = event.virtual_key == VK_MENU || event.virtual_key == VK_F10;
+  // Alt that was held for another key goes up like any key.
+  const bool held_for_another = !event.down && event.virtual_key == VK_MENU &&
+                                state.input.menu_key != VK_MENU && state.input.focus != nullptr;
+  if (event.down) state.input.menu_key = menu_key ? event.virtual_key : 0;
   const bool system_key =
-      state.input.focus == nullptr || alt_down(state) || event.virtual_key == VK_MENU;
+      !held_for_another && (state.input.focus == nullptr || alt_down(state) || menu_key);
   HWND target = state.input.focus != nullptr ? state.input.focus : state.input.active;
   if (state.find(target) == nullptr) return;
   const UINT message = event.down ? (system_key ? WM_SYSKEYDOWN : WM_KEYDOWN)

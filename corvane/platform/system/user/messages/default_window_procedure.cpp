@@ -124,6 +124,23 @@ LRESULT on_paint(HWND window) {
   return 0;
 }
 
+LRESULT on_position_changing(HWND window, LPARAM lparam) {
+  Window* found = find(window);
+  auto* position = reinterpret_cast<WINDOWPOS*>(lparam);
+  if (found == nullptr || position == nullptr || (position->flags & SWP_NOSIZE) != 0) return 0;
+  if (!found->has_caption() && (found->style & WS_THICKFRAME) == 0) return 0;
+  const RECT screen = corvane::system::system()->desktop->frame;
+  MINMAXINFO info{};
+  info.ptMaxSize = {screen.right, screen.bottom};
+  info.ptMaxTrackSize = {kMaxWindowSize, kMaxWindowSize};
+  send(window, WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&info));
+  position->cx = std::max(std::min<int>(position->cx, info.ptMaxTrackSize.x),
+                          static_cast<int>(info.ptMinTrackSize.x));
+  position->cy = std::max(std::min<int>(position->cy, info.ptMaxTrackSize.y),
+                          static_cast<int>(info.ptMinTrackSize.y));
+  return 0;
+}
+
 LRESULT on_position_changed(HWND window, LPARAM lparam) {
   auto* position = reinterpret_cast<const WINDOWPOS*>(lparam);
   if (position == nullptr) return 0;
@@ -185,6 +202,22 @@ LRESULT on_right_release(HWND window, LPARAM lparam) {
   return 0;
 }
 
+// F10 and Alt alone open the menu when they go up.
+LRESULT on_system_key_up(HWND window, WPARAM key) {
+  const System& state = *corvane::system::system();
+  if (key == 0 || key != static_cast<WPARAM>(state.input.menu_key)) return 0;
+  send(GetAncestor(window, GA_ROOT), WM_SYSCOMMAND, SC_KEYMENU);
+  return 0;
+}
+
+LRESULT on_system_key_down(HWND window, WPARAM key, LPARAM lparam) {
+  constexpr LPARAM kAltDown = LPARAM{1} << 29;
+  if (key == VK_F4 && (lparam & kAltDown) != 0) {
+    PostMessageW(GetAncestor(window, GA_ROOT), WM_SYSCOMMAND, SC_CLOSE, 0);
+  }
+  return 0;
+}
+
 LRESULT on_set_redraw(HWND window, WPARAM wparam) {
   if (Window* found = find(window)) found->redraw = wparam != 0;
   return 0;
@@ -229,10 +262,16 @@ LRESULT DefWindowProcW(HWND window, UINT message, WPARAM wparam, LPARAM lparam) 
       return on_erase(window, wparam);
     case WM_PAINT:
       return on_paint(window);
+    case WM_WINDOWPOSCHANGING:
+      return on_position_changing(window, lparam);
     case WM_WINDOWPOSCHANGED:
       return on_position_changed(window, lparam);
     case WM_SYSCOMMAND:
       return on_system_command(window, wparam, lparam);
+    case WM_SYSKEYDOWN:
+      return on_system_key_down(window, wparam, lparam);
+    case WM_SYSKEYUP:
+      return on_system_key_up(window, wparam);
     case WM_NCLBUTTONDOWN:
       return on_nc_press(window, wparam, lparam);
     case WM_NCLBUTTONDBLCLK:

@@ -99,6 +99,7 @@ BOOL SetWindowPos(HWND window, HWND insert_after, int x, int y, int width, int h
   const bool reordered = reorder(window, position);
   if (find(window) == nullptr) return FALSE;
   if (!anything_to_do(position, reordered)) return TRUE;
+  if (!reordered) position.flags |= SWP_NOZORDER;
   if ((position.flags & (SWP_NOMOVE | SWP_NOSIZE)) != (SWP_NOMOVE | SWP_NOSIZE) ||
       (position.flags & SWP_FRAMECHANGED) != 0) {
     change_geometry(window, position);
