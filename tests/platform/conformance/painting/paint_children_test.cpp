@@ -70,6 +70,9 @@ TEST_F(PaintChildrenTest, ClippingParentLeavesItsChildrenAlone) {
   fill_window(parent_);
   EXPECT_EQ(pixel(160, 160), kWhite) << "drawing outside of a paint is cut too";
   EXPECT_EQ(pixel(110, 110), kRed);
+  invalidate_parent({40, 55, 60, 60});
+  MoveWindow(child_, 30, 50, 15, 40, FALSE);
+  EXPECT_EQ(text_of(update_rect(parent_)), "45,55,50,60") << "what a child covers now";
   ShowWindow(child_, SW_HIDE);
   settle();
   InvalidateRect(parent_, nullptr, TRUE);

@@ -16,7 +16,7 @@ Region region_or_client(const Window& window, const RECT* rect) {
 // Takes the update region and erases it; true when the background is erased.
 bool begin_update(HWND window, Region& region) {
   Window* found = find(window);
-  region = found->update;
+  region = to_paint(*found);
   const bool erase = found->needs_erase;
   found->update.clear();
   found->needs_paint = false;
@@ -127,8 +127,9 @@ BOOL GetUpdateRect(HWND window, LPRECT rect, BOOL erase) {
   if (erase != FALSE) erase_now(window);
   found = find(window);
   if (found == nullptr) return FALSE;
-  if (rect != nullptr) *rect = found->update.bounds();
-  return !found->update.empty() ? TRUE : FALSE;
+  const Region region = to_paint(*found);
+  if (rect != nullptr) *rect = region.bounds();
+  return !region.empty() ? TRUE : FALSE;
 }
 
 }  // namespace corvane_system

@@ -94,6 +94,15 @@ void invalidate_uncovered(Window& parent, const RECT& screen_rect) {
   invalidate(parent, Region(local), true, Children::always);
 }
 
+Region to_paint(const Window& window) {
+  Region region = window.update;
+  if ((window.style & WS_CLIPCHILDREN) == 0) return region;
+  for (const Window* child : window.children) {
+    if ((child->style & WS_VISIBLE) != 0) region.subtract(child->frame);
+  }
+  return region;
+}
+
 void validate(Window& window, const Region& region) {
   window.update.subtract(region);
   if (!window.update.empty()) return;

@@ -18,6 +18,8 @@ void invalidate_all(Window& window, bool erase);  // with the scroll bars
 // window itself and its children there.
 void invalidate_uncovered(Window& parent, const RECT& screen_rect);
 void validate(Window& window, const Region& region);
+// The update region without the children that a WS_CLIPCHILDREN window does not draw over.
+Region to_paint(const Window& window);
 // Sends WM_ERASEBKGND for a pending erase; keeps it pending when the handler returns 0.
 void erase_now(HWND window);
 // Sends WM_PAINT to the window and then to its invalid children.
