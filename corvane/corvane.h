@@ -1,6 +1,7 @@
 #pragma once
 // All that a host of the library needs.
 #include "corvane/frame/layer_messages.h"
+#include "corvane/frame/window_lists.h"
 #include "corvane/layers/buttons/window_layer.h"
 #include "corvane/layers/crop/crop_frame.h"
 #include "corvane/layers/crop/cut_bg_layer.h"
@@ -29,6 +30,6 @@
 #include "corvane/platform/platform.h"
 #include "corvane/platform/skin_reader/records.h"
 #include "corvane/platform/skin_reader/skin_complaints.h"
-#include "corvane/skin/window_lists.h"
+#include "corvane/skin/skin_list.h"
 #include "corvane/skin/xml_list_mgr.h"
 #include "corvane/trees/owner_drawn/tree_ctrl_ex2.h"

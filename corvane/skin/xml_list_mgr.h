@@ -8,8 +8,8 @@
 #include "corvane/platform/skin_reader/control_mgr.h"
 #include "corvane/platform/skin_reader/language_mgr.h"
 #include "corvane/platform/skin_reader/logfont_mgr.h"
+#include "corvane/skin/skin_list.h"
 #include "corvane/skin/skin_lists.h"
-#include "corvane/skin/window_lists.h"
 
 namespace corvane {
 

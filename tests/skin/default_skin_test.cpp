@@ -4,6 +4,7 @@
 #include <set>
 #include <vector>
 
+#include "corvane/frame/window_lists.h"
 #include "corvane/platform/base_services/installation.h"
 #include "corvane/platform/base_services/system_paths.h"
 #include "corvane/platform/images/gdi_image.h"

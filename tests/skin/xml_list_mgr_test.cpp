@@ -5,6 +5,7 @@
 
 #include <type_traits>
 
+#include "corvane/frame/window_lists.h"
 #include "corvane/platform/base_services/installation.h"
 #include "corvane/platform/base_services/system_paths.h"
 #include "tests/support/source_folder.h"

@@ -2,7 +2,7 @@
 // What the windows look for in a skin: lists of ui_control.xml and the controls in them.
 #include <span>
 
-#include "corvane/skin/window_lists.h"
+#include "corvane/frame/window_lists.h"
 
 namespace check_skin {
 

@@ -1,6 +1,7 @@
 #include "corvane/layers/crop/cut_btn_layer.h"
 
 #include "corvane/frame/layer_messages.h"
+#include "corvane/frame/window_lists.h"
 #include "corvane/frame/window_styles.h"
 
 namespace corvane {

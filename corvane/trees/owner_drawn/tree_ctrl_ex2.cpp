@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "corvane/frame/window_lists.h"
 #include "corvane/platform/framework/paint_dc.h"
 #include "corvane/platform/geometry.h"
 #include "corvane/trees/model/tree_loading.h"

@@ -1,16 +1,10 @@
 #pragma once
-// Which numbered list of the skin a window reads. A host's own windows take numbers from 100 on.
+// Which list of the skin each of the library's windows reads.
+#include "corvane/skin/skin_list.h"
 
 namespace corvane {
 
-enum class SkinReads { controls, controls_captions_and_fonts };
-
-struct SkinList {
-  int id = 0;
-  SkinReads reads = SkinReads::controls_captions_and_fonts;
-};
-
-// The lists of the library's windows. CWindowLayer reads none: its host lends it one.
+// CWindowLayer reads none: its host lends it one.
 inline constexpr SkinList kFolderTreeList{1, SkinReads::controls};
 inline constexpr SkinList kSplitScreenList{3};
 inline constexpr SkinList kCropBarList{4};
