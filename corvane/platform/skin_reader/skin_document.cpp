@@ -80,7 +80,8 @@ bool SkinDocument::parse(const std::string& text, const char* root_name) {
     static_cast<void>(parse_into(xml_, repaired));  // as far as it goes
   }
   if (std::strcmp(root().name(), root_name) == 0) return true;
-  const std::string root_tag = "<" + std::string(root_name) + ">";
+  std::string root_tag = "<";
+  root_tag.append(root_name).append(">");
   complain_at(1, "the file does not begin with " + root_tag,
               "put everything between " + root_tag + " and its end; nothing of it is read");
   return false;
