@@ -15,8 +15,8 @@ class CGdiImage {
 
   // Writes a part (pixels of the picture, cut to it) as PNG or, when the wide path ends with ".jpg"
   // or ".jpeg", as JPEG; the ending is compared without regard to case, others are refused. A file
-  // of that name is replaced. In a JPEG what was clear is white. 1, or 0 when the part is empty or
-  // cannot be written.
+  // of that name is replaced when all of the new one is on the disk. In a JPEG what was clear is
+  // white. 1, or 0 when the part is empty or cannot be written; then no file has changed.
   int Save(const wchar_t* path, const RECT& part) const;
 
   // The picture, or null; valid until this object changes, never freed by the caller.

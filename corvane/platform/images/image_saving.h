@@ -6,8 +6,9 @@ namespace corvane {
 
 enum class ImageFormat { png, jpeg };
 
-// Writes a part of the picture, in its pixels and not empty, as a new file or over an old one.
-// False when it cannot be written; then what stood there may be gone.
+// Writes a part of the picture, in its pixels and not empty, as a new file or in place of an old
+// one, which goes when all of the new one is on the disk. False, and nothing has changed, when it
+// cannot be written.
 bool save_image_part(Gdiplus::Image& image, const RECT& part, const wchar_t* path,
                      ImageFormat format);
 

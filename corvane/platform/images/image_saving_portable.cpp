@@ -1,11 +1,10 @@
-#include <fstream>
 #include <new>
-#include <system_error>
 #include <vector>
 
 #include "corvane/platform/base_services/system_paths.h"
 #include "corvane/platform/images/image_saving.h"
 #include "corvane/platform/system/gdi/image_encoder.h"
+#include "corvane/platform/system/shell/new_file.h"
 
 namespace corvane {
 namespace {
@@ -29,15 +28,9 @@ bool save_image_part(Gdiplus::Image& image, const RECT& part, const wchar_t* pat
   if (file_path.empty() || image.pixels() == nullptr) return false;
   const std::vector<std::uint8_t> bytes = encoded(*image.pixels(), part, format);
   if (bytes.empty()) return false;
-  std::ofstream file(file_path, std::ios::binary | std::ios::trunc);
-  if (!file) return false;
-  file.write(reinterpret_cast<const char*>(bytes.data()),
-             static_cast<std::streamsize>(bytes.size()));
-  file.close();
-  if (file) return true;
-  std::error_code error;
-  std::filesystem::remove(file_path, error);
-  return false;
+  const std::filesystem::path folder = file_path.parent_path();
+  system::NewFile file(folder.empty() ? "." : folder.string());
+  return file.write(bytes.data(), bytes.size()) && file.replace(file_path.filename().string());
 }
 
 }  // namespace corvane

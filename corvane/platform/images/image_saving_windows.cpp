@@ -1,4 +1,5 @@
 #include <cwchar>
+#include <string>
 #include <vector>
 
 #include "corvane/platform/images/image_saving.h"
@@ -49,7 +50,14 @@ bool save_image_part(Gdiplus::Image& image, const RECT& part, const wchar_t* pat
   parameters.Parameter[0].Type = Gdiplus::EncoderParameterValueTypeLong;
   parameters.Parameter[0].NumberOfValues = 1;
   parameters.Parameter[0].Value = &quality;
-  return copy.Save(path, &encoder, is_jpeg ? &parameters : nullptr) == Gdiplus::Ok;
+  const std::wstring unfinished = std::wstring(path) + L".corvane-new";
+  constexpr DWORD kInOneStep = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+  if (copy.Save(unfinished.c_str(), &encoder, is_jpeg ? &parameters : nullptr) == Gdiplus::Ok &&
+      ::MoveFileExW(unfinished.c_str(), path, kInOneStep)) {
+    return true;
+  }
+  ::DeleteFileW(unfinished.c_str());
+  return false;
 }
 
 }  // namespace corvane

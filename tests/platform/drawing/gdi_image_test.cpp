@@ -2,7 +2,9 @@
 #include "corvane/platform/images/gdi_image.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
+#include <csignal>
 #include <cstdlib>
 
 #include "corvane/platform/system/gdi/image_encoder.h"
@@ -33,6 +35,23 @@ int distance(std::uint32_t one, std::uint32_t other) {
     farthest = std::max(farthest, std::abs(difference));
   }
   return farthest;
+}
+
+TEST(GdiImage, AFullDiskTakesNoPictureAway) {
+  const TemporaryFolder folder;
+  const std::string path = test_picture(folder);
+  CGdiImage picture;
+  ASSERT_EQ(picture.Load(system::wide_path(path).c_str()), 1);
+  const auto size = std::filesystem::file_size(path);
+  rlimit before{};
+  getrlimit(RLIMIT_FSIZE, &before);
+  const rlimit full{10, before.rlim_max};
+  const auto former = std::signal(SIGXFSZ, SIG_IGN);
+  setrlimit(RLIMIT_FSIZE, &full);
+  EXPECT_EQ(picture.Save(system::wide_path(path).c_str(), {0, 0, 9, 9}), 0);
+  setrlimit(RLIMIT_FSIZE, &before);
+  std::signal(SIGXFSZ, former);
+  EXPECT_EQ(std::filesystem::file_size(path), size);
 }
 
 TEST(GdiImage, SavesThePartThatLiesInThePictureInTheFormatOfTheName) {

@@ -31,11 +31,16 @@ TEST(NewFile, IsThereWholeOrNotAtAll) {
       EXPECT_EQ(file.place(std::string(256, 'a')), Placed::failed);
       EXPECT_EQ(errno, ENAMETOOLONG);
       EXPECT_EQ(file.place("new"), Placed::yes);
+      NewFile better(folder.path(), way);
+      EXPECT_FALSE(better.replace("early")) << "nothing is written";
+      ASSERT_TRUE(better.write("12345678", 8));
+      EXPECT_TRUE(better.replace("taken"));
       NewFile given_up(folder.path(), way);
       ASSERT_TRUE(given_up.write("12345", 5));
     }
     umask(former);
     EXPECT_EQ(files(), 3);
+    EXPECT_EQ(std::filesystem::file_size(folder / "taken"), 8u);
     struct stat status {};
     ASSERT_EQ(stat((folder / "new").c_str(), &status), 0);
     EXPECT_EQ(status.st_mode & 0777u, 0640u);

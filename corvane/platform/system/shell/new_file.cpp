@@ -56,10 +56,13 @@ bool NewFile::open_unnamed() {
   return file_ >= 0;
 }
 
+std::string NewFile::new_hidden_path() const {
+  return folder_ + "/.corvane-" + std::to_string(std::random_device()());
+}
+
 bool NewFile::open_hidden() {
-  std::random_device random;
   for (int i = 0; i < kHiddenNames; ++i) {
-    std::string path = folder_ + "/.corvane-" + std::to_string(random());
+    std::string path = new_hidden_path();
     file_ = open(path.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, kMode);
     if (file_ >= 0) {
       hidden_ = std::move(path);
@@ -79,6 +82,22 @@ NewFile::Placed NewFile::place(const std::string& name) {
   if (!link_as(path)) return errno == EEXIST ? Placed::name_taken : Placed::failed;
   sync_folder(folder_);
   return Placed::yes;
+}
+
+// A link never replaces anything, so a file without a name gets a hidden one first.
+bool NewFile::replace(const std::string& name) {
+  if (file_ < 0) {
+    errno = EBADF;
+    return false;
+  }
+  if (hidden_.empty()) {
+    const std::string path = new_hidden_path();
+    if (!link_as(path)) return false;
+    hidden_ = path;
+  }
+  if (rename(hidden_.c_str(), (folder_ + "/" + name).c_str()) != 0) return false;
+  sync_folder(folder_);
+  return true;
 }
 
 // Not every file system knows the rename that refuses to replace; a hard link refuses as well.

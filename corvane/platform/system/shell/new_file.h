@@ -23,10 +23,14 @@ class NewFile {
   // Gives what was written a name in the folder, never that of something else. May be called again
   // with another name after a failure; errno says why it failed (ENAMETOOLONG among others).
   Placed place(const std::string& name);
+  // The same, in place of what has the name until then, in one step; once. False: nothing has
+  // changed, and errno says why.
+  bool replace(const std::string& name);
 
  private:
   bool open_unnamed();
   bool open_hidden();
+  std::string new_hidden_path() const;
   bool link_as(const std::string& path) const;
 
   std::string folder_;
