@@ -50,6 +50,8 @@ class Display {
   // Moves the native window so that this point of the screen lies under the pointer, wherever the
   // pointer is on the native desktop by now. False: there is no native window to move.
   virtual bool drag_native_window(POINT /*grip*/) { return false; }
+  // Whether the desktop puts a caption and sizing borders around the native window.
+  virtual bool has_native_frame() const { return false; }
   virtual bool warp_pointer(POINT) { return false; }
   // The first top-level window was shown: an on-screen display opens its native window now.
   virtual void show() {}

@@ -16,7 +16,10 @@ class HeadlessDisplay : public Display {
   void wake() override { wake_.set(); }
   int event_fd() const override { return wake_.fd(); }
   void set_cursor(CursorShape shape) override { cursor_ = shape; }
+  bool has_native_frame() const override { return native_frame_; }
 
+  // As if its native window had a frame; none has one from the start.
+  void set_native_frame(bool framed) { native_frame_ = framed; }
   void advance(std::uint64_t milliseconds) { now_ += milliseconds; }
   void push(const InputEvent& event);
   void resize(SIZE size);  // arrives as a resize event
@@ -26,6 +29,7 @@ class HeadlessDisplay : public Display {
 
  private:
   SIZE size_;
+  bool native_frame_ = false;
   std::uint64_t now_ = 1000;
   CursorShape cursor_ = CursorShape::arrow;
   Surface frame_;

@@ -131,8 +131,18 @@ struct BITMAPINFO {
 #define OBJ_BRUSH 2u
 #define OBJ_FONT 6u
 #define OBJ_BITMAP 7u
+#define COLOR_ACTIVECAPTION 2
+#define COLOR_INACTIVECAPTION 3
 #define COLOR_WINDOW 5
+#define COLOR_WINDOWFRAME 6
+#define COLOR_CAPTIONTEXT 9
+#define COLOR_ACTIVEBORDER 10
+#define COLOR_INACTIVEBORDER 11
+#define COLOR_HIGHLIGHT 13
+#define COLOR_HIGHLIGHTTEXT 14
 #define COLOR_BTNFACE 15
+#define COLOR_BTNSHADOW 16
+#define COLOR_INACTIVECAPTIONTEXT 19
 
 // --- Objects. The caller owns what a Create function returns and frees it with DeleteObject.
 // DeleteObject of an object that is selected into a device context returns 0: the object lives on

@@ -1,7 +1,11 @@
 // SystemParametersInfoW and the other facts about the system.
+#include <algorithm>
+#include <iterator>
 #include <thread>
 
+#include "corvane/platform/system/user/frames/frame_metrics.h"
 #include "corvane/platform/system/user/scroll_bars/scroll_bars.h"
+#include "corvane/platform/system/user/windows/window_geometry.h"
 
 namespace corvane_system {
 using namespace corvane::system;
@@ -40,27 +44,68 @@ BOOL SystemParametersInfoW(UINT action, UINT parameter, void* data, UINT) {
   }
 }
 
+namespace {
+
+struct Metric {
+  int index;
+  int value;
+};
+// Those that do not depend on the screen.
+constexpr Metric kMetrics[] = {
+    {SM_CXVSCROLL, kBarThickness},
+    {SM_CYHSCROLL, kBarThickness},
+    {SM_CYCAPTION, kCaptionHeight},
+    {SM_CXBORDER, kFlatBorder},
+    {SM_CYBORDER, kFlatBorder},
+    {SM_CXFIXEDFRAME, kFixedFrame},
+    {SM_CYFIXEDFRAME, kFixedFrame},
+    {SM_CYVTHUMB, kBarThickness},
+    {SM_CXHTHUMB, kBarThickness},
+    {SM_CYVSCROLL, kBarThickness},
+    {SM_CXHSCROLL, kBarThickness},
+    {SM_CXMIN, kMinTrackWidth},
+    {SM_CYMIN, kMinTrackHeight},
+    {SM_CXSIZE, kBoxWidth},
+    {SM_CYSIZE, kCaptionHeight},
+    {SM_CXSIZEFRAME, kSizeFrame},
+    {SM_CYSIZEFRAME, kSizeFrame},
+    {SM_CXMINTRACK, kMinTrackWidth},
+    {SM_CYMINTRACK, kMinTrackHeight},
+    {SM_CXDOUBLECLK, 4},
+    {SM_CYDOUBLECLK, 4},
+    {SM_CXEDGE, kEdge},
+    {SM_CYEDGE, kEdge},
+    {SM_CYSMCAPTION, kSmallCaptionHeight},
+    {SM_CXSMSIZE, kSmallBoxWidth},
+    {SM_CYSMSIZE, kSmallCaptionHeight},
+    {SM_CXMINIMIZED, kMinimizedWidth},
+    {SM_CYMINIMIZED, kMinimizedHeight},
+    {SM_CXMAXTRACK, kMaxWindowSize},
+    {SM_CYMAXTRACK, kMaxWindowSize},
+};
+
+}  // namespace
+
 int GetSystemMetrics(int index) {
   System* state = corvane::system::system();
   if (state == nullptr) return 0;
   switch (index) {
     case SM_CXSCREEN:
+    case SM_CXFULLSCREEN:
       return state->frame.width();
     case SM_CYSCREEN:
       return state->frame.height();
-    case SM_CXVSCROLL:
-    case SM_CYHSCROLL:
-    case SM_CYVTHUMB:
-    case SM_CXHTHUMB:
-    case SM_CYVSCROLL:
-    case SM_CXHSCROLL:
-      return kBarThickness;
-    case SM_CXDOUBLECLK:
-    case SM_CYDOUBLECLK:
-      return 4;
+    case SM_CYFULLSCREEN:
+      return std::max(state->frame.height() - kCaptionHeight, 0);
+    case SM_CXMAXIMIZED:
+      return state->frame.width() + 2 * kSizeFrame;
+    case SM_CYMAXIMIZED:
+      return state->frame.height() + 2 * kSizeFrame;
     default:
-      return 0;
+      break;
   }
+  const auto* row = std::ranges::find(kMetrics, index, &Metric::index);
+  return row != std::end(kMetrics) ? row->value : 0;
 }
 
 HMODULE GetModuleHandleW(LPCWSTR) { return reinterpret_cast<HMODULE>(ULONG_PTR{0x400000}); }

@@ -148,8 +148,13 @@ BOOL MoveWindow(HWND window, int x, int y, int width, int height, BOOL repaint);
 BOOL SetWindowPos(HWND window, HWND insert_after, int x, int y, int width, int height, UINT flags);
 BOOL BringWindowToTop(HWND window);
 BOOL EnableWindow(HWND window, BOOL enable);
+BOOL IsZoomed(HWND window);                    // maximized
+BOOL IsIconic(HWND window);                    // minimized
 BOOL GetWindowRect(HWND window, LPRECT rect);  // screen coordinates
 BOOL GetClientRect(HWND window, LPRECT rect);  // (0, 0, width, height)
+// From a client area to the window around it; scroll bars are not counted, a menu is never there.
+BOOL AdjustWindowRect(LPRECT rect, DWORD style, BOOL menu);
+BOOL AdjustWindowRectEx(LPRECT rect, DWORD style, BOOL menu, DWORD ex_style);
 BOOL ClientToScreen(HWND window, LPPOINT point);
 BOOL ScreenToClient(HWND window, LPPOINT point);
 int MapWindowPoints(HWND from, HWND to, LPPOINT points, UINT count);

@@ -172,6 +172,9 @@ bool SdlDisplay::drag_native_window(POINT grip) {
   return true;
 }
 
+// Before the window is shown nobody can say how this desktop does it; nearly all of them do.
+bool SdlDisplay::has_native_frame() const { return is_driver("x11") || is_driver("wayland"); }
+
 bool SdlDisplay::warp_pointer(POINT point) {
   if (!(SDL_GetWindowFlags(native_->window.get()) & SDL_WINDOW_SHOWN)) return false;
   SDL_WarpMouseInWindow(native_->window.get(), point.x, point.y);

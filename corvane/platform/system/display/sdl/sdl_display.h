@@ -28,6 +28,7 @@ class SdlDisplay : public Display {
   void set_title(const wchar_t* title) override;
   void set_capture(bool capture) override;
   bool drag_native_window(POINT grip) override;
+  bool has_native_frame() const override;
   bool warp_pointer(POINT point) override;
   void show() override;
 

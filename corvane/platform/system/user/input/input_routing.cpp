@@ -7,6 +7,7 @@
 #include "corvane/platform/system/user/input/mouse_routing.h"
 #include "corvane/platform/system/user/messages/post_message.h"
 #include "corvane/platform/system/user/messages/send_message.h"
+#include "corvane/platform/system/user/windows/show_state.h"
 
 namespace corvane::system {
 namespace {
@@ -59,6 +60,7 @@ void resize_screen(System& state, SIZE size) {
     if (EqualRect(&top->frame, &old)) filling.push_back(top->handle);
   }
   for (HWND window : filling) MoveWindow(window, 0, 0, size.cx, size.cy, TRUE);
+  fit_to_screen(state);
 }
 
 void close_requested(System& state) {

@@ -5,9 +5,24 @@
 #include "corvane/platform/system/user/input/input_routing.h"
 #include "corvane/platform/system/user/painting/painting.h"
 #include "corvane/platform/system/user/painting/presenting.h"
-#include "corvane/platform/system/user/scroll_bars/scroll_painting.h"
 
 namespace corvane::system {
+namespace {
+
+// Draws the frames that come before it. A handler that has its frame drawn again and again must not
+// keep the program from its messages: each window gets one turn.
+Window* next_to_paint_itself(System& state, HWND within) {
+  Window* window = next_to_paint(state, within);
+  for (std::size_t left = state.windows.size(); left > 0 && window != nullptr; --left) {
+    if (!frame_pending(*window)) return window;
+    paint_pending_frame(window->handle);
+    window = next_to_paint(state, within);
+  }
+  return window != nullptr && window->needs_paint ? window : nullptr;
+}
+
+}  // namespace
+
 bool MessageFilter::matches(const System& state, const MSG& message) const {
   const bool any_number = first == 0 && last == 0;
   if (!any_number && (message.message < first || message.message > last)) return false;
@@ -40,11 +55,7 @@ std::optional<MSG> take_input(System& state, const MessageFilter& filter, bool r
 
 std::optional<MSG> take_paint(System& state, const MessageFilter& filter) {
   const bool thread_messages_only = filter.window == reinterpret_cast<HWND>(LONG_PTR{-1});
-  Window* window = thread_messages_only ? nullptr : next_to_paint(state, filter.window);
-  while (window != nullptr && bars_pending(*window)) {
-    paint_bars(*window);
-    window = next_to_paint(state, filter.window);
-  }
+  Window* window = thread_messages_only ? nullptr : next_to_paint_itself(state, filter.window);
   if (window == nullptr) return std::nullopt;
   MSG message = make_message(state, window->handle, WM_PAINT, 0, 0);
   if (!filter.matches(state, message)) return std::nullopt;

@@ -3,8 +3,10 @@
 
 namespace corvane::system {
 
-// Drags a window with the mouse until the button is released (WM_SYSCOMMAND, SC_MOVE | HTCAPTION).
-// Runs its own message loop; returns when the drag has ended or the window is gone.
+// Let the user drag a window (WM_SYSCOMMAND, SC_MOVE | HTCAPTION) or one of its sides and corners
+// (SC_SIZE + WMSZ_LEFT to WMSZ_BOTTOMRIGHT) with the mouse until the button is released. They run
+// their own message loop and return when the drag has ended or the window is gone.
 void run_move_loop(HWND window);
+void run_size_loop(HWND window, int side);
 
 }  // namespace corvane::system

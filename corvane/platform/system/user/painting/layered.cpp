@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "corvane/platform/geometry.h"
+#include "corvane/platform/system/user/frames/window_frame.h"
 #include "corvane/platform/system/user/windows/window_geometry.h"
 
 namespace corvane_system {
@@ -38,6 +39,7 @@ void place(Window& window, const POINT* position, SIZE size) {
                            : POINT{window_coordinate(position->x), window_coordinate(position->y)};
   window.frame = {corner.x, corner.y, corner.x + size.cx, corner.y + size.cy};
   window.client = window.frame;
+  leave_room_for_frame(window, window.client);
 }
 
 }  // namespace

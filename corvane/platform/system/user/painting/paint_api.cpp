@@ -1,6 +1,7 @@
 // BeginPaint, InvalidateRect and their family.
 #include <algorithm>
 
+#include "corvane/platform/system/user/frames/window_frame.h"
 #include "corvane/platform/system/user/messages/send_message.h"
 #include "corvane/platform/system/user/painting/painting.h"
 
@@ -104,6 +105,9 @@ BOOL RedrawWindow(HWND window, const RECT* rect, HRGN, UINT flags) {
                                                             : Children::by_style;
   if ((flags & RDW_INVALIDATE) != 0) {
     invalidate(*found, region, (flags & RDW_ERASE) != 0, children);
+  }
+  if ((flags & RDW_FRAME) != 0 && (flags & RDW_INVALIDATE) != 0) {
+    found->frame_due = has_non_client_area(*found);
   }
   if ((flags & RDW_VALIDATE) != 0) validate(*found, region);
   if ((flags & RDW_NOERASE) != 0) found->needs_erase = false;

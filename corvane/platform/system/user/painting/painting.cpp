@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "corvane/platform/system/user/frames/window_frame.h"
 #include "corvane/platform/system/user/messages/send_message.h"
-#include "corvane/platform/system/user/scroll_bars/scroll_bars.h"
 #include "corvane/platform/system/user/scroll_bars/scroll_painting.h"
 
 namespace corvane::system {
@@ -38,14 +38,18 @@ void invalidate_child(Window& child, Region region, bool erase, Children childre
   expose(child, region, erase, children);
 }
 
-bool touches_bars(const Window& window, const Region& region) {
-  return region.intersects(bar_rect(window, ScrollAxis::vertical)) ||
-         region.intersects(bar_rect(window, ScrollAxis::horizontal)) ||
-         region.intersects(bar_corner(window));
+bool touches_frame(const Window& window, const Region& region) {
+  if (!has_non_client_area(window)) return false;
+  RECT frame = window.frame;
+  OffsetRect(&frame, -window.client.left, -window.client.top);
+  Region around(frame);
+  around.subtract(window.client_area());
+  around.intersect(region);
+  return !around.empty();
 }
 
 Window* first_invalid(Window& window) {
-  if (window.needs_paint || bars_pending(window)) return &window;
+  if (window.needs_paint || frame_pending(window)) return &window;
   for (Window* child : window.children) {
     if (Window* found = first_invalid(*child)) return found;
   }
@@ -76,12 +80,12 @@ void invalidate(Window& window, const Region& region, bool erase, Children child
 }
 
 void expose(Window& window, const Region& region, bool erase, Children children) {
-  window.bars_due = window.bars_due || touches_bars(window, region);
+  window.frame_due = window.frame_due || touches_frame(window, region);
   invalidate(window, region, erase, children);
 }
 
 void invalidate_all(Window& window, bool erase) {
-  window.bars_due = true;
+  window.frame_due = has_non_client_area(window);
   invalidate(window, Region(window.client_area()), erase, Children::always);
 }
 
@@ -124,8 +128,9 @@ void erase_now(HWND window) {
 void update_now(HWND window) {
   Window* found = find(window);
   if (found == nullptr) return;
-  if (bars_pending(*found)) paint_bars(*found);
-  if (found->needs_paint) send(window, WM_PAINT);
+  paint_pending_frame(window);
+  found = find(window);
+  if (found != nullptr && found->needs_paint) send(window, WM_PAINT);
   found = find(window);
   if (found == nullptr) return;
   for (HWND child : children_of(*found)) update_now(child);
@@ -142,7 +147,23 @@ Window* next_to_paint(System& state, HWND within) {
   return nullptr;
 }
 
-bool bars_pending(const Window& window) { return window.bars_due && records_updates(window); }
+bool frame_pending(const Window& window) {
+  return (window.bars_due || window.frame_due) && records_updates(window);
+}
+
+void paint_pending_frame(HWND window) {
+  Window* found = find(window);
+  if (found == nullptr || !records_updates(*found)) return;
+  if (found->frame_due) send_frame_paint(window);
+  found = find(window);
+  if (found != nullptr && found->bars_due) paint_bars(*found);
+}
+
+void send_frame_paint(HWND window) {
+  constexpr WPARAM kWholeFrame = 1;
+  if (Window* found = find(window)) found->frame_due = false;
+  send(window, WM_NCPAINT, kWholeFrame, 0);
+}
 
 bool paints_pending(System& state) { return next_to_paint(state, nullptr) != nullptr; }
 

@@ -3,9 +3,8 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "corvane/platform/system/user/input/input_routing.h"
 #include "corvane/platform/system/user/messages/send_message.h"
-#include "corvane/platform/system/user/modal/modal_loop.h"
+#include "corvane/platform/system/user/modal/capture_loop.h"
 #include "corvane/platform/system/user/scroll_bars/scroll_bars.h"
 
 namespace corvane::system {
@@ -31,24 +30,23 @@ UINT code_of(ScrollPart part) {
   }
 }
 
-class ScrollLoop : public ModalLoop {
+class ScrollLoop : public CaptureLoop {
  public:
   ScrollLoop(System& state, HWND window, ScrollAxis axis, POINT press)
-      : ModalLoop(state), window_(window), axis_(axis), press_(press), pointer_(press) {}
+      : CaptureLoop(state, window), axis_(axis), press_(press), pointer_(press) {}
 
   void run() {
     part_ = part_at(press_);
     if (part_ == ScrollPart::none) return;
     SetCapture(window_);
     begin();
-    run_turns();
-    finish();
+    finish(run_captured());
   }
 
  private:
   // The window while it has the bar; null otherwise.
   Window* shown() const {
-    Window* found = state_.find(window_);
+    Window* found = held_window();
     if (found == nullptr) return nullptr;
     const RECT bar = bar_rect(*found, axis_);
     return IsRectEmpty(&bar) ? nullptr : found;
@@ -56,8 +54,7 @@ class ScrollLoop : public ModalLoop {
 
   // Somebody else may have taken the button's release, or the capture.
   bool wanted() const override {
-    return shown() != nullptr && state_.input.capture == window_ &&
-           state_.input.keys_retrieved[VK_LBUTTON];
+    return CaptureLoop::wanted() && shown() != nullptr && state_.input.keys_retrieved[VK_LBUTTON];
   }
 
   RECT bar_on_screen(const Window& window) const {
@@ -108,38 +105,14 @@ class ScrollLoop : public ModalLoop {
     tell(SB_THUMBTRACK, start_.position);
   }
 
-  Turn on_input(const InputEvent& event) override {
-    switch (event.kind) {
-      case InputKind::mouse_button:
-        remember_button(event);
-        if (event.position.x != pointer_.x || event.position.y != pointer_.y) {
-          follow(event.position);
-        }
-        released_ = event.button == VK_LBUTTON && !event.down;
-        return released_ ? Turn::last : Turn::more;
-      case InputKind::mouse_move:
-        follow(event.position);
-        return Turn::more;
-      case InputKind::mouse_wheel:
-      case InputKind::mouse_leave:
-        return Turn::more;
-      default:
-        return on_other_input(event);
-    }
+  Turn on_keyboard(const InputEvent& event) override {
+    const Turn turn = CaptureLoop::on_keyboard(event);
+    if (turn == Turn::last && part_ == ScrollPart::thumb) drag_to(start_);
+    return turn;
   }
 
-  // Keys wait until the bar is let go; Escape gives up.
-  Turn on_other_input(const InputEvent& event) {
-    if (event.kind == InputKind::key && event.down && event.virtual_key == VK_ESCAPE) {
-      if (part_ == ScrollPart::thumb) drag_to(start_);
-      released_ = true;
-      return Turn::last;
-    }
-    route_event(state_, event);
-    return Turn::more;
-  }
-
-  void follow(POINT pointer) {
+  void follow(POINT pointer) override {
+    if (pointer.x == pointer_.x && pointer.y == pointer_.y) return;
     pointer_ = pointer;
     state_.input.routed_pointer = pointer;
     Window* found = shown();
@@ -183,12 +156,11 @@ class ScrollLoop : public ModalLoop {
     return Turn::more;
   }
 
-  void finish() {
-    if (state_.input.capture == window_) ReleaseCapture();
-    Window* found = state_.find(window_);
-    if (found != nullptr && found->bar(axis_).drag && released_) {
+  void finish(End end) {
+    Window* found = held_window();
+    if (found != nullptr && found->bar(axis_).drag && end != End::lost) {
       tell(SB_THUMBPOSITION, found->bar(axis_).drag->position);
-      found = state_.find(window_);
+      found = held_window();
     }
     if (found == nullptr) return;
     found->bar(axis_).pressed = ScrollPart::none;
@@ -197,14 +169,12 @@ class ScrollLoop : public ModalLoop {
     tell(SB_ENDSCROLL, 0);
   }
 
-  HWND window_;
   ScrollAxis axis_;
   POINT press_;
   POINT pointer_;
   ScrollPart part_ = ScrollPart::none;
   ThumbDrag start_;
   std::uint64_t next_repeat_ = 0;
-  bool released_ = false;
 };
 
 }  // namespace

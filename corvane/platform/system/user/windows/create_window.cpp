@@ -1,7 +1,9 @@
 // CreateWindowExW: the order of messages a window is born with.
+#include "corvane/platform/system/user/frames/frame_layout.h"
 #include "corvane/platform/system/user/messages/hooks.h"
 #include "corvane/platform/system/user/messages/send_message.h"
 #include "corvane/platform/system/user/windows/destroy_window.h"
+#include "corvane/platform/system/user/windows/size_limits.h"
 #include "corvane/platform/system/user/windows/window_classes.h"
 #include "corvane/platform/system/user/windows/window_geometry.h"
 #include "corvane/platform/system/user/windows/z_order.h"
@@ -43,6 +45,18 @@ bool creatable(const std::shared_ptr<WindowClass>& window_class, DWORD style, HW
   return error == ERROR_SUCCESS;
 }
 
+// WS_VISIBLE, WS_MAXIMIZE and WS_MINIMIZE come at the end, with their messages. A window that is
+// neither pop-up nor child has a caption.
+DWORD first_style(DWORD asked) {
+  const DWORD style = asked & ~(WS_VISIBLE | WS_MAXIMIZE | WS_MINIMIZE);
+  return (style & (WS_POPUP | WS_CHILD)) != 0 ? style : style | WS_CAPTION;
+}
+
+int first_show_command(DWORD asked) {
+  if ((asked & WS_MINIMIZE) != 0) return SW_SHOWMINIMIZED;
+  return (asked & WS_MAXIMIZE) != 0 ? SW_SHOWMAXIMIZED : SW_SHOW;
+}
+
 Window& add_record(System& state, std::shared_ptr<WindowClass> window_class,
                    const CREATESTRUCTW& create) {
   auto record = std::make_unique<Window>();
@@ -51,8 +65,8 @@ Window& add_record(System& state, std::shared_ptr<WindowClass> window_class,
   window.procedure = window_class->procedure;
   window.extra.resize(static_cast<std::size_t>(window_class->window_extra));
   window.window_class = std::move(window_class);
-  window.style = static_cast<DWORD>(create.style) & ~WS_VISIBLE;
-  window.ex_style = create.dwExStyle;
+  window.style = first_style(static_cast<DWORD>(create.style));
+  window.ex_style = with_window_edge(window.style, create.dwExStyle);
   window.id = reinterpret_cast<UINT_PTR>(create.hMenu);
   window.instance = create.hInstance;
   window.frame = initial_frame(state, create);
@@ -80,15 +94,23 @@ void discard(HWND window) {
   finish_destruction(window);
 }
 
+// A captioned window is asked for its limits before it is told of its creation.
+bool limit_first_size(HWND window) {
+  const MINMAXINFO limits = ask_limits(window);
+  Window* found = find(window);
+  if (found == nullptr) return false;
+  const SIZE size = within_limits({found->width(), found->height()}, limits);
+  found->frame.right = found->frame.left + window_size(size.cx);
+  found->frame.bottom = found->frame.top + window_size(size.cy);
+  if (found->surface != nullptr) found->surface->resize(found->width(), found->height());
+  return true;
+}
+
 // WM_NCCREATE to WM_MOVE; false when the window was refused or destroyed.
 bool bring_to_life(HWND window, CREATESTRUCTW& create) {
   auto lparam = reinterpret_cast<LPARAM>(&create);
   const bool captioned = find(window)->has_caption();
-  if (captioned) {
-    MINMAXINFO info{};
-    send(window, WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&info));
-  }
-  if (find(window) == nullptr) return false;
+  if (captioned && !limit_first_size(window)) return false;
   if (send(window, WM_NCCREATE, 0, lparam) == 0) {
     discard(window);
     return false;
@@ -136,7 +158,9 @@ HWND CreateWindowExW(DWORD ex_style, LPCWSTR class_name, LPCWSTR window_name, DW
     const WPARAM what = MAKEWPARAM(WM_CREATE, static_cast<DWORD_PTR>(GetDlgCtrlID(window)));
     notify_parents(window, what, [window](HWND) { return reinterpret_cast<LPARAM>(window); });
   }
-  if ((style & WS_VISIBLE) != 0 && find(window) != nullptr) ShowWindow(window, SW_SHOW);
+  if ((style & WS_VISIBLE) != 0 && find(window) != nullptr) {
+    ShowWindow(window, first_show_command(style));
+  }
   return find(window) == nullptr ? nullptr : window;
 }
 

@@ -1,23 +1,55 @@
 #include "corvane/platform/system/user/windows/show_window.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "corvane/platform/system/user/input/activation.h"
 #include "corvane/platform/system/user/messages/send_message.h"
 #include "corvane/platform/system/user/painting/painting.h"
+#include "corvane/platform/system/user/windows/show_state.h"
 #include "corvane/platform/system/user/windows/window_geometry.h"
 #include "corvane/platform/system/user/windows/z_order.h"
 
 namespace corvane::system {
 namespace {
 
+// Before the window is shown; nothing: it stays as it is.
+using StateChange = bool (*)(HWND window);
+
+struct ShowCommand {
+  int command;
+  bool activates;
+  StateChange change;
+};
+constexpr ShowCommand kShowCommands[] = {
+    {SW_SHOWNORMAL, true, restore_to_normal},
+    {SW_SHOWMINIMIZED, false, minimize},
+    {SW_SHOWMAXIMIZED, true, maximize},
+    {SW_SHOWNOACTIVATE, false, restore_to_normal},
+    {SW_SHOW, true, nullptr},
+    {SW_MINIMIZE, false, minimize},
+    {SW_SHOWMINNOACTIVE, false, minimize},
+    {SW_SHOWNA, false, nullptr},
+    {SW_RESTORE, true, restore},
+    {SW_SHOWDEFAULT, true, restore_to_normal},
+    {SW_FORCEMINIMIZE, false, minimize},
+};
+
+// An unknown command is SW_SHOW.
+const ShowCommand& row_of(int command) {
+  const auto* row = std::ranges::find(kShowCommands, command, &ShowCommand::command);
+  return row != std::end(kShowCommands) ? *row : row_of(SW_SHOW);
+}
+
 bool activates(const Window& window, int command) {
   return is_top_level(window) && (window.ex_style & WS_EX_NOACTIVATE) == 0 &&
-         command != SW_SHOWNOACTIVATE && command != SW_SHOWNA;
+         row_of(command).activates;
 }
 
 UINT show_flags(const Window& window, int command) {
   UINT flags = SWP_NOSIZE | SWP_NOMOVE | SWP_SHOWWINDOW;
   if (window.is_child()) return flags | SWP_NOZORDER | SWP_NOACTIVATE;
-  if (command == SW_SHOWNA || command == SW_SHOWNOACTIVATE) flags |= SWP_NOACTIVATE;
+  if (!row_of(command).activates) flags |= SWP_NOACTIVATE;
   if (command == SW_SHOWNOACTIVATE) flags |= SWP_NOZORDER;
   return flags;
 }
@@ -36,7 +68,7 @@ void send_first_size(HWND window) {
   Window* found = find(window);
   if (found == nullptr || !found->first_size_due) return;
   found->first_size_due = false;
-  send(window, WM_SIZE, SIZE_RESTORED, client_size_lparam(*found));
+  send(window, WM_SIZE, size_kind(*found), client_size_lparam(*found));
   found = find(window);
   if (found != nullptr) send(window, WM_MOVE, 0, client_position_lparam(*found));
 }
@@ -106,9 +138,8 @@ void make_visible(HWND window) {
   if (!shown_on_screen(*found)) return;
   damage_frame(*system(), *found);
   invalidate_all(*found, true);
-  const RECT area = found->client_area();
-  if (IsRectEmpty(&area)) return;
-  send(window, WM_NCPAINT, 1, 0);
+  if (IsRectEmpty(&found->frame)) return;
+  send_frame_paint(window);
   erase_now(window);
 }
 
@@ -139,8 +170,14 @@ BOOL ShowWindow(HWND window, int command) {
   if (found == nullptr || found->parent == nullptr) return FALSE;
   const bool was_visible = (found->style & WS_VISIBLE) != 0;
   if (command == SW_HIDE) {
+    found->hidden_by_owner = false;
     if (was_visible) hide(window);
-  } else if (!was_visible) {
+    return was_visible ? TRUE : FALSE;
+  }
+  const StateChange change = row_of(command).change;
+  if (change != nullptr && !change(window)) return was_visible ? TRUE : FALSE;
+  found = find(window);
+  if (!was_visible) {
     show(window, command);
   } else if (activates(*found, command)) {
     activate(window, WA_ACTIVE);

@@ -79,6 +79,14 @@ struct Window {
 
   std::array<ScrollBarState, 2> bars;  // by ScrollAxis
   bool bars_due = false;               // the scroll bars are to be drawn
+  bool frame_due = false;              // the whole frame is, with the scroll bars
+  bool frame_active = false;           // drawn as that of the active window
+  int pressed_box = HTNOWHERE;         // HTCLOSE and others while the user holds it down
+
+  // While maximized or minimized: where it goes back to, in the coordinates of `frame`.
+  std::optional<RECT> restored_frame;
+  bool maximized_before = false;        // it was maximized when it was minimized
+  bool hidden_by_owner = false;         // by the minimizing of its owner
 
   LayeredState layered;
   std::shared_ptr<Surface> surface;  // top-level and layered windows: pixels of the whole frame

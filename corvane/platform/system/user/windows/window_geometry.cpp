@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "corvane/platform/system/user/frames/window_frame.h"
 #include "corvane/platform/system/user/messages/send_message.h"
 #include "corvane/platform/system/user/painting/painting.h"
 
@@ -45,6 +46,11 @@ void copy_pixels(Surface& surface, const Region& target, int dx, int dy) {
     }
     surface.mark(rect);
   }
+}
+
+// Where the client area begins in the window.
+POINT client_offset(const RECT& frame, const RECT& client) {
+  return {client.left - frame.left, client.top - frame.top};
 }
 
 // What a changed size leaves to be painted: everything, or the strips that are new.
@@ -118,8 +124,10 @@ Moved apply_move(HWND window, const Move& move, WINDOWPOS* position) {
   const RECT old_client = found->client;
   const RECT old_screen = frame_on_screen(*found);
   const bool resized = !same_size(old_frame, move.frame);
+  const bool measures = resized || move.recalculate ||
+                        framed_natively(*found, old_frame) != framed_natively(*found, move.frame);
   RECT client = old_client;
-  if (resized || move.recalculate) {
+  if (measures) {
     client = ask_client(window, move.frame, position);
     found = find(window);
     if (found == nullptr) return {};
@@ -149,8 +157,14 @@ Moved apply_move(HWND window, const Move& move, WINDOWPOS* position) {
       if (shown_on_screen(*found)) invalidate_uncovered(*found->parent, rect);
     }
   }
-  found->bars_due = found->bars_due || resized || move.recalculate;
-  if (moved.client_resized) {
+  found->frame_due = found->frame_due || (measures && has_non_client_area(*found));
+  const POINT before = client_offset(old_frame, old_client);
+  const POINT after = client_offset(found->frame, found->client);
+  if (before.x != after.x || before.y != after.y) {
+    // The pixels lie where they lay in the window.
+    found->update.intersect(found->client_area());
+    invalidate(*found, Region(found->client_area()), true, Children::always);
+  } else if (moved.client_resized) {
     found->update.intersect(found->client_area());
     invalidate(*found, newly_needed(*found, old_client), true);
   }

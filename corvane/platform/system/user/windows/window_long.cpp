@@ -1,6 +1,7 @@
 // GetWindowLong, SetWindowLong: styles, procedure, id and the window's extra bytes.
 #include <cstring>
 
+#include "corvane/platform/system/user/frames/frame_layout.h"
 #include "corvane/platform/system/user/messages/send_message.h"
 #include "corvane/platform/system/user/windows/window_geometry.h"
 
@@ -30,9 +31,10 @@ LONG_PTR change_style(HWND window, int index, DWORD value) {
     // What a window is to its parent cannot change under it.
     constexpr DWORD kFixed = WS_CHILD;
     found->style = (styles.styleNew & ~kFixed) | (found->style & kFixed);
+    found->ex_style = with_window_edge(found->style, found->ex_style);
   } else {
     const bool was_layered = found->is_layered();
-    found->ex_style = styles.styleNew;
+    found->ex_style = with_window_edge(found->style, styles.styleNew);
     if (was_layered != found->is_layered()) layered_style_changed(*found);
   }
   styles.styleOld = old;

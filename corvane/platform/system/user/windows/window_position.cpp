@@ -71,7 +71,7 @@ void change_geometry(HWND window, WINDOWPOS& position) {
   if (found == nullptr) return;
   const bool resized = (position.flags & SWP_NOSIZE) == 0;
   if (resized && move.redraw && !found->is_child() && shown_on_screen(*found)) {
-    send(window, WM_NCPAINT, 1, 0);
+    send_frame_paint(window);
     erase_now(window);
   }
 }
