@@ -57,7 +57,7 @@ void on_size(const SentMessage& sent) {
 
 void on_close(const SentMessage& sent) { send(sent.window, WM_CLOSE); }
 void on_maximize(const SentMessage& sent) { ShowWindow(sent.window, SW_SHOWMAXIMIZED); }
-void on_minimize(const SentMessage& sent) { ShowWindow(sent.window, SW_SHOWMINIMIZED); }
+void on_minimize(const SentMessage& sent) { ShowWindow(sent.window, SW_MINIMIZE); }
 void on_restore(const SentMessage& sent) { ShowWindow(sent.window, SW_RESTORE); }
 
 struct SystemCommand {

@@ -32,7 +32,8 @@ void deactivate_program(System& state) {
 
 HWND next_active_after(const System& state, HWND window) {
   for (const Window* other : state.desktop->children) {
-    if (other->handle != window && may_be_active(*other)) return other->handle;
+    const bool minimized = (other->style & WS_MINIMIZE) != 0;
+    if (other->handle != window && !minimized && may_be_active(*other)) return other->handle;
   }
   return nullptr;
 }

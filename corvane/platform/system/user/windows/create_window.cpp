@@ -102,6 +102,7 @@ bool limit_first_size(HWND window) {
   const SIZE size = within_limits({found->width(), found->height()}, limits);
   found->frame.right = found->frame.left + window_size(size.cx);
   found->frame.bottom = found->frame.top + window_size(size.cy);
+  found->client = found->frame;
   if (found->surface != nullptr) found->surface->resize(found->width(), found->height());
   return true;
 }

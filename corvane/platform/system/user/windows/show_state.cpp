@@ -106,9 +106,7 @@ bool minimize(HWND window) {
   if (!found->restored_frame) found->restored_frame = found->frame;
   hide_owned_windows(window);
   found = find(window);
-  if (found == nullptr || !change_state(window, WS_MINIMIZE, minimized_frame(*found))) return false;
-  activate_next_after(window);
-  return find(window) != nullptr;
+  return found != nullptr && change_state(window, WS_MINIMIZE, minimized_frame(*found));
 }
 
 bool restore(HWND window) {

@@ -23,7 +23,7 @@ struct ShowCommand {
 };
 constexpr ShowCommand kShowCommands[] = {
     {SW_SHOWNORMAL, true, restore_to_normal},
-    {SW_SHOWMINIMIZED, false, minimize},
+    {SW_SHOWMINIMIZED, true, minimize},
     {SW_SHOWMAXIMIZED, true, maximize},
     {SW_SHOWNOACTIVATE, false, restore_to_normal},
     {SW_SHOW, true, nullptr},
@@ -96,6 +96,14 @@ void show(HWND window, int command) {
   position.flags |= SWP_NOCLIENTMOVE | SWP_NOCLIENTSIZE;
   send(window, WM_WINDOWPOSCHANGED, 0, reinterpret_cast<LPARAM>(&position));
   send_first_size(window);
+}
+
+// False: the window is gone.
+bool change_before_showing(HWND window, int command) {
+  const ShowCommand& row = row_of(command);
+  if (row.change != nullptr && !row.change(window)) return false;
+  if (row.change == minimize && !row.activates) activate_next_after(window);
+  return find(window) != nullptr;
 }
 
 void leave_hidden(HWND window) {
@@ -172,15 +180,12 @@ BOOL ShowWindow(HWND window, int command) {
   if (command == SW_HIDE) {
     found->hidden_by_owner = false;
     if (was_visible) hide(window);
-    return was_visible ? TRUE : FALSE;
-  }
-  const StateChange change = row_of(command).change;
-  if (change != nullptr && !change(window)) return was_visible ? TRUE : FALSE;
-  found = find(window);
-  if (!was_visible) {
-    show(window, command);
-  } else if (activates(*found, command)) {
-    activate(window, WA_ACTIVE);
+  } else if (change_before_showing(window, command)) {
+    if (!was_visible) {
+      show(window, command);
+    } else if (activates(*find(window), command)) {
+      activate(window, WA_ACTIVE);
+    }
   }
   return was_visible ? TRUE : FALSE;
 }
