@@ -150,6 +150,7 @@ void SetLastError(DWORD code);
 #define ERROR_SUCCESS 0u
 #define ERROR_ACCESS_DENIED 5u
 #define ERROR_INVALID_HANDLE 6u
+#define ERROR_NOT_ENOUGH_MEMORY 8u
 #define ERROR_INVALID_PARAMETER 87u
 #define ERROR_INVALID_WINDOW_HANDLE 1400u
 #define ERROR_TLW_WITH_WSCHILD 1406u
@@ -158,6 +159,7 @@ void SetLastError(DWORD code);
 #define ERROR_CLASS_DOES_NOT_EXIST 1411u
 #define ERROR_CONTROL_ID_NOT_FOUND 1421u
 #define ERROR_NO_SCROLLBARS 1447u
+#define ERROR_NOT_ENOUGH_QUOTA 1816u
 
 }  // namespace corvane_system
 using namespace corvane_system;  // NOLINT: the platform's names are global, as on Windows

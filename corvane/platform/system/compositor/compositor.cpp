@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <iterator>
 
 #include "corvane/platform/geometry.h"
 #include "corvane/platform/system/compositor/row_composer.h"
@@ -60,11 +61,11 @@ bool hides_what_is_below(const Layer& layer) {
   return layer.alpha == 255 && !layer.keyed && !layer.pixel_alpha;
 }
 
-std::vector<const Layer*> stack_at(const std::vector<Placed>& placed, int x, int y) {
+std::vector<const Layer*> stack_at(const std::vector<Placed>& placed, int x) {
   std::vector<const Layer*> stack;
   for (auto one = placed.rbegin(); one != placed.rend(); ++one) {
     const RECT& area = one->area;
-    if (x < area.left || x >= area.right || y < area.top || y >= area.bottom) continue;
+    if (x < area.left || x >= area.right) continue;
     stack.push_back(one->layer);
     if (hides_what_is_below(*one->layer)) break;
   }
@@ -72,11 +73,12 @@ std::vector<const Layer*> stack_at(const std::vector<Placed>& placed, int x, int
   return stack;
 }
 
-std::vector<Span> spans_of_row(const std::vector<Placed>& placed, const RECT& rect, int y) {
+// `placed` are those that touch the row.
+std::vector<Span> spans_of_row(const std::vector<Placed>& placed, const RECT& rect) {
   std::vector<Span> spans;
   const std::vector<int> columns = edges(placed, &RECT::left, &RECT::right, rect.left, rect.right);
   for (std::size_t i = 0; i + 1 < columns.size(); ++i) {
-    std::vector<const Layer*> stack = stack_at(placed, columns[i], y);
+    std::vector<const Layer*> stack = stack_at(placed, columns[i]);
     if (!spans.empty() && spans.back().stack == stack) {
       spans.back().right = columns[i + 1];
     } else {
@@ -86,12 +88,20 @@ std::vector<Span> spans_of_row(const std::vector<Placed>& placed, const RECT& re
   return spans;
 }
 
+std::vector<Placed> touching(const std::vector<Placed>& placed, int y) {
+  std::vector<Placed> result;
+  std::copy_if(placed.begin(), placed.end(), std::back_inserter(result), [y](const Placed& one) {
+    return y >= one.area.top && y < one.area.bottom;
+  });
+  return result;
+}
+
 void compose_rect(Surface& frame, const RECT& rect, const std::vector<Layer>& layers,
                   RowComposer& composer) {
   const std::vector<Placed> placed = place(layers, rect);
   const std::vector<int> rows = edges(placed, &RECT::top, &RECT::bottom, rect.top, rect.bottom);
   for (std::size_t band = 0; band + 1 < rows.size(); ++band) {
-    const std::vector<Span> spans = spans_of_row(placed, rect, rows[band]);
+    const std::vector<Span> spans = spans_of_row(touching(placed, rows[band]), rect);
     for (int y = rows[band]; y < rows[band + 1]; ++y) {
       Pixel* const row = frame.row(y);
       assert(row != nullptr);

@@ -41,13 +41,14 @@ void unregister_system(std::uintptr_t tag) {
   all.systems.erase(tag >> kTagShift);
 }
 
-bool post_from_any_thread(const MSG& message) {
+MessageQueue::Posted post_from_any_thread(const MSG& message) {
   Registry& all = registry();
   const std::lock_guard lock(all.mutex);
   auto it = all.systems.find(reinterpret_cast<std::uintptr_t>(message.hwnd) >> kTagShift);
-  if (it == all.systems.end() || !it->second->queue.post(message)) return false;
-  it->second->display->wake();
-  return true;
+  if (it == all.systems.end()) return MessageQueue::Posted::no_window;
+  const MessageQueue::Posted done = it->second->queue.post(message);
+  if (done == MessageQueue::Posted::yes) it->second->display->wake();
+  return done;
 }
 
 }  // namespace corvane::system

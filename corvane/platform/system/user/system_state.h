@@ -42,6 +42,7 @@ struct WindowSystem::Impl {
 
   std::unordered_map<HWND, std::unique_ptr<Window>> windows;
   Window* desktop = nullptr;
+  HWND lifted = nullptr;  // whose group stands on top already, see z_order.cpp
   std::map<std::wstring, std::shared_ptr<WindowClass>> classes;  // by lower-case name
   std::map<std::wstring, UINT> registered_messages;              // by lower-case name
   std::vector<Hook> hooks;

@@ -84,6 +84,7 @@ TEST_F(QueueTest, PostingToNoWindowMakesAThreadMessage) {
 TEST_F(QueueTest, HoldsTenThousandMessages) {
   for (int times = 0; times < 10000; ++times) ASSERT_NE(PostMessageW(popup_, WM_USER, 0, 0), 0);
   EXPECT_EQ(PostMessageW(popup_, WM_USER, 0, 0), 0);
+  EXPECT_EQ(GetLastError(), ERROR_NOT_ENOUGH_QUOTA);
   EXPECT_EQ(next(nullptr, 0, 0), WM_USER);
   EXPECT_NE(PostMessageW(popup_, WM_USER, 0, 0), 0);
 }

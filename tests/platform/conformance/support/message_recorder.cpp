@@ -117,7 +117,8 @@ LRESULT MessageRecorder::handle(const Message& sent) {
 LRESULT MessageRecorder::paint(HWND window, std::optional<std::size_t> line) {
   PAINTSTRUCT paint{};
   BeginPaint(window, &paint);
-  append(line, " " + test::text_of(paint.rcPaint) + " fErase=" + std::to_string(paint.fErase));
+  append(line, test::text_of(paint.rcPaint).insert(0, 1, ' ') +
+                   " fErase=" + std::to_string(paint.fErase));
   const auto painter = painters_.find(name_of(window));
   if (painter != painters_.end()) painter->second(paint);
   EndPaint(window, &paint);

@@ -11,21 +11,27 @@ constexpr std::size_t kMaxMessages = 10000;
 
 void MessageQueue::add_window(HWND window) {
   const std::lock_guard lock(mutex_);
-  windows_.insert(window);
+  windows_.emplace(window, 0);
 }
 
 void MessageQueue::remove_window(HWND window) {
   const std::lock_guard lock(mutex_);
-  windows_.erase(window);
+  const auto found = windows_.find(window);
+  if (found == windows_.end()) return;
+  const bool waited_for = found->second > 0;
+  windows_.erase(found);
+  if (!waited_for) return;
   std::erase_if(messages_, [window](const MSG& message) { return message.hwnd == window; });
 }
 
-bool MessageQueue::post(const MSG& message) {
+MessageQueue::Posted MessageQueue::post(const MSG& message) {
   const std::lock_guard lock(mutex_);
-  if (message.hwnd != nullptr && windows_.count(message.hwnd) == 0) return false;
-  if (messages_.size() >= kMaxMessages) return false;
+  const auto found = windows_.find(message.hwnd);
+  if (message.hwnd != nullptr && found == windows_.end()) return Posted::no_window;
+  if (messages_.size() >= kMaxMessages) return Posted::full;
   messages_.push_back(message);
-  return true;
+  if (message.hwnd != nullptr) ++found->second;
+  return Posted::yes;
 }
 
 void MessageQueue::post_quit(int exit_code) {

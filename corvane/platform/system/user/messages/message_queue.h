@@ -3,7 +3,7 @@
 #include <deque>
 #include <mutex>
 #include <optional>
-#include <unordered_set>
+#include <unordered_map>
 
 #include "corvane/platform/system/user/user_api.h"
 
@@ -15,9 +15,12 @@ class MessageQueue {
   void add_window(HWND window);
   void remove_window(HWND window);
 
-  // False when the window is not one of this queue's (null: a thread message), or when more
-  // messages wait than a program that retrieves any would leave.
-  bool post(const MSG& message);
+  enum class Posted {
+    yes,
+    no_window,  // the window is not one of this queue's; null is one: for thread messages
+    full        // more messages wait than a program that retrieves any would leave
+  };
+  Posted post(const MSG& message);
   void post_quit(int exit_code);
 
   // The first message that `matches`; erases it when `remove` is set.
@@ -27,7 +30,10 @@ class MessageQueue {
     for (auto it = messages_.begin(); it != messages_.end(); ++it) {
       if (!matches(*it)) continue;
       MSG found = *it;
-      if (remove) messages_.erase(it);
+      if (remove) {
+        if (found.hwnd != nullptr) --windows_.at(found.hwnd);
+        messages_.erase(it);
+      }
       return found;
     }
     return std::nullopt;
@@ -37,7 +43,7 @@ class MessageQueue {
  private:
   std::mutex mutex_;
   std::deque<MSG> messages_;
-  std::unordered_set<HWND> windows_;
+  std::unordered_map<HWND, int> windows_;  // and how many messages wait for each
   std::optional<int> quit_;
 };
 

@@ -4,10 +4,10 @@
 
 namespace corvane::system {
 
-bool post(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+MessageQueue::Posted post(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
   System* state = system();
-  return state != nullptr &&
-         state->queue.post(make_message(*state, window, message, wparam, lparam));
+  if (state == nullptr) return MessageQueue::Posted::no_window;
+  return state->queue.post(make_message(*state, window, message, wparam, lparam));
 }
 
 }  // namespace corvane::system
@@ -16,13 +16,17 @@ namespace corvane_system {
 using namespace corvane::system;
 
 BOOL PostMessageW(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
-  if (post(window, message, wparam, lparam)) return TRUE;
-  // A window of another thread, or of another system of this one.
-  const System* state = corvane::system::system();
-  const MSG posted = state == nullptr ? MSG{window, message, wparam, lparam, 0, {}}
-                                      : make_message(*state, window, message, wparam, lparam);
-  if (window != nullptr && post_from_any_thread(posted)) return TRUE;
-  SetLastError(ERROR_INVALID_WINDOW_HANDLE);
+  using Posted = MessageQueue::Posted;
+  Posted done = post(window, message, wparam, lparam);
+  if (done == Posted::no_window && window != nullptr) {
+    // A window of another thread, or of another system of this one.
+    const System* state = corvane::system::system();
+    const MSG posted = state == nullptr ? MSG{window, message, wparam, lparam, 0, {}}
+                                        : make_message(*state, window, message, wparam, lparam);
+    done = post_from_any_thread(posted);
+  }
+  if (done == Posted::yes) return TRUE;
+  SetLastError(done == Posted::full ? ERROR_NOT_ENOUGH_QUOTA : ERROR_INVALID_WINDOW_HANDLE);
   return FALSE;
 }
 

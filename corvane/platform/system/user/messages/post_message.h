@@ -3,7 +3,7 @@
 
 namespace corvane::system {
 
-// Posts a message as the system does (time and pointer position of now). False: no such window.
-bool post(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
+// Posts a message as the system does (time and pointer position of now).
+MessageQueue::Posted post(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
 
 }  // namespace corvane::system

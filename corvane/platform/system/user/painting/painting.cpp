@@ -67,7 +67,7 @@ void invalidate(Window& window, const Region& region, bool erase, Children child
   const bool descend =
       children == Children::always || (children == Children::by_style && !clips_children);
   if (descend) {
-    for (Window* child : std::vector<Window*>(window.children)) {
+    for (Window* child : window.children) {
       invalidate_child(*child, own, true, children);
     }
   }

@@ -14,9 +14,15 @@ using namespace corvane::system;
 namespace {
 
 // The window that a pop-up created with this parent is owned by.
-HWND owner_for(HWND parent) {
+Window* owner_for(HWND parent) {
   Window* found = find(parent);
-  return found == nullptr || found->parent == nullptr ? nullptr : top_level_of(*found)->handle;
+  return found == nullptr || found->parent == nullptr ? nullptr : top_level_of(*found);
+}
+
+bool nested_too_deep(System& state, DWORD style, HWND parent) {
+  if ((style & WS_CHILD) != 0) return depth_of(*find(parent)) >= kMaxNesting;
+  const Window* owner = owner_for(parent);
+  return owner != nullptr && owners_of(state, *owner) >= kMaxNesting;
 }
 
 RECT initial_frame(const System& state, const CREATESTRUCTW& create) {
@@ -30,7 +36,8 @@ RECT initial_frame(const System& state, const CREATESTRUCTW& create) {
 }
 
 // The checks that refuse a creation; sets the error code.
-bool creatable(const std::shared_ptr<WindowClass>& window_class, DWORD style, HWND parent) {
+bool creatable(System& state, const std::shared_ptr<WindowClass>& window_class, DWORD style,
+               HWND parent) {
   DWORD error = ERROR_SUCCESS;
   if (window_class == nullptr) {
     error = ERROR_CLASS_DOES_NOT_EXIST;
@@ -40,6 +47,8 @@ bool creatable(const std::shared_ptr<WindowClass>& window_class, DWORD style, HW
     error = ERROR_INVALID_WINDOW_HANDLE;
   } else if (Window* found = find(parent); found != nullptr && found->destroying) {
     error = ERROR_INVALID_WINDOW_HANDLE;
+  } else if (nested_too_deep(state, style, parent)) {
+    error = ERROR_INVALID_PARAMETER;
   }
   if (error != ERROR_SUCCESS) SetLastError(error);
   return error == ERROR_SUCCESS;
@@ -81,8 +90,7 @@ void link(System& state, Window& window, HWND parent) {
     insert_child(*state.find(parent), window);
   } else {
     window.style |= WS_CLIPSIBLINGS;
-    window.owner = owner_for(parent);
-    insert_top_level(state, window);
+    insert_top_level(state, window, owner_for(parent));
   }
   if (is_top_level(window) || window.is_layered()) {
     window.surface = std::make_shared<Surface>(window.width(), window.height());
@@ -143,7 +151,7 @@ HWND CreateWindowExW(DWORD ex_style, LPCWSTR class_name, LPCWSTR window_name, DW
   System* state = corvane::system::system();
   if (state == nullptr) return nullptr;
   auto window_class = find_class(*state, class_name);
-  if (!creatable(window_class, style, parent)) return nullptr;
+  if (!creatable(*state, window_class, style, parent)) return nullptr;
   CREATESTRUCTW create{
       parameter,   instance,   menu_or_id, parent, height, width, y, x, static_cast<LONG>(style),
       window_name, class_name, ex_style};

@@ -17,11 +17,10 @@ std::vector<HWND> living_children_of(HWND window) {
 }
 
 void destroy_owned_windows(HWND window) {
-  std::vector<HWND> owned;
-  for (const Window* top : system()->desktop->children) {
-    if (top->owner == window) owned.push_back(top->handle);
-  }
-  for (HWND handle : owned) {
+  System& state = *system();
+  const Window* found = state.find(window);
+  if (found == nullptr) return;
+  for (HWND handle : owned_windows(state, *found)) {
     if (find(handle) != nullptr) DestroyWindow(handle);
   }
 }
@@ -92,7 +91,7 @@ void forget_window(HWND window) {
   state.timers.remove_window(window);
   state.queue.remove_window(window);
   forget_input(state, window);
-  unlink(*found);
+  unlink(state, *found);
   state.windows.erase(window);
 }
 

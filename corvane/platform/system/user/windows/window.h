@@ -3,6 +3,7 @@
 // handler may destroy any window, so code looks windows up again by handle.
 #include <array>
 #include <cstdint>
+#include <list>
 #include <memory>
 #include <optional>
 #include <string>
@@ -53,6 +54,9 @@ struct ScrollBarState {
   std::optional<ThumbDrag> drag;
 };
 
+struct Window;
+using WindowList = std::list<Window*>;
+
 struct Window {
   HWND handle = nullptr;
   std::shared_ptr<WindowClass> window_class;
@@ -63,9 +67,13 @@ struct Window {
   RECT frame{};
   RECT client{};
 
-  Window* parent = nullptr;       // the desktop for top-level windows
-  HWND owner = nullptr;           // top-level windows only
-  std::vector<Window*> children;  // z-order, top first
+  // z_order.h changes these.
+  Window* parent = nullptr;    // the desktop for top-level windows
+  WindowList children;         // z-order, top first
+  WindowList::iterator place;  // among the parent's children, when there is a parent
+  HWND owner = nullptr;        // top-level windows only
+  WindowList owned;            // in no order
+  WindowList::iterator owned_place;  // among the owner's, when there is an owner
   UINT_PTR id = 0;                // child id or menu
   HINSTANCE instance = nullptr;
   std::wstring text;

@@ -35,6 +35,7 @@ LONG_PTR change_style(HWND window, int index, DWORD value) {
   } else {
     const bool was_layered = found->is_layered();
     found->ex_style = with_window_edge(found->style, styles.styleNew);
+    corvane::system::system()->lifted = nullptr;  // it may be topmost now, or no longer
     if (was_layered != found->is_layered()) layered_style_changed(*found);
   }
   styles.styleOld = old;

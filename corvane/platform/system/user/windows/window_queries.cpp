@@ -14,12 +14,21 @@ namespace {
 HWND handle_of(const Window* window) { return window == nullptr ? nullptr : window->handle; }
 
 HWND sibling(const Window& window, UINT relation) {
-  const auto& order = window.parent->children;
-  auto it = std::find(order.begin(), order.end(), &window);
+  const WindowList& order = window.parent->children;
   if (relation == GW_HWNDFIRST) return order.front()->handle;
   if (relation == GW_HWNDLAST) return order.back()->handle;
-  if (relation == GW_HWNDNEXT) return it + 1 == order.end() ? nullptr : (*(it + 1))->handle;
-  return it == order.begin() ? nullptr : (*(it - 1))->handle;
+  const auto next = std::next(window.place);
+  if (relation == GW_HWNDNEXT) return next == order.end() ? nullptr : (*next)->handle;
+  return window.place == order.begin() ? nullptr : (*std::prev(window.place))->handle;
+}
+
+// A window is no parent of itself, of one that it lies in, or of one that owns it: parents and
+// owners would go round in a circle.
+bool may_become_parent(System& state, Window& parent, const Window& window) {
+  if (&parent == &window || is_descendant(window, parent)) return false;
+  if (parent.parent == nullptr) return true;
+  return !owned_by(state, window, *top_level_of(parent)) &&
+         depth_of(parent) + depth_of_children(window) < kMaxNesting;
 }
 
 void shift(LPPOINT points, UINT count, POINT by) {
@@ -95,19 +104,27 @@ HWND SetParent(HWND window, HWND parent) {
   System* state = corvane::system::system();
   Window* found = checked(window);
   Window* target = parent == nullptr && state != nullptr ? state->desktop : checked(parent);
-  if (found == nullptr || target == nullptr || found->parent == nullptr || found == target ||
-      is_descendant(*found, *target) || found->destroying || target->destroying) {
+  if (found == nullptr || target == nullptr || found->parent == nullptr || found->destroying ||
+      target->destroying) {
+    return nullptr;
+  }
+  if (!may_become_parent(*state, *target, *found)) {
+    SetLastError(ERROR_INVALID_PARAMETER);
     return nullptr;
   }
   HWND old = found->parent->handle;
   const BOOL was_visible = ShowWindow(window, SW_HIDE);
   found = find(window);
   target = parent == nullptr ? state->desktop : find(parent);
-  if (found == nullptr || target == nullptr) return nullptr;
-  unlink(*found);
-  found->owner = nullptr;
-  target->children.insert(target->children.begin(), found);
-  found->parent = target;
+  if (found == nullptr || target == nullptr || !may_become_parent(*state, *target, *found)) {
+    return nullptr;
+  }
+  detach(*state, *found);
+  if (target == state->desktop) {
+    insert_top_level(*state, *found);
+  } else {
+    insert_child(*target, *found, Among::top);
+  }
   const bool own = is_top_level(*found) || found->is_layered();
   found->surface = own ? std::make_shared<Surface>(found->width(), found->height()) : nullptr;
   if (was_visible) ShowWindow(window, SW_SHOW);
