@@ -1,4 +1,5 @@
 #include <cmath>
+#include <limits>
 #include <tuple>
 
 #include "corvane/platform/system/gdi/font_faces.h"
@@ -147,12 +148,18 @@ TEST_F(GdiText, OddTextIsHarmless) {
   EXPECT_NE(DrawTextW(dc, huge.c_str(), -1, &rect, DT_WORDBREAK), 0);
   rect = {2147483647, 2147483647, -2147483647, -2147483647};
   DrawTextW(dc, L"x", 1, &rect, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+  constexpr LONG kLeast = std::numeric_limits<LONG>::min();
+  rect = {kLeast, kLeast, 0, 0};
+  EXPECT_EQ(DrawTextW(dc, L"two words", -1, &rect, DT_WORDBREAK | DT_CALCRECT),
+            extent(L"two words").cy);
   EXPECT_FALSE(ExtTextOutW(dc, 0, 0, 0, nullptr, huge.c_str(), 200000, nullptr));
   EXPECT_EQ(to_utf8({odd, 2}), "\xEF\xBF\xBD\xEF\xBF\xBD");
   const wchar_t pair[] = {0xD83D, 0xDE00};
   EXPECT_EQ(to_utf8({pair, 2}), "\xF0\x9F\x98\x80");
-  select(2000000000, L"宋体");
-  EXPECT_TRUE(TextOutW(dc, 0, 0, L"x", 1));
+  for (const LONG height : {LONG{2000000000}, kLeast}) {
+    select(height, L"宋体");
+    EXPECT_TRUE(TextOutW(dc, 0, 0, L"x", 1));
+  }
 }
 
 TEST_F(GdiText, SpacingPlacesEachCharacter) {

@@ -17,6 +17,7 @@ class HeadlessDisplay : public Display {
   int event_fd() const override { return wake_.fd(); }
   void set_cursor(CursorShape shape) override { cursor_ = shape; }
   bool has_native_frame() const override { return native_frame_; }
+  void set_capture(bool captured) override { captured_ = captured; }
 
   // As if its native window had a frame; none has one from the start.
   void set_native_frame(bool framed) { native_frame_ = framed; }
@@ -24,6 +25,7 @@ class HeadlessDisplay : public Display {
   void push(const InputEvent& event);
   void resize(SIZE size);  // arrives as a resize event
   CursorShape cursor() const { return cursor_; }
+  bool captured() const { return captured_; }
   const Surface& frame() const { return frame_; }  // what was last presented
   int presents() const { return presents_; }
 
@@ -32,6 +34,7 @@ class HeadlessDisplay : public Display {
   bool native_frame_ = false;
   std::uint64_t now_ = 1000;
   CursorShape cursor_ = CursorShape::arrow;
+  bool captured_ = false;
   Surface frame_;
   int presents_ = 0;
   std::vector<InputEvent> pending_;

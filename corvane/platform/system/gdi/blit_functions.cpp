@@ -30,8 +30,8 @@ void draw(DeviceContext& target, const DeviceContext& source, const Stretch& str
                          stretch.target_y.length == stretch.source_y.length;
   if (same_size && target.monochrome == source.monochrome) {
     copy_pixels(target, *area, *source.surface,
-                {offset_by(stretch.source_x.start, -stretch.target_x.start),
-                 offset_by(stretch.source_y.start, -stretch.target_y.start)});
+                {distance(stretch.target_x.start, stretch.source_x.start),
+                 distance(stretch.target_y.start, stretch.source_y.start)});
   } else {
     stretch_pixels(target, source, stretch);
   }

@@ -51,8 +51,8 @@ int GetClipBox(HDC dc, LPRECT rect) {
   *rect = clip.bounds();
   const POINT origin = context->origin();
   if (!clip.empty()) {
-    *rect = {offset_by(rect->left, -origin.x), offset_by(rect->top, -origin.y),
-             offset_by(rect->right, -origin.x), offset_by(rect->bottom, -origin.y)};
+    *rect = {distance(origin.x, rect->left), distance(origin.y, rect->top),
+             distance(origin.x, rect->right), distance(origin.y, rect->bottom)};
   }
   return kind_of(clip);
 }

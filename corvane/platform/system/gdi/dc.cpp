@@ -5,6 +5,7 @@
 namespace corvane::system {
 
 LONG offset_by(LONG value, LONG delta) { return clamp_to_summable(std::int64_t{value} + delta); }
+LONG distance(LONG from, LONG to) { return clamp_to_summable(std::int64_t{to} - from); }
 
 std::optional<RECT> ordered(const RECT& rect) {
   if (rect.left == rect.right || rect.top == rect.bottom) return std::nullopt;

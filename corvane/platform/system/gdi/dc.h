@@ -68,8 +68,9 @@ class Painter {
   RECT touched_{0, 0, 0, 0};
 };
 
-// Overflow-safe sum, far outside any surface at worst.
+// Overflow-safe sum and difference, far outside any surface at worst.
 LONG offset_by(LONG value, LONG delta);
+LONG distance(LONG from, LONG to);
 
 // Left < right and top < bottom, with the side given first inside and the other one outside, also
 // for an inverted rectangle: (30, 10) becomes (11, 31). Nothing when a side is 0.

@@ -18,7 +18,6 @@ class TextEngine;
 
 constexpr int kStockObjects = DEFAULT_GUI_FONT + 1;
 constexpr int kSystemColors = 31;
-constexpr DWORD kErrorNotEnoughMemory = 8;
 
 struct Gdi::Impl {
   Impl();
@@ -66,7 +65,7 @@ Result softly(Result failure, Function function) {
   try {
     return function();
   } catch (const std::exception&) {
-    SetLastError(kErrorNotEnoughMemory);
+    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
     return failure;
   }
 }

@@ -13,7 +13,6 @@ using namespace corvane::system;
 namespace {
 
 constexpr int kMaxPenWidth = 32767;
-constexpr std::int64_t kMaxBitmapPixels = std::int64_t{1} << 28;  // pixels; 1 GiB
 
 template <class Handle>
 Handle add(GdiObject object) {
@@ -27,10 +26,8 @@ std::shared_ptr<Surface> make_pixels(int width, int height) {
     SetLastError(ERROR_INVALID_PARAMETER);
     return nullptr;
   }
-  const bool too_large = std::max(width, height) > 65535 ||
-                         std::int64_t{width} * std::int64_t{height} > kMaxBitmapPixels;
-  if (too_large) {
-    SetLastError(kErrorNotEnoughMemory);
+  if (!Surface::can_hold(width, height)) {
+    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
     return nullptr;
   }
   return std::make_shared<Surface>(width, height);

@@ -12,12 +12,17 @@ namespace corvane::system {
 namespace {
 
 constexpr int kMaxSize = 65535;
+constexpr std::int64_t kMaxPixels = std::int64_t{1} << 28;
 
 int checked_size(int size) { return std::clamp(size, 0, kMaxSize); }
 
 std::size_t index_of(int y) { return static_cast<std::size_t>(y); }
 
 }  // namespace
+
+bool Surface::can_hold(std::int64_t width, std::int64_t height) {
+  return std::max(width, height) <= kMaxSize && width * height <= kMaxPixels;
+}
 
 Surface::Surface(int width, int height, Pixel color)
     : width_(checked_size(width)), height_(checked_size(height)) {

@@ -27,6 +27,9 @@ constexpr COLORREF color_of(Pixel pixel) {
 // Whoever writes pixels marks the rectangle; the compositor collects the marks once per turn.
 class Surface {
  public:
+  // Whether a surface of that size, neither below 0, can be had: 65535 pixels on each side and 2^28
+  // (1 GiB) in all.
+  static bool can_hold(std::int64_t width, std::int64_t height);
   // Sizes below 0 act as 0, above 65535 as 65535.
   Surface(int width, int height, Pixel color = 0);
   Surface(const Surface& other);

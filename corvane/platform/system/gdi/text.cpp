@@ -86,14 +86,14 @@ std::shared_ptr<const TextLayout> lay_out(const DeviceContext& dc, std::wstring_
   if (shown.size() == prefixed.text.size()) request.underlined = prefixed.underlined;
   request.ellipsize = ((format & DT_END_ELLIPSIS) != 0u) && ((format & DT_CALCRECT) == 0u);
   if (request.ellipsize || ((format & DT_WORDBREAK) && !single_line)) {
-    request.wrap_width = std::max(0, offset_by(rect.right, -rect.left));
+    request.wrap_width = std::max(0, distance(rect.left, rect.right));
   }
   return engine().layout(font_of(dc), request);
 }
 
 int line_left(const RECT& rect, int width, UINT format) {
   if (format & DT_CENTER) {
-    return offset_by(rect.left, (offset_by(rect.right, -rect.left) - width) / 2);
+    return offset_by(rect.left, (distance(rect.left, rect.right) - width) / 2);
   }
   if (format & DT_RIGHT) return offset_by(rect.right, -width);
   return rect.left;
@@ -102,7 +102,7 @@ int line_left(const RECT& rect, int width, UINT format) {
 int first_top(const RECT& rect, int height, UINT format) {
   if (!(format & DT_SINGLELINE)) return rect.top;
   if (format & DT_VCENTER) {
-    return offset_by(rect.top, offset_by(rect.bottom, -rect.top) / 2 - height / 2);
+    return offset_by(rect.top, distance(rect.top, rect.bottom) / 2 - height / 2);
   }
   if (format & DT_BOTTOM) return offset_by(rect.bottom, -height);
   return rect.top;

@@ -2,6 +2,8 @@
 
 #include <cwctype>
 
+#include "corvane/platform/geometry.h"
+
 namespace corvane::system {
 
 Window* System::find(HWND window) {
@@ -77,12 +79,15 @@ std::vector<HWND> children_of(const Window& window) {
 }
 
 POINT client_origin(const Window& window) {
-  POINT origin{window.client.left, window.client.top};
-  for (const Window* it = window.parent; it != nullptr; it = it->parent) {
-    origin.x += it->client.left;
-    origin.y += it->client.top;
+  std::int64_t x = 0;
+  std::int64_t y = 0;
+  for (const Window* it = &window; it != nullptr; it = it->parent) {
+    x += it->client.left;
+    y += it->client.top;
   }
-  return origin;
+  // Far outside every surface; the difference of two still has a value.
+  constexpr int kFarAway = 1 << 29;
+  return {clamp_coordinate(x, -kFarAway, kFarAway), clamp_coordinate(y, -kFarAway, kFarAway)};
 }
 
 RECT frame_on_screen(const Window& window) {

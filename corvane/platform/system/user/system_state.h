@@ -27,9 +27,11 @@ struct SystemParameters {
   DWORD wheel_routing = MOUSEWHEEL_ROUTING_MOUSE_POS;
 };
 
-struct OpenPaint {
-  HWND window = nullptr;
-  HDC dc = nullptr;
+// How deep the sent messages that have not returned are nested.
+struct SendNesting {
+  int depth = 0;
+  int base = 0;            // where the message that is being dispatched came in
+  bool exhausted = false;  // it was too deep since
 };
 
 struct WindowSystem::Impl {
@@ -47,14 +49,13 @@ struct WindowSystem::Impl {
   std::map<std::wstring, UINT> registered_messages;              // by lower-case name
   std::vector<Hook> hooks;
   std::size_t running_hook = 0;  // how many were called before it; the newest comes first
-  int send_depth = 0;            // of the sends that have not returned
+  SendNesting sends;
   std::map<HCURSOR, CursorShape> cursors;
 
   MessageQueue queue;
   TimerList timers;
   InputState input;
   SystemParameters parameters;
-  std::vector<OpenPaint> open_paints;
 
   Surface frame;
   Region frame_damage;  // besides what the surfaces marked

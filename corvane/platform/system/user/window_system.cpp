@@ -52,7 +52,12 @@ WindowSystem::~WindowSystem() {
   make_current();
   while (!impl_->desktop->children.empty()) {
     HWND top = impl_->desktop->children.back()->handle;
-    if (!DestroyWindow(top)) forget_window(top);
+    try {
+      if (!DestroyWindow(top)) forget_window(top);
+    } catch (...) {
+      // The window is gone, and nobody is left to whom its handler could tell.
+      assert(impl_->find(top) == nullptr);
+    }
   }
   assert(impl_->windows.size() == 1 && "only the desktop is left");
   unregister_system(impl_->tag);

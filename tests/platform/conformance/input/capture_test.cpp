@@ -1,5 +1,6 @@
 // Mouse capture.
 #include "tests/platform/conformance/support/family_test.h"
+#include "tests/support/own_system.h"
 
 namespace corvane::conformance {
 namespace {
@@ -57,6 +58,7 @@ TEST_F(CaptureTest, ObservedEnds) {
   step("hiding leaves it");
   DestroyWindow(child_);
   step("destroying ends it silently");
+  EXPECT_FALSE(own().display.captured());
 }
 
 TEST_F(CaptureTest, LoserMayTakeTheCaptureBackWithoutHarm) {

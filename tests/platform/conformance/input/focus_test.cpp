@@ -54,6 +54,24 @@ TEST_F(FocusTest, ObservedWhenWindowsAreHidden) {
   step("a top-level window does not remember it", ShowWindow(popup, SW_HIDE));
 }
 
+TEST_F(FocusTest, TwoThatGiveItToEachOtherForEverAreStopped) {
+  int told = 0;
+  for (const auto& [from, to] : {std::pair{"parent", sibling_}, std::pair{"sibling", parent_}}) {
+    for (const UINT message : {WM_SETFOCUS, WM_KILLFOCUS}) {
+      recorder().before_default(from, message, [&told, target = to] {
+        if (++told < 5000) SetFocus(target);
+      });
+    }
+  }
+  SetFocus(sibling_);
+  EXPECT_LT(told, 5000);
+  recorder().remove_hooks();
+  SetFocus(nullptr);
+  settle();
+  SetFocus(sibling_);
+  EXPECT_EQ(recorder().count("sibling", WM_SETFOCUS), 1) << "messages come again";
+}
+
 // The last one told is the one that has it.
 TEST_F(FocusTest, LoserMayMoveItElsewhere) {
   give_focus(sibling_);

@@ -1,4 +1,6 @@
 // DestroyWindow: order, what exists when, focus and activation.
+#include <stdexcept>
+
 #include "tests/platform/conformance/support/window_test.h"
 
 namespace corvane::conformance {
@@ -32,6 +34,32 @@ TEST_F(DestroyWindowTest, OwnedFirstThenDownWithDestroyAndUpWithNcDestroy) {
   recorder().only({WM_DESTROY, WM_NCDESTROY, WM_PARENTNOTIFY});
   step("", DestroyWindow(main));
   EXPECT_EQ(existing, "main A A1 B | main | ");
+}
+
+TEST_F(DestroyWindowTest, AnExceptionReachesTheCallerWhenAllAreGone) {
+  for (const UINT message : {WM_DESTROY, WM_NCDESTROY, WM_WINDOWPOSCHANGING, WM_KILLFOCUS}) {
+    for (const std::string thrower : {"main", "A", "A1", "pop"}) {
+      const HWND main = make_family();
+      SetFocus(window("A1"));
+      settle();
+      const bool comes = message != WM_WINDOWPOSCHANGING || thrower == "main" || thrower == "pop";
+      recorder().before_default(thrower, message, [] { throw std::runtime_error("no"); });
+      if (comes && message != WM_KILLFOCUS) {
+        EXPECT_THROW(DestroyWindow(main), std::runtime_error) << thrower << message;
+      } else {
+        try {
+          DestroyWindow(main);
+        } catch (const std::runtime_error&) {
+        }
+      }
+      recorder().remove_hooks();
+      for (const std::string name : {"main", "A", "A1", "B", "pop", "top"}) {
+        EXPECT_EQ(IsWindow(window(name)), 0) << name;
+        EXPECT_EQ(recorder().count(name, WM_NCDESTROY), 1) << name << " after " << thrower;
+      }
+      settle();
+    }
+  }
 }
 
 TEST_F(DestroyWindowTest, ObservedForAChild) {

@@ -3,6 +3,7 @@
 
 #include "tests/platform/conformance/support/picture.h"
 #include "tests/platform/conformance/support/window_test.h"
+#include "tests/support/own_system.h"
 
 namespace corvane::conformance {
 namespace {
@@ -85,6 +86,86 @@ TEST_F(ExtremeValuesTest, LayeredContentIsPlacedWhereMoveWindowWouldAndNeverLarg
     EXPECT_EQ(text_of(window_rect(layer)), "200,300,260,340");
     pump();
   });
+}
+
+TEST_F(ExtremeValuesTest, ChainsOfParentsAndOfOwnersEndAtFiftyWherever) {
+  for (const DWORD style : {WS_CHILD | WS_VISIBLE, WS_POPUP | WS_VISIBLE}) {
+    for (const int at : kExtremes) {
+      const HWND first = create("1", {.style = WS_POPUP | WS_VISIBLE, .place = {at, at, 90, 90}});
+      HWND last = first;
+      for (int depth = 2; depth <= 50; ++depth) {
+        last = create(std::to_string(depth),
+                      {.parent = last, .style = style, .place = {at, at, 90, 90}});
+        ASSERT_NE(last, nullptr) << depth;
+        POINT point{at, at};
+        MapWindowPoints(first, last, &point, 1);
+        ReleaseDC(last, GetDC(last));
+      }
+      MoveWindow(last, 1 - at, at, 50, 50, TRUE);
+      EXPECT_GT(window_rect(last).right, window_rect(last).left);
+      move_to(150, 150);
+      EXPECT_EQ(create("51", {.parent = last, .style = style}), nullptr);
+      EXPECT_EQ(GetLastError(), ERROR_INVALID_PARAMETER);
+      EXPECT_TRUE(style != (WS_CHILD | WS_VISIBLE) || SetParent(child_, last) == nullptr);
+      DestroyWindow(first);
+      settle();
+    }
+  }
+}
+
+TEST_F(ExtremeValuesTest, SurfacesBeyondReasonAreRefused) {
+  const WindowPlan plan{.parent = popup_, .style = WS_POPUP, .ex_style = WS_EX_LAYERED};
+  const HWND layer = create("layer", plan);
+  for (const int size : {32767, 46341, INT_MAX}) {
+    for (const DWORD style : {WS_POPUP, WS_CHILD}) {
+      EXPECT_EQ(create("huge", {.parent = popup_,
+                                .style = style,
+                                .place = {0, 0, size, size},
+                                .ex_style = WS_EX_LAYERED}),
+                nullptr);
+      EXPECT_EQ(GetLastError(), ERROR_NOT_ENOUGH_MEMORY);
+    }
+    EXPECT_EQ(MoveWindow(popup_, 0, 0, size, size, TRUE), 0);
+    EXPECT_EQ(text_of(window_rect(popup_)), "100,100,200,200");
+    const Picture picture(1, 1, 0);
+    SIZE extent{size, size};
+    POINT source{};
+    EXPECT_EQ(UpdateLayeredWindow(layer, nullptr, nullptr, &extent, picture.dc(), &source, 0,
+                                  nullptr, ULW_OPAQUE),
+              0);
+    MoveWindow(child_, 0, 0, size, size, TRUE);
+    EXPECT_EQ(SetParent(child_, nullptr), nullptr) << "a child needs no surface";
+    SetWindowLongW(child_, GWL_EXSTYLE, WS_EX_LAYERED);
+    pump();
+    SetWindowLongW(child_, GWL_EXSTYLE, 0);
+  }
+}
+
+// Ran for hours when each new window was looked for among all.
+TEST_F(ExtremeValuesTest, TenThousandWindowsOfOneOwnerAndAsManyTimers) {
+  constexpr UINT kMany = 10000;
+  std::vector<HWND> windows;
+  WNDCLASSW plain{};
+  plain.lpfnWndProc = &DefWindowProcW;
+  plain.lpszClassName = L"one of many";
+  ASSERT_NE(RegisterClassW(&plain), 0);
+  for (UINT i = 1; i <= kMany; ++i) {
+    windows.push_back(CreateWindowExW(0, plain.lpszClassName, L"", WS_POPUP | WS_VISIBLE, 0, 0, 0, 0,
+                                      popup_, nullptr, nullptr, nullptr));
+    SetTimer(windows.back(), i, 100, nullptr);
+  }
+  EXPECT_EQ(GetTopWindow(nullptr), windows.back());
+  pump();
+  advance(100);
+  MSG message{};
+  for (UINT i = 1; i <= kMany; ++i) {
+    ASSERT_NE(PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE), 0) << i;
+    ASSERT_EQ(message.wParam, i) << "two that fall due together come as they were set";
+  }
+  for (UINT i = 0; i < kMany; i += 2) DestroyWindow(windows[i]);
+  EXPECT_EQ(own().windows.live_timers(), static_cast<int>(kMany / 2));
+  EXPECT_EQ(GetWindow(windows[1], GW_HWNDPREV), windows[3]);
+  for (const HWND window : windows) DestroyWindow(window);
 }
 
 TEST_F(ExtremeValuesTest, InvalidRectangles) {

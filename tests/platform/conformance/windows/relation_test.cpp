@@ -34,6 +34,23 @@ TEST_F(RelationTest, OwnersInACircleDoNoHarm) {
   EXPECT_EQ(IsWindow(other_), 0);
 }
 
+TEST_F(RelationTest, AWindowInsideOneThatItOwnsWouldBeACircle) {
+  ASSERT_EQ(SetParent(parent_, nullptr), top_) << "a child among the top-level windows";
+  const HWND owned = settled_popup("owned", 150, 150, 50, 50, parent_);
+  const HWND inner = settled_child("inner", owned, 0, 0, 20, 20);
+  for (const HWND target : {owned, inner}) EXPECT_EQ(SetParent(parent_, target), nullptr);
+  EXPECT_EQ(GetLastError(), ERROR_INVALID_PARAMETER);
+  EXPECT_EQ(GetAncestor(inner, GA_ROOTOWNER), GetDesktopWindow());
+}
+
+TEST_F(RelationTest, ANewTopLevelWindowStaysBelowTheTopmostOnes) {
+  const HWND topmost = create(
+      "topmost", {.style = WS_POPUP | WS_VISIBLE, .ex_style = WS_EX_TOPMOST});
+  SetParent(child_, nullptr);
+  EXPECT_EQ(GetTopWindow(nullptr), topmost);
+  EXPECT_EQ(GetWindow(topmost, GW_HWNDNEXT), child_);
+}
+
 TEST_F(RelationTest, WindowDataIsKept) {
   const LONG_PTR data = reinterpret_cast<LONG_PTR>(this);
   EXPECT_EQ(SetWindowLongPtrW(parent_, GWLP_USERDATA, data), 0);

@@ -4,11 +4,12 @@ namespace corvane_system {
 using namespace corvane::system;
 
 LRESULT DispatchMessageW(const MSG* message) {
-  if (message == nullptr) return 0;
+  System* state = corvane::system::system();
+  if (message == nullptr || state == nullptr) return 0;
+  const DispatchScope scope(state->sends);
   if (message->message == WM_TIMER && message->lParam != 0) {
     const auto procedure = reinterpret_cast<TIMERPROC>(message->lParam);
-    const System* state = corvane::system::system();
-    if (state != nullptr && state->timers.knows(procedure)) {
+    if (state->timers.knows(procedure)) {
       procedure(message->hwnd, WM_TIMER, message->wParam, GetTickCount());
     }
     return 0;

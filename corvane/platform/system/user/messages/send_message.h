@@ -7,6 +7,19 @@ namespace corvane::system {
 // Calls the window's procedure; 0 when the handle is stale, or the nesting too deep.
 LRESULT send(HWND window, UINT message, WPARAM wparam = 0, LPARAM lparam = 0);
 
+// A message is being dispatched, until the end of the scope: what is sent meanwhile is counted anew.
+class DispatchScope {
+ public:
+  explicit DispatchScope(SendNesting& nesting);
+  ~DispatchScope();
+  DispatchScope(const DispatchScope&) = delete;
+  DispatchScope& operator=(const DispatchScope&) = delete;
+
+ private:
+  SendNesting& nesting_;
+  SendNesting outer_;
+};
+
 // Sends WM_PARENTNOTIFY to every ancestor, innermost first. lparam_of gives each one's lParam.
 template <typename LparamOf>
 void notify_parents(HWND window, WPARAM wparam, const LparamOf& lparam_of) {

@@ -1,5 +1,6 @@
 // SetLayeredWindowAttributes and UpdateLayeredWindow.
 #include <algorithm>
+#include <new>
 
 #include "corvane/platform/geometry.h"
 #include "corvane/platform/system/user/frames/window_frame.h"
@@ -18,8 +19,9 @@ bool usable(HWND window) {
   return false;
 }
 
-// Copies the program's pixels into a new surface of the window. What lies beyond them is clear.
-void take_content(Window& window, const Surface& pixels, POINT from, SIZE size) {
+// Copies the program's pixels into a new surface. What lies beyond them is clear. Null when they do
+// not fit into memory.
+std::shared_ptr<Surface> content_of(const Surface& pixels, POINT from, SIZE size) try {
   auto content = std::make_shared<Surface>(size.cx, size.cy);
   const int first = std::max<int>(0, -from.x);
   const int last = std::min<int>(size.cx, pixels.width() - from.x);
@@ -30,7 +32,9 @@ void take_content(Window& window, const Surface& pixels, POINT from, SIZE size) 
       std::copy(row + from.x + first, row + from.x + last, content->row(y) + first);
     }
   }
-  window.surface = std::move(content);
+  return content;
+} catch (const std::bad_alloc&) {
+  return nullptr;
 }
 
 void place(Window& window, const POINT* position, SIZE size) {
@@ -87,14 +91,21 @@ BOOL UpdateLayeredWindow(HWND window, HDC, POINT* position, SIZE* size, HDC sour
     SetLastError(ERROR_INVALID_HANDLE);
     return FALSE;
   }
-  damage_frame(state, *found);
   const SIZE extent = size == nullptr ? SIZE{found->width(), found->height()} : *size;
-  place(*found, position, extent);
   if (pixels != nullptr) {
     const POINT from{corvane::clamp_to_summable(std::int64_t{origin.x} + source_point->x),
                      corvane::clamp_to_summable(std::int64_t{origin.y} + source_point->y)};
-    take_content(*found, *pixels, from, extent);
+    auto content = Surface::can_hold(extent.cx, extent.cy) ? content_of(*pixels, from, extent)
+                                                           : nullptr;
+    if (content == nullptr) {
+      SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+      return FALSE;
+    }
+    damage_frame(state, *found);
+    found->surface = std::move(content);
   }
+  damage_frame(state, *found);
+  place(*found, position, extent);
   LayeredState& layered = found->layered;
   layered.content = true;
   layered.keyed = (flags & ULW_COLORKEY) != 0;

@@ -42,14 +42,12 @@ HDC BeginPaint(HWND window, LPPAINTSTRUCT paint) {
   paint->hdc = open_window_dc(*found, &region, Area::client);
   paint->fErase = erased ? FALSE : TRUE;
   paint->rcPaint = region.bounds();
-  corvane::system::system()->open_paints.push_back({window, paint->hdc});
   return paint->hdc;
 }
 
 BOOL EndPaint(HWND window, const PAINTSTRUCT* paint) {
   System* state = corvane::system::system();
   if (state == nullptr || paint == nullptr) return FALSE;
-  std::erase_if(state->open_paints, [&](const OpenPaint& it) { return it.dc == paint->hdc; });
   state->gdi.close_dc(paint->hdc);
   return checked(window) != nullptr ? TRUE : FALSE;
 }

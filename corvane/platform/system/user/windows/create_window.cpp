@@ -35,9 +35,18 @@ RECT initial_frame(const System& state, const CREATESTRUCTW& create) {
   return {x, y, x + width, y + height};
 }
 
+bool too_large(const System& state, const CREATESTRUCTW& create) {
+  const auto style = static_cast<DWORD>(create.style);
+  if ((style & WS_CHILD) != 0 && (create.dwExStyle & WS_EX_LAYERED) == 0) return false;
+  const RECT frame = initial_frame(state, create);
+  return !Surface::can_hold(frame.right - frame.left, frame.bottom - frame.top);
+}
+
 // The checks that refuse a creation; sets the error code.
-bool creatable(System& state, const std::shared_ptr<WindowClass>& window_class, DWORD style,
-               HWND parent) {
+bool creatable(System& state, const std::shared_ptr<WindowClass>& window_class,
+               const CREATESTRUCTW& create) {
+  const auto style = static_cast<DWORD>(create.style);
+  HWND parent = create.hwndParent;
   DWORD error = ERROR_SUCCESS;
   if (window_class == nullptr) {
     error = ERROR_CLASS_DOES_NOT_EXIST;
@@ -49,6 +58,8 @@ bool creatable(System& state, const std::shared_ptr<WindowClass>& window_class, 
     error = ERROR_INVALID_WINDOW_HANDLE;
   } else if (nested_too_deep(state, style, parent)) {
     error = ERROR_INVALID_PARAMETER;
+  } else if (too_large(state, create)) {
+    error = ERROR_NOT_ENOUGH_MEMORY;
   }
   if (error != ERROR_SUCCESS) SetLastError(error);
   return error == ERROR_SUCCESS;
@@ -151,10 +162,10 @@ HWND CreateWindowExW(DWORD ex_style, LPCWSTR class_name, LPCWSTR window_name, DW
   System* state = corvane::system::system();
   if (state == nullptr) return nullptr;
   auto window_class = find_class(*state, class_name);
-  if (!creatable(*state, window_class, style, parent)) return nullptr;
   CREATESTRUCTW create{
       parameter,   instance,   menu_or_id, parent, height, width, y, x, static_cast<LONG>(style),
       window_name, class_name, ex_style};
+  if (!creatable(*state, window_class, create)) return nullptr;
   Window& record = add_record(*state, window_class, create);
   link(*state, record, parent);
   HWND window = record.handle;

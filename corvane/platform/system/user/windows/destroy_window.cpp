@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <exception>
 
 #include "corvane/platform/system/user/input/activation.h"
 #include "corvane/platform/system/user/messages/send_message.h"
@@ -11,17 +12,38 @@
 namespace corvane::system {
 namespace {
 
+// The steps of an end that is to be complete: what a handler throws waits until all are done.
+class Steps {
+ public:
+  template <typename Step>
+  void run(const Step& step) {
+    try {
+      step();
+    } catch (...) {
+      if (thrown_ == nullptr) thrown_ = std::current_exception();
+    }
+  }
+  void rethrow() const {
+    if (thrown_ != nullptr) std::rethrow_exception(thrown_);
+  }
+
+ private:
+  std::exception_ptr thrown_;
+};
+
 std::vector<HWND> living_children_of(HWND window) {
   const Window* found = find(window);
   return found == nullptr ? std::vector<HWND>() : children_of(*found);
 }
 
-void destroy_owned_windows(HWND window) {
-  System& state = *system();
-  const Window* found = state.find(window);
+void destroy_owned_windows(HWND window, Steps& steps) {
+  const System& state = *system();
+  const Window* found = find(window);
   if (found == nullptr) return;
   for (HWND handle : owned_windows(state, *found)) {
-    if (find(handle) != nullptr) DestroyWindow(handle);
+    steps.run([handle] {
+      if (find(handle) != nullptr) DestroyWindow(handle);
+    });
   }
 }
 
@@ -54,20 +76,30 @@ void release_focus_of(HWND window) {
   }
 }
 
-void send_destroy(HWND window) {
+void send_destroy(HWND window, Steps& steps) {
   if (Window* found = find(window)) found->destroying = true;
-  send(window, WM_DESTROY);
-  for (HWND child : living_children_of(window)) send_destroy(child);
+  steps.run([window] { send(window, WM_DESTROY); });
+  for (HWND child : living_children_of(window)) send_destroy(child, steps);
 }
 
-void finish_with_children(HWND window) {
-  for (HWND child : living_children_of(window)) finish_with_children(child);
-  if (find(window) != nullptr) finish_destruction(window);
+void finish_with_children(HWND window, Steps& steps) {
+  for (HWND child : living_children_of(window)) finish_with_children(child, steps);
+  steps.run([window] {
+    if (find(window) != nullptr) finish_destruction(window);
+  });
+}
+
+void notify_of_end(HWND window) {
+  Window* found = find(window);
+  if (found == nullptr || !found->is_child()) return;
+  const WPARAM what = MAKEWPARAM(WM_DESTROY, static_cast<DWORD_PTR>(GetDlgCtrlID(window)));
+  notify_parents(window, what, [window](HWND) { return reinterpret_cast<LPARAM>(window); });
 }
 
 void forget_input(System& state, HWND window) {
   InputState& input = state.input;
   std::erase_if(input.routed, [window](const MSG& message) { return message.hwnd == window; });
+  if (input.capture == window) state.display->set_capture(false);
   for (HWND* slot : {&input.capture, &input.focus, &input.active, &input.active_before,
                      &input.tracked_for_leave, &input.pointer_window, &input.last_press.window}) {
     if (*slot == window) *slot = nullptr;
@@ -77,8 +109,10 @@ void forget_input(System& state, HWND window) {
 }  // namespace
 
 void finish_destruction(HWND window) {
-  send(window, WM_NCDESTROY);
+  Steps steps;
+  steps.run([window] { send(window, WM_NCDESTROY); });
   forget_window(window);
+  steps.rethrow();
 }
 
 void forget_window(HWND window) {
@@ -108,16 +142,15 @@ BOOL DestroyWindow(HWND window) {
     return FALSE;
   }
   found->destroying = true;
-  if (found->is_child()) {
-    const WPARAM what = MAKEWPARAM(WM_DESTROY, static_cast<DWORD_PTR>(GetDlgCtrlID(window)));
-    notify_parents(window, what, [window](HWND) { return reinterpret_cast<LPARAM>(window); });
-  }
-  hide_before_destruction(window);
-  destroy_owned_windows(window);
-  activate_next_after(window);
-  release_focus_of(window);
-  send_destroy(window);
-  finish_with_children(window);
+  Steps steps;
+  steps.run([window] { notify_of_end(window); });
+  steps.run([window] { hide_before_destruction(window); });
+  destroy_owned_windows(window, steps);
+  steps.run([window] { activate_next_after(window); });
+  steps.run([window] { release_focus_of(window); });
+  send_destroy(window, steps);
+  finish_with_children(window, steps);
+  steps.rethrow();
   return TRUE;
 }
 

@@ -3,7 +3,7 @@
 
 namespace corvane::system {
 
-// WM_NCDESTROY and then forget_window.
+// WM_NCDESTROY and then forget_window, also when the handler throws.
 void finish_destruction(HWND window);
 // Removes the record with its timers, messages, focus, capture; sends nothing. Children that a
 // handler left behind go with it.

@@ -1,6 +1,7 @@
 #include "corvane/platform/system/user/windows/window_geometry.h"
 
 #include <algorithm>
+#include <new>
 
 #include "corvane/platform/system/user/frames/window_frame.h"
 #include "corvane/platform/system/user/messages/send_message.h"
@@ -72,7 +73,12 @@ void resize_surface(Window& window) {
     return;
   }
   // A device context may still be open on the old pixels: it keeps them alive.
-  window.surface->resize(window.width(), window.height());
+  try {
+    window.surface->resize(window.width(), window.height());
+  } catch (const std::bad_alloc&) {
+    *window.surface = Surface(window.width(), window.height());
+    invalidate_all(window, true);
+  }
 }
 
 void move_child_pixels(Window& window, const Region& old_shown, POINT travel) {

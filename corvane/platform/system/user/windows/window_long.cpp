@@ -14,8 +14,9 @@ void layered_style_changed(Window& window) {
   window.layered = LayeredState{};
   damage_frame(*corvane::system::system(), window);
   if (is_top_level(window)) return;
-  window.surface =
-      window.is_layered() ? std::make_shared<Surface>(window.width(), window.height()) : nullptr;
+  // Beyond all reason it stays without, and shows nothing.
+  const bool own = window.is_layered() && Surface::can_hold(window.width(), window.height());
+  window.surface = own ? std::make_shared<Surface>(window.width(), window.height()) : nullptr;
 }
 
 LONG_PTR change_style(HWND window, int index, DWORD value) {

@@ -95,6 +95,10 @@ BOOL SetWindowPos(HWND window, HWND insert_after, int x, int y, int width, int h
   found = find(window);
   if (found == nullptr || found->parent == nullptr) return FALSE;
   normalise(*found, position);
+  if (found->surface != nullptr && !Surface::can_hold(position.cx, position.cy)) {
+    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+    return FALSE;
+  }
   mark_unchanged(*found, position);
   const bool reordered = reorder(window, position);
   if (find(window) == nullptr) return FALSE;

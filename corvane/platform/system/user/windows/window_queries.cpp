@@ -108,7 +108,8 @@ HWND SetParent(HWND window, HWND parent) {
       target->destroying) {
     return nullptr;
   }
-  if (!may_become_parent(*state, *target, *found)) {
+  const bool fits = Surface::can_hold(found->width(), found->height());
+  if (!may_become_parent(*state, *target, *found) || (target == state->desktop && !fits)) {
     SetLastError(ERROR_INVALID_PARAMETER);
     return nullptr;
   }
