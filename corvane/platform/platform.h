@@ -22,8 +22,10 @@ using std::min;
 #else
 #include "corvane/platform/system/gdi/gdi_api.h"
 #include "corvane/platform/system/gdi/gdiplus.h"
+#include "corvane/platform/system/shell/memory_api.h"
 #include "corvane/platform/system/shell/shell_api.h"
 #include "corvane/platform/system/types.h"
+#include "corvane/platform/system/user/clipboard/clipboard_api.h"
 #include "corvane/platform/system/user/constants.h"
 #include "corvane/platform/system/user/user_api.h"
 #endif

@@ -29,6 +29,8 @@ using WCHAR = wchar_t;
 using ATOM = WORD;
 using COLORREF = DWORD;  // 0x00BBGGRR
 using LPVOID = void*;
+using LPCSTR = const char*;
+using LPSTR = char*;
 using LPCWSTR = const wchar_t*;
 using LPWSTR = wchar_t*;
 using INT_PTR = std::intptr_t;
@@ -39,6 +41,7 @@ using DWORD_PTR = std::uintptr_t;
 using WPARAM = UINT_PTR;
 using LPARAM = LONG_PTR;
 using LRESULT = LONG_PTR;
+using SIZE_T = std::size_t;
 using HANDLE = void*;
 using HGDIOBJ = void*;
 

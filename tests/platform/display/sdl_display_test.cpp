@@ -355,6 +355,28 @@ TEST_F(SdlDisplayOnXTest, ShowsCursorsThatDifferAndArrowsWithTwoHeads) {
   }));
 }
 
+TEST_F(SdlDisplayOnXTest, ExchangesTextWithTheDesktopsClipboard) {
+  constexpr const char* own = "裁剪\n\U0001F4F7";
+  EXPECT_TRUE(display_->set_clipboard_text(own));
+  std::thread reader([] {
+    EXPECT_EQ(std::system("test \"$(xclip -selection clipboard -o)\" = \"$(printf '裁剪\n📷')\""),
+              0);
+  });
+  happens([&, end = display_->now() + 500] { return display_->now() > end; });
+  reader.join();
+  for (const std::string other : {"first", "第二\nsecond"}) {  // the second follows no copy of ours
+    events_.clear();
+    ASSERT_EQ(
+        std::system(
+            ("printf '" + other + "' | xclip -selection clipboard -i >/dev/null 2>&1").c_str()),
+        0);
+    EXPECT_TRUE(arrives(is(InputKind::clipboard)));
+    EXPECT_EQ(display_->clipboard_text(), other);
+  }
+  EXPECT_FALSE(display_->set_clipboard_text(std::string((8 << 20) + 1, 'x')));
+  EXPECT_EQ(display_->clipboard_text(), "第二\nsecond");
+}
+
 TEST_F(SdlDisplayTest, SleepsWhileNothingHappens) {
   display_->poll(events_);
   const std::uint64_t start = display_->now();

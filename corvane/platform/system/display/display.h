@@ -2,6 +2,7 @@
 // What the window system needs from the outside: a screen, a clock, input and sleep.
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "corvane/platform/system/display/input_event.h"
@@ -53,6 +54,10 @@ class Display {
   // Whether the desktop puts a caption and sizing borders around the native window.
   virtual bool has_native_frame() const { return false; }
   virtual bool warp_pointer(POINT) { return false; }
+  // The desktop's clipboard: text in UTF-8, empty when it holds none. Asking may take a round trip
+  // to the program that owns it. False: the desktop does not take such a text.
+  virtual std::string clipboard_text() { return {}; }
+  virtual bool set_clipboard_text(const std::string& /*utf8*/) { return false; }
   // The first top-level window was shown: an on-screen display opens its native window now.
   virtual void show() {}
 };

@@ -40,6 +40,19 @@ bool HeadlessDisplay::wait(std::optional<std::uint64_t> deadline) {
   return true;
 }
 
+bool HeadlessDisplay::set_clipboard_text(const std::string& utf8) {
+  if (refuses_clipboard_ && !utf8.empty()) return false;
+  clipboard_ = utf8;
+  return true;
+}
+
+void HeadlessDisplay::copy_on_desktop(const std::string& utf8) {
+  clipboard_ = utf8;
+  InputEvent event;
+  event.kind = InputKind::clipboard;
+  push(event);
+}
+
 void HeadlessDisplay::push(const InputEvent& event) {
   pending_.push_back(event);
   wake_.set();

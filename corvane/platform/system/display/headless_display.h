@@ -21,9 +21,15 @@ class HeadlessDisplay : public Display {
 
   // As if its native window had a frame; none has one from the start.
   void set_native_frame(bool framed) { native_frame_ = framed; }
+  std::string clipboard_text() override { return clipboard_; }
+  bool set_clipboard_text(const std::string& utf8) override;
+
   void advance(std::uint64_t milliseconds) { now_ += milliseconds; }
   void push(const InputEvent& event);
   void resize(SIZE size);  // arrives as a resize event
+  // Another program copies: the text in UTF-8. And whether texts are taken from here.
+  void copy_on_desktop(const std::string& utf8);
+  void refuse_clipboard(bool refuse) { refuses_clipboard_ = refuse; }
   CursorShape cursor() const { return cursor_; }
   bool captured() const { return captured_; }
   const Surface& frame() const { return frame_; }  // what was last presented
@@ -35,6 +41,8 @@ class HeadlessDisplay : public Display {
   std::uint64_t now_ = 1000;
   CursorShape cursor_ = CursorShape::arrow;
   bool captured_ = false;
+  std::string clipboard_;
+  bool refuses_clipboard_ = false;
   Surface frame_;
   int presents_ = 0;
   std::vector<InputEvent> pending_;

@@ -15,7 +15,8 @@ enum class InputKind {
   text,
   close,
   resize,
-  focus
+  focus,
+  clipboard  // the desktop's may hold something else now
 };
 
 struct InputEvent {

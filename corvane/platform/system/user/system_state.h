@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "corvane/platform/system/gdi/gdi.h"
+#include "corvane/platform/system/user/clipboard/clipboard.h"
 #include "corvane/platform/system/user/input/input_state.h"
 #include "corvane/platform/system/user/messages/message_queue.h"
 #include "corvane/platform/system/user/messages/timer_list.h"
@@ -56,6 +57,7 @@ struct WindowSystem::Impl {
   TimerList timers;
   InputState input;
   SystemParameters parameters;
+  ClipboardState clipboard;
 
   Surface frame;
   Region frame_damage;  // besides what the surfaces marked

@@ -8,6 +8,7 @@
 #include <cstring>
 #include <string_view>
 
+#include "corvane/platform/system/display/sdl/clipboard_watch.h"
 #include "corvane/platform/system/display/sdl/presenter.h"
 #include "corvane/platform/system/display/sdl/sdl_cursors.h"
 #include "corvane/platform/system/display/sdl/sdl_driver.h"
@@ -56,6 +57,9 @@ constexpr Hint kHints[] = {
     {SDL_HINT_IME_SHOW_UI, "1"},
 };
 
+// Bytes. SDL ends the process over what an X server takes in no single request, 16 MB.
+constexpr std::size_t kMaxClipboardText = std::size_t{8} << 20;
+
 // Wayland tells no program where its windows or the pointer are.
 bool knows_desktop_positions() { return !is_driver("wayland"); }
 
@@ -77,6 +81,7 @@ struct SdlDisplay::Native {
   std::unique_ptr<SdlWaiter> waiter;
   SdlCursors cursors;
   SdlEvents events;
+  ClipboardWatch clipboard;
 };
 
 std::unique_ptr<SdlDisplay> SdlDisplay::open(SIZE size) {
@@ -92,6 +97,7 @@ std::unique_ptr<SdlDisplay> SdlDisplay::open(SIZE size) {
   native->presenter = open_presenter(native->window.get());
   if (native->presenter == nullptr) return nullptr;
   SDL_SetWindowMinimumSize(native->window.get(), kMinWindowSize.cx, kMinWindowSize.cy);
+  native->clipboard.start(native->window.get());
   native->waiter = std::make_unique<SdlWaiter>(native->window.get());
   return std::unique_ptr<SdlDisplay>(new SdlDisplay(std::move(native), real));
 }
@@ -120,6 +126,9 @@ void SdlDisplay::poll(std::vector<InputEvent>& events) {
   while (SDL_PollEvent(&event)) {
     const std::size_t before = events.size();
     native_->events.translate(event, events);
+    if (native_->clipboard.tells_of_change(event)) {
+      events.emplace_back().kind = InputKind::clipboard;
+    }
     if (event.type == SDL_WINDOWEVENT && event.window.event == SDL_WINDOWEVENT_EXPOSED) {
       native_->presenter->repaint();
     }
@@ -180,6 +189,18 @@ bool SdlDisplay::warp_pointer(POINT point) {
   SDL_WarpMouseInWindow(native_->window.get(), point.x, point.y);
   native_->waiter->notice_queued_events();
   return true;
+}
+
+std::string SdlDisplay::clipboard_text() {
+  char* const text = SDL_GetClipboardText();
+  std::string copy = text != nullptr ? text : "";
+  SDL_free(text);
+  native_->waiter->notice_queued_events();
+  return copy;
+}
+
+bool SdlDisplay::set_clipboard_text(const std::string& utf8) {
+  return utf8.size() <= kMaxClipboardText && SDL_SetClipboardText(utf8.c_str()) == 0;
 }
 
 void SdlDisplay::show() {

@@ -30,6 +30,8 @@ class SdlDisplay : public Display {
   bool drag_native_window(POINT grip) override;
   bool has_native_frame() const override;
   bool warp_pointer(POINT point) override;
+  std::string clipboard_text() override;
+  bool set_clipboard_text(const std::string& utf8) override;
   void show() override;
 
  private:

@@ -29,6 +29,11 @@ void remember_state(System& state, const InputEvent& event) {
       break;
     case InputKind::focus:
       if (!event.down) state.input.keys_now.fill(false);
+      // On Wayland only the program with the focus hears of the clipboard.
+      state.clipboard.desktop_changed = true;
+      break;
+    case InputKind::clipboard:
+      state.clipboard.desktop_changed = true;
       break;
     default:
       break;
@@ -118,6 +123,9 @@ void route_event(System& state, const InputEvent& event) {
       break;
     case InputKind::focus:
       route_focus(state, event);
+      break;
+    case InputKind::clipboard:
+      desktop_clipboard_changed(state);
       break;
   }
 }

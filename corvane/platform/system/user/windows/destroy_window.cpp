@@ -78,6 +78,7 @@ void release_focus_of(HWND window) {
 
 void send_destroy(HWND window, Steps& steps) {
   if (Window* found = find(window)) found->destroying = true;
+  steps.run([window] { render_promised_formats(window); });
   steps.run([window] { send(window, WM_DESTROY); });
   for (HWND child : living_children_of(window)) send_destroy(child, steps);
 }
@@ -125,6 +126,7 @@ void forget_window(HWND window) {
   state.timers.remove_window(window);
   state.queue.remove_window(window);
   forget_input(state, window);
+  forget_clipboard_window(state, window);
   unlink(state, *found);
   state.windows.erase(window);
 }
