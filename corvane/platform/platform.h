@@ -18,10 +18,12 @@ using std::min;
 }  // namespace Gdiplus
 #include <gdiplus.h>
 #include <objidl.h>
+#include <shellapi.h>
 #include <shlwapi.h>
 #else
 #include "corvane/platform/system/gdi/gdi_api.h"
 #include "corvane/platform/system/gdi/gdiplus.h"
+#include "corvane/platform/system/shell/drop_api.h"
 #include "corvane/platform/system/shell/memory_api.h"
 #include "corvane/platform/system/shell/shell_api.h"
 #include "corvane/platform/system/types.h"

@@ -142,7 +142,8 @@ BOOL GlobalUnlock(HGLOBAL handle) {
   if (block == nullptr) return FALSE;
   if (moveable_block(handle) == nullptr) return TRUE;
   SetLastError(block->locks > 0 ? ERROR_SUCCESS : ERROR_NOT_LOCKED);
-  return block->locks > 0 && --block->locks > 0 ? TRUE : FALSE;
+  if (block->locks > 0) --block->locks;
+  return block->locks > 0 ? TRUE : FALSE;
 }
 
 SIZE_T GlobalSize(HGLOBAL handle) {

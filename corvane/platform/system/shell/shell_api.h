@@ -65,5 +65,14 @@ DWORD GetFileAttributesW(LPCWSTR path);
 // Whether there is a file or folder behind the path. Links are followed: one that leads nowhere is
 // none, although its name is taken (GetFileAttributesW sees it).
 BOOL PathFileExistsW(LPCWSTR path);
+// Not 0 for a folder, also behind a link.
+BOOL PathIsDirectoryW(LPCWSTR path);
+
+// Text alone. The last name in the path, or all of it; the last dot in that name and what follows,
+// or the path's end.
+LPWSTR PathFindFileNameW(LPCWSTR path);
+LPWSTR PathFindExtensionW(LPCWSTR path);
+// Cuts the last name and the '\\' before it; FALSE when there is nothing to cut.
+BOOL PathRemoveFileSpecW(LPWSTR path);
 
 }  // namespace corvane_system

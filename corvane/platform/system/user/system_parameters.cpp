@@ -73,6 +73,10 @@ constexpr Metric kMetrics[] = {
     {SM_CYMINTRACK, kMinTrackHeight},
     {SM_CXDOUBLECLK, 4},
     {SM_CYDOUBLECLK, 4},
+    {SM_CXDRAG, 4},
+    {SM_CYDRAG, 4},
+    {SM_MOUSEPRESENT, 1},
+    {SM_CMONITORS, 1},
     {SM_CXEDGE, kEdge},
     {SM_CYEDGE, kEdge},
     {SM_CYSMCAPTION, kSmallCaptionHeight},
@@ -92,8 +96,10 @@ int GetSystemMetrics(int index) {
   switch (index) {
     case SM_CXSCREEN:
     case SM_CXFULLSCREEN:
+    case SM_CXVIRTUALSCREEN:
       return state->frame.width();
     case SM_CYSCREEN:
+    case SM_CYVIRTUALSCREEN:
       return state->frame.height();
     case SM_CYFULLSCREEN:
       return std::max(state->frame.height() - kCaptionHeight, 0);
@@ -106,6 +112,27 @@ int GetSystemMetrics(int index) {
   }
   const auto* row = std::ranges::find(kMetrics, index, &Metric::index);
   return row != std::end(kMetrics) ? row->value : 0;
+}
+
+int GetDeviceCaps(HDC dc, int index) {
+  if (GetCurrentObject(dc, OBJ_BITMAP) == nullptr && GetCurrentObject(dc, OBJ_PEN) == nullptr) {
+    return 0;
+  }
+  switch (index) {
+    case HORZRES:
+      return GetSystemMetrics(SM_CXSCREEN);
+    case VERTRES:
+      return GetSystemMetrics(SM_CYSCREEN);
+    case BITSPIXEL:
+      return 32;
+    case PLANES:
+      return 1;
+    case LOGPIXELSX:
+    case LOGPIXELSY:
+      return 96;
+    default:
+      return 0;
+  }
 }
 
 HMODULE GetModuleHandleW(LPCWSTR) { return reinterpret_cast<HMODULE>(ULONG_PTR{0x400000}); }

@@ -54,6 +54,7 @@ struct WindowSystem::Impl {
   std::map<HCURSOR, CursorShape> cursors;
 
   MessageQueue queue;
+  MSG last_message{};  // that was retrieved
   TimerList timers;
   InputState input;
   SystemParameters parameters;

@@ -100,6 +100,22 @@ struct SCROLLINFO {
 };
 using LPSCROLLINFO = SCROLLINFO*;
 using LPCSCROLLINFO = const SCROLLINFO*;
+struct SCROLLBARINFO {
+  DWORD cbSize;
+  RECT rcScrollBar;   // screen coordinates
+  int dxyLineButton;  // length of an arrow, pixels
+  int xyThumbTop;     // along the bar
+  int xyThumbBottom;
+  int reserved;
+  // STATE_SYSTEM_*: the bar; arrow, trough, thumb, trough, arrow from its upper or left end
+  DWORD rgstate[6];
+};
+struct CURSORINFO {
+  DWORD cbSize;
+  DWORD flags;  // CURSOR_SHOWING
+  HCURSOR hCursor;
+  POINT ptScreenPos;
+};
 struct TRACKMOUSEEVENT {
   DWORD cbSize;
   DWORD dwFlags;
@@ -177,6 +193,14 @@ LONG_PTR SetWindowLongPtrW(HWND window, int index, LONG_PTR value);
 ULONG_PTR GetClassLongPtrW(HWND window, int index);
 HWND WindowFromPoint(POINT screen_point);
 HWND ChildWindowFromPoint(HWND parent, POINT client_point);
+HWND FindWindowW(LPCWSTR class_name, LPCWSTR text);  // top-level; null: any
+BOOL EnumWindows(WNDENUMPROC callback, LPARAM parameter);
+BOOL IsIconic(HWND window);
+BOOL IsZoomed(HWND window);
+// Values under names of the program's own, which end with the window.
+BOOL SetPropW(HWND window, LPCWSTR name, HANDLE value);
+HANDLE GetPropW(HWND window, LPCWSTR name);     // null: there is none
+HANDLE RemovePropW(HWND window, LPCWSTR name);  // returns what it was
 DWORD GetWindowThreadProcessId(HWND window, DWORD* process);
 
 // --- Messages
@@ -190,6 +214,8 @@ LRESULT DispatchMessageW(const MSG* message);
 BOOL WaitMessage();
 LRESULT DefWindowProcW(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
 LRESULT CallWindowProcW(WNDPROC procedure, HWND window, UINT message, WPARAM wparam, LPARAM lparam);
+DWORD GetMessagePos();   // pointer at the message last retrieved, screen coordinates
+LONG GetMessageTime();   // and its time, milliseconds
 UINT RegisterWindowMessageW(LPCWSTR name);
 HHOOK SetWindowsHookExW(int kind, HOOKPROC procedure, HINSTANCE instance, DWORD thread);
 BOOL UnhookWindowsHookEx(HHOOK hook);
@@ -222,6 +248,8 @@ int GetScrollPos(HWND window, int bar);
 BOOL SetScrollRange(HWND window, int bar, int minimum, int maximum, BOOL redraw);
 BOOL GetScrollRange(HWND window, int bar, int* minimum, int* maximum);
 BOOL ShowScrollBar(HWND window, int bar, BOOL show);  // also SB_BOTH
+// OBJID_VSCROLL, OBJID_HSCROLL. Fails with ERROR_NO_SCROLLBARS for a window that never had it.
+BOOL GetScrollBarInfo(HWND window, LONG object, SCROLLBARINFO* info);
 
 // --- Layered windows
 BOOL SetLayeredWindowAttributes(HWND window, COLORREF key, BYTE alpha, DWORD flags);
@@ -242,19 +270,24 @@ HWND GetForegroundWindow();
 BOOL SetCursorPos(int x, int y);
 BOOL GetCursorPos(LPPOINT point);
 UINT SendInput(UINT count, LPINPUT inputs, int size);
-SHORT GetKeyState(int virtual_key);       // as of the message last retrieved
+SHORT GetKeyState(int virtual_key);       // as of the message last retrieved; bit 0: toggled
+BOOL GetKeyboardState(BYTE* keys);        // the same of all 256 keys, as 0x80 and 0x01
 SHORT GetAsyncKeyState(int virtual_key);  // now
 UINT GetDoubleClickTime();                // milliseconds
 BOOL TrackMouseEvent(TRACKMOUSEEVENT* request);
+// Whether it gets WM_DROPFILES for what is dropped on it and its children (WS_EX_ACCEPTFILES).
+void DragAcceptFiles(HWND window, BOOL accept);
 HCURSOR LoadCursorW(HINSTANCE instance, LPCWSTR name);
 HCURSOR LoadCursorFromFileW(LPCWSTR path);
 HCURSOR SetCursor(HCURSOR cursor);  // returns the previous one
 HCURSOR GetCursor();
+BOOL GetCursorInfo(CURSORINFO* info);
 BOOL DestroyCursor(HCURSOR cursor);
 
 // --- The system
 BOOL SystemParametersInfoW(UINT action, UINT parameter, void* data, UINT flags);
 int GetSystemMetrics(int index);
+int GetDeviceCaps(HDC dc, int index);  // of the screen, whatever the context is for
 HMODULE GetModuleHandleW(LPCWSTR name);
 DWORD GetCurrentThreadId();
 

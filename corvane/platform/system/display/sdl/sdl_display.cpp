@@ -63,6 +63,19 @@ constexpr std::size_t kMaxClipboardText = std::size_t{8} << 20;
 // Wayland tells no program where its windows or the pointer are.
 bool knows_desktop_positions() { return !is_driver("wayland"); }
 
+// Where the pointer is in the window; SDL's own answer is as old as the last motion in it.
+POINT pointer_in(SDL_Window* window) {
+  int x = 0;
+  int y = 0;
+  if (!knows_desktop_positions()) {
+    SDL_GetMouseState(&x, &y);
+    return {x, y};
+  }
+  SDL_GetWindowPosition(window, &x, &y);
+  const POINT pointer = native_pointer_position(window);
+  return {pointer.x - x, pointer.y - y};
+}
+
 // X writes titles and reads input methods in the process's character set, and refuses Chinese ones
 // while that is still the plain "C" that every process starts with.
 void use_unicode_locale() {
@@ -131,6 +144,9 @@ void SdlDisplay::poll(std::vector<InputEvent>& events) {
     }
     if (event.type == SDL_WINDOWEVENT && event.window.event == SDL_WINDOWEVENT_EXPOSED) {
       native_->presenter->repaint();
+    }
+    if (events.size() > before && events.back().kind == InputKind::drop) {
+      events.back().position = pointer_in(native_->window.get());
     }
     if (events.size() > before && events.back().kind == InputKind::resize) {
       size_ = {events.back().position.x, events.back().position.y};

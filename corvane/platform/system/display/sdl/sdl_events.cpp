@@ -1,6 +1,7 @@
 #include "corvane/platform/system/display/sdl/sdl_events.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "corvane/platform/system/display/sdl/sdl_keys.h"
 
@@ -45,7 +46,9 @@ const SdlEvents::Row SdlEvents::kRows[] = {
     {SDL_MOUSEMOTION, &SdlEvents::motion},   {SDL_MOUSEBUTTONDOWN, &SdlEvents::button},
     {SDL_MOUSEBUTTONUP, &SdlEvents::button}, {SDL_MOUSEWHEEL, &SdlEvents::wheel},
     {SDL_KEYDOWN, &SdlEvents::key},          {SDL_KEYUP, &SdlEvents::key},
-    {SDL_TEXTINPUT, &SdlEvents::text},       {SDL_WINDOWEVENT, &SdlEvents::window}};
+    {SDL_TEXTINPUT, &SdlEvents::text},       {SDL_WINDOWEVENT, &SdlEvents::window},
+    {SDL_DROPBEGIN, &SdlEvents::drop},       {SDL_DROPFILE, &SdlEvents::drop},
+    {SDL_DROPTEXT, &SdlEvents::drop},        {SDL_DROPCOMPLETE, &SdlEvents::drop}};
 
 void SdlEvents::translate(const SDL_Event& event, std::vector<InputEvent>& events) {
   for (const Row& row : kRows) {
@@ -92,6 +95,18 @@ void SdlEvents::text(const SDL_Event& event, std::vector<InputEvent>& events) {
   InputEvent made = event_of(InputKind::text);
   made.text = wide(event.text.text);
   if (!made.text.empty()) events.push_back(made);
+}
+
+// The list of files may hold comments and addresses of the network, which come as files too.
+void SdlEvents::drop(const SDL_Event& event, std::vector<InputEvent>& events) {
+  const std::string file = event.drop.file != nullptr ? event.drop.file : "";
+  SDL_free(event.drop.file);
+  if (event.type == SDL_DROPBEGIN) dropped_.clear();
+  if (event.type == SDL_DROPFILE && file.starts_with('/')) dropped_.push_back(file);
+  if (event.type != SDL_DROPCOMPLETE || dropped_.empty()) return;
+  InputEvent made = event_of(InputKind::drop);
+  made.files = std::exchange(dropped_, {});
+  events.push_back(made);
 }
 
 void SdlEvents::window(const SDL_Event& event, std::vector<InputEvent>& events) {

@@ -1,6 +1,7 @@
 #pragma once
 #include <SDL.h>
 
+#include <string>
 #include <vector>
 
 #include "corvane/platform/system/display/input_event.h"
@@ -25,8 +26,10 @@ class SdlEvents {
   void wheel(const SDL_Event& event, std::vector<InputEvent>& events);
   void key(const SDL_Event& event, std::vector<InputEvent>& events);
   void text(const SDL_Event& event, std::vector<InputEvent>& events);
+  void drop(const SDL_Event& event, std::vector<InputEvent>& events);
   void window(const SDL_Event& event, std::vector<InputEvent>& events);
 
+  std::vector<std::string> dropped_;  // of the drop that is arriving
   Uint16 modifiers_ = KMOD_NONE;  // as of the last key
   float wheel_rest_ = 0;          // what is left of fine turns, in 1/120 of a notch
 };

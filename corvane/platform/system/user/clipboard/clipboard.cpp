@@ -124,7 +124,7 @@ void desktop_clipboard_changed(System& state) {
 }
 
 void render_promised_formats(HWND window) {
-  System& state = *system();
+  const System& state = *system();
   const auto& entries = state.clipboard.entries;
   if (window != state.clipboard.owner) return;
   const bool promises = std::any_of(entries.begin(), entries.end(), [](const auto& entry) {

@@ -59,6 +59,18 @@ HCURSOR GetCursor() {
   return state == nullptr ? nullptr : state->input.cursor;
 }
 
+BOOL GetCursorInfo(CURSORINFO* info) {
+  const System* const state = corvane::system::system();
+  if (state == nullptr || info == nullptr || info->cbSize != sizeof(CURSORINFO)) {
+    SetLastError(ERROR_INVALID_PARAMETER);
+    return FALSE;
+  }
+  HCURSOR const cursor = state->input.cursor;
+  *info = {sizeof(CURSORINFO), cursor != nullptr ? CURSOR_SHOWING : 0, cursor,
+           state->input.pointer};
+  return TRUE;
+}
+
 BOOL DestroyCursor(HCURSOR) { return TRUE; }
 
 }  // namespace corvane_system

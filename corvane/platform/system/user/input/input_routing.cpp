@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "corvane/platform/system/user/input/activation.h"
+#include "corvane/platform/system/user/input/drop_routing.h"
 #include "corvane/platform/system/user/input/keyboard_routing.h"
 #include "corvane/platform/system/user/input/mouse_routing.h"
 #include "corvane/platform/system/user/messages/post_message.h"
@@ -18,6 +19,7 @@ void remember_state(System& state, const InputEvent& event) {
   switch (event.kind) {
     case InputKind::mouse_move:
     case InputKind::mouse_wheel:
+    case InputKind::drop:
       state.input.pointer = event.position;
       break;
     case InputKind::mouse_button:
@@ -123,6 +125,9 @@ void route_event(System& state, const InputEvent& event) {
       break;
     case InputKind::focus:
       route_focus(state, event);
+      break;
+    case InputKind::drop:
+      route_drop(state, event);
       break;
     case InputKind::clipboard:
       desktop_clipboard_changed(state);

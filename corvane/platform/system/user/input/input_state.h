@@ -25,6 +25,7 @@ struct InputState {
   POINT routed_pointer{};                  // at the last mouse event that was given to a window
   std::array<bool, 256> keys_now{};        // for GetAsyncKeyState
   std::array<bool, 256> keys_retrieved{};  // for GetKeyState
+  std::array<bool, 256> keys_toggled{};    // by an odd number of presses
   LastPress last_press;
   int menu_key = 0;  // Alt or F10 went down, and nothing since
 

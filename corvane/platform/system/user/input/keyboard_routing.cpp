@@ -31,6 +31,7 @@ void route_key(System& state, const InputEvent& event) {
   auto slot = static_cast<std::size_t>(event.virtual_key & 0xFF);
   const bool was_down = state.input.keys_retrieved[slot];
   state.input.keys_retrieved[slot] = event.down;
+  if (event.down && !was_down) state.input.keys_toggled[slot] = !state.input.keys_toggled[slot];
   const bool menu_key = event.virtual_key == VK_MENU || event.virtual_key == VK_F10;
   // Alt that was held for another key goes up like any key.
   const bool held_for_another = !event.down && event.virtual_key == VK_MENU &&
@@ -80,8 +81,22 @@ BOOL TranslateMessage(const MSG* message) {
 SHORT GetKeyState(int virtual_key) {
   System* state = corvane::system::system();
   if (state == nullptr || virtual_key < 0 || virtual_key > 255) return 0;
-  const bool down = state->input.keys_retrieved[static_cast<std::size_t>(virtual_key)];
-  return static_cast<SHORT>(down ? 0x8000 : 0);
+  const auto key = static_cast<std::size_t>(virtual_key);
+  const bool down = state->input.keys_retrieved[key];
+  return static_cast<SHORT>((down ? 0x8000 : 0) | (state->input.keys_toggled[key] ? 1 : 0));
+}
+
+BOOL GetKeyboardState(BYTE* keys) {
+  const System* const state = corvane::system::system();
+  if (state == nullptr || keys == nullptr) {
+    SetLastError(ERROR_INVALID_PARAMETER);
+    return FALSE;
+  }
+  for (std::size_t key = 0; key < state->input.keys_retrieved.size(); ++key) {
+    const int toggled = state->input.keys_toggled[key] ? 0x01 : 0;
+    keys[key] = static_cast<BYTE>((state->input.keys_retrieved[key] ? 0x80 : 0) | toggled);
+  }
+  return TRUE;
 }
 
 SHORT GetAsyncKeyState(int virtual_key) {

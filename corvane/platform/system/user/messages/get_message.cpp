@@ -74,7 +74,7 @@ std::optional<MSG> take_timer(System& state, const MessageFilter& filter, bool r
   return as_message(*due);
 }
 
-std::optional<MSG> retrieve(System& state, const MessageFilter& filter, bool remove) {
+std::optional<MSG> next_message(System& state, const MessageFilter& filter, bool remove) {
   present_if_late(state);
   if (auto message = take_posted(state, filter, remove)) return message;
   poll_display(state);
@@ -86,6 +86,12 @@ std::optional<MSG> retrieve(System& state, const MessageFilter& filter, bool rem
   }
   if (auto message = take_paint(state, filter)) return message;
   return take_timer(state, filter, remove);
+}
+
+std::optional<MSG> retrieve(System& state, const MessageFilter& filter, bool remove) {
+  auto message = next_message(state, filter, remove);
+  if (message && remove) state.last_message = *message;
+  return message;
 }
 
 bool sleep_until_work(System& state, std::optional<std::uint64_t> deadline) {

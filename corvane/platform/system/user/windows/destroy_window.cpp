@@ -5,6 +5,7 @@
 #include <exception>
 
 #include "corvane/platform/system/user/input/activation.h"
+#include "corvane/platform/system/user/input/drop_routing.h"
 #include "corvane/platform/system/user/messages/send_message.h"
 #include "corvane/platform/system/user/windows/show_window.h"
 #include "corvane/platform/system/user/windows/z_order.h"
@@ -99,6 +100,7 @@ void notify_of_end(HWND window) {
 
 void forget_input(System& state, HWND window) {
   InputState& input = state.input;
+  forget_drops(input, window);
   std::erase_if(input.routed, [window](const MSG& message) { return message.hwnd == window; });
   if (input.capture == window) state.display->set_capture(false);
   for (HWND* slot : {&input.capture, &input.focus, &input.active, &input.active_before,

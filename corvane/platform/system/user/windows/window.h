@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <list>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -78,6 +79,7 @@ struct Window {
   HINSTANCE instance = nullptr;
   std::wstring text;
   LONG_PTR user_data = 0;
+  std::map<std::wstring, HANDLE> properties;  // by lower-case name
   std::vector<std::uint8_t> extra;
 
   Region update;             // to be painted, client coordinates
