@@ -135,6 +135,7 @@ struct BITMAPINFO {
 #define COLOR_INACTIVECAPTION 3
 #define COLOR_WINDOW 5
 #define COLOR_WINDOWFRAME 6
+#define COLOR_WINDOWTEXT 8
 #define COLOR_CAPTIONTEXT 9
 #define COLOR_ACTIVEBORDER 10
 #define COLOR_INACTIVEBORDER 11
@@ -142,6 +143,8 @@ struct BITMAPINFO {
 #define COLOR_HIGHLIGHTTEXT 14
 #define COLOR_BTNFACE 15
 #define COLOR_BTNSHADOW 16
+#define COLOR_GRAYTEXT 17
+#define COLOR_BTNTEXT 18
 #define COLOR_INACTIVECAPTIONTEXT 19
 
 // --- Objects. The caller owns what a Create function returns and frees it with DeleteObject.

@@ -46,8 +46,10 @@ struct WindowSystem::Impl {
   std::unordered_map<HWND, std::unique_ptr<Window>> windows;
   Window* desktop = nullptr;
   HWND lifted = nullptr;  // whose group stands on top already, see z_order.cpp
-  std::map<std::wstring, std::shared_ptr<WindowClass>> classes;  // by lower-case name
-  std::map<std::wstring, UINT> registered_messages;              // by lower-case name
+  using ClassesByName = std::map<std::wstring, std::shared_ptr<WindowClass>>;  // lower case
+  ClassesByName classes;                                                       // of programs
+  ClassesByName system_classes;                      // hidden by a program's class of the same name
+  std::map<std::wstring, UINT> registered_messages;  // by lower-case name
   std::vector<Hook> hooks;
   std::size_t running_hook = 0;  // how many were called before it; the newest comes first
   SendNesting sends;

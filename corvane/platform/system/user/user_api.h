@@ -221,6 +221,22 @@ HHOOK SetWindowsHookExW(int kind, HOOKPROC procedure, HINSTANCE instance, DWORD 
 BOOL UnhookWindowsHookEx(HHOOK hook);
 LRESULT CallNextHookEx(HHOOK hook, int code, WPARAM wparam, LPARAM lparam);
 
+// --- Controls of a window, by id, and keys among them
+// Works the keys of a window with controls: Tab and Shift+Tab go to the next WS_TABSTOP control,
+// arrows move inside a WS_GROUP, Enter presses the default button (or gives IDOK), Escape gives
+// IDCANCEL, Alt and a letter choose the control whose text has it behind an &. Messages for the
+// dialog and its children are dispatched too; non-zero: the message is done with.
+BOOL IsDialogMessageW(HWND dialog, LPMSG message);
+// In the order of creation; skips what is hidden or disabled. Null as control: from the beginning.
+HWND GetNextDlgTabItem(HWND dialog, HWND control, BOOL previous);
+HWND GetNextDlgGroupItem(HWND dialog, HWND control, BOOL previous);
+LRESULT SendDlgItemMessageW(HWND dialog, int id, UINT message, WPARAM wparam, LPARAM lparam);
+BOOL SetDlgItemTextW(HWND dialog, int id, LPCWSTR text);
+UINT GetDlgItemTextW(HWND dialog, int id, LPWSTR buffer, int size);  // length copied
+BOOL CheckDlgButton(HWND dialog, int id, UINT check);                // BST_*
+UINT IsDlgButtonChecked(HWND dialog, int id);
+BOOL CheckRadioButton(HWND dialog, int first, int last, int checked);
+
 // --- Timers; periods in milliseconds, below 10 they act as 10
 UINT_PTR SetTimer(HWND window, UINT_PTR id, UINT period, TIMERPROC procedure);
 BOOL KillTimer(HWND window, UINT_PTR id);
@@ -238,7 +254,8 @@ BOOL RedrawWindow(HWND window, const RECT* rect, HRGN region, UINT flags);
 BOOL UpdateWindow(HWND window);
 BOOL GetUpdateRect(HWND window, LPRECT rect, BOOL erase);
 
-// --- Standard scroll bars (SB_VERT, SB_HORZ; SB_CTL fails). Range and page decide whether the bar
+// --- Scroll bars: a window's standard ones (SB_VERT, SB_HORZ), or the window is one (SB_CTL: the
+// SBM_ messages are sent to it). Range and page decide whether the bar
 // is there: it goes, and the client area grows, when there is nowhere to scroll to, and comes back
 // when there is, unless SIF_DISABLENOSCROLL keeps it greyed.
 int SetScrollInfo(HWND window, int bar, LPCSCROLLINFO info, BOOL redraw);  // resulting position

@@ -7,6 +7,7 @@
 #include "corvane/platform/system/user/system_registry.h"
 #include "corvane/platform/system/user/system_state.h"
 #include "corvane/platform/system/user/windows/destroy_window.h"
+#include "corvane/platform/system/user/windows/window_classes.h"
 #include "corvane/platform/system/user/windows/window_tree_text.h"
 
 namespace corvane::system {
@@ -46,6 +47,7 @@ WindowSystem::WindowSystem(std::unique_ptr<Display> display)
     : impl_(std::make_unique<Impl>(std::move(display))) {
   systems_of_thread.push_back(this);
   make_current();
+  add_system_classes(*impl_);
 }
 
 WindowSystem::~WindowSystem() {

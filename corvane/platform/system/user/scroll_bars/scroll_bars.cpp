@@ -19,15 +19,8 @@ bool readable(const SCROLLINFO* info) {
   return false;
 }
 
-// The window and the bar that a call is about.
-struct Target {
-  Window* window = nullptr;
-  ScrollAxis axis = ScrollAxis::vertical;
-  explicit operator bool() const { return window != nullptr; }
-  ScrollBarState& bar() const { return window->bar(axis); }
-};
-
-Target target_of(HWND window, int bar) {
+// A standard bar of the window.
+BarTarget target_of(HWND window, int bar) {
   Window* found = checked(window);
   if (found == nullptr) return {};
   auto axis = axis_of(bar);
@@ -39,7 +32,7 @@ Target target_of(HWND window, int bar) {
 }
 
 // Null, with an error code, for a window that never had this bar.
-const ScrollModel* model_of(const Target& target) {
+const ScrollModel* model_of(const BarTarget& target) {
   ScrollBarState& bar = target.bar();
   if (!bar.model && has_bar(*target.window, target.axis)) bar.model.emplace();
   if (!bar.model) SetLastError(ERROR_NO_SCROLLBARS);
@@ -62,10 +55,11 @@ void show_bar(HWND window, ScrollAxis axis, bool shown) {
 }
 
 // Range or page have been set: the bar goes, comes, or is greyed.
-void reconsider_bar(const Target& target, bool kept_greyed) {
+void reconsider_bar(const BarTarget& target, bool kept_greyed) {
   ScrollBarState& bar = target.bar();
   const bool needed = bar.model->needed();
   bar.disabled = !needed && kept_greyed;
+  if (target.window->scroll_control) return;
   if (needed || !kept_greyed) show_bar(target.window->handle, target.axis, needed);
 }
 
@@ -92,6 +86,7 @@ void leave_room_for_bars(const Window& window, RECT& rect) {
 }
 
 RECT bar_rect(const Window& window, ScrollAxis axis) {
+  if (window.scroll_control) return axis == *window.scroll_control ? window.client_area() : RECT{};
   if (!has_bar(window, axis)) return {};
   const RECT client = window.client_area();
   const RECT bar = axis == ScrollAxis::vertical
@@ -122,28 +117,29 @@ ScrollLayout dragged_bar_layout(const Window& window, ScrollAxis axis, int thumb
   return scroll_layout_dragged(model, bar_length(window, axis), kBarThickness, thumb_begin);
 }
 
-}  // namespace corvane::system
+void redraw_bar(Window& window, ScrollAxis axis) {
+  if (!window.scroll_control) {
+    window.bars_due = true;
+  } else if (axis == *window.scroll_control) {
+    invalidate(window, Region(window.client_area()), false);
+  }
+}
 
-namespace corvane_system {
-using namespace corvane::system;
-
-int SetScrollInfo(HWND window, int bar, LPCSCROLLINFO info, BOOL redraw) {
-  const Target target = target_of(window, bar);
-  if (!target || !readable(info)) return 0;
+int set_bar_info(const BarTarget& target, LPCSCROLLINFO info, BOOL redraw) {
+  if (!readable(info)) return 0;
   auto& model = target.bar().model;
   if (!model) model.emplace();
   model->change(*info);
   const int position = model->position;
-  if (redraw != FALSE) target.window->bars_due = true;
+  if (redraw != FALSE) redraw_bar(*target.window, target.axis);
   if ((info->fMask & (SIF_RANGE | SIF_PAGE)) != 0) {
     reconsider_bar(target, (info->fMask & SIF_DISABLENOSCROLL) != 0);
   }
   return position;
 }
 
-BOOL GetScrollInfo(HWND window, int bar, LPSCROLLINFO info) {
-  const Target target = target_of(window, bar);
-  if (!target || !readable(info)) return FALSE;
+BOOL get_bar_info(const BarTarget& target, LPSCROLLINFO info) {
+  if (!readable(info)) return FALSE;
   const ScrollModel* model = model_of(target);
   if (model == nullptr) return FALSE;
   if ((info->fMask & SIF_RANGE) != 0) {
@@ -159,6 +155,29 @@ BOOL GetScrollInfo(HWND window, int bar, LPSCROLLINFO info) {
   return (info->fMask & SIF_ALL) != 0 ? TRUE : FALSE;
 }
 
+}  // namespace corvane::system
+
+namespace corvane_system {
+using namespace corvane::system;
+
+int SetScrollInfo(HWND window, int bar, LPCSCROLLINFO info, BOOL redraw) {
+  if (bar == SB_CTL) {
+    const auto parameter = reinterpret_cast<LPARAM>(info);
+    return static_cast<int>(SendMessageW(window, SBM_SETSCROLLINFO, redraw, parameter));
+  }
+  const BarTarget target = target_of(window, bar);
+  return target ? set_bar_info(target, info, redraw) : 0;
+}
+
+BOOL GetScrollInfo(HWND window, int bar, LPSCROLLINFO info) {
+  if (bar == SB_CTL) {
+    const auto parameter = reinterpret_cast<LPARAM>(info);
+    return SendMessageW(window, SBM_GETSCROLLINFO, 0, parameter) != 0 ? TRUE : FALSE;
+  }
+  const BarTarget target = target_of(window, bar);
+  return target ? get_bar_info(target, info) : FALSE;
+}
+
 int SetScrollPos(HWND window, int bar, int position, BOOL redraw) {
   const int previous = GetScrollPos(window, bar);
   const SCROLLINFO info{sizeof(SCROLLINFO), SIF_POS, 0, 0, 0, position, 0};
@@ -167,29 +186,36 @@ int SetScrollPos(HWND window, int bar, int position, BOOL redraw) {
 }
 
 int GetScrollPos(HWND window, int bar) {
-  const Target target = target_of(window, bar);
+  if (bar == SB_CTL) return static_cast<int>(SendMessageW(window, SBM_GETPOS, 0, 0));
+  const BarTarget target = target_of(window, bar);
   const ScrollModel* model = target ? model_of(target) : nullptr;
   return model == nullptr ? 0 : model->position;
 }
 
 BOOL SetScrollRange(HWND window, int bar, int minimum, int maximum, BOOL redraw) {
-  if (!target_of(window, bar)) return FALSE;
+  const bool known = bar == SB_CTL ? checked(window) != nullptr : bool(target_of(window, bar));
+  if (!known) return FALSE;
   const SCROLLINFO info{sizeof(SCROLLINFO), SIF_RANGE, minimum, maximum, 0, 0, 0};
   SetScrollInfo(window, bar, &info, redraw);
   return TRUE;
 }
 
 BOOL GetScrollRange(HWND window, int bar, int* minimum, int* maximum) {
-  const Target target = target_of(window, bar);
-  const ScrollModel* model = target ? model_of(target) : nullptr;
-  if (minimum != nullptr) *minimum = model == nullptr ? 0 : model->minimum;
-  if (maximum != nullptr) *maximum = model == nullptr ? 0 : model->maximum;
-  return model != nullptr ? TRUE : FALSE;
+  SCROLLINFO info{sizeof(SCROLLINFO), SIF_RANGE, 0, 0, 0, 0, 0};
+  const BOOL found = GetScrollInfo(window, bar, &info);
+  if (minimum != nullptr) *minimum = info.nMin;
+  if (maximum != nullptr) *maximum = info.nMax;
+  return found;
 }
 
 BOOL ShowScrollBar(HWND window, int bar, BOOL show) {
+  if (bar == SB_CTL) {
+    if (checked(window) == nullptr) return FALSE;
+    ShowWindow(window, show != FALSE ? SW_SHOW : SW_HIDE);
+    return TRUE;
+  }
   const bool both = bar == SB_BOTH;
-  Target target = target_of(window, both ? SB_VERT : bar);
+  const BarTarget target = target_of(window, both ? SB_VERT : bar);
   if (!target) return FALSE;
   const DWORD styles = both ? WS_VSCROLL | WS_HSCROLL : style_of(target.axis);
   for (const ScrollAxis axis : {ScrollAxis::horizontal, ScrollAxis::vertical}) {

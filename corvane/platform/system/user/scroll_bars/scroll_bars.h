@@ -22,12 +22,26 @@ std::optional<ScrollAxis> axis_of(int bar);
 // narrower than a bar keeps its room: the bar is not seen then.
 void leave_room_for_bars(const Window& window, RECT& rect);
 // Where a bar is, in client coordinates: outside the client area, inside the frame; empty when
-// there is no bar or no room.
+// there is no bar or no room. The bar of a scroll bar control is its client area.
 RECT bar_rect(const Window& window, ScrollAxis axis);
 // The square between the ends of two bars; empty when there are not both.
 RECT bar_corner(const Window& window);
 // Where the parts of a shown bar lie, along it; a thumb that the user holds is where it is held.
 ScrollLayout bar_layout(const Window& window, ScrollAxis axis);
 ScrollLayout dragged_bar_layout(const Window& window, ScrollAxis axis, int thumb_begin);
+// Has the bar drawn anew.
+void redraw_bar(Window& window, ScrollAxis axis);
+
+// The bar that a call is about.
+struct BarTarget {
+  Window* window = nullptr;
+  ScrollAxis axis = ScrollAxis::vertical;
+  explicit operator bool() const { return window != nullptr; }
+  ScrollBarState& bar() const { return window->bar(axis); }
+};
+// Results and errors as of SetScrollInfo and GetScrollInfo. A standard bar may come or go, and
+// its window with it, if a handler ends it.
+int set_bar_info(const BarTarget& target, LPCSCROLLINFO info, BOOL redraw);
+BOOL get_bar_info(const BarTarget& target, LPSCROLLINFO info);
 
 }  // namespace corvane::system

@@ -84,9 +84,15 @@ class ScrollLoop : public CaptureLoop {
                     : point.y < near.top || point.y >= near.bottom;
   }
 
+  // A scroll bar control speaks to its parent.
   void tell(UINT code, int position) {
+    const Window* found = state_.find(window_);
+    if (found == nullptr) return;
+    const bool control = found->scroll_control.has_value();
     const UINT message = axis_ == ScrollAxis::vertical ? WM_VSCROLL : WM_HSCROLL;
-    send(window_, message, MAKEWPARAM(code, static_cast<WORD>(position)), 0);
+    send(control ? GetParent(window_) : window_, message,
+         MAKEWPARAM(code, static_cast<WORD>(position)),
+         control ? reinterpret_cast<LPARAM>(window_) : 0);
   }
 
   void begin() {
@@ -94,7 +100,7 @@ class ScrollLoop : public CaptureLoop {
     if (found == nullptr) return;
     ScrollBarState& bar = found->bar(axis_);
     bar.pressed = part_;
-    found->bars_due = true;
+    redraw_bar(*found, axis_);
     if (part_ != ScrollPart::thumb) {
       next_repeat_ = state_.now() + kFirstRepeat;
       tell(code_of(part_), 0);
@@ -122,7 +128,7 @@ class ScrollLoop : public CaptureLoop {
       return;
     }
     const ScrollPart seen = part_at(pointer) == part_ ? part_ : ScrollPart::none;
-    found->bars_due = found->bars_due || found->bar(axis_).pressed != seen;
+    if (found->bar(axis_).pressed != seen) redraw_bar(*found, axis_);
     found->bar(axis_).pressed = seen;
   }
 
@@ -142,7 +148,7 @@ class ScrollLoop : public CaptureLoop {
     Window* found = shown();
     if (found == nullptr) return;
     found->bar(axis_).drag = drag;
-    found->bars_due = true;
+    redraw_bar(*found, axis_);
     tell(SB_THUMBTRACK, drag.position);
   }
 
@@ -165,7 +171,7 @@ class ScrollLoop : public CaptureLoop {
     if (found == nullptr) return;
     found->bar(axis_).pressed = ScrollPart::none;
     found->bar(axis_).drag.reset();
-    found->bars_due = true;
+    redraw_bar(*found, axis_);
     tell(SB_ENDSCROLL, 0);
   }
 

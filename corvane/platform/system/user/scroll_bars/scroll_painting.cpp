@@ -1,9 +1,11 @@
 #include "corvane/platform/system/user/scroll_bars/scroll_painting.h"
 
+#include <algorithm>
 #include <cmath>
 #include <initializer_list>
 
 #include "corvane/platform/system/user/painting/painting.h"
+#include "corvane/platform/system/user/painting/soft_shapes.h"
 #include "corvane/platform/system/user/scroll_bars/scroll_bars.h"
 
 namespace corvane::system {
@@ -12,30 +14,15 @@ namespace {
 constexpr COLORREF kTrack = RGB(0xF0, 0xF2, 0xF4);
 constexpr COLORREF kTrackPressed = RGB(0xE2, 0xE6, 0xEA);
 constexpr COLORREF kThumb = RGB(0xBF, 0xC5, 0xCC);
+constexpr COLORREF kThumbFocused = RGB(0x6F, 0x9B, 0xD8);
 constexpr COLORREF kThumbPressed = RGB(0x87, 0x90, 0x9A);
 constexpr COLORREF kArrow = RGB(0x6B, 0x74, 0x7E);
 constexpr COLORREF kArrowPressed = RGB(0x33, 0x3B, 0x44);
 constexpr COLORREF kArrowDisabled = RGB(0xC9, 0xCE, 0xD4);
 
-// Pixels across and along the bar.
-constexpr ScrollSpan kThumbAcross{4, 13};
-constexpr int kThumbGap = 1;
+constexpr int kThumbMargin = 4;  // pixels across the bar
+constexpr int kThumbGap = 1;     // pixels along it
 constexpr int kTriangleHeight = 4;
-
-COLORREF mixed(COLORREF under, COLORREF over, double share) {
-  auto channel = [&](int shift) {
-    const double low = (under >> shift) & 0xFF;
-    const double high = (over >> shift) & 0xFF;
-    return static_cast<COLORREF>(std::lround(low + (high - low) * share)) << shift;
-  };
-  return channel(0) | channel(8) | channel(16);
-}
-
-// How much of a pixel lies within a circle; the pixel's middle is `distance` from the centre.
-double coverage(double distance, double radius) {
-  const double share = radius - distance + 0.5;
-  return share < 0 ? 0 : share > 1 ? 1 : share;
-}
 
 class BarPainter {
  public:
@@ -50,7 +37,15 @@ class BarPainter {
     FillRect(dc_, &rect, brush);
     DeleteObject(brush);
   }
-  void fill(ScrollSpan along, COLORREF color) const { fill(along, {0, kBarThickness}, color); }
+  void fill(ScrollSpan along, COLORREF color) const { fill(along, {0, thickness()}, color); }
+
+  int thickness() const {
+    return axis_ == ScrollAxis::vertical ? bar_.right - bar_.left : bar_.bottom - bar_.top;
+  }
+  ScrollSpan thumb_across() const {
+    const int margin = std::min(kThumbMargin, thickness() / 4);
+    return {margin, thickness() - margin};
+  }
 
   // A bar with half circles for ends.
   void fill_round(ScrollSpan along, ScrollSpan across, COLORREF color, COLORREF under) const {
@@ -60,7 +55,7 @@ class BarPainter {
     for (int depth = 0; depth <= reach && depth < along.length(); ++depth) {
       for (int place = across.begin; place < across.end; ++place) {
         const double aside = place + 0.5 - (across.begin + radius);
-        const double share = coverage(std::hypot(depth + 0.5 - radius, aside), radius);
+        const double share = circle_coverage(std::hypot(depth + 0.5 - radius, aside), radius);
         if (depth + 0.5 >= radius || share >= 1) continue;
         const COLORREF edge = mixed(under, color, share);
         const ScrollSpan pixel{place, place + 1};
@@ -73,7 +68,7 @@ class BarPainter {
   // A triangle in the middle of an arrow's span that points back (to 0) or forward.
   void triangle(ScrollSpan arrow, bool forward, COLORREF color) const {
     const int begin = arrow.begin + (arrow.length() - kTriangleHeight) / 2;
-    const int middle = kBarThickness / 2;
+    const int middle = thickness() / 2;
     for (int row = 0; row < kTriangleHeight; ++row) {
       const int half = forward ? kTriangleHeight - 1 - row : row;
       fill({begin + row, begin + row + 1}, {middle - half, middle + half + 1}, color);
@@ -94,7 +89,21 @@ void draw_arrow(const BarPainter& painter, const ScrollBarState& bar, ScrollPart
   painter.triangle(span, part == ScrollPart::line_forward, color);
 }
 
-void draw_bar(const Window& window, ScrollAxis axis, HDC dc, RECT rect) {
+COLORREF thumb_color(const Window& window, const ScrollBarState& bar) {
+  if (bar.pressed == ScrollPart::thumb) return kThumbPressed;
+  const bool has_focus = window.scroll_control && GetFocus() == window.handle;
+  return has_focus ? kThumbFocused : kThumb;
+}
+
+void fill_corner(HDC dc, const RECT& corner) {
+  HBRUSH brush = CreateSolidBrush(kTrack);
+  FillRect(dc, &corner, brush);
+  DeleteObject(brush);
+}
+
+}  // namespace
+
+void draw_bar(const Window& window, ScrollAxis axis, HDC dc, const RECT& rect) {
   const ScrollBarState& bar = window.bar(axis);
   const ScrollLayout layout = bar_layout(window, axis);
   const BarPainter painter(dc, rect, axis);
@@ -106,21 +115,12 @@ void draw_bar(const Window& window, ScrollAxis axis, HDC dc, RECT rect) {
   draw_arrow(painter, bar, ScrollPart::line_forward, layout.line_forward);
   const ScrollSpan thumb{layout.thumb.begin + kThumbGap, layout.thumb.end - kThumbGap};
   if (thumb.length() <= 0) return;
-  const COLORREF color = bar.pressed == ScrollPart::thumb ? kThumbPressed : kThumb;
-  painter.fill_round(thumb, kThumbAcross, color, kTrack);
+  painter.fill_round(thumb, painter.thumb_across(), thumb_color(window, bar), kTrack);
 }
-
-void fill_corner(HDC dc, const RECT& corner) {
-  HBRUSH brush = CreateSolidBrush(kTrack);
-  FillRect(dc, &corner, brush);
-  DeleteObject(brush);
-}
-
-}  // namespace
 
 void paint_bars(Window& window) {
   window.bars_due = false;
-  if (window.layered.content) return;
+  if (window.layered.content || window.scroll_control) return;
   HDC dc = nullptr;
   const POINT client{window.client.left - window.frame.left, window.client.top - window.frame.top};
   for (const ScrollAxis axis : {ScrollAxis::horizontal, ScrollAxis::vertical}) {

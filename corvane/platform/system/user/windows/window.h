@@ -89,6 +89,7 @@ struct Window {
 
   std::array<ScrollBarState, 2> bars;  // by ScrollAxis
   bool bars_due = false;               // the scroll bars are to be drawn
+  std::optional<ScrollAxis> scroll_control;  // the window is a scroll bar: its whole client area
   bool frame_due = false;              // the whole frame is, with the scroll bars
   bool frame_active = false;           // drawn as that of the active window
   int pressed_box = HTNOWHERE;         // HTCLOSE and others while the user holds it down

@@ -5,25 +5,51 @@
 #include <cstring>
 
 #include "corvane/platform/system/user/system_state.h"
+#include "corvane/platform/system/user/windows/system_classes.h"
 
 namespace corvane::system {
 namespace {
 
 constexpr ATOM kFirstAtom = 0xC000;
 
-}  // namespace
-
-std::shared_ptr<WindowClass> find_class(System& state, LPCWSTR name) {
-  if (name == nullptr) return nullptr;
+std::shared_ptr<WindowClass> find_in(const System::ClassesByName& classes, LPCWSTR name) {
   if (IS_INTRESOURCE(name)) {
     const ATOM atom = static_cast<ATOM>(reinterpret_cast<ULONG_PTR>(name));
-    for (auto& [key, window_class] : state.classes) {
+    for (const auto& [key, window_class] : classes) {
       if (window_class->atom == atom) return window_class;
     }
     return nullptr;
   }
-  auto it = state.classes.find(lower_case(name));
-  return it == state.classes.end() ? nullptr : it->second;
+  auto it = classes.find(lower_case(name));
+  return it == classes.end() ? nullptr : it->second;
+}
+
+ATOM free_atom(System& state) {
+  const std::size_t used = state.classes.size() + state.system_classes.size();
+  auto atom = static_cast<ATOM>(kFirstAtom + used + 1);
+  while (find_class(state, MAKEINTRESOURCEW(atom)) != nullptr) ++atom;
+  return atom;
+}
+
+}  // namespace
+
+std::shared_ptr<WindowClass> find_class(System& state, LPCWSTR name) {
+  if (name == nullptr) return nullptr;
+  auto own = find_in(state.classes, name);
+  return own != nullptr ? own : find_in(state.system_classes, name);
+}
+
+void add_system_classes(System& state) {
+  for (const SystemClass& entry : system_classes()) {
+    auto record = std::make_shared<WindowClass>();
+    record->name = entry.name;
+    record->style = entry.style;
+    record->procedure = entry.procedure;
+    record->window_extra = entry.window_extra;
+    record->cursor = LoadCursorW(nullptr, IDC_ARROW);
+    record->atom = free_atom(state);
+    state.system_classes[lower_case(record->name)] = record;
+  }
 }
 
 }  // namespace corvane::system
@@ -39,7 +65,7 @@ ATOM RegisterClassW(const WNDCLASSW* window_class) {
     SetLastError(ERROR_INVALID_PARAMETER);
     return 0;
   }
-  if (find_class(*state, window_class->lpszClassName) != nullptr) {
+  if (find_in(state->classes, window_class->lpszClassName) != nullptr) {
     SetLastError(ERROR_CLASS_ALREADY_EXISTS);
     return 0;
   }
@@ -51,15 +77,15 @@ ATOM RegisterClassW(const WNDCLASSW* window_class) {
   record->instance = window_class->hInstance;
   record->cursor = window_class->hCursor;
   record->background = window_class->hbrBackground;
-  record->atom = static_cast<ATOM>(kFirstAtom + state->classes.size() + 1);
-  while (find_class(*state, MAKEINTRESOURCEW(record->atom)) != nullptr) ++record->atom;
+  record->atom = free_atom(*state);
   state->classes[lower_case(record->name)] = record;
   return record->atom;
 }
 
 BOOL UnregisterClassW(LPCWSTR name, HINSTANCE) {
   System* state = corvane::system::system();
-  auto record = state == nullptr ? nullptr : find_class(*state, name);
+  const bool asked = state != nullptr && name != nullptr;
+  auto record = asked ? find_in(state->classes, name) : nullptr;
   if (record == nullptr) {
     SetLastError(ERROR_CLASS_DOES_NOT_EXIST);
     return FALSE;

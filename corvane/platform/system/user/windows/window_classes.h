@@ -7,5 +7,6 @@ namespace corvane::system {
 
 // By name or by the atom that RegisterClassW returned; null when there is none.
 std::shared_ptr<WindowClass> find_class(System& state, LPCWSTR name);
+void add_system_classes(System& state);
 
 }  // namespace corvane::system
