@@ -54,8 +54,8 @@ struct ControlMessage {
 };
 
 // The entry of a control's table for a message; null when it has none.
-template <class Type, std::size_t Count>
-const ControlMessage<Type>* entry_for(const ControlMessage<Type> (&table)[Count], UINT message) {
+template <class Type, std::size_t count>
+const ControlMessage<Type>* entry_for(const ControlMessage<Type> (&table)[count], UINT message) {
   for (const ControlMessage<Type>& entry : table) {
     if (entry.message == message) return &entry;
   }

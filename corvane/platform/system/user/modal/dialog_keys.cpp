@@ -85,7 +85,7 @@ void on_arrow(HWND dialog, WPARAM key) {
 void on_enter(HWND dialog) {
   HWND focus = GetFocus();
   const bool focused_default =
-      IsChild(dialog, focus) && (dialog_code(focus) & DLGC_DEFPUSHBUTTON) != 0;
+      IsChild(dialog, focus) != FALSE && (dialog_code(focus) & DLGC_DEFPUSHBUTTON) != 0;
   HWND button = focused_default ? focus : nullptr;
   const auto answer = static_cast<DWORD>(SendMessageW(dialog, DM_GETDEFID, 0, 0));
   if (button == nullptr && HIWORD(answer) == DC_HASDEFID) {
