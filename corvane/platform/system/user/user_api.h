@@ -195,8 +195,6 @@ HWND WindowFromPoint(POINT screen_point);
 HWND ChildWindowFromPoint(HWND parent, POINT client_point);
 HWND FindWindowW(LPCWSTR class_name, LPCWSTR text);  // top-level; null: any
 BOOL EnumWindows(WNDENUMPROC callback, LPARAM parameter);
-BOOL IsIconic(HWND window);
-BOOL IsZoomed(HWND window);
 // Values under names of the program's own, which end with the window.
 BOOL SetPropW(HWND window, LPCWSTR name, HANDLE value);
 HANDLE GetPropW(HWND window, LPCWSTR name);     // null: there is none

@@ -36,6 +36,7 @@ LRESULT default_position_changing(const SentMessage& sent);
 LRESULT default_position_changed(const SentMessage& sent);
 LRESULT default_erase(const SentMessage& sent);
 LRESULT default_paint(const SentMessage& sent);
+LRESULT default_control_color(const SentMessage& sent);  // WM_CTLCOLOR...
 LRESULT default_set_redraw(const SentMessage& sent);
 
 // --- Activation, mouse and keys

@@ -40,6 +40,10 @@ constexpr DefaultHandling kDefaultHandling[] = {
     {WM_SYSKEYDOWN, default_system_key_down},
     {WM_SYSKEYUP, default_system_key_up},
     {WM_SYSCOMMAND, default_system_command},
+    {WM_CTLCOLOREDIT, default_control_color},
+    {WM_CTLCOLORBTN, default_control_color},
+    {WM_CTLCOLORDLG, default_control_color},
+    {WM_CTLCOLORSTATIC, default_control_color},
     {WM_RBUTTONUP, default_right_release},
     {WM_MOUSEWHEEL, give_to_parent},
 };

@@ -40,6 +40,14 @@ LRESULT default_erase(const SentMessage& sent) {
       FillRect(reinterpret_cast<HDC>(sent.wparam), &area, found->window_class->background) != 0);
 }
 
+LRESULT default_control_color(const SentMessage& sent) {
+  const int under = sent.number == WM_CTLCOLOREDIT ? COLOR_WINDOW : COLOR_BTNFACE;
+  HDC dc = reinterpret_cast<HDC>(sent.wparam);
+  SetTextColor(dc, GetSysColor(COLOR_WINDOWTEXT));
+  SetBkColor(dc, GetSysColor(under));
+  return reinterpret_cast<LRESULT>(GetSysColorBrush(under));
+}
+
 LRESULT default_paint(const SentMessage& sent) {
   PAINTSTRUCT paint;
   BeginPaint(sent.window, &paint);

@@ -1,5 +1,6 @@
 // The order in which Tab and the arrow keys visit the controls of a window.
 #include <algorithm>
+#include <iterator>
 #include <vector>
 
 #include "corvane/platform/system/user/system_state.h"
@@ -28,7 +29,7 @@ std::vector<const Window*> group_of(const Window& control) {
   const auto& brothers = control.parent->children;
   const auto begins_group = [](const Window* window) { return (window->style & WS_GROUP) != 0; };
   auto first = std::find(brothers.begin(), brothers.end(), &control);
-  const auto last = std::find_if(first + 1, brothers.end(), begins_group);
+  const auto last = std::find_if(std::next(first), brothers.end(), begins_group);
   while (first != brothers.begin() && !begins_group(*first)) --first;
   return {first, last};
 }

@@ -65,14 +65,4 @@ HANDLE RemovePropW(HWND window, LPCWSTR name) {
   return value;
 }
 
-BOOL IsIconic(HWND window) {
-  const Window* const found = checked(window);
-  return found != nullptr && (found->style & WS_MINIMIZE) != 0 ? TRUE : FALSE;
-}
-
-BOOL IsZoomed(HWND window) {
-  const Window* const found = checked(window);
-  return found != nullptr && (found->style & WS_MAXIMIZE) != 0 ? TRUE : FALSE;
-}
-
 }  // namespace corvane_system
