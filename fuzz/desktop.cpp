@@ -19,23 +19,21 @@ constexpr wchar_t kTreePath[] = L"Q:\\Lib";
 constexpr int kToolbarList = 100;
 constexpr int kButtonIds[] = {1, 4, 6};
 
-constexpr int kShowCommands[] = {SW_HIDE,          SW_SHOWNORMAL, SW_SHOWNOACTIVATE,
-                                 SW_SHOW,          SW_SHOWNA,     SW_SHOWMAXIMIZED,
-                                 SW_SHOWMINIMIZED, SW_RESTORE};
+constexpr int kShowCommands[] = {SW_HIDE,   SW_SHOWNORMAL,    SW_SHOWNOACTIVATE, SW_SHOW,
+                                 SW_SHOWNA, SW_SHOWMAXIMIZED, SW_SHOWMINIMIZED,  SW_RESTORE};
 constexpr int kKeys[] = {VK_RETURN, VK_ESCAPE, VK_TAB, VK_SPACE, VK_SHIFT,
                          VK_LEFT,   VK_DOWN,   VK_F1,  'A',      VK_DELETE};
 constexpr DWORD kPresses[] = {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP,     MOUSEEVENTF_RIGHTDOWN,
                               MOUSEEVENTF_RIGHTUP,  MOUSEEVENTF_MIDDLEDOWN, MOUSEEVENTF_MIDDLEUP};
-constexpr DWORD kStyles[] = {WS_CHILD,   WS_POPUP,  WS_VISIBLE, WS_DISABLED,  WS_CLIPCHILDREN,
+constexpr DWORD kStyles[] = {WS_CHILD,   WS_POPUP,  WS_VISIBLE, WS_DISABLED,        WS_CLIPCHILDREN,
                              WS_CAPTION, WS_BORDER, WS_VSCROLL, WS_OVERLAPPEDWINDOW};
-constexpr DWORD kExtendedStyles[] = {
-    0,
-    WS_EX_TOPMOST,
-    WS_EX_TRANSPARENT,
-    WS_EX_TOOLWINDOW,
-    WS_EX_LAYERED,
-    WS_EX_NOACTIVATE,
-    WS_EX_CLIENTEDGE};
+constexpr DWORD kExtendedStyles[] = {0,
+                                     WS_EX_TOPMOST,
+                                     WS_EX_TRANSPARENT,
+                                     WS_EX_TOOLWINDOW,
+                                     WS_EX_LAYERED,
+                                     WS_EX_NOACTIVATE,
+                                     WS_EX_CLIENTEDGE};
 
 // Messages of which a parameter points to memory of the sender. Strangers cannot make one up, here
 // as little as on Windows.

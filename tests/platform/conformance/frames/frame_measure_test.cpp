@@ -10,10 +10,9 @@ class FrameMeasureTest : public WindowTest {
  protected:
   HWND framed(const std::string& name, DWORD style, DWORD ex_style = 0) {
     const HWND parent = (style & WS_CHILD) != 0 ? popup_ : nullptr;
-    return create(name, {.parent = parent,
-                         .style = style,
-                         .place = {40, 50, 400, 300},
-                         .ex_style = ex_style});
+    return create(
+        name,
+        {.parent = parent, .style = style, .place = {40, 50, 400, 300}, .ex_style = ex_style});
   }
   // Left, top, right and bottom of the window beyond its client area.
   static RECT margins(HWND window) {
@@ -45,26 +44,27 @@ TEST_F(FrameMeasureTest, FrameIsMeasuredAsTheMetricsAndAdjustWindowRectSay) {
   const int edge = GetSystemMetrics(SM_CYEDGE);
   const int caption = GetSystemMetrics(SM_CYCAPTION);
   const int small = GetSystemMetrics(SM_CYSMCAPTION);
-  for (const Measured& each : std::vector<Measured>{
-           {WS_OVERLAPPEDWINDOW, 0, {4, 23, 4, 4}, WS_EX_WINDOWEDGE},
-           {WS_OVERLAPPEDWINDOW, 0, even(sizing, caption), WS_EX_WINDOWEDGE},
-           {WS_CHILD | WS_CAPTION, 0, even(fixed, caption), WS_EX_WINDOWEDGE},
-           {WS_POPUP | WS_CAPTION, WS_EX_TOOLWINDOW, even(fixed, small), 0x180},
-           {WS_POPUP | WS_THICKFRAME, 0, even(edge + line), WS_EX_WINDOWEDGE},
-           {WS_POPUP | WS_DLGFRAME, 0, even(fixed), WS_EX_WINDOWEDGE},
-           {WS_CHILD, WS_EX_DLGMODALFRAME, even(fixed), 0x101},
-           {WS_CHILD | WS_BORDER, 0, even(line), 0},
-           {WS_CHILD | WS_BORDER, WS_EX_CLIENTEDGE, even(line + edge), 0x200},
-           {WS_CHILD, WS_EX_STATICEDGE, even(line), 0x20000},
-           {WS_CHILD, WS_EX_CLIENTEDGE, even(edge), 0x200},
-           {WS_POPUP, WS_EX_WINDOWEDGE, even(0), 0}}) {
+  for (const Measured& each :
+       std::vector<Measured>{{WS_OVERLAPPEDWINDOW, 0, {4, 23, 4, 4}, WS_EX_WINDOWEDGE},
+                             {WS_OVERLAPPEDWINDOW, 0, even(sizing, caption), WS_EX_WINDOWEDGE},
+                             {WS_CHILD | WS_CAPTION, 0, even(fixed, caption), WS_EX_WINDOWEDGE},
+                             {WS_POPUP | WS_CAPTION, WS_EX_TOOLWINDOW, even(fixed, small), 0x180},
+                             {WS_POPUP | WS_THICKFRAME, 0, even(edge + line), WS_EX_WINDOWEDGE},
+                             {WS_POPUP | WS_DLGFRAME, 0, even(fixed), WS_EX_WINDOWEDGE},
+                             {WS_CHILD, WS_EX_DLGMODALFRAME, even(fixed), 0x101},
+                             {WS_CHILD | WS_BORDER, 0, even(line), 0},
+                             {WS_CHILD | WS_BORDER, WS_EX_CLIENTEDGE, even(line + edge), 0x200},
+                             {WS_CHILD, WS_EX_STATICEDGE, even(line), 0x20000},
+                             {WS_CHILD, WS_EX_CLIENTEDGE, even(edge), 0x200},
+                             {WS_POPUP, WS_EX_WINDOWEDGE, even(0), 0}}) {
     const HWND window = framed("framed", each.style, each.ex_style);
     EXPECT_EQ(text_of(margins(window)), text_of(each.margins)) << std::hex << each.style;
     EXPECT_EQ(ex_style_of(window), each.ex_style_got) << std::hex << each.style;
     RECT around{10, 10, 20, 20};
     EXPECT_NE(AdjustWindowRectEx(&around, each.style, FALSE, each.ex_style), 0);
-    EXPECT_EQ(text_of(RECT{10 - around.left, 10 - around.top, around.right - 20, around.bottom - 20}),
-              text_of(each.margins));
+    EXPECT_EQ(
+        text_of(RECT{10 - around.left, 10 - around.top, around.right - 20, around.bottom - 20}),
+        text_of(each.margins));
     DestroyWindow(window);
   }
   EXPECT_EQ(AdjustWindowRect(nullptr, WS_CAPTION, FALSE), FALSE);
@@ -98,8 +98,8 @@ TEST_F(FrameMeasureTest, ChangedStyleIsMeasuredWhenTheFrameIsSaidToHaveChanged) 
 TEST_F(FrameMeasureTest, ScrollBarsAndChildrenLieWithinTheFrame) {
   const HWND window =
       framed("framed", WS_CHILD | WS_CAPTION | WS_VISIBLE | WS_VSCROLL, WS_EX_CLIENTEDGE);
-  const HWND child = create("child", {.parent = window, .style = WS_CHILD | WS_VISIBLE,
-                                      .place = {7, 8, 30, 30}});
+  const HWND child =
+      create("child", {.parent = window, .style = WS_CHILD | WS_VISIBLE, .place = {7, 8, 30, 30}});
   pump();
   EXPECT_EQ(text_of(margins(window)), "5,24,22,5");
   EXPECT_THAT(window_rect(child), test::is_rect(152, 182, 182, 212));
@@ -132,8 +132,8 @@ TEST_F(FrameMeasureTest, SuppliedContentCoversTheFrameAndTheClientKeepsItsPlace)
 // The desktop already shows a caption with the program's name around it.
 TEST_F(FrameMeasureTest, WindowThatFillsTheScreenHasNoFrameInsideAFramedNativeWindow) {
   own().display.set_native_frame(true);
-  const HWND main = create("main", {.style = WS_OVERLAPPEDWINDOW | WS_VISIBLE,
-                                    .place = {0, 0, 1280, 800}});
+  const HWND main =
+      create("main", {.style = WS_OVERLAPPEDWINDOW | WS_VISIBLE, .place = {0, 0, 1280, 800}});
   pump();
   EXPECT_EQ(text_of(margins(main)), "0,0,0,0");
   own().display.resize({900, 700});

@@ -22,8 +22,9 @@ class FrameMouseTest : public WindowTest {
                      WM_SIZING, WM_MOVE, WM_SIZE, WM_CLOSE, WM_CAPTURECHANGED, WM_SHOWWINDOW,
                      WM_ACTIVATE});
   }
-  // All of it is in the queue before the press is dispatched.
+  // All of it is in the queue before the press is dispatched, which begins no double-click.
   void drag(POINT from, POINT to, int key = 0) {
+    advance(2 * GetDoubleClickTime());
     move_to(from);
     forget();
     send_mouse(MOUSEEVENTF_LEFTDOWN);
@@ -34,8 +35,8 @@ class FrameMouseTest : public WindowTest {
     if (key != 0) key_up(key);
   }
 
-  const HWND window_ = create("framed", {.style = WS_OVERLAPPEDWINDOW | WS_VISIBLE,
-                                         .place = {100, 100, 400, 300}});
+  const HWND window_ =
+      create("framed", {.style = WS_OVERLAPPEDWINDOW | WS_VISIBLE, .place = {100, 100, 400, 300}});
 };
 
 TEST_F(FrameMouseTest, CursorShowsWhatTheSideDoes) {
@@ -43,16 +44,12 @@ TEST_F(FrameMouseTest, CursorShowsWhatTheSideDoes) {
     POINT point;
     CursorShape shape;
   };
-  for (const Place& each : {Place{{101, 200}, CursorShape::size_we},
-                            Place{{499, 200}, CursorShape::size_we},
-                            Place{{300, 100}, CursorShape::size_ns},
-                            Place{{300, 399}, CursorShape::size_ns},
-                            Place{{100, 100}, CursorShape::size_nwse},
-                            Place{{499, 399}, CursorShape::size_nwse},
-                            Place{{499, 100}, CursorShape::size_nesw},
-                            Place{{100, 399}, CursorShape::size_nesw},
-                            Place{kCaption, CursorShape::arrow},
-                            Place{kClose, CursorShape::arrow}}) {
+  for (const Place& each :
+       {Place{{101, 200}, CursorShape::size_we}, Place{{499, 200}, CursorShape::size_we},
+        Place{{300, 100}, CursorShape::size_ns}, Place{{300, 399}, CursorShape::size_ns},
+        Place{{100, 100}, CursorShape::size_nwse}, Place{{499, 399}, CursorShape::size_nwse},
+        Place{{499, 100}, CursorShape::size_nesw}, Place{{100, 399}, CursorShape::size_nesw},
+        Place{kCaption, CursorShape::arrow}, Place{kClose, CursorShape::arrow}}) {
     SetCursor(LoadCursorW(nullptr, IDC_WAIT));
     move_to(each.point);
     EXPECT_EQ(own().display.cursor(), each.shape) << text_of(each.point);
@@ -62,9 +59,9 @@ TEST_F(FrameMouseTest, CursorShowsWhatTheSideDoes) {
 TEST_F(FrameMouseTest, CaptionMovesAndSidesSize) {
   drag(kCaption, {220, 105});
   step("the caption");
-  drag(kCaption, {220, 105}, VK_ESCAPE);
+  drag({220, 105}, {240, 300}, VK_ESCAPE);
   step("given up");
-  drag({119, 200}, {130, 250});
+  drag({120, 200}, {130, 250});
   drag({519, 394}, {529, 404});
   step("left, then the corner at the right and below");
   recorder().on("framed", WM_SIZING, [](const Message& sent) -> std::optional<LRESULT> {
@@ -184,8 +181,8 @@ TEST_F(FrameMouseTest, MinimizedWindowIsACaptionAndTakesItsOwnedWindowsAlong) {
 
 TEST_F(FrameMouseTest, HandlersMayEndTheWindowInTheMiddle) {
   for (const UINT message : {WM_ENTERSIZEMOVE, WM_SIZING, WM_GETMINMAXINFO, WM_SIZE}) {
-    const HWND each = create("each", {.style = WS_OVERLAPPEDWINDOW | WS_VISIBLE,
-                                      .place = {700, 100, 200, 200}});
+    const HWND each =
+        create("each", {.style = WS_OVERLAPPEDWINDOW | WS_VISIBLE, .place = {700, 100, 200, 200}});
     pump();
     recorder().before_default("each", message, [each] { DestroyWindow(each); });
     drag({899, 299}, {950, 350});

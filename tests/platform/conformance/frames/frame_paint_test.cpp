@@ -11,8 +11,8 @@ class FramePaintTest : public WindowTest {
     return frame().count(kText, [](COLORREF each) { return each == kBlack; });
   }
 
-  const HWND window_ = create("framed", {.style = WS_OVERLAPPEDWINDOW | WS_VISIBLE,
-                                         .place = {100, 100, 400, 300}});
+  const HWND window_ =
+      create("framed", {.style = WS_OVERLAPPEDWINDOW | WS_VISIBLE, .place = {100, 100, 400, 300}});
 };
 
 TEST_F(FramePaintTest, CaptionTellsTheTextAndWhetherTheWindowIsActive) {

@@ -1,6 +1,6 @@
 #pragma once
 // What DefWindowProcW does, one function for each message, in files by idea. Each begins with a
-// window that is there; any message it sends may end that window.
+// window that is there and has a parent; any message it sends may end that window.
 #include "corvane/platform/system/user/system_state.h"
 
 namespace corvane::system {

@@ -52,7 +52,8 @@ static_assert(std::ranges::is_sorted(kDefaultHandling, {}, &DefaultHandling::num
 }  // namespace
 
 LRESULT DefWindowProcW(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
-  if (checked(window) == nullptr) return 0;
+  const Window* found = checked(window);
+  if (found == nullptr || found->parent == nullptr) return 0;
   const auto* row =
       std::ranges::lower_bound(kDefaultHandling, message, {}, &DefaultHandling::number);
   if (row == std::end(kDefaultHandling) || row->number != message) return 0;

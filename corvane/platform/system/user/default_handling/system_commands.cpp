@@ -70,6 +70,13 @@ constexpr SystemCommand kSystemCommands[] = {
     {SC_HSCROLL, on_scroll},    {SC_RESTORE, on_restore},
 };
 
+// A child without a caption means WS_TABSTOP by the same bit.
+bool has_maximize_box(HWND window) {
+  const Window* found = find(window);
+  return found != nullptr && (found->style & WS_MAXIMIZEBOX) != 0 &&
+         (!found->is_child() || found->has_caption());
+}
+
 }  // namespace
 
 LRESULT default_nc_press(const SentMessage& sent) {
@@ -83,7 +90,7 @@ LRESULT default_nc_double_click(const SentMessage& sent) {
   if (sent.wparam != WPARAM{HTCAPTION}) return default_nc_press(sent);
   if (has_style(sent.window, WS_MINIMIZE)) {
     send(sent.window, WM_SYSCOMMAND, SC_RESTORE, sent.lparam);
-  } else if (has_style(sent.window, WS_MAXIMIZEBOX)) {
+  } else if (has_maximize_box(sent.window)) {
     send(sent.window, WM_SYSCOMMAND, command_of_box(sent.window, HTMAXBUTTON), sent.lparam);
   }
   return 0;

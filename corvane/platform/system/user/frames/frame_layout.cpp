@@ -75,9 +75,9 @@ FrameLayout::FrameLayout(const RECT& outer, DWORD style, DWORD ex_style)
       border_(border_of(style_, ex_style)),
       client_edge_((ex_style & WS_EX_CLIENTEDGE) != 0 ? kEdge : 0) {
   if (!has_caption(style_)) return;
-  caption_ = {outer_.left + border_, outer_.top + border_, outer_.right - border_,
-              std::min<int>(outer_.top + border_ + caption_height(ex_style),
-                            outer_.bottom - border_)};
+  caption_ = {
+      outer_.left + border_, outer_.top + border_, outer_.right - border_,
+      std::min<int>(outer_.top + border_ + caption_height(ex_style), outer_.bottom - border_)};
   if (IsRectEmpty(&caption_)) caption_ = {};
   place_boxes();
 }

@@ -1,5 +1,6 @@
 #pragma once
-// Drawing windows' frames: flat, in the system colours, a darker line around, boxes with plain signs.
+// Drawing windows' frames: flat, in the system colours, a darker line around, boxes with plain
+// signs.
 #include "corvane/platform/system/user/system_state.h"
 
 namespace corvane::system {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "corvane/platform/system/user/windows/window_geometry.h"
+
 namespace corvane::system {
 namespace {
 
@@ -12,7 +14,7 @@ struct Directions {
 };
 
 Directions directions_of(int side) {
-  constexpr Directions kDirections[] = {{0, 0},   {-1, 0}, {1, 0},  {0, -1}, {-1, -1},
+  constexpr Directions kDirections[] = {{0, 0},  {-1, 0}, {1, 0},  {0, -1}, {-1, -1},
                                         {1, -1}, {0, 1},  {-1, 1}, {1, 1}};
   return side >= WMSZ_LEFT && side <= WMSZ_BOTTOMRIGHT ? kDirections[side] : Directions{0, 0};
 }
@@ -20,7 +22,7 @@ Directions directions_of(int side) {
 void drag(LONG& first, LONG& last, int direction, int travel, int smallest, int largest) {
   if (direction == 0) return;
   const int size = last - first + direction * travel;
-  const int allowed = std::max({std::min(size, largest), smallest, 0});
+  const int allowed = window_size(std::max(std::min(size, largest), smallest));
   (direction < 0 ? first : last) = direction < 0 ? last - allowed : first + allowed;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
-// The frame of a window: its layout, the client area that it leaves, and whether the native window's
-// frame stands for it.
+// The frame of a window: its layout, the client area that it leaves, and whether the native
+// window's frame stands for it.
 #include "corvane/platform/system/user/frames/frame_layout.h"
 #include "corvane/platform/system/user/system_state.h"
 
@@ -8,9 +8,7 @@ namespace corvane::system {
 
 // Of the window as it is, or as it would be at another place (in the parent's client coordinates).
 FrameLayout frame_layout(const Window& window, const RECT& outer);
-inline FrameLayout frame_layout(const Window& window) {
-  return frame_layout(window, window.frame);
-}
+inline FrameLayout frame_layout(const Window& window) { return frame_layout(window, window.frame); }
 // A point of the screen in the coordinates of frame_layout(window).
 POINT frame_point(const Window& window, POINT screen_point);
 

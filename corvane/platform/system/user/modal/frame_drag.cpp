@@ -1,5 +1,8 @@
 #include "corvane/platform/system/user/modal/frame_drag.h"
 
+#include <algorithm>
+
+#include "corvane/platform/geometry.h"
 #include "corvane/platform/system/user/messages/send_message.h"
 #include "corvane/platform/system/user/windows/size_limits.h"
 
@@ -19,6 +22,13 @@ void FrameDrag::run() {
   if (held_window() == nullptr) return;
   run_captured();
   send(window_, WM_EXITSIZEMOVE);
+}
+
+POINT FrameDrag::travel_to(POINT pointer) const {
+  const RECT& screen = state_.desktop->frame;
+  const int x = clamp_coordinate(pointer.x, 0, std::max<int>(screen.right - 1, 0));
+  const int y = clamp_coordinate(pointer.y, 0, std::max<int>(screen.bottom - 1, 0));
+  return {x - start_pointer_.x, y - start_pointer_.y};
 }
 
 ModalLoop::Turn FrameDrag::on_keyboard(const InputEvent& event) {

@@ -13,6 +13,9 @@ class FrameDrag : public CaptureLoop {
  protected:
   const RECT& start_frame() const { return start_frame_; }  // in the parent's client coordinates
   POINT start_pointer() const { return start_pointer_; }    // screen coordinates
+  // From there. A pointer beyond the screen, which the native window's does not end, counts as at
+  // its edge: something to take hold of stays on it.
+  POINT travel_to(POINT pointer) const;
   const MINMAXINFO& limits() const { return limits_; }
 
   virtual bool may_go_back() const { return true; }

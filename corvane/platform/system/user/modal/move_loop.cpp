@@ -39,7 +39,8 @@ class MoveLoop : public FrameDrag {
       return;
     }
     RECT frame = start_frame();
-    OffsetRect(&frame, pointer.x - start_pointer().x, pointer.y - start_pointer().y);
+    const POINT travel = travel_to(pointer);
+    OffsetRect(&frame, travel.x, travel.y);
     propose(frame, WM_MOVING, 0);
   }
 

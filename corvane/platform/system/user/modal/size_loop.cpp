@@ -1,6 +1,4 @@
 // Dragging a side or a corner of a window.
-#include <algorithm>
-
 #include "corvane/platform/system/user/frames/frame_sides.h"
 #include "corvane/platform/system/user/modal/frame_drag.h"
 #include "corvane/platform/system/user/modal/move_loop.h"
@@ -14,8 +12,7 @@ class SizeLoop : public FrameDrag {
 
  private:
   void follow(POINT pointer) override {
-    const POINT travel{pointer.x - start_pointer().x, pointer.y - start_pointer().y};
-    const RECT frame = sized_frame(start_frame(), side_, travel, limits());
+    const RECT frame = sized_frame(start_frame(), side_, travel_to(pointer), limits());
     propose(frame, WM_SIZING, static_cast<WPARAM>(side_));
   }
 

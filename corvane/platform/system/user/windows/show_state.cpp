@@ -30,8 +30,7 @@ RECT minimized_frame(const Window& window) {
     const RECT frame{left, bottom - kMinimizedHeight, left + kMinimizedWidth, bottom};
     const auto& siblings = window.parent->children;
     const bool taken = std::ranges::any_of(siblings, [&](const Window* other) {
-      return other != &window && (other->style & WS_MINIMIZE) != 0 &&
-             overlaps(other->frame, frame);
+      return other != &window && (other->style & WS_MINIMIZE) != 0 && overlaps(other->frame, frame);
     });
     if (!taken) return frame;
   }

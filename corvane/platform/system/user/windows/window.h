@@ -96,8 +96,8 @@ struct Window {
 
   // While maximized or minimized: where it goes back to, in the coordinates of `frame`.
   std::optional<RECT> restored_frame;
-  bool maximized_before = false;        // it was maximized when it was minimized
-  bool hidden_by_owner = false;         // by the minimizing of its owner
+  bool maximized_before = false;  // it was maximized when it was minimized
+  bool hidden_by_owner = false;   // by the minimizing of its owner
 
   LayeredState layered;
   std::shared_ptr<Surface> surface;  // top-level and layered windows: pixels of the whole frame
