@@ -1,8 +1,11 @@
 #include "corvane/platform/framework/brush.h"
 
+#include "corvane/platform/framework/platform_session.h"
+
 namespace corvane {
 
 bool CBrush::CreateSolidBrush(COLORREF color) {
+  OpenPlatformSession();
   DeleteObject();
   return Attach(::CreateSolidBrush(color));
 }

@@ -1,9 +1,12 @@
 #include "corvane/platform/framework/font.h"
 
+#include "corvane/platform/framework/platform_session.h"
+
 namespace corvane {
 
 bool CFont::CreateFontIndirectW(const LOGFONTW* description) {
   if (description == nullptr) return false;
+  OpenPlatformSession();
   DeleteObject();
   return Attach(::CreateFontIndirectW(description));
 }

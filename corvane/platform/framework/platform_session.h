@@ -18,4 +18,10 @@ class PlatformSession {
   std::unique_ptr<Resources> resources_;
 };
 
+// Opens one for the calling thread's application object (win_app.h), which keeps it until it or its
+// thread ends; nothing when it has one. RunApp, PumpMessages, and whatever makes window classes,
+// windows, fonts, pens, brushes or images call it; only who calls the platform's own functions
+// before any of these has to. False: the thread has no application object, or is ending.
+bool OpenPlatformSession();
+
 }  // namespace corvane

@@ -7,6 +7,7 @@ namespace corvane {
 namespace {
 
 thread_local CWinApp* live_app = nullptr;
+thread_local bool thread_is_ending = false;
 
 void release_temporaries() {
   ThreadState& state = ThreadState::current();
@@ -37,9 +38,26 @@ void handle(MSG* message) {
 
 }  // namespace
 
-CWinApp::CWinApp() : session_(std::make_unique<PlatformSession>()), previous_(live_app) {
-  live_app = this;
+// Closes the windows of application objects that outlive their thread while everything that their
+// handlers use is still there.
+struct SessionEnd {
+  SessionEnd() { ThreadState::current(); }  // is made before this and so ends after it
+  ~SessionEnd() {
+    thread_is_ending = true;
+    for (CWinApp* app = live_app; app != nullptr; app = app->previous_) app->session_.reset();
+  }
+};
+
+bool OpenPlatformSession() {
+  CWinApp* keeper = live_app;
+  if (keeper == nullptr || thread_is_ending) return false;
+  while (keeper->previous_ != nullptr) keeper = keeper->previous_;
+  thread_local const SessionEnd end;
+  if (keeper->session_ == nullptr) keeper->session_ = std::make_unique<PlatformSession>();
+  return true;
 }
+
+CWinApp::CWinApp() : previous_(live_app) { live_app = this; }
 
 CWinApp::~CWinApp() {
   if (live_app == this) live_app = previous_;
@@ -52,6 +70,7 @@ int CWinApp::ExitInstance() { return exit_code_; }
 bool CWinApp::OnIdle(LONG) { return false; }
 
 int CWinApp::Run() {
+  OpenPlatformSession();
   MSG message{};
   for (;;) {
     LONG idle_count = 0;
@@ -90,6 +109,7 @@ bool PreTranslateInput(MSG* message) {
 }
 
 bool PumpMessages() {
+  OpenPlatformSession();
   MSG message{};
   for (int i = 0; i < kMaxMessagesPerTurn && ::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE);
        ++i) {
@@ -99,6 +119,9 @@ bool PumpMessages() {
   return true;
 }
 
-int RunApp(CWinApp& app) { return app.InitInstance() ? app.Run() : app.ExitInstance(); }
+int RunApp(CWinApp& app) {
+  OpenPlatformSession();
+  return app.InitInstance() ? app.Run() : app.ExitInstance();
+}
 
 }  // namespace corvane

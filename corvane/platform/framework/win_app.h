@@ -1,6 +1,8 @@
 #pragma once
-// The application object of a user-interface thread: start, message loop, end. Off Windows its
-// constructor makes the thread's window system when there is none yet (see platform_session.h).
+// The application object of a user-interface thread: start, message loop, end. It may be of static
+// storage: its constructor opens nothing. What it needs of the platform, off Windows a window system
+// when the thread has none, is there from the first need on (see platform_session.h) until it ends;
+// when its thread ends first, the windows that are left are destroyed then.
 #include <memory>
 
 #include "corvane/platform/framework/wnd.h"
@@ -32,6 +34,9 @@ class CWinApp {
   CWnd* m_pMainWnd = nullptr;  // borrowed; its destruction ends the loop
 
  private:
+  friend bool OpenPlatformSession();
+  friend struct SessionEnd;
+
   std::unique_ptr<PlatformSession> session_;
   CWinApp* previous_;
   int exit_code_ = 0;

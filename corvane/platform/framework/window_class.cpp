@@ -1,6 +1,7 @@
 #include "corvane/platform/framework/window_class.h"
 
 #include "corvane/platform/framework/c_string.h"
+#include "corvane/platform/framework/platform_session.h"
 #include "corvane/platform/framework/thread_state.h"
 #include "corvane/platform/framework/win_app.h"
 
@@ -8,6 +9,7 @@ namespace corvane {
 
 const wchar_t* AfxRegisterWndClass(UINT class_style, HCURSOR cursor, HBRUSH background,
                                    HICON icon) {
+  OpenPlatformSession();
   CString name;
   name.Format(L"Corvane:%x:%p:%p:%p", class_style, static_cast<const void*>(cursor),
               static_cast<const void*>(background), static_cast<const void*>(icon));

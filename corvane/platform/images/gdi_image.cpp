@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "corvane/platform/framework/platform_session.h"
 #include "corvane/platform/images/image_saving.h"
 
 namespace corvane {
@@ -32,6 +33,7 @@ std::optional<ImageFormat> format_named(const std::wstring& path) {
 }  // namespace
 
 int CGdiImage::Load(const wchar_t* path) {
+  OpenPlatformSession();
   image_ = path != nullptr ? decoded(path) : nullptr;
   return image_ ? 1 : 0;
 }

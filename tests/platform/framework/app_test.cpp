@@ -1,4 +1,5 @@
 #include <optional>
+#include <thread>
 #include <tuple>
 
 #include "tests/platform/framework/watched_wnd.h"
@@ -173,16 +174,39 @@ TEST(FrameworkAppRun, ATurnHandlesWhatWaitsAndTellsOfTheQuitMessage) {
 }
 
 // The tests' environment names the display in memory.
-TEST(FrameworkAppSession, UsesTheWindowSystemThatThereIsOrMakesOne) {
-  {
-    const CWinApp app;
-    EXPECT_NE(system::WindowSystem::current(), nullptr);
-    EXPECT_TRUE(WatchedWnd().create());
+TEST(FrameworkAppSession, UsesTheWindowSystemThatThereIsOrMakesOneWhenItIsNeeded) {
+  const std::function<void()> needs[] = {
+      [] { EXPECT_TRUE(WatchedWnd().create()); },
+      [] { EXPECT_TRUE(CFont().CreateFontIndirectW(std::make_unique<LOGFONTW>().get())); },
+      [] { EXPECT_NE(AfxRegisterWndClass(0), nullptr); }, [] { EXPECT_TRUE(PumpMessages()); }};
+  for (const auto& need : needs) {
+    {
+      const CWinApp app;
+      const CWinApp inner;
+      EXPECT_EQ(system::WindowSystem::current(), nullptr) << "not yet";
+      need();
+      EXPECT_NE(system::WindowSystem::current(), nullptr);
+    }
+    EXPECT_EQ(system::WindowSystem::current(), nullptr);
   }
-  EXPECT_EQ(system::WindowSystem::current(), nullptr);
   test::Desktop desktop;
   const CWinApp app;
+  EXPECT_NE(AfxRegisterWndClass(0), nullptr);
   EXPECT_EQ(system::WindowSystem::current(), &desktop.own().windows);
+}
+
+TEST(FrameworkAppSession, EndsWithItsThreadWhenTheApplicationObjectOutlivesIt) {
+  std::optional<CWinApp> app;
+  bool destroyed = false;
+  WatchedWnd window([&destroyed](UINT message, WPARAM, LPARAM) {
+    if (message == WM_NCDESTROY) destroyed = true;
+  });
+  std::thread([&] {
+    app.emplace();
+    EXPECT_TRUE(window.create());
+  }).join();
+  EXPECT_TRUE(destroyed);
+  EXPECT_EQ(window.GetSafeHwnd(), nullptr);
 }
 
 }  // namespace

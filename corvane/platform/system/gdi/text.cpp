@@ -160,7 +160,7 @@ int DrawTextW(HDC dc, LPCWSTR text, int length, LPRECT rect, UINT format) {
       return height;
     }
     if (!shown.empty()) draw_layout(*context, *layout, *rect, format, top);
-    return top - rect->top + height;
+    return distance(rect->top, offset_by(top, height));
   });
 }
 

@@ -17,8 +17,9 @@ struct Registry {
   std::uintptr_t last_tag = 0;
 };
 
+// Never destroyed: systems of static storage end after it would.
 Registry& registry() {
-  static Registry instance;
+  static Registry& instance = *new Registry;
   return instance;
 }
 

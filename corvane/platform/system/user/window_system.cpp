@@ -1,6 +1,7 @@
 #include "corvane/platform/system/user/window_system.h"
 
 #include <cassert>
+#include <utility>
 
 #include "corvane/platform/system/user/messages/get_message.h"
 #include "corvane/platform/system/user/painting/presenting.h"
@@ -13,9 +14,9 @@
 namespace corvane::system {
 namespace {
 
+// Plain pointers: a system of static storage ends after the thread's own objects.
 thread_local WindowSystem* current_system = nullptr;
-// The current system of the time before the one that is being destroyed.
-thread_local std::vector<WindowSystem*> systems_of_thread;
+thread_local WindowSystem* newest_system = nullptr;
 
 // Most messages one call of process_pending dispatches, so that a program that keeps posting to
 // itself still comes back to its host.
@@ -44,8 +45,8 @@ WindowSystem::Impl::Impl(std::unique_ptr<Display> new_display)
 }
 
 WindowSystem::WindowSystem(std::unique_ptr<Display> display)
-    : impl_(std::make_unique<Impl>(std::move(display))) {
-  systems_of_thread.push_back(this);
+    : impl_(std::make_unique<Impl>(std::move(display))),
+      older_(std::exchange(newest_system, this)) {
   make_current();
   add_system_classes(*impl_);
 }
@@ -63,10 +64,12 @@ WindowSystem::~WindowSystem() {
   }
   assert(impl_->windows.size() == 1 && "only the desktop is left");
   unregister_system(impl_->tag);
-  std::erase(systems_of_thread, this);
+  WindowSystem** link = &newest_system;
+  while (*link != this) link = &(*link)->older_;
+  *link = older_;
   current_system = nullptr;
   Gdi::set_current(nullptr);
-  if (!systems_of_thread.empty()) systems_of_thread.back()->make_current();
+  if (newest_system != nullptr) newest_system->make_current();
 }
 
 WindowSystem* WindowSystem::current() { return current_system; }

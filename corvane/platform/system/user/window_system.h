@@ -15,8 +15,8 @@ namespace corvane::system {
 
 class WindowSystem {
  public:
-  // Becomes the thread's current one; the destructor destroys all windows and makes the previous
-  // one current again. Systems of one thread are destroyed in reverse order of their making.
+  // Becomes the thread's current one; the destructor destroys all windows and makes the newest of
+  // the others current.
   explicit WindowSystem(std::unique_ptr<Display> display);
   ~WindowSystem();
   WindowSystem(const WindowSystem&) = delete;
@@ -54,6 +54,7 @@ class WindowSystem {
 
  private:
   std::unique_ptr<Impl> impl_;
+  WindowSystem* older_;  // of the same thread
 };
 
 }  // namespace corvane::system
