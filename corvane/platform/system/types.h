@@ -58,6 +58,7 @@ struct HICON__;
 struct HMENU__;
 struct HINSTANCE__;
 struct HHOOK__;
+struct HMONITOR__;
 using HWND = HWND__*;
 using HDC = HDC__*;
 using HPEN = HPEN__*;
@@ -71,6 +72,7 @@ using HMENU = HMENU__*;
 using HINSTANCE = HINSTANCE__*;
 using HMODULE = HINSTANCE;
 using HHOOK = HHOOK__*;
+using HMONITOR = HMONITOR__*;
 
 struct POINT {
   LONG x;

@@ -7,6 +7,7 @@
 
 #include "corvane/platform/system/display/headless_display.h"
 #include "corvane/platform/system/display/open_display.h"
+#include "corvane/platform/system/display/sdl/start_size.h"
 #include "tests/support/golden_file.h"
 
 namespace corvane::system {
@@ -40,6 +41,18 @@ TEST(HeadlessDisplay, PresentsAFrameOfAnotherSizeWhereBothAre) {
   display.present(Surface(30, 4, 0xFFABCDEF), Region({0, 0, 30, 30}));
   EXPECT_EQ(display.frame().at(9, 3), 0xFFABCDEF);
   EXPECT_EQ(display.frame().at(9, 4), 0u);
+}
+
+TEST(StartSize, FitsWithItsFrameAndGrowsWithTheDesktop) {
+  const std::tuple<SIZE, SIZE> cases[] = {{{800, 600}, {784, 552}},
+                                          {{1280, 800}, {1264, 752}},
+                                          {{1920, 1080}, {1440, 810}},
+                                          {{3840, 2160}, {2880, 1620}},
+                                          {{1, 1}, {1, 1}}};
+  for (const auto& [work_area, start] : cases) {
+    EXPECT_EQ(start_size(work_area).cx, start.cx);
+    EXPECT_EQ(start_size(work_area).cy, start.cy);
+  }
 }
 
 TEST(HeadlessDisplay, ClockMovesOnlyWhenToldOrWhenAWaitWouldSleep) {

@@ -288,6 +288,19 @@ TEST_F(SdlDisplayTest, FollowsTheWindowsSizeButIsNeverSmallerThanTheLeastWindow)
   }
 }
 
+TEST_F(SdlDisplayOnXTest, FillsTheMonitorAndComesBack) {
+  const SIZE monitor = display_->full_size();
+  EXPECT_GT(monitor.cx, 640);
+  display_->set_full_screen(true);
+  ASSERT_TRUE(arrives(is_at(InputKind::resize, monitor.cx, monitor.cy)));
+  EXPECT_FALSE(display_->drag_native_window({5, 5})) << "there it stays";
+  present_color(0xFF0B0C0D);
+  EXPECT_TRUE(
+      happens([&] { return server_.pixel(window_, monitor.cx - 1, monitor.cy - 1) == 0x0B0C0D; }));
+  display_->set_full_screen(false);
+  EXPECT_TRUE(arrives(is_at(InputKind::resize, 640, 480)));
+}
+
 TEST_F(SdlDisplayOnXTest, TellsOfClosingAndLostFocus) {
   server_.ask_to_close(window_);
   EXPECT_TRUE(arrives(is(InputKind::close)));

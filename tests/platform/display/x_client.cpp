@@ -36,6 +36,19 @@ std::string XClient::title_of(unsigned long window) const {
   return title;
 }
 
+std::vector<unsigned long> XClient::icon(unsigned long window) const {
+  Atom type = 0;
+  int format = 0;
+  unsigned long length = 0, rest = 0;
+  unsigned char* data = nullptr;
+  XGetWindowProperty(display_, window, XInternAtom(display_, "_NET_WM_ICON", False), 0, 99999,
+                     False, AnyPropertyType, &type, &format, &length, &rest, &data);
+  const auto* const words = reinterpret_cast<const unsigned long*>(data);
+  std::vector<unsigned long> icon(words, words + length);
+  if (data) XFree(data);
+  return icon;
+}
+
 XClient::Place XClient::place(unsigned long window) const {
   XWindowAttributes found{};
   XGetWindowAttributes(display_, window, &found);

@@ -27,6 +27,8 @@ class XClient {
   // 0x00RRGGBB of a pixel in a shown window.
   std::uint32_t pixel(unsigned long window, int x, int y) const;
 
+  // Width, height and pixels (0xAARRGGBB) of the window's icon; nothing when it has none.
+  std::vector<unsigned long> icon(unsigned long window) const;
   // The pixels of the cursor that is on the screen now.
   std::vector<unsigned long> cursor() const;
 

@@ -301,6 +301,21 @@ TEST_F(GdiImages, ShrinkingKeepsTheMeanAndTheCopy) {
   EXPECT_EQ(count(differs), 0);
 }
 
+TEST_F(GdiImages, APictureThatReachesBeyondTheSurfaceLooksAsOneThatDoesNot) {
+  std::vector<Pixel> pixels;
+  for (int at = 0; at < 300 * 200; ++at) {
+    const auto blue = static_cast<Pixel>(at % 300 * 255 / 300);
+    pixels.push_back(0xFF000000 | (static_cast<Pixel>(at / 300) << 8) | blue);
+  }
+  const auto image = bitmap(300, 200, pixels);
+  Graphics(dc).DrawImage(image.get(), Rect(-50, -30, 140, 90));  // a half, and less of it
+  for (const auto& [x, y] : {std::pair(1, 1), {40, 20}, {88, 58}}) {
+    EXPECT_NEAR(seen(x, y) & 0xFF, (x + 50.5) * 255 / 140, 2) << x;
+    EXPECT_NEAR(seen(x, y) >> 8 & 0xFF, (y + 30.5) * 200 / 90, 2) << y;
+  }
+  EXPECT_EQ(seen(90, 10), kWhite);
+}
+
 TEST_F(GdiImages, PartsOfAPicture) {
   std::vector<Pixel> pixels;
   for (Pixel at = 0; at < 16; ++at) pixels.push_back(0xFF000000 | (at * 8));

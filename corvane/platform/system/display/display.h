@@ -47,6 +47,7 @@ class Display {
 
   virtual void set_cursor(CursorShape) {}
   virtual void set_title(const wchar_t*) {}
+  virtual void set_icon(const Surface& /*pixels*/) {}
   virtual void set_capture(bool) {}  // keep receiving the mouse outside the native window
   // Moves the native window so that this point of the screen lies under the pointer, wherever the
   // pointer is on the native desktop by now. False: there is no native window to move.
@@ -58,6 +59,11 @@ class Display {
   // to the program that owns it. False: the desktop does not take such a text.
   virtual std::string clipboard_text() { return {}; }
   virtual bool set_clipboard_text(const std::string& /*utf8*/) { return false; }
+  // The size that the screen has when the native window fills its monitor.
+  virtual SIZE full_size() const { return size(); }
+  // Fills the monitor or stands among the desktop's windows again. The screen's other size arrives
+  // as a resize event.
+  virtual void set_full_screen(bool) {}
   // The first top-level window was shown: an on-screen display opens its native window now.
   virtual void show() {}
 };

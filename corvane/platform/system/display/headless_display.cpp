@@ -11,7 +11,15 @@ SIZE checked(SIZE size) { return {std::max<LONG>(size.cx, 0), std::max<LONG>(siz
 
 }  // namespace
 
-HeadlessDisplay::HeadlessDisplay(SIZE size) : size_(checked(size)), frame_(size_.cx, size_.cy) {}
+HeadlessDisplay::HeadlessDisplay(SIZE size) : HeadlessDisplay(size, size) {}
+
+HeadlessDisplay::HeadlessDisplay(SIZE size, SIZE full_size)
+    : size_(checked(size)), full_size_(checked(full_size)), frame_(size_.cx, size_.cy) {}
+
+void HeadlessDisplay::set_full_screen(bool full) {
+  if (full) former_size_ = size_;
+  resize(full ? full_size_ : former_size_);
+}
 
 void HeadlessDisplay::present(const Surface& frame, const Region& damage) {
   Region shown = damage;

@@ -8,6 +8,8 @@ namespace corvane::system {
 class HeadlessDisplay : public Display {
  public:
   explicit HeadlessDisplay(SIZE size = {1280, 800});
+  // In memory of a monitor that is larger than the window on it.
+  HeadlessDisplay(SIZE size, SIZE full_size);
   SIZE size() const override { return size_; }
   void present(const Surface& frame, const Region& damage) override;
   std::uint64_t now() const override { return now_; }
@@ -18,12 +20,13 @@ class HeadlessDisplay : public Display {
   void set_cursor(CursorShape shape) override { cursor_ = shape; }
   bool has_native_frame() const override { return native_frame_; }
   void set_capture(bool captured) override { captured_ = captured; }
+  std::string clipboard_text() override { return clipboard_; }
+  bool set_clipboard_text(const std::string& utf8) override;
+  SIZE full_size() const override { return full_size_; }
+  void set_full_screen(bool full) override;
 
   // As if its native window had a frame; none has one from the start.
   void set_native_frame(bool framed) { native_frame_ = framed; }
-  std::string clipboard_text() override { return clipboard_; }
-  bool set_clipboard_text(const std::string& utf8) override;
-
   void advance(std::uint64_t milliseconds) { now_ += milliseconds; }
   void push(const InputEvent& event);
   void resize(SIZE size);  // arrives as a resize event
@@ -38,6 +41,8 @@ class HeadlessDisplay : public Display {
  private:
   SIZE size_;
   bool native_frame_ = false;
+  SIZE full_size_;
+  SIZE former_size_{};
   std::uint64_t now_ = 1000;
   CursorShape cursor_ = CursorShape::arrow;
   bool captured_ = false;

@@ -28,12 +28,13 @@ LONG side_of(std::string_view text) {
   return error == std::errc() && stop == end && side <= kMaxSide ? side : 0;
 }
 
+// Empty when none is wanted.
 SIZE wanted_size() {
   const std::string_view text = environment("CORVANE_SCREEN");
   const std::size_t cross = text.find('x');
-  if (cross == std::string_view::npos) return kDefaultSize;
+  if (cross == std::string_view::npos) return {};
   const SIZE size{side_of(text.substr(0, cross)), side_of(text.substr(cross + 1))};
-  return size.cx > 0 && size.cy > 0 ? size : kDefaultSize;
+  return size.cx > 0 && size.cy > 0 ? size : SIZE{};
 }
 
 bool has_native_desktop() {
@@ -50,7 +51,7 @@ std::unique_ptr<Display> open_display() {
     std::fprintf(stderr, "corvane: CORVANE_DISPLAY=%s is unknown (headless, sdl)\n", kind.data());
   }
   if (kind == "headless" || (!only_native && !has_native_desktop())) {
-    return std::make_unique<HeadlessDisplay>(size);
+    return std::make_unique<HeadlessDisplay>(size.cx > 0 ? size : kDefaultSize);
   }
   // A program that nobody sees would run on for ever.
   auto display = SdlDisplay::open(size);

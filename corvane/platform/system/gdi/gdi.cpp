@@ -122,6 +122,11 @@ bool Gdi::fill(Surface& surface, const Region& region, HBRUSH brush) {
   });
 }
 
+std::shared_ptr<const Surface> Gdi::icon(HICON icon) {
+  const IconObject* const found = impl_->get<IconObject>(icon);
+  return found != nullptr ? found->pixels : nullptr;
+}
+
 int Gdi::live_objects() const {
   int live = impl_->contexts.size();
   impl_->objects.for_each(

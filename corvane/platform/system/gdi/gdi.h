@@ -36,6 +36,9 @@ class Gdi {
   // (HBRUSH or system colour index + 1). False for a null or stale brush.
   bool fill(Surface& surface, const Region& region, HBRUSH brush);
 
+  // An icon's pixels, null for a stale handle.
+  std::shared_ptr<const Surface> icon(HICON icon);
+
   // Number of live objects and contexts, without the stock objects (for leak tests).
   int live_objects() const;
 

@@ -164,6 +164,7 @@ HGDIOBJ GetStockObject(int which);
 HBRUSH GetSysColorBrush(int index);
 COLORREF GetSysColor(int index);
 BOOL DeleteObject(HGDIOBJ object);
+BOOL DestroyIcon(HICON icon);                  // made by Bitmap::GetHICON
 HGDIOBJ SelectObject(HDC dc, HGDIOBJ object);  // returns the previously selected one
 HGDIOBJ GetCurrentObject(HDC dc, UINT type);
 int GetObjectW(HANDLE object, int size, LPVOID out);

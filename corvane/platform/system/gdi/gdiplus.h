@@ -101,8 +101,10 @@ class Image {
 class Bitmap : public Image {
  public:
   Bitmap(INT width, INT height, INT stride, DWORD format, BYTE* scan0);
-  Bitmap(const WCHAR* path, BOOL embedded_color_management = FALSE)
+  explicit Bitmap(const WCHAR* path, BOOL embedded_color_management = FALSE)
       : Image(path, embedded_color_management) {}
+  // A new icon with these pixels; the caller frees it with DestroyIcon.
+  Status GetHICON(HICON* icon) const;
 };
 #define PixelFormat32bppARGB 0x26200Au
 

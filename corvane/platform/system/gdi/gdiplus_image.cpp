@@ -48,6 +48,13 @@ UINT Image::GetWidth() const { return pixels_ ? static_cast<UINT>(pixels_->width
 UINT Image::GetHeight() const { return pixels_ ? static_cast<UINT>(pixels_->height()) : 0; }
 Status Image::GetLastStatus() const { return std::exchange(status_, Ok); }
 
+Status Bitmap::GetHICON(HICON* icon) const {
+  Gdi::Impl* tables = pixels_ != nullptr && icon != nullptr ? current_tables() : nullptr;
+  if (tables == nullptr) return status_ = InvalidParameter;
+  *icon = tables->objects.insert_as<HICON>({.kind = IconObject{pixels_}});
+  return status_ = Ok;
+}
+
 Bitmap::Bitmap(INT width, INT height, INT stride, DWORD format, BYTE* scan0) {
   status_ = InvalidParameter;
   const bool good_size = width > 0 && height > 0 && width <= kMaxImageSide &&

@@ -31,6 +31,11 @@ Source source_of(const Image& image, const RECT& part) {
   return {image.pixels(), part, image.cache()->opaque()};
 }
 
+bool contains(const RECT& outer, const RECT& inner) {
+  return inner.left >= outer.left && inner.top >= outer.top && inner.right <= outer.right &&
+         inner.bottom <= outer.bottom;
+}
+
 Source shrunk(const Image& image, const RECT& part, int width, int height) {
   const Source whole = source_of(image, part);
   if (width >= whole.width() && height >= whole.height()) return whole;
@@ -38,6 +43,23 @@ Source shrunk(const Image& image, const RECT& part, int width, int height) {
                                     std::min(height, whole.height()));
   const RECT all = copy->rect();
   return {std::move(copy), all, whole.opaque};
+}
+
+// Of a picture that reaches beyond the surface, another part may be seen at the next moment or at
+// another scale: it is not averaged anew each time.
+bool is_seen_in_part(const DeviceContext& dc, const RECT& reach, const Image& image,
+                     const RECT& part) {
+  const RECT whole = image.pixels()->rect();
+  return !contains(dc.surface->rect(), reach) && EqualRect(&whole, &part) != 0;
+}
+
+// Not smaller than it is shown, and less than twice as large where it is seen in part.
+Source reduced(const DeviceContext& dc, const RECT& reach, const Image& image, const RECT& part,
+               int width, int height) {
+  if (!is_seen_in_part(dc, reach, image, part)) return shrunk(image, part, width, height);
+  std::shared_ptr<const Surface> pixels = image.cache()->halved(image.pixels(), width, height);
+  const RECT all = pixels->rect();
+  return {std::move(pixels), all, image.cache()->opaque()};
 }
 
 bool is_whole(double value) {
@@ -143,9 +165,9 @@ void paint_mapped(DeviceContext& dc, const Image& image, const ImagePlacement& p
   const Source source =
       placement.nearest
           ? source_of(image, placement.part)
-          : shrunk(image, placement.part,
-                   device_length(matrix.xx * placement.width, matrix.yx * placement.width),
-                   device_length(matrix.xy * placement.height, matrix.yy * placement.height));
+          : reduced(dc, *reach, image, placement.part,
+                    device_length(matrix.xx * placement.width, matrix.yx * placement.width),
+                    device_length(matrix.xy * placement.height, matrix.yy * placement.height));
   Region area = dc.clip();
   area.intersect(*reach);
   const Canvas canvas(*dc.surface, std::move(area));
@@ -179,7 +201,8 @@ void paint_image(DeviceContext& dc, const Image& image, const ImagePlacement& pl
     paint_copy(dc, source, target->left, target->top);
   } else if (placement.nearest) {
     paint_blocks(dc, source, *target);
-  } else if (width <= source.width() && height <= source.height()) {
+  } else if (width <= source.width() && height <= source.height() &&
+             !is_seen_in_part(dc, *target, image, placement.part)) {
     paint_copy(dc, shrunk(image, placement.part, width, height), target->left, target->top);
   } else {
     paint_mapped(dc, image, placement);

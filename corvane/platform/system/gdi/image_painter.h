@@ -16,7 +16,8 @@ struct ImagePlacement {
 };
 
 // Source-over; clips and marks. A part that keeps its size is copied, a smaller one is averaged
-// once and kept in the picture's cache, anything else is drawn bilinearly.
+// once and kept in the picture's cache, anything else is drawn bilinearly; so is a smaller one that
+// reaches beyond the surface, from a copy of the picture halved once or more.
 void paint_image(DeviceContext& dc, const corvane_system::Gdiplus::Image& image,
                  const ImagePlacement& placement);
 

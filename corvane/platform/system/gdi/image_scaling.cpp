@@ -1,5 +1,6 @@
 #include "corvane/platform/system/gdi/image_scaling.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <vector>
 
@@ -123,6 +124,21 @@ std::shared_ptr<const Surface> ImageCache::shrunk(const Surface& picture, const 
   copies_.push_front({part, shrunk_by_area(picture, part, width, height)});
   drop_oldest();
   return copies_.front().pixels;
+}
+
+std::shared_ptr<const Surface> ImageCache::halved(const std::shared_ptr<const Surface>& picture,
+                                                  int width, int height) {
+  const std::lock_guard<std::mutex> guard(lock_);
+  std::shared_ptr<const Surface> smallest = picture;
+  for (std::size_t times = 0;; ++times) {
+    const int half_width = smallest->width() / 2;
+    const int half_height = smallest->height() / 2;
+    if (half_width < std::max(width, 1) || half_height < std::max(height, 1)) return smallest;
+    if (times == halves_.size()) {
+      halves_.push_back(shrunk_by_area(*smallest, smallest->rect(), half_width, half_height));
+    }
+    smallest = halves_[times];
+  }
 }
 
 void ImageCache::drop_oldest() {

@@ -3,6 +3,7 @@
 #include <list>
 #include <memory>
 #include <mutex>
+#include <vector>
 
 #include "corvane/platform/system/gdi/surface.h"
 
@@ -22,6 +23,10 @@ class ImageCache {
   // As shrunk_by_area; the copies made last are kept.
   std::shared_ptr<const Surface> shrunk(const Surface& picture, const RECT& part, int width,
                                         int height);
+  // The whole picture, halved as often as its sides stay at least that long. All halves are kept: a
+  // third of the picture's size.
+  std::shared_ptr<const Surface> halved(const std::shared_ptr<const Surface>& picture, int width,
+                                        int height);
 
  private:
   struct Copy {
@@ -33,6 +38,7 @@ class ImageCache {
   bool opaque_;
   std::mutex lock_;
   std::list<Copy> copies_;  // used last first
+  std::vector<std::shared_ptr<const Surface>> halves_;
 };
 
 }  // namespace corvane::system

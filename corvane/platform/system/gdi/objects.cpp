@@ -134,10 +134,17 @@ HBITMAP CreateDIBSection(HDC, const BITMAPINFO* info, UINT usage, void** bits, H
   });
 }
 
+BOOL DestroyIcon(HICON icon) {
+  Gdi::Impl* tables = current_tables();
+  if (tables == nullptr || tables->get<IconObject>(icon) == nullptr) return FALSE;
+  tables->objects.remove(icon);
+  return TRUE;
+}
+
 BOOL DeleteObject(HGDIOBJ object) {
   Gdi::Impl* tables = current_tables();
   GdiObject* found = tables != nullptr ? tables->objects.find(object) : nullptr;
-  if (found == nullptr) return FALSE;
+  if (found == nullptr || std::holds_alternative<IconObject>(found->kind)) return FALSE;
   if (found->stock) return TRUE;
   if (found->selections > 0) {
     found->doomed = true;

@@ -25,9 +25,12 @@ struct BitmapObject {
   bool monochrome = false;  // pixels are 0x000000 and 0xFFFFFF only
   void* bits = nullptr;     // the pixels' lowest address, when they were handed out
 };
+struct IconObject {
+  std::shared_ptr<const Surface> pixels;
+};
 
 struct GdiObject {
-  std::variant<PenObject, BrushObject, FontObject, BitmapObject> kind;
+  std::variant<PenObject, BrushObject, FontObject, BitmapObject, IconObject> kind;
   int selections = 0;   // device contexts that have it selected
   bool stock = false;   // never deleted; a stock bitmap fits into many contexts
   bool doomed = false;  // deletion was asked for while it was selected

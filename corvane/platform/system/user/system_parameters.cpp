@@ -37,7 +37,7 @@ BOOL SystemParametersInfoW(UINT action, UINT parameter, void* data, UINT) {
       *static_cast<DWORD*>(data) = parameters.wheel_routing;
       return TRUE;
     case SPI_GETWORKAREA:
-      *static_cast<RECT*>(data) = state->desktop->frame;
+      *static_cast<RECT*>(data) = state->work_area;
       return TRUE;
     default:
       return FALSE;

@@ -66,6 +66,8 @@ struct WindowSystem::Impl {
   Region frame_damage;  // besides what the surfaces marked
   std::uint64_t last_present = 0;
   bool display_shown = false;
+  RECT work_area{};          // the screen, as it is while no window fills the monitor
+  bool full_screen = false;  // a window does
 
   Window* find(HWND window);
   HWND new_handle();
@@ -89,6 +91,7 @@ bool enabled_with_parents(const Window& window);
 bool is_descendant(const Window& ancestor, const Window& window);
 // A copy, top first: whatever is sent to one of them may change the order or end others.
 std::vector<HWND> children_of(const Window& window);
+RECT monitor_rect(const System& state);     // what a window covers to fill the monitor
 POINT client_origin(const Window& window);  // screen coordinates
 RECT frame_on_screen(const Window& window);
 RECT client_on_screen(const Window& window);

@@ -116,6 +116,13 @@ struct CURSORINFO {
   HCURSOR hCursor;
   POINT ptScreenPos;
 };
+struct MONITORINFO {
+  DWORD cbSize;
+  RECT rcMonitor;
+  RECT rcWork;
+  DWORD dwFlags;
+};
+using LPMONITORINFO = MONITORINFO*;
 struct TRACKMOUSEEVENT {
   DWORD cbSize;
   DWORD dwFlags;
@@ -303,6 +310,10 @@ BOOL DestroyCursor(HCURSOR cursor);
 BOOL SystemParametersInfoW(UINT action, UINT parameter, void* data, UINT flags);
 int GetSystemMetrics(int index);
 int GetDeviceCaps(HDC dc, int index);  // of the screen, whatever the context is for
+// There is one monitor. rcMonitor is what a window covers to fill it: while none does, it can be
+// larger than the screen, which is then the work area.
+HMONITOR MonitorFromWindow(HWND window, DWORD flags);
+BOOL GetMonitorInfoW(HMONITOR monitor, MONITORINFO* info);
 HMODULE GetModuleHandleW(LPCWSTR name);
 DWORD GetCurrentThreadId();
 

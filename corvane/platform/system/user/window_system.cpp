@@ -41,6 +41,7 @@ WindowSystem::Impl::Impl(std::unique_ptr<Display> new_display)
     : display(std::move(new_display)), frame(display->size().cx, display->size().cy) {
   tag = register_system(this);
   add_desktop(*this);
+  work_area = desktop->frame;
   frame_damage.unite(frame.rect());
 }
 

@@ -124,6 +124,14 @@ TEST_F(WheelTest, OtherSystemParameters) {
   EXPECT_EQ(text_of(area), "0,0,1280,800");
   EXPECT_EQ(GetSystemMetrics(SM_CXSCREEN), 1280);
   EXPECT_EQ(GetSystemMetrics(SM_CYSCREEN), 800);
+  const HMONITOR monitor = MonitorFromWindow(top_, MONITOR_DEFAULTTONULL);
+  MONITORINFO info{};
+  EXPECT_EQ(GetMonitorInfoW(monitor, &info), 0) << "its size is not said";
+  info.cbSize = sizeof(info);
+  EXPECT_EQ(GetMonitorInfoW(nullptr, &info), 0);
+  EXPECT_NE(GetMonitorInfoW(monitor, &info), 0);
+  EXPECT_EQ(text_of(info.rcMonitor) + " " + text_of(info.rcWork), "0,0,1280,800 0,0,1280,800");
+  EXPECT_EQ(info.dwFlags, MONITORINFOF_PRIMARY);
   EXPECT_NE(SystemParametersInfoW(SPI_SETDRAGFULLWINDOWS, 1, nullptr, 0), 0);
   BOOL drags_contents = FALSE;
   EXPECT_NE(SystemParametersInfoW(SPI_GETDRAGFULLWINDOWS, 0, &drags_contents, 0), 0);

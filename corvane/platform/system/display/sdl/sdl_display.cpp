@@ -13,8 +13,11 @@
 #include "corvane/platform/system/display/sdl/sdl_cursors.h"
 #include "corvane/platform/system/display/sdl/sdl_driver.h"
 #include "corvane/platform/system/display/sdl/sdl_events.h"
+#include "corvane/platform/system/display/sdl/sdl_full_screen.h"
+#include "corvane/platform/system/display/sdl/sdl_icon.h"
 #include "corvane/platform/system/display/sdl/sdl_native_pointer.h"
 #include "corvane/platform/system/display/sdl/sdl_waiter.h"
+#include "corvane/platform/system/display/sdl/start_size.h"
 
 namespace corvane::system {
 
@@ -92,6 +95,7 @@ struct SdlDisplay::Native {
   std::unique_ptr<SDL_Window, WindowDeleter> window;
   std::unique_ptr<Presenter> presenter;
   std::unique_ptr<SdlWaiter> waiter;
+  std::optional<SdlFullScreen> full_screen;
   SdlCursors cursors;
   SdlEvents events;
   ClipboardWatch clipboard;
@@ -102,6 +106,10 @@ std::unique_ptr<SdlDisplay> SdlDisplay::open(SIZE size) {
   for (const Hint& hint : kHints) SDL_SetHint(hint.name, hint.value);
   auto native = std::make_unique<Native>();
   if (!native->session.reaches_a_desktop()) return nullptr;
+  SDL_Rect usable{};
+  if (size.cx <= 0 && SDL_GetDisplayUsableBounds(0, &usable) == 0) {
+    size = start_size({usable.w, usable.h});
+  }
   const SIZE real{std::max(size.cx, kMinWindowSize.cx), std::max(size.cy, kMinWindowSize.cy)};
   native->window.reset(SDL_CreateWindow("", SDL_WINDOWPOS_UNDEFINED, SDL_WINDOWPOS_UNDEFINED,
                                         real.cx, real.cy,
@@ -112,6 +120,7 @@ std::unique_ptr<SdlDisplay> SdlDisplay::open(SIZE size) {
   SDL_SetWindowMinimumSize(native->window.get(), kMinWindowSize.cx, kMinWindowSize.cy);
   native->clipboard.start(native->window.get());
   native->waiter = std::make_unique<SdlWaiter>(native->window.get());
+  native->full_screen.emplace(native->window.get());
   return std::unique_ptr<SdlDisplay>(new SdlDisplay(std::move(native), real));
 }
 
@@ -181,10 +190,25 @@ void SdlDisplay::set_title(const wchar_t* title) {
   SDL_free(utf8);
 }
 
+void SdlDisplay::set_icon(const Surface& pixels) {
+  show_icon(native_->window.get(), pixels);
+  native_->waiter->notice_queued_events();
+}
+
 void SdlDisplay::set_capture(bool capture) { SDL_CaptureMouse(capture ? SDL_TRUE : SDL_FALSE); }
 
+SIZE SdlDisplay::full_size() const {
+  const SIZE monitor = native_->full_screen->monitor_size();
+  return monitor.cx > 0 && monitor.cy > 0 ? monitor : size_;
+}
+
+void SdlDisplay::set_full_screen(bool full) {
+  native_->full_screen->set(full);
+  native_->waiter->notice_queued_events();
+}
+
 bool SdlDisplay::drag_native_window(POINT grip) {
-  if (!knows_desktop_positions()) return false;
+  if (!knows_desktop_positions() || native_->full_screen->active()) return false;
   const POINT pointer = native_pointer_position(native_->window.get());
   int x = 0;
   int y = 0;

@@ -13,6 +13,7 @@ class SdlDisplay : public Display {
   // The window stays hidden until show(). Null when the native desktop cannot be reached or
   // the window could show nothing. A process whose LC_CTYPE is still the "C" of its start gets the
   // user's, or else C.UTF-8.
+  // `size` of the screen; empty: as the desktop's work area wants it (start_size).
   static std::unique_ptr<SdlDisplay> open(SIZE size);
   ~SdlDisplay() override;
 
@@ -26,6 +27,7 @@ class SdlDisplay : public Display {
 
   void set_cursor(CursorShape shape) override;
   void set_title(const wchar_t* title) override;
+  void set_icon(const Surface& pixels) override;
   void set_capture(bool capture) override;
   bool drag_native_window(POINT grip) override;
   bool has_native_frame() const override;
@@ -33,6 +35,8 @@ class SdlDisplay : public Display {
   std::string clipboard_text() override;
   bool set_clipboard_text(const std::string& utf8) override;
   void show() override;
+  SIZE full_size() const override;
+  void set_full_screen(bool full) override;
 
  private:
   struct Native;

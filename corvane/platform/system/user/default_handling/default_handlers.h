@@ -12,11 +12,13 @@ struct SentMessage {
   LPARAM lparam;
 };
 
-// --- The window's text
+// --- The window's text and icons
 LRESULT default_nc_create(const SentMessage& sent);
 LRESULT default_set_text(const SentMessage& sent);
 LRESULT default_get_text(const SentMessage& sent);
 LRESULT default_get_text_length(const SentMessage& sent);
+LRESULT default_get_icon(const SentMessage& sent);
+LRESULT default_set_icon(const SentMessage& sent);
 
 // --- The frame around the client area
 LRESULT default_nc_calc_size(const SentMessage& sent);

@@ -30,6 +30,8 @@ constexpr DefaultHandling kDefaultHandling[] = {
     {WM_WINDOWPOSCHANGING, default_position_changing},
     {WM_WINDOWPOSCHANGED, default_position_changed},
     {WM_CONTEXTMENU, give_to_parent},
+    {WM_GETICON, default_get_icon},
+    {WM_SETICON, default_set_icon},
     {WM_NCCREATE, default_nc_create},
     {WM_NCCALCSIZE, default_nc_calc_size},
     {WM_NCHITTEST, default_nc_hit_test},

@@ -52,7 +52,8 @@ void route_focus(System& state, const InputEvent& event) {
   leave_foreground();
 }
 
-// A changed size of the display: windows that filled the screen fill it again.
+// A changed size of the display: windows that filled the screen fill it again. One that left full
+// screen has the work area's size before the display has.
 void resize_screen(System& state, SIZE size) {
   if (size.cx <= 0 || size.cy <= 0) return;
   const RECT old = state.desktop->frame;
@@ -64,8 +65,10 @@ void resize_screen(System& state, SIZE size) {
   state.frame.resize(size.cx, size.cy);
   std::vector<HWND> filling;
   for (const Window* top : state.desktop->children) {
-    if (EqualRect(&top->frame, &old)) filling.push_back(top->handle);
+    const bool fills = EqualRect(&top->frame, &old) || EqualRect(&top->frame, &state.work_area);
+    if (fills) filling.push_back(top->handle);
   }
+  if (!state.full_screen) state.work_area = now;
   for (HWND window : filling) MoveWindow(window, 0, 0, size.cx, size.cy, TRUE);
   fit_to_screen(state);
 }

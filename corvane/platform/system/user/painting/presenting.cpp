@@ -75,6 +75,22 @@ Region compose_damage(System& state) {
   return damage;
 }
 
+namespace {
+
+// A window that covers the whole monitor takes the native window with it.
+void follow_full_screen(System& state) {
+  const RECT monitor = monitor_rect(state);
+  const auto& tops = state.desktop->children;
+  const bool full = std::any_of(tops.begin(), tops.end(), [&](const Window* window) {
+    return (window->style & WS_VISIBLE) != 0 && EqualRect(&window->frame, &monitor) != 0;
+  });
+  if (full == state.full_screen || (full && EqualRect(&state.work_area, &monitor) != 0)) return;
+  state.full_screen = full;
+  state.display->set_full_screen(full);
+}
+
+}  // namespace
+
 void present_now(System& state) {
   state.last_present = state.now();
   if (!state.display_shown) {
@@ -88,6 +104,7 @@ void present_now(System& state) {
   }
   const Region damage = compose_damage(state);
   if (!damage.empty()) state.display->present(state.frame, damage);
+  follow_full_screen(state);
 }
 
 void present_if_late(System& state) {

@@ -80,6 +80,7 @@ struct Window {
   std::wstring text;
   LONG_PTR user_data = 0;
   std::map<std::wstring, HANDLE> properties;  // by lower-case name
+  std::array<HICON, 2> icons{};  // ICON_SMALL, ICON_BIG; the program's
   std::vector<std::uint8_t> extra;
 
   Region update;             // to be painted, client coordinates
