@@ -1,5 +1,6 @@
 #include "corvane/skin/xml_list_mgr.h"
 
+#include "corvane/platform/base_services/installation.h"
 #include "corvane/platform/base_services/paths.h"
 #include "corvane/platform/base_services/system_paths.h"
 #include "corvane/platform/controls/gdi_btn_ex.h"
@@ -23,7 +24,6 @@ std::string narrow_config_path(const CString& file_name) {
 CString image_folder() { return GetImagePath() + L"\\"; }
 
 constexpr const wchar_t* kControlFile = L"ui_control.xml";
-constexpr const wchar_t* kLanguageFile = L"ui_language.xml";
 constexpr const wchar_t* kFontFile = L"ui_logfont.xml";
 
 }  // namespace
@@ -33,7 +33,7 @@ CXmlListMgr::~CXmlListMgr() { Release(); }
 void CXmlListMgr::Load(const SkinList& list) {
   LoadCtrlList(kControlFile, list.id);
   if (list.reads == SkinReads::controls) return;
-  LoadLanguageList(kLanguageFile, list.id);
+  LoadLanguageList(CaptionFile(), list.id);
   LoadLogfontList(kFontFile);
 }
 

@@ -32,6 +32,7 @@ class CXmlListMgr {
   CXmlListMgr& operator=(const CXmlListMgr&) = delete;
 
   // Replaces the lists by a window's, from the skin's three files: all three, or only the controls.
+  // The captions are those of the language that SetSkinLanguage named.
   void Load(const SkinList& list);
   // Replace a list by that of a file in the configuration folder. Fonts are read whole. A file that
   // cannot be read leaves the list empty. A path with characters outside the thread's code page

@@ -53,7 +53,7 @@ fresh && rm "$folder/ui_logfont.xml" && expect 1 "ui_logfont.xml: the file is mi
 fresh && echo broken >"$folder/image/panel_bg.png" &&
   expect 1 "the picture image/panel_bg.png is damaged"
 fresh && sed -i '/<!-- The toolbar/,/^<\/controls>/{/<\/controls>/!d}' "$folder/ui_control.xml" &&
-  expect 1 "2 faults were found."
+  expect 1 "3 faults were found."
 "$program" --without-capture "$folder" >"$folder/log" || { cat "$folder/log" && faults=1; }
 
 exit "$faults"

@@ -17,7 +17,15 @@ struct Installation {
 };
 
 // Names the skin folder of this process; an empty text undoes it. Windows that exist keep their
-// look. The only setting that outlives a call here; any thread may call it.
+// look; any thread may call it.
 void SetSkinFolder(const CString& folder);
+
+// Names the language of this process's captions, as "en"; an empty text undoes it. Windows that
+// exist keep their captions; any thread may call it.
+void SetSkinLanguage(const CString& language);
+
+// The name of the skin's file with the captions: "ui_language.en.xml" for the language "en" where
+// the skin has such a file, else "ui_language.xml".
+CString CaptionFile();
 
 }  // namespace corvane
