@@ -11,7 +11,7 @@ struct Binding {
   KeyCommand command;
 };
 
-constexpr std::array<Binding, 11> kBindings = {{
+constexpr std::array<Binding, 24> kBindings = {{
     {{VK_ESCAPE, false, false}, KeyCommand::cancel},
     {{VK_RIGHT, false, false}, KeyCommand::next_picture},
     {{VK_LEFT, false, false}, KeyCommand::previous_picture},
@@ -21,6 +21,20 @@ constexpr std::array<Binding, 11> kBindings = {{
     {{VK_LEFT, false, true}, KeyCommand::close_folder},
     {{'O', true, false}, KeyCommand::open_picture},
     {{'S', true, false}, KeyCommand::save},
+    {{VK_F11, false, false}, KeyCommand::full_screen},
+    // With Shift on many keyboards; with Control as in browsers.
+    {{VK_OEM_PLUS, false, true}, KeyCommand::zoom_in},
+    {{VK_OEM_PLUS, false, false}, KeyCommand::zoom_in},
+    {{VK_OEM_PLUS, true, false}, KeyCommand::zoom_in},
+    {{VK_ADD, false, false}, KeyCommand::zoom_in},
+    {{VK_OEM_MINUS, false, false}, KeyCommand::zoom_out},
+    {{VK_OEM_MINUS, true, false}, KeyCommand::zoom_out},
+    {{VK_SUBTRACT, false, false}, KeyCommand::zoom_out},
+    {{'0', false, false}, KeyCommand::zoom_to_fit},
+    {{'0', true, false}, KeyCommand::zoom_to_fit},
+    {{VK_NUMPAD0, false, false}, KeyCommand::zoom_to_fit},
+    {{'1', false, false}, KeyCommand::zoom_to_own_size},
+    {{VK_NUMPAD1, false, false}, KeyCommand::zoom_to_own_size},
     {{VK_TAB, false, false}, KeyCommand::next_part},
     {{VK_TAB, false, true}, KeyCommand::previous_part},
 }};

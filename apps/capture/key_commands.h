@@ -16,6 +16,11 @@ enum class KeyCommand {
   close_folder,
   open_picture,
   save,
+  full_screen,  // there and back
+  zoom_in,
+  zoom_out,
+  zoom_to_fit,
+  zoom_to_own_size,
   next_part,  // of the window: where the keys go
   previous_part,
 };

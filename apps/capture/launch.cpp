@@ -1,5 +1,6 @@
 #include "apps/capture/launch.h"
 
+#include <cstdlib>
 #include <filesystem>
 #include <string_view>
 #include <system_error>
@@ -31,6 +32,8 @@ Arguments parse_arguments(int count, char** values) {
     const std::string_view option = values[next];
     if (option == "--library") {
       arguments.library = values[next + 1];
+    } else if (option == "--language") {
+      arguments.language = values[next + 1];
     } else if (option == "--script") {
       arguments.script_folder = values[next + 1];
     } else {
@@ -41,6 +44,17 @@ Arguments parse_arguments(int count, char** values) {
   if (next < count) arguments.picture = values[next++];
   arguments.valid = next == count && !(arguments.library.empty() && arguments.picture.empty());
   return arguments;
+}
+
+std::string environment_language() {
+  for (const char* const name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+    const char* const value = std::getenv(name);
+    if (value == nullptr || *value == '\0') continue;
+    const std::string_view locale = value;
+    const std::string language(locale.substr(0, locale.find_first_of("_.@")));
+    return language == "C" || language == "POSIX" ? std::string() : language;
+  }
+  return {};
 }
 
 Launch prepare_launch(const Arguments& arguments) {

@@ -20,6 +20,11 @@ void CLibraryBrowser::Place(const RECT& pane, const RECT& strip) {
   strip_.MoveWindow(&strip);
 }
 
+void CLibraryBrowser::Show(bool pane, bool strip) {
+  pane_.ShowWindow(pane ? SW_SHOW : SW_HIDE);
+  strip_.ShowWindow(strip ? SW_SHOW : SW_HIDE);
+}
+
 void CLibraryBrowser::Load(const std::wstring& root, const std::wstring& folder) {
   pane_.SetRoot(root);
   SelectFolder(lies_in(root, folder) ? folder : root);
@@ -39,9 +44,9 @@ CString CLibraryBrowser::LeaveVanishedFolder() {
   const std::wstring vanished = Folder();
   if (vanished.empty() || folder_exists(vanished)) return {};
   pane_.LeaveVanishedFolder();
-  const CString notice = CString(L"文件夹“") + name_for_user(vanished) + L"”已不存在";
   const std::wstring folder = Folder();
-  return folder.empty() ? notice : notice + L"，已转到“" + name_for_user(folder) + L"”";
+  if (folder.empty()) return look_.text(Text::folder_gone, {name_for_user(vanished)});
+  return look_.text(Text::folder_left, {name_for_user(vanished), name_for_user(folder)});
 }
 
 CString CLibraryBrowser::Refresh() {
@@ -52,13 +57,13 @@ CString CLibraryBrowser::Refresh() {
 
 void CLibraryBrowser::show_entries(const std::wstring& folder) {
   if (folder.empty()) {
-    strip_.ShowPictures(folder, {}, L"图库已不存在");
+    strip_.ShowPictures(folder, {}, look_.text(Text::library_gone));
     pane_.SetCount(0);
     return;
   }
   auto entries = read_folder(folder);
   pane_.SetCount(entries ? static_cast<int>(entries->pictures.size()) : 0);
-  const wchar_t* empty_text = entries ? L"这个文件夹里没有图片" : L"无法读取这个文件夹";
+  const CString empty_text = look_.text(entries ? Text::folder_empty : Text::folder_unreadable);
   strip_.ShowPictures(folder, entries ? std::move(entries->pictures) : std::vector<std::wstring>(),
                       empty_text);
   if (folder_of(opened_) == folder) {

@@ -11,8 +11,10 @@ namespace capture {
 
 class CLibraryBrowser {
  public:
+  explicit CLibraryBrowser(const CLook& look) : look_(look), pane_(look), strip_(look) {}
   bool Create(corvane::CWnd* parent);
   void Place(const RECT& pane, const RECT& strip);  // the parent's client coordinates
+  void Show(bool pane, bool strip);
 
   // Shows the library and selects a folder of it (the root when it does not lie in the library).
   void Load(const std::wstring& root, const std::wstring& folder);
@@ -39,6 +41,7 @@ class CLibraryBrowser {
  private:
   void show_entries(const std::wstring& folder);
 
+  const CLook& look_;
   CLibraryPane pane_;
   CPictureStrip strip_;
   std::wstring opened_;   // path

@@ -4,9 +4,7 @@
 
 #include "apps/capture/capture_messages.h"
 #include "apps/capture/fill.h"
-#include "apps/capture/palette.h"
 #include "apps/capture/picture_folder.h"
-#include "apps/capture/texts.h"
 #include "corvane/frame/layer_messages.h"
 #include "corvane/platform/drawing/gdi_dc.h"
 
@@ -15,7 +13,6 @@ namespace {
 
 using namespace corvane;
 
-constexpr int kTitleHeight = 40;
 constexpr int kMargin = 10;
 constexpr int kTreeId = 1;
 constexpr UINT_PTR kTransferTimer = 1;
@@ -149,7 +146,7 @@ int CLibraryPane::OnCreate(LPCREATESTRUCT creation) {
 CRect CLibraryPane::tree_frame() const {
   CRect frame;
   GetClientRect(frame);
-  frame.DeflateRect(kMargin, kTitleHeight, kMargin, kMargin);
+  frame.DeflateRect(kMargin, title_height(), kMargin, kMargin);
   return frame;
 }
 
@@ -160,18 +157,17 @@ void CLibraryPane::OnPaint() {
   CRect client;
   GetClientRect(client);
   if (!buffer_.HasSizeOf(client)) return;
-  fill_with(buffer_, client, kPanelColor);
+  fill_with(buffer_, client, look_.color(Shade::panel));
   fill_with(buffer_, CRect(client.right - 1, client.top, client.right, client.bottom),
-            kPanelEdgeColor);
-  frame_with(buffer_, tree_frame(), kPanelEdgeColor);
-  const CRect title(kMargin + 4, 0, client.right - kMargin - 4, kTitleHeight);
-  const LOGFONTW bold = ui_font(17, FW_BOLD);
-  CGdiDC().DrawTextW(buffer_, loading_ ? L"图库（正在读取……）" : L"图库", &bold, title, kTextArgb,
-                     DT_VCENTER | DT_SINGLELINE);
-  CString count;
-  count.Format(L"%d 张图片", count_);
-  const LOGFONTW font = ui_font(14);
-  CGdiDC().DrawTextW(buffer_, count, &font, title, kQuietTextArgb,
+            look_.color(Shade::edge));
+  frame_with(buffer_, tree_frame(), look_.color(Shade::edge));
+  const CRect title(kMargin + 4, 0, client.right - kMargin - 4, title_height());
+  const LOGFONTW bold = look_.font(Text::library);
+  CGdiDC().DrawTextW(buffer_, look_.text(loading_ ? Text::library_loading : Text::library), &bold,
+                     title, look_.argb(Shade::text), DT_VCENTER | DT_SINGLELINE);
+  const CString count = look_.text(Text::picture_count, {std::to_wstring(count_).c_str()});
+  const LOGFONTW font = look_.font(Text::picture_count);
+  CGdiDC().DrawTextW(buffer_, count, &font, title, look_.argb(Shade::quiet_text),
                      DT_RIGHT | DT_VCENTER | DT_SINGLELINE);
   buffer_.Paste(dc, client);
 }

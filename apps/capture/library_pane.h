@@ -6,6 +6,7 @@
 #include <string>
 
 #include "apps/capture/folder_loading.h"
+#include "apps/capture/look.h"
 #include "corvane/platform/drawing/buffer_dc.h"
 #include "corvane/platform/framework/framework.h"
 #include "corvane/trees/owner_drawn/tree_ctrl_ex2.h"
@@ -14,6 +15,7 @@ namespace capture {
 
 class CLibraryPane : public corvane::CWnd {
  public:
+  explicit CLibraryPane(const CLook& look) : look_(look) {}  // which outlives it
   ~CLibraryPane() override { DestroyWindow(); }
 
   bool Open(corvane::CWnd* parent);
@@ -62,6 +64,9 @@ class CLibraryPane : public corvane::CWnd {
   corvane::CRect row_of_current();  // in the tree's client coordinates; empty: it has none
   std::wstring in_tree(const std::wstring& path) const;  // as the tree names a path
 
+  int title_height() const { return static_cast<int>(look_.size(Measure::library_title).cy); }
+
+  const CLook& look_;
   std::wstring root_;
   int count_ = 0;
   bool loading_ = false;

@@ -1,4 +1,4 @@
-// corvane-capture [--library FOLDER] [--script FOLDER] [PICTURE]
+// corvane-capture [--library FOLDER] [--language NAME] [--script FOLDER] [PICTURE]
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -6,6 +6,8 @@
 #include "apps/capture/launch.h"
 #include "apps/capture/main_window.h"
 #include "apps/capture/scripted_session.h"
+#include "apps/capture/texts.h"
+#include "corvane/platform/base_services/installation.h"
 
 namespace {
 
@@ -38,9 +40,14 @@ int main(int count, char** values) {
 #endif
   const capture::Arguments arguments = capture::parse_arguments(count, values);
   if (!arguments.valid) {
-    std::fprintf(stderr, "usage: corvane-capture [--library FOLDER] [--script FOLDER] [PICTURE]\n");
+    std::fprintf(stderr,
+                 "usage: corvane-capture [--library FOLDER] [--language NAME] [--script FOLDER] "
+                 "[PICTURE]\n");
     return kUsageError;
   }
+  const std::string& language = arguments.language;
+  corvane::SetSkinLanguage(
+      capture::wide(language.empty() ? capture::environment_language() : language));
   capture::Launch launch = capture::prepare_launch(arguments);
   if (!launch.error.empty()) {
     std::fprintf(stderr, "corvane-capture: %s\n", launch.error.c_str());

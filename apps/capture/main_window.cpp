@@ -13,11 +13,7 @@ namespace {
 
 using namespace corvane;
 
-constexpr SIZE kOpenPanelSize{640, 560};
 constexpr SIZE kMinReadableSize{8, 8};  // pixels of the picture
-
-constexpr wchar_t kNoPicturesText[] =
-    L"图库里还没有图片\n把图片放进图库的文件夹，或按“打开”选择一张图片";
 
 CString name_for_user(const std::wstring& path) { return CString(name_of(path).c_str()); }
 
@@ -26,6 +22,7 @@ CString name_for_user(const std::wstring& path) { return CString(name_of(path).c
 const MessageMap* CMainWindow::GetMessageMap() const {
   static constexpr auto kMessages =
       MessageTable(On<WM_ERASEBKGND>(&CMainWindow::OnEraseBkgnd), On<WM_SIZE>(&CMainWindow::OnSize),
+                   On<WM_DESTROY>(&CMainWindow::OnDestroy),
                    OnMessage<WM_LAYER_BTN_CLICK>(&CMainWindow::OnToolbarButton),
                    OnMessage<WM_CUT_CMD>(&CMainWindow::OnCropCommand),
                    OnMessage<WM_PICTURE_CHOSEN>(&CMainWindow::OnPictureChosen),
@@ -38,6 +35,7 @@ const MessageMap* CMainWindow::GetMessageMap() const {
 }
 
 bool CMainWindow::Open(Beginning beginning) {
+  look_.Load();
   HCURSOR arrow = LoadCursorW(nullptr, IDC_ARROW);
   const wchar_t* window_class = AfxRegisterWndClass(CS_DBLCLKS, arrow);
   RECT screen{};
@@ -45,6 +43,7 @@ bool CMainWindow::Open(Beginning beginning) {
   if (!CreateEx(0, window_class, L"Corvane", WS_POPUP | WS_CLIPCHILDREN, screen, nullptr, 0)) {
     return false;
   }
+  icon_.Give(m_hWnd);
   if (!create_parts()) return false;
   layout();
   CWnd::ShowWindow(SW_SHOW);
@@ -56,7 +55,7 @@ bool CMainWindow::Open(Beginning beginning) {
 
 void CMainWindow::load_library(const std::wstring& library) {
   if (picture_ == nullptr) {
-    view_.SetEmptyText(L"正在读取图库……");
+    view_.SetEmptyText(look_.text(Text::looking_for_pictures), {});
     library_work_->Begin([this, library](const std::stop_token& stop) {
       return [this, first = find_first_picture(library, stop)] { show_first(first); };
     });
@@ -67,7 +66,7 @@ void CMainWindow::load_library(const std::wstring& library) {
 }
 
 void CMainWindow::show_first(const FirstPicture& first) {
-  view_.SetEmptyText(kNoPicturesText);
+  view_.SetEmptyText(look_.text(Text::no_pictures), look_.text(Text::how_to_begin));
   const bool user_was_first = picture_ != nullptr || browser_.Folder() != browser_.pane().root();
   if (user_was_first || first.folder.empty()) return;
   browser_.SelectFolder(first.folder);
@@ -78,12 +77,12 @@ bool CMainWindow::create_parts() {
   const auto work_done = [window = m_hWnd] { ::PostMessageW(window, WM_WORK_DONE, 0, 0); };
   library_work_ = std::make_unique<CBackgroundWork>(work_done);
   work_ = std::make_unique<CBackgroundWork>(work_done);
-  view_.SetEmptyText(kNoPicturesText);
+  view_.SetEmptyText(look_.text(Text::no_pictures), look_.text(Text::how_to_begin));
   return toolbar_.Open(this) && browser_.Create(this) &&
-         view_.CreateEx(0, nullptr, L"picture", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), this,
-                        0) &&
-         create_crop_layer() && recognition_.Open(this, L"文字识别") &&
-         open_panel_.Open(this, L"打开");
+         view_.CreateEx(0, nullptr, L"picture", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS,
+                        CRect(0, 0, 0, 0), this, 0) &&
+         create_crop_layer() && recognition_.Open(this, look_.text(Text::recognition)) &&
+         open_panel_.Open(this, look_.text(Text::open));
 }
 
 bool CMainWindow::create_crop_layer() {
@@ -98,6 +97,11 @@ bool CMainWindow::create_crop_layer() {
                         nullptr);
 }
 
+void CMainWindow::OnDestroy() {
+  icon_.TakeBack(m_hWnd);
+  CWnd::OnDestroy();
+}
+
 BOOL CMainWindow::OnEraseBkgnd(CDC*) { return TRUE; }
 
 void CMainWindow::OnSize(UINT kind, int width, int height) {
@@ -110,14 +114,20 @@ void CMainWindow::layout() {
   const RECT shown = view_.ShownRect();
   CRect client;
   GetClientRect(client);
-  const WindowLayout layout =
-      lay_out({client.right, client.bottom}, CToolbar::kHeight, library_width_);
+  WindowLayout layout = whole_layout();
+  if (full_screen()) layout.stage = client;
   toolbar_.Place(client.Width());
   browser_.Place(layout.library, layout.strip);
   view_.MoveWindow(&layout.stage);
   view_.Invalidate(FALSE);
   place_crop_layer();
   if (crop_.IsWindowVisible()) keep_framed(framed, shown);
+}
+
+WindowLayout CMainWindow::whole_layout() const {
+  CRect client;
+  GetClientRect(client);
+  return lay_out({client.right, client.bottom}, toolbar_.height(), library_width_);
 }
 
 // The picture was scaled anew: the same part of it stays framed.
@@ -153,7 +163,7 @@ CRect CMainWindow::CropButtonOnScreen(CropCommand command) const {
 
 void CMainWindow::show_picture(std::shared_ptr<const CPicture> picture) {
   if (crop_.IsWindowVisible() && picture_ != nullptr) {
-    view_.ShowNotice(L"换了图片，框选已取消");
+    view_.ShowNotice(look_.text(Text::crop_given_up));
   }
   end_crop();
   recognition_.Close();
@@ -174,7 +184,7 @@ void CMainWindow::open_path(const std::wstring& path) {
   std::shared_ptr<const CPicture> picture = CPicture::Open(native_path(path).string());
   if (picture == nullptr) {
     browser_.MarkUnreadable(path);
-    view_.ShowNotice(CString(L"无法打开：") + name_for_user(path));
+    view_.ShowNotice(look_.text(Text::cannot_open, {name_for_user(path)}));
     return;
   }
   show_picture(std::move(picture));
@@ -184,7 +194,7 @@ void CMainWindow::open_neighbour(int step) {
   std::wstring path = browser_.Neighbour(step);
   if (!PathFileExistsW(path.c_str())) {
     const CString notice = browser_.Refresh();
-    view_.ShowNotice(notice.IsEmpty() ? CString(L"这个文件夹里没有别的图片") : notice);
+    view_.ShowNotice(notice.IsEmpty() ? look_.text(Text::no_other_picture) : notice);
     path = browser_.Neighbour(step);
   }
   if (!path.empty()) open_path(path);
@@ -232,6 +242,7 @@ void CMainWindow::start_crop(CropMode mode) {
   if (picture_ == nullptr) return;
   recognition_.Close();
   open_panel_.Close();
+  if (full_screen()) show_parts({false, false, false});
   crop_mode_ = mode;
   crop_.SetOCRMode(mode == CropMode::text ? 1 : 0);
   crop_.ShowWindow(SW_SHOW);
@@ -271,18 +282,17 @@ void CMainWindow::save_framed() {
   const RECT part = framed_pixels();
   end_crop();
   if (::IsRectEmpty(&part)) {
-    view_.ShowNotice(L"所选区域里没有图片");
+    view_.ShowNotice(look_.text(Text::nothing_framed));
     return;
   }
-  CString notice = browser_.LeaveVanishedFolder();
-  if (!notice.IsEmpty()) notice += L"。";
+  const CString notice = browser_.LeaveVanishedFolder();
   const std::wstring folder = browser_.Folder();
   if (folder.empty()) return show_saved({{}, ENOENT}, folder, notice);
   save_part(part, folder, notice);
 }
 
 void CMainWindow::save_part(const RECT& part, const std::wstring& folder, const CString& notice) {
-  view_.ShowBusy(L"正在保存……");
+  view_.ShowBusy(look_.text(Text::saving));
   work_->Begin([this, part, folder, notice, picture = picture_](const std::stop_token&) {
     SavedPart saved{{}, ENOMEM};
     const std::vector<std::uint8_t> png = picture->EncodePart(part);
@@ -294,13 +304,17 @@ void CMainWindow::save_part(const RECT& part, const std::wstring& folder, const 
 void CMainWindow::show_saved(const SavedPart& saved, const std::wstring& folder,
                              const CString& notice) {
   if (saved.name.empty()) {
-    view_.ShowNotice(notice + L"无法保存：" + save_error_text(saved.error));
+    show_notices(notice, look_.text(Text::cannot_save, {save_error_text(saved.error, look_)}));
     return;
   }
   last_saved_ = path_in(folder, saved.name);
   browser_.Refresh();
   if (browser_.Folder() == folder) browser_.ScrollToNew(saved.name);
-  view_.ShowNotice(notice + L"已保存到“" + name_for_user(folder) + L"”：" + saved.name.c_str());
+  show_notices(notice, look_.text(Text::saved, {name_for_user(folder), saved.name.c_str()}));
+}
+
+void CMainWindow::show_notices(const CString& first, const CString& second) {
+  view_.ShowNotice(first.IsEmpty() ? second : look_.text(Text::two_sentences, {first, second}));
 }
 
 void CMainWindow::recognise_framed() {
@@ -308,13 +322,13 @@ void CMainWindow::recognise_framed() {
   end_crop();
   if (part.right - part.left < kMinReadableSize.cx ||
       part.bottom - part.top < kMinReadableSize.cy) {
-    view_.ShowNotice(L"所选区域太小，没有可识别的文字");
+    view_.ShowNotice(look_.text(Text::too_small_to_read));
     return;
   }
-  view_.ShowBusy(L"正在准备识别……");
+  view_.ShowBusy(look_.text(Text::preparing_to_read));
   work_->Begin([this, part, picture = picture_](const std::stop_token&) {
     return [this, png = picture->EncodePart(part)] {
-      view_.ShowNotice(png.empty() ? L"内存不足" : L"");
+      view_.ShowNotice(png.empty() ? look_.text(Text::memory_short) : CString());
       if (!png.empty()) recognition_.Read(png, stage_on_screen());
     };
   });
@@ -331,7 +345,7 @@ void CMainWindow::show_open_panel() {
   recognition_.Close();
   const std::wstring current =
       picture_ == nullptr ? std::wstring() : wide_path_of(picture_->path());
-  open_panel_.ShowIn(stage_on_screen(), kOpenPanelSize);
+  open_panel_.ShowIn(stage_on_screen(), look_.size(Measure::open_box));
   open_panel_.ListFolder(current.empty() ? browser_.Folder() : folder_of(current), current);
 }
 

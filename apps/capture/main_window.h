@@ -2,19 +2,23 @@
 // The program's window: a toolbar, below it the picture library at the left and its pictures at the
 // bottom, the opened picture between them, a crop over it, and the boxes for recognised text and
 // for opening another picture.
+#include <functional>
 #include <memory>
 #include <string>
 
 #include "apps/capture/background_work.h"
 #include "apps/capture/first_picture.h"
+#include "apps/capture/full_screen.h"
 #include "apps/capture/key_commands.h"
 #include "apps/capture/library_browser.h"
+#include "apps/capture/look.h"
 #include "apps/capture/open_panel.h"
 #include "apps/capture/picture.h"
 #include "apps/capture/picture_saving.h"
 #include "apps/capture/picture_view.h"
 #include "apps/capture/recognition_panel.h"
 #include "apps/capture/toolbar.h"
+#include "apps/capture/window_icon.h"
 #include "corvane/corvane.h"
 
 namespace capture {
@@ -44,12 +48,14 @@ class CMainWindow : public corvane::CWnd {
   const std::wstring& last_saved() const { return last_saved_; }  // full wide path
   bool recognising() const { return saving() || recognition_.Running(); }
   bool loading() const { return library_work_ != nullptr && library_work_->Busy(); }
+  bool full_screen() const { return full_screen_.active(); }
   bool saving() const { return work_ != nullptr && work_->Busy(); }
 
  protected:
   const corvane::MessageMap* GetMessageMap() const override;
   BOOL OnEraseBkgnd(corvane::CDC* dc);
   void OnSize(UINT kind, int width, int height);
+  void OnDestroy();
   BOOL PreTranslateMessage(MSG* message) override;
   LRESULT OnToolbarButton(WPARAM id, LPARAM);
   LRESULT OnCropCommand(WPARAM command, LPARAM);
@@ -63,7 +69,14 @@ class CMainWindow : public corvane::CWnd {
   enum class CropMode { picture, text };
 
   bool take_key(UINT key);
+  bool take_wheel(const MSG& message);
   void perform(KeyCommand command);
+  void zoom(KeyCommand command);
+  void change_zoom(const std::function<void()>& change);
+  void toggle_full_screen();
+  void show_parts(const ShownParts& parts);
+  void reveal_at(POINT screen_point);
+  WindowLayout whole_layout() const;
   void move_focus(int step);
   std::vector<HWND> parts_for_keys() const;
   void cancel();
@@ -88,14 +101,16 @@ class CMainWindow : public corvane::CWnd {
   void save_part(const RECT& part, const std::wstring& folder, const corvane::CString& notice);
   void show_saved(const SavedPart& saved, const std::wstring& folder,
                   const corvane::CString& notice);
+  void show_notices(const corvane::CString& first, const corvane::CString& second);
   void recognise_framed();
   void show_open_panel();
 
+  CLook look_;  // the parts borrow it
   std::shared_ptr<const CPicture> picture_;
   std::wstring last_saved_;
   CToolbar toolbar_;
-  CLibraryBrowser browser_;
-  CPictureView view_;
+  CLibraryBrowser browser_{look_};
+  CPictureView view_{look_};
   corvane::CCutBgLayer crop_;
   CropMode crop_mode_ = CropMode::picture;
   // What the user framed last and where the picture stood then, so that many changes of the
@@ -105,9 +120,13 @@ class CMainWindow : public corvane::CWnd {
     RECT shown{};
     corvane::CRect now;
   } kept_;
+  CWindowIcon icon_;
+  CFullScreen full_screen_;
+  ShownParts parts_;       // all of them outside full screen
   int library_width_ = 0;  // as the user dragged it; 0: as the window gives it
-  CRecognitionPanel recognition_;
-  COpenPanel open_panel_;
+  CRecognitionPanel recognition_{look_};
+  COpenPanel open_panel_{look_};
+  int wheel_rest_ = 0;         // of a notch, turned with Control
   bool keyboard_led_ = false;  // the keyboard, not the mouse, chose what has the focus
   // Made with the window; saving does not wait for a library to be read.
   std::unique_ptr<CBackgroundWork> library_work_;

@@ -1,4 +1,5 @@
-// The keys of the main window: they reach it before the window that has the focus.
+// The keys of the main window: they reach it before the window that has the focus. What the pointer
+// does everywhere: zoom with Control and the wheel, bring parts in full screen.
 #include <algorithm>
 
 #include "apps/capture/main_window.h"
@@ -20,7 +21,65 @@ LONG left_edge(HWND window) {
 BOOL CMainWindow::PreTranslateMessage(MSG* message) {
   if (message->message == WM_LBUTTONDOWN) keyboard_led_ = false;
   if (message->message == WM_KEYDOWN && take_key(static_cast<UINT>(message->wParam))) return TRUE;
+  if (message->message == WM_MOUSEWHEEL && take_wheel(*message)) return TRUE;
+  if (message->message == WM_MOUSEMOVE) reveal_at(message->pt);
   return CWnd::PreTranslateMessage(message);
+}
+
+bool CMainWindow::take_wheel(const MSG& message) {
+  const RECT stage = stage_on_screen();
+  const bool on_picture = ::PtInRect(&stage, message.pt) && !open_panel_.IsWindowVisible() &&
+                          !recognition_.IsWindowVisible();
+  if ((LOWORD(message.wParam) & MK_CONTROL) == 0 || !on_picture) return false;
+  wheel_rest_ += static_cast<short>(HIWORD(message.wParam));
+  const int steps = wheel_rest_ / WHEEL_DELTA;
+  wheel_rest_ -= steps * WHEEL_DELTA;
+  CPoint point(message.pt);
+  view_.ScreenToClient(&point);
+  change_zoom([&] { view_.ZoomBy(steps, point); });
+  return true;
+}
+
+// What is framed stays so.
+void CMainWindow::change_zoom(const std::function<void()>& change) {
+  const CRect framed = crop_.GetCutRect();
+  const RECT shown = view_.ShownRect();
+  change();
+  if (crop_.IsWindowVisible()) keep_framed(framed, shown);
+}
+
+void CMainWindow::zoom(KeyCommand command) {
+  change_zoom([&] {
+    if (command == KeyCommand::zoom_to_fit) {
+      view_.Fit();
+    } else if (command == KeyCommand::zoom_to_own_size) {
+      view_.ZoomToOwnSize();
+    } else {
+      view_.ZoomBy(command == KeyCommand::zoom_in ? 1 : -1, view_.Middle());
+    }
+  });
+}
+
+void CMainWindow::toggle_full_screen() {
+  full_screen_.Toggle(m_hWnd);
+  const bool all = !full_screen();
+  if (!all) SetFocus();
+  show_parts({all, all, all});
+  layout();  // the size may be the same
+}
+
+void CMainWindow::show_parts(const ShownParts& parts) {
+  parts_ = parts;
+  toolbar_.Show(parts.toolbar);
+  browser_.Show(parts.library, parts.strip);
+}
+
+void CMainWindow::reveal_at(POINT screen_point) {
+  if (!full_screen() || ::GetCapture() != nullptr || crop_.IsWindowVisible()) return;
+  CRect client;
+  GetClientRect(client);
+  ScreenToClient(&screen_point);
+  show_parts(parts_at(parts_, whole_layout(), {client.right, client.bottom}, screen_point));
 }
 
 bool CMainWindow::take_key(UINT key) {
@@ -46,8 +105,16 @@ void CMainWindow::perform(KeyCommand command) {
       if (!crop_.IsWindowVisible()) open_neighbour(step);  // what is framed is not lost by a key
       return;
     }
+    case KeyCommand::full_screen:
+      return toggle_full_screen();
+    case KeyCommand::zoom_in:
+    case KeyCommand::zoom_out:
+    case KeyCommand::zoom_to_fit:
+    case KeyCommand::zoom_to_own_size:
+      return zoom(command);
     case KeyCommand::folder_above:
     case KeyCommand::folder_below:
+      if (full_screen()) show_parts({false, true, true});
       return browser_.pane().SelectNeighbour(command == KeyCommand::folder_below ? 1 : -1);
     case KeyCommand::open_folder:
     case KeyCommand::close_folder:
@@ -56,7 +123,7 @@ void CMainWindow::perform(KeyCommand command) {
       return show_open_panel();
     case KeyCommand::save:
       if (crop_.IsWindowVisible()) return save_framed();
-      return view_.ShowNotice(L"先按“裁剪”框选要保存的部分");
+      return view_.ShowNotice(look_.text(Text::frame_first));
     case KeyCommand::next_part:
     case KeyCommand::previous_part:
       return move_focus(command == KeyCommand::next_part ? 1 : -1);
@@ -67,8 +134,10 @@ void CMainWindow::cancel() {
   if (open_panel_.IsWindowVisible() || recognition_.IsWindowVisible()) {
     open_panel_.Close();
     recognition_.Close();
-  } else {
+  } else if (crop_.IsWindowVisible()) {
     end_crop();
+  } else if (full_screen()) {
+    toggle_full_screen();
   }
 }
 
@@ -93,6 +162,7 @@ void CMainWindow::move_focus(int step) {
   const auto here = std::find(parts.begin(), parts.end(), ::GetFocus());
   const std::ptrdiff_t index = here == parts.end() ? 0 : here - parts.begin();
   keyboard_led_ = true;
+  if (full_screen() && !crop_.IsWindowVisible()) show_parts({true, false, false});
   ::SetFocus(parts[static_cast<std::size_t>((index + step + count) % count)]);
 }
 

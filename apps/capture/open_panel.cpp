@@ -5,10 +5,8 @@
 
 #include "apps/capture/capture_messages.h"
 #include "apps/capture/fill.h"
-#include "apps/capture/palette.h"
 #include "apps/capture/picture_folder.h"
 #include "apps/capture/sorted_listing.h"
-#include "apps/capture/texts.h"
 #include "corvane/platform/drawing/gdi_dc.h"
 
 namespace capture {
@@ -16,20 +14,20 @@ namespace {
 
 using namespace corvane;
 
-constexpr int kRowHeight = 40;
 constexpr int kIconWidth = 40;
 
 // A folder is a plate with a tab, a picture a frame.
-void draw_icon(HDC dc, const RECT& row, bool folder) {
+void draw_icon(HDC dc, const RECT& row, bool folder, const CLook& look) {
   CRect icon(row.left + 10, row.top + 12, row.left + 30, row.bottom - 12);
   if (folder) {
-    fill_with(dc, icon, kAccentColor);
-    fill_with(dc, CRect(icon.left, icon.top - 3, icon.left + 9, icon.top), kAccentColor);
+    fill_with(dc, icon, look.color(Shade::accent));
+    fill_with(dc, CRect(icon.left, icon.top - 3, icon.left + 9, icon.top),
+              look.color(Shade::accent));
     return;
   }
-  fill_with(dc, icon, kQuietTextColor);
+  fill_with(dc, icon, look.color(Shade::quiet_text));
   icon.DeflateRect(2, 2);
-  fill_with(dc, icon, kPanelColor);
+  fill_with(dc, icon, look.color(Shade::panel));
 }
 
 }  // namespace
@@ -46,7 +44,8 @@ void COpenPanel::ListFolder(const std::wstring& folder, const std::wstring& curr
   folder_ = folder;
   entries_.clear();
   const std::wstring above = folder_of(folder);
-  if (!above.empty()) entries_.push_back({above, L"..", true});
+  if (!above.empty())
+    entries_.push_back({above, look().text(Text::folder_above).AsStdString(), true});
   FolderEntries found = read_folder(folder).value_or(FolderEntries{});
   std::vector<std::wstring> folders;
   std::merge(found.folders.begin(), found.folders.end(), found.links.begin(), found.links.end(),
@@ -66,37 +65,38 @@ void COpenPanel::ListFolder(const std::wstring& folder, const std::wstring& curr
 void COpenPanel::show_marked() {
   if (marked_ < 0) return;
   const CRect content(ContentRect());
-  const int top = marked_ * kRowHeight;
+  const int top = marked_ * row_height();
   if (top < scroll()) ScrollTo(top);
-  if (top + kRowHeight > scroll() + content.Height()) {
-    ScrollTo(top + kRowHeight - content.Height());
+  if (top + row_height() > scroll() + content.Height()) {
+    ScrollTo(top + row_height() - content.Height());
   }
 }
 
 void COpenPanel::DrawContent(HDC dc, const RECT& content) {
-  const int first = scroll() / kRowHeight;
+  const int first = scroll() / row_height();
   for (int i = first; i < static_cast<int>(entries_.size()); ++i) {
-    const int top = content.top + i * kRowHeight - scroll();
+    const int top = content.top + i * row_height() - scroll();
     if (top >= content.bottom) break;
-    const RECT row{content.left, top, content.right, top + kRowHeight};
+    const RECT row{content.left, top, content.right, top + row_height()};
     draw_entry(dc, entries_[static_cast<std::size_t>(i)], row, i == marked_);
   }
 }
 
 void COpenPanel::draw_entry(HDC dc, const Entry& entry, const RECT& row, bool marked) {
-  if (marked) fill_with(dc, row, kRowHoverColor);
-  draw_icon(dc, row, entry.folder);
-  const LOGFONTW font = ui_font(19);
+  if (marked) fill_with(dc, row, look().color(Shade::hovered_row));
+  draw_icon(dc, row, entry.folder, look());
+  const LOGFONTW font = look().font(Text::folder_above);
   const CRect text(row.left + kIconWidth, row.top, row.right - 8, row.bottom);
-  CGdiDC().DrawTextW(dc, entry.label.c_str(), &font, text, kTextArgb, DT_VCENTER | DT_SINGLELINE);
+  CGdiDC().DrawTextW(dc, entry.label.c_str(), &font, text, look().argb(Shade::text),
+                     DT_VCENTER | DT_SINGLELINE);
 }
 
-int COpenPanel::ContentHeight(int) { return static_cast<int>(entries_.size()) * kRowHeight; }
+int COpenPanel::ContentHeight(int) { return static_cast<int>(entries_.size()) * row_height(); }
 
 int COpenPanel::entry_at(CPoint point) const {
   const CRect content(ContentRect());
   if (!content.PtInRect(point)) return -1;
-  const int index = (point.y - content.top + scroll()) / kRowHeight;
+  const int index = (point.y - content.top + scroll()) / row_height();
   return index < static_cast<int>(entries_.size()) ? index : -1;
 }
 

@@ -10,6 +10,7 @@ namespace capture {
 // Posts WM_PICTURE_CHOSEN to its owner.
 class COpenPanel : public CPanel {
  public:
+  using CPanel::CPanel;
   // Full wide paths. Lists the folder and marks `current`, when it is there.
   void ListFolder(const std::wstring& folder, const std::wstring& current);
   const std::wstring& ChosenPath() const { return chosen_; }
@@ -32,6 +33,7 @@ class COpenPanel : public CPanel {
   void mark(int index);
   void show_marked();  // scrolls it into view
   void open_entry(int index);
+  int row_height() const { return static_cast<int>(look().size(Measure::box_row).cy); }
   void draw_entry(HDC dc, const Entry& entry, const RECT& row, bool marked);
 
   std::wstring folder_;

@@ -3,8 +3,6 @@
 #include <algorithm>
 
 #include "apps/capture/fill.h"
-#include "apps/capture/palette.h"
-#include "apps/capture/texts.h"
 #include "corvane/platform/drawing/gdi_dc.h"
 
 namespace capture {
@@ -14,7 +12,6 @@ using namespace corvane;
 
 constexpr int kPanelList = 101;
 constexpr int kCloseButton = 1;
-constexpr int kTitleHeight = 52;
 constexpr int kPadding = 22;
 constexpr int kWheelStep = 60;  // pixels a notch
 constexpr int kScrollMarkWidth = 4;
@@ -30,7 +27,7 @@ const MessageMap* CPanel::GetMessageMap() const {
   return &map;
 }
 
-bool CPanel::Open(CWnd* owner, const wchar_t* title) {
+bool CPanel::Open(CWnd* owner, const CString& title) {
   title_ = title;
   HCURSOR arrow = LoadCursorW(nullptr, IDC_ARROW);
   const wchar_t* window_class = AfxRegisterWndClass(CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, arrow);
@@ -82,8 +79,8 @@ BOOL CPanel::PreTranslateMessage(MSG* message) {
 RECT CPanel::ContentRect() const {
   CRect client;
   GetClientRect(client);
-  return {kPadding, kTitleHeight, std::max<LONG>(client.right - kPadding, kPadding),
-          std::max<LONG>(client.bottom - kPadding, kTitleHeight)};
+  return {kPadding, title_height(), std::max<LONG>(client.right - kPadding, kPadding),
+          std::max<LONG>(client.bottom - kPadding, title_height())};
 }
 
 void CPanel::ScrollTo(int position) {
@@ -113,11 +110,11 @@ void CPanel::OnPaint() {
 void CPanel::draw_frame(HDC dc) {
   CRect client;
   GetClientRect(client);
-  fill_with(dc, client, kPanelColor);
-  frame_with(dc, client, kPanelEdgeColor);
-  const CRect title(kPadding, 0, close_rect_.left, kTitleHeight);
-  const LOGFONTW font = ui_font(20, FW_BOLD);
-  CGdiDC().DrawTextW(dc, title_, &font, title, kTextArgb, DT_VCENTER | DT_SINGLELINE);
+  fill_with(dc, client, look_.color(Shade::panel));
+  frame_with(dc, client, look_.color(Shade::edge));
+  const CRect title(kPadding, 0, close_rect_.left, title_height());
+  const LOGFONTW font = look_.font(Text::recognition);
+  CGdiDC().DrawTextW(dc, title_, &font, title, look_.argb(Shade::text), DT_VCENTER | DT_SINGLELINE);
 }
 
 void CPanel::draw_scroll_mark(HDC dc, const RECT& content) {
@@ -127,14 +124,14 @@ void CPanel::draw_scroll_mark(HDC dc, const RECT& content) {
   const int length = std::max(visible * visible / whole, 24);
   const int top = content.top + (visible - length) * scroll_ / (whole - visible);
   const int left = content.right + kPadding / 2;
-  fill_with(dc, CRect(left, top, left + kScrollMarkWidth, top + length), kPanelEdgeColor);
+  fill_with(dc, CRect(left, top, left + kScrollMarkWidth, top + length), look_.color(Shade::edge));
 }
 
 void CPanel::OnSize(UINT kind, int width, int height) {
   CWnd::OnSize(kind, width, height);
   const CRect client(0, 0, width, height);
   if (!client.IsRectEmpty()) buffer_.CreateBufferDC(nullptr, client);
-  const int margin = (kTitleHeight - close_rect_.Height()) / 2;
+  const int margin = (title_height() - close_rect_.Height()) / 2;
   close_rect_.OffsetRect(width - margin - close_rect_.right, margin - close_rect_.top);
   if (close_.GetSafeHwnd() != nullptr) close_.MoveWindow(close_rect_);
   if (buffer_.HasSizeOf(client)) {

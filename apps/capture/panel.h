@@ -1,6 +1,7 @@
 #pragma once
 // A box over the picture: title, close button, and a content that scrolls with the wheel. Escape
 // and the button close it.
+#include "apps/capture/look.h"
 #include "corvane/platform/controls/gdi_btn_ex.h"
 #include "corvane/platform/framework/framework.h"
 #include "corvane/skin/xml_list_mgr.h"
@@ -9,8 +10,9 @@ namespace capture {
 
 class CPanel : public corvane::CWnd {
  public:
+  explicit CPanel(const CLook& look) : look_(look) {}  // which outlives it
   // Creates the hidden window; `owner` owns it.
-  bool Open(corvane::CWnd* owner, const wchar_t* title);
+  bool Open(corvane::CWnd* owner, const corvane::CString& title);
   void SetTitle(const corvane::CString& title);
   // Shows it in the middle of the area (screen coordinates), at most `size` large.
   void ShowIn(const RECT& screen_area, SIZE size);
@@ -29,6 +31,8 @@ class CPanel : public corvane::CWnd {
   int scroll() const { return scroll_; }
   void ScrollTo(int position);  // pixels, clamped
 
+  const CLook& look() const { return look_; }
+
   int OnCreate(LPCREATESTRUCT creation);
   BOOL OnEraseBkgnd(corvane::CDC* dc);
   void OnPaint();
@@ -39,6 +43,9 @@ class CPanel : public corvane::CWnd {
   void draw_frame(HDC dc);
   void draw_scroll_mark(HDC dc, const RECT& content);
 
+  int title_height() const { return static_cast<int>(look_.size(Measure::box_title).cy); }
+
+  const CLook& look_;
   corvane::CXmlListMgr skin_;
   corvane::CGdiBtnEx close_;
   corvane::CRect close_rect_;

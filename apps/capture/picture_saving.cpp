@@ -39,18 +39,18 @@ SavedPart save_numbered(const std::wstring& folder, const std::wstring& picture_
   return {{}, EEXIST};
 }
 
-corvane::CString save_error_text(int error) {
+corvane::CString save_error_text(int error, const CLook& look) {
   switch (error) {
     case ENOSPC:
     case EDQUOT:
-      return L"磁盘空间不足";
+      return look.text(Text::disk_full);
     case EACCES:
     case EPERM:
     case EROFS:
-      return L"没有写入权限";
+      return look.text(Text::no_permission);
     case ENOENT:
     case ENOTDIR:
-      return L"文件夹不存在";
+      return look.text(Text::folder_missing);
     default:
       return wide(std::strerror(error));
   }

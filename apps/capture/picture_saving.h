@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "apps/capture/look.h"
 #include "corvane/platform/framework/c_string.h"
 
 namespace capture {
@@ -19,6 +20,6 @@ SavedPart save_numbered(const std::wstring& folder, const std::wstring& picture_
                         const std::vector<std::uint8_t>& png);
 
 // Why it could not be saved: the usual reasons in the user's language, others in the system's.
-corvane::CString save_error_text(int error);
+corvane::CString save_error_text(int error, const CLook& look);
 
 }  // namespace capture

@@ -55,7 +55,7 @@ void CPictureStrip::OnDestroy() {
 }
 
 void CPictureStrip::ShowPictures(const std::wstring& folder, std::vector<std::wstring> names,
-                                 const wchar_t* empty_text) {
+                                 const CString& empty_text) {
   if (folder == folder_ && names == names_ && empty_text_ == empty_text) return;
   const bool other_folder = folder != folder_;
   folder_ = folder;
@@ -133,15 +133,16 @@ void CPictureStrip::OnPaint() {
   CRect client;
   GetClientRect(client);
   if (!buffer_.HasSizeOf(client)) return;
-  draw_strip_background(buffer_, client);
+  const StripPainter painter(look_, buffer_);
+  painter.draw_background(client);
   const CellRange visible = layout_.Visible();
   for (int cell = visible.first; cell < visible.last; ++cell) {
     const std::wstring& name = names_[static_cast<std::size_t>(cell)];
-    draw_strip_cell(buffer_, layout_, cell,
-                    {name.c_str(), cache_.Find(name), cell == hovered_, name == marked_});
+    painter.draw_cell(layout_, cell,
+                      {name.c_str(), cache_.Find(name), cell == hovered_, name == marked_});
   }
-  draw_strip_scroll(buffer_, layout_, gesture_.moves_row());
-  if (names_.empty()) draw_empty_strip(buffer_, client, empty_text_);
+  painter.draw_scroll(layout_, gesture_.moves_row());
+  if (names_.empty()) painter.draw_empty(client, empty_text_);
   buffer_.Paste(dc, client);
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "apps/capture/look.h"
 #include "apps/capture/strip_gesture.h"
 #include "apps/capture/strip_layout.h"
 #include "apps/capture/thumbnail_cache.h"
@@ -16,13 +17,14 @@ namespace capture {
 
 class CPictureStrip : public corvane::CWnd {
  public:
-  ~CPictureStrip() override { DestroyWindow(); }  // ends the thumbnail thread
+  explicit CPictureStrip(const CLook& look) : look_(look) {}  // which outlives it
+  ~CPictureStrip() override { DestroyWindow(); }              // ends the thumbnail thread
 
   bool Open(corvane::CWnd* parent);
   // The names of the folder's pictures, in order (stands_before). The same folder again keeps its
   // thumbnails and its place. `empty_text` is shown when there are none.
   void ShowPictures(const std::wstring& folder, std::vector<std::wstring> names,
-                    const wchar_t* empty_text);
+                    const corvane::CString& empty_text);
   const std::vector<std::wstring>& names() const { return names_; }
   // Marks the opened picture and scrolls to it; a name that is not there marks none.
   void Mark(const std::wstring& name);
@@ -57,6 +59,7 @@ class CPictureStrip : public corvane::CWnd {
   void request_thumbnails();
   void store_loaded();
 
+  const CLook& look_;
   std::wstring folder_;
   std::vector<std::wstring> names_;
   std::wstring marked_;

@@ -9,12 +9,8 @@ using namespace corvane;
 
 constexpr UINT_PTR kTimer = 1;
 constexpr UINT kInterval = 100;  // milliseconds
-constexpr SIZE kSize{720, 480};
 
-constexpr wchar_t kHowToInstall[] =
-    L"文字识别需要 tesseract 程序，现在没有安装。\n\n"
-    L"请安装软件包 tesseract-ocr 和 tesseract-ocr-chi-sim：\n"
-    L"sudo apt install tesseract-ocr tesseract-ocr-chi-sim";
+constexpr wchar_t kInstallCommand[] = L"sudo apt install tesseract-ocr tesseract-ocr-chi-sim";
 
 }  // namespace
 
@@ -26,18 +22,19 @@ const MessageMap* CRecognitionPanel::GetMessageMap() const {
 
 void CRecognitionPanel::Read(const std::vector<std::uint8_t>& png, const RECT& screen_area) {
   if (!CTextRecognition::Installed()) {
-    say(L"文字识别", kHowToInstall);
+    say(Text::recognition, look().text(Text::recognition_missing) + L"\n\n" +
+                               look().text(Text::how_to_install) + L"\n" + kInstallCommand);
   } else if (recognition_.Start(png)) {
-    say(L"文字识别", L"正在识别……");
+    say(Text::recognition, look().text(Text::recognising));
     SetTimer(kTimer, kInterval);
   } else {
-    say(L"文字识别", L"无法启动文字识别程序。");
+    say(Text::recognition, look().text(Text::cannot_recognise));
   }
-  ShowIn(screen_area, kSize);
+  ShowIn(screen_area, look().size(Measure::recognition_box));
 }
 
-void CRecognitionPanel::say(const wchar_t* title, const CString& text) {
-  SetTitle(title);
+void CRecognitionPanel::say(Text title, const CString& text) {
+  SetTitle(look().text(title));
   SetText(text);
 }
 
@@ -51,9 +48,9 @@ void CRecognitionPanel::OnTimer(UINT_PTR id) {
   KillTimer(kTimer);
   if (!text) return;
   if (text->empty()) {
-    say(L"文字识别", L"没有识别出文字。");
+    say(Text::recognition, look().text(Text::nothing_recognised));
   } else {
-    say(L"识别结果", wide(*text));
+    say(Text::recognised, wide(*text));
   }
 }
 

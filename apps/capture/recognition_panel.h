@@ -10,6 +10,7 @@ namespace capture {
 
 class CRecognitionPanel : public CTextPanel {
  public:
+  using CTextPanel::CTextPanel;
   // Shows itself in the middle of the area (screen coordinates) and reads the PNG picture.
   void Read(const std::vector<std::uint8_t>& png, const RECT& screen_area);
   bool Running() const { return recognition_.Running(); }
@@ -19,7 +20,7 @@ class CRecognitionPanel : public CTextPanel {
   void OnTimer(UINT_PTR id);
 
  private:
-  void say(const wchar_t* title, const corvane::CString& text);
+  void say(Text title, const corvane::CString& text);
 
   CTextRecognition recognition_;
 };

@@ -3,8 +3,6 @@
 #include <cwchar>
 
 #include "apps/capture/fill.h"
-#include "apps/capture/palette.h"
-#include "apps/capture/texts.h"
 #include "corvane/layers/crop/picture_mapping.h"
 #include "corvane/platform/drawing/gdi_dc.h"
 
@@ -13,65 +11,64 @@ namespace {
 
 using namespace corvane;
 
-constexpr int kNameFontHeight = 14;
 constexpr int kMarkWidth = 2;
-
-// In the platform's solid way, which can end a long name with dots.
-void draw_line(HDC dc, const wchar_t* text, RECT place, COLORREF color) {
-  const LOGFONTW description = ui_font(kNameFontHeight);
-  HFONT font = CreateFontIndirectW(&description);
-  HGDIOBJ former = SelectObject(dc, font);
-  SetTextColor(dc, color);
-  SetBkMode(dc, TRANSPARENT);
-  ::DrawTextW(dc, text, static_cast<int>(std::wcslen(text)), &place,
-              DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
-  SelectObject(dc, former);
-  DeleteObject(font);
-}
-
-void draw_placeholder(HDC dc, const RECT& place, bool broken) {
-  fill_with(dc, place, kStageColor);
-  frame_with(dc, place, kPanelEdgeColor);
-  if (broken) draw_line(dc, L"无法显示", place, kQuietTextColor);
-}
 
 }  // namespace
 
-void draw_strip_background(HDC dc, const RECT& client) {
-  fill_with(dc, client, kPanelColor);
-  fill_with(dc, {client.left, client.top, client.right, client.top + 1}, kPanelEdgeColor);
+// In the platform's solid way, which can end a long name with dots.
+void StripPainter::draw_line(const wchar_t* text, RECT place, Shade shade) const {
+  const LOGFONTW description = look_.font(Text::cannot_show);
+  HFONT font = CreateFontIndirectW(&description);
+  HGDIOBJ former = SelectObject(dc_, font);
+  SetTextColor(dc_, look_.color(shade));
+  SetBkMode(dc_, TRANSPARENT);
+  ::DrawTextW(dc_, text, static_cast<int>(std::wcslen(text)), &place,
+              DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
+  SelectObject(dc_, former);
+  DeleteObject(font);
 }
 
-void draw_strip_cell(HDC dc, const CStripLayout& layout, int index, const StripCell& cell) {
+void StripPainter::draw_placeholder(const RECT& place, bool broken) const {
+  fill_with(dc_, place, look_.color(Shade::stage));
+  frame_with(dc_, place, look_.color(Shade::edge));
+  if (broken) draw_line(look_.text(Text::cannot_show), place, Shade::quiet_text);
+}
+
+void StripPainter::draw_background(const RECT& client) const {
+  fill_with(dc_, client, look_.color(Shade::panel));
+  fill_with(dc_, {client.left, client.top, client.right, client.top + 1}, look_.color(Shade::edge));
+}
+
+void StripPainter::draw_cell(const CStripLayout& layout, int index, const StripCell& cell) const {
   RECT place = layout.Cell(index);
-  if (cell.hovered || cell.marked) fill_with(dc, place, kRowHoverColor);
+  const bool bright = cell.hovered || cell.marked;
+  if (bright) fill_with(dc_, place, look_.color(Shade::hovered_row));
   const RECT box = layout.Picture(index);
   const bool drawable = cell.thumbnail != nullptr && *cell.thumbnail != nullptr;
   if (drawable) {
     Gdiplus::Image* image = cell.thumbnail->get();
     const SIZE size{static_cast<LONG>(image->GetWidth()), static_cast<LONG>(image->GetHeight())};
-    CGdiDC().DrawImage(dc, image, CRect(fit_picture(size, box)));
+    CGdiDC().DrawImage(dc_, image, CRect(fit_picture(size, box)));
   } else {
-    draw_placeholder(dc, box, cell.thumbnail != nullptr);
+    draw_placeholder(box, cell.thumbnail != nullptr);
   }
-  const bool bright = cell.hovered || cell.marked;
-  draw_line(dc, cell.name, layout.Name(index), bright ? kTextColor : kQuietTextColor);
+  draw_line(cell.name, layout.Name(index), bright ? Shade::text : Shade::quiet_text);
   if (!cell.marked) return;
   for (int inset = 0; inset < kMarkWidth; ++inset) {
-    frame_with(dc, place, kAccentColor);
+    frame_with(dc_, place, look_.color(Shade::accent));
     InflateRect(&place, -1, -1);
   }
 }
 
-void draw_strip_scroll(HDC dc, const CStripLayout& layout, bool held) {
+void StripPainter::draw_scroll(const CStripLayout& layout, bool held) const {
   const RECT track = layout.ScrollTrack();
   if (IsRectEmpty(&track)) return;
-  fill_with(dc, track, kStageColor);
-  fill_with(dc, layout.ScrollMark(), held ? kQuietTextColor : kScrollMarkColor);
+  fill_with(dc_, track, look_.color(Shade::stage));
+  fill_with(dc_, layout.ScrollMark(), look_.color(held ? Shade::quiet_text : Shade::scroll_mark));
 }
 
-void draw_empty_strip(HDC dc, const RECT& client, const CString& text) {
-  draw_line(dc, text, client, kQuietTextColor);
+void StripPainter::draw_empty(const RECT& client, const CString& text) const {
+  draw_line(text, client, Shade::quiet_text);
 }
 
 }  // namespace capture

@@ -1,5 +1,6 @@
 #pragma once
 // How a strip of pictures looks.
+#include "apps/capture/look.h"
 #include "apps/capture/strip_layout.h"
 #include "apps/capture/thumbnail.h"
 #include "corvane/platform/framework/c_string.h"
@@ -13,9 +14,22 @@ struct StripCell {
   bool marked = false;
 };
 
-void draw_strip_background(HDC dc, const RECT& client);
-void draw_strip_cell(HDC dc, const CStripLayout& layout, int index, const StripCell& cell);
-void draw_strip_scroll(HDC dc, const CStripLayout& layout, bool held);
-void draw_empty_strip(HDC dc, const RECT& client, const corvane::CString& text);
+class StripPainter {
+ public:
+  // Both outlive it.
+  StripPainter(const CLook& look, HDC dc) : look_(look), dc_(dc) {}
+
+  void draw_background(const RECT& client) const;
+  void draw_cell(const CStripLayout& layout, int index, const StripCell& cell) const;
+  void draw_scroll(const CStripLayout& layout, bool held) const;
+  void draw_empty(const RECT& client, const corvane::CString& text) const;
+
+ private:
+  void draw_line(const wchar_t* text, RECT place, Shade shade) const;
+  void draw_placeholder(const RECT& place, bool broken) const;
+
+  const CLook& look_;
+  HDC dc_;
+};
 
 }  // namespace capture

@@ -6,6 +6,7 @@ namespace capture {
 
 class CTextPanel : public CPanel {
  public:
+  using CPanel::CPanel;
   void SetText(const corvane::CString& text);
 
  protected:
@@ -13,6 +14,9 @@ class CTextPanel : public CPanel {
   int ContentHeight(int width) override;
 
  private:
+  // Draws with the box's font; with DT_CALCRECT only measures.
+  void draw_lines(HDC dc, RECT& rect, UINT format) const;
+
   corvane::CString text_;
 };
 

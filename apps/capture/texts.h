@@ -3,14 +3,10 @@
 #include <string>
 
 #include "corvane/platform/framework/c_string.h"
-#include "corvane/platform/platform.h"
 
 namespace capture {
 
 // UTF-8 bytes (or a byte path's name) as a wide text.
 corvane::CString wide(const std::string& utf8);
-
-// The program's fonts; heights in pixels.
-LOGFONTW ui_font(int height, int weight = FW_NORMAL);
 
 }  // namespace capture

@@ -7,6 +7,7 @@ using namespace corvane;
 
 constexpr int kList = 100;
 constexpr int kBackground = 7;
+constexpr int kOwnHeight = 76;
 constexpr int kQuitMargin = 12;
 constexpr ToolbarButton kButtons[] = {ToolbarButton::crop, ToolbarButton::text,
                                       ToolbarButton::open, ToolbarButton::previous,
@@ -16,8 +17,9 @@ constexpr ToolbarButton kButtons[] = {ToolbarButton::crop, ToolbarButton::text,
 
 bool CToolbar::Open(CWnd* parent) {
   skin_.Load({kList});
-  CRect unused;
-  skin_.LoadGdiImage(background_, unused, kBackground);
+  CRect place;
+  skin_.LoadGdiImage(background_, place, kBackground);
+  height_ = place.Height() > 0 ? place.Height() : kOwnHeight;
   layer_.SetXmlListMgr(&skin_);
   layer_.SetBgImage(background_.GetImage(), CRect());
   for (const ToolbarButton button : kButtons) layer_.AddBtn(static_cast<int>(button));
@@ -30,7 +32,7 @@ bool CToolbar::Open(CWnd* parent) {
 }
 
 void CToolbar::Place(int width) {
-  layer_.MoveWindow(0, 0, width, kHeight);
+  layer_.MoveWindow(0, 0, width, height_);
   std::vector<CRect> places = natural_;
   CRect& quit = places.back();
   quit.OffsetRect(width - kQuitMargin - quit.right, 0);

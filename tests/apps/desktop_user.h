@@ -64,6 +64,7 @@ class DesktopUser {
       return difference <= tolerance;
     });
   }
+  std::vector<unsigned long> Icon() const { return screen_.icon(window_); }
   corvane::system::XClient::Place Place() const { return screen_.place(window_); }
 
   void MoveTo(POINT point) {

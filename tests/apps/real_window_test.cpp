@@ -85,6 +85,19 @@ TEST_F(RealWindow, AFolderIsSelectedAndItsPictureOpened) {
   EXPECT_TRUE(user_->SeesWindow("card.png — 400 × 300 — Corvane"));
 }
 
+TEST_F(RealWindow, HasItsIconAndFillsTheScreen) {
+  const std::vector<unsigned long> icon = user_->Icon();
+  ASSERT_EQ(icon.size(), 2 + 64 * 64u);
+  EXPECT_EQ(icon[2] >> 24 & 0xFF, 0u) << "clear at the corner";
+  EXPECT_EQ(icon[2 + 32 * 64 + 32] >> 24 & 0xFF, 0xFFu);
+  user_->Key("F11");
+  EXPECT_TRUE(DesktopUser::Waits([&] { return user_->Place().width == 1600; }));
+  EXPECT_TRUE(user_->SeesPixel({800, 500}, TestPixel(400, 250) & 0xFFFFFF));
+  user_->Key("Escape");
+  EXPECT_TRUE(DesktopUser::Waits([&] { return user_->Place().width == 1280; }));
+  EXPECT_TRUE(user_->SeesPixel({640, 400}, Original({640, 400})));
+}
+
 TEST_F(RealWindow, TheToolbarDragsTheWindowAndEndsTheProgram) {
   const auto before = user_->Place();
   user_->MoveTo(kEmptyToolbar);
