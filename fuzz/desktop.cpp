@@ -25,6 +25,7 @@ constexpr int kKeys[] = {VK_RETURN, VK_ESCAPE, VK_TAB, VK_SPACE, VK_SHIFT,
                          VK_LEFT,   VK_DOWN,   VK_F1,  'A',      VK_DELETE};
 constexpr DWORD kPresses[] = {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP,     MOUSEEVENTF_RIGHTDOWN,
                               MOUSEEVENTF_RIGHTUP,  MOUSEEVENTF_MIDDLEDOWN, MOUSEEVENTF_MIDDLEUP};
+constexpr const wchar_t* kControls[] = {L"Button", L"Static", L"ScrollBar"};
 constexpr DWORD kStyles[] = {WS_CHILD,   WS_POPUP,  WS_VISIBLE, WS_DISABLED,        WS_CLIPCHILDREN,
                              WS_CAPTION, WS_BORDER, WS_VSCROLL, WS_OVERLAPPEDWINDOW};
 constexpr DWORD kExtendedStyles[] = {0,
@@ -41,7 +42,8 @@ constexpr UINT kPointerMessages[] = {WM_CREATE,           WM_NCCREATE,      WM_S
                                      WM_GETTEXT,          WM_GETMINMAXINFO, WM_WINDOWPOSCHANGING,
                                      WM_WINDOWPOSCHANGED, WM_STYLECHANGING, WM_STYLECHANGED,
                                      WM_NCCALCSIZE,       WM_NOTIFY,        WM_MOVING,
-                                     WM_SIZING,           WM_GETDLGCODE};
+                                     WM_SIZING,           WM_GETDLGCODE,    SBM_SETSCROLLINFO,
+                                     SBM_GETSCROLLINFO,   SBM_GETRANGE};
 
 template <class Value, std::size_t count>
 Value one_of(const Value (&values)[count], ByteStream& stream) {
@@ -101,21 +103,24 @@ void FuzzHost::open() {
 }
 
 const Desktop::Operation Desktop::kOperations[] = {
-    &Desktop::move_pointer,   &Desktop::press_or_release_button,
-    &Desktop::click,          &Desktop::drag,
-    &Desktop::turn_wheel,     &Desktop::press_key,
-    &Desktop::post_message,   &Desktop::send_message,
-    &Desktop::show_window,    &Desktop::place_window,
-    &Desktop::order_window,   &Desktop::change_style,
-    &Desktop::destroy_window, &Desktop::create_window,
-    &Desktop::adopt_window,   &Desktop::redraw_window,
-    &Desktop::make_layered,   &Desktop::take_input,
-    &Desktop::run_timer,      &Desktop::show_crop,
-    &Desktop::change_buttons, &Desktop::reopen,
-    &Desktop::advance_clock,  &Desktop::resize_screen,
-    &Desktop::turn_loop,      &Desktop::take_frame,
-    &Desktop::play_tree,      &Desktop::play_tree,
-    &Desktop::play_tree};
+    &Desktop::move_pointer,    &Desktop::press_or_release_button,
+    &Desktop::click,           &Desktop::drag,
+    &Desktop::turn_wheel,      &Desktop::press_key,
+    &Desktop::post_message,    &Desktop::send_message,
+    &Desktop::show_window,     &Desktop::place_window,
+    &Desktop::order_window,    &Desktop::change_style,
+    &Desktop::destroy_window,  &Desktop::create_window,
+    &Desktop::adopt_window,    &Desktop::redraw_window,
+    &Desktop::make_layered,    &Desktop::take_input,
+    &Desktop::run_timer,       &Desktop::show_crop,
+    &Desktop::change_buttons,  &Desktop::reopen,
+    &Desktop::advance_clock,   &Desktop::resize_screen,
+    &Desktop::turn_loop,       &Desktop::take_frame,
+    &Desktop::create_control,  &Desktop::press_dialog_key,
+    &Desktop::use_clipboard,   &Desktop::change_scroll_bar,
+    &Desktop::drop_files,      &Desktop::change_desktop_focus,
+    &Desktop::copy_on_desktop, &Desktop::play_tree,
+    &Desktop::play_tree,       &Desktop::play_tree};
 
 Desktop::Desktop(corvane::test::Desktop& desktop) : desktop_(desktop) {
   host_.open();
@@ -297,6 +302,73 @@ void Desktop::change_buttons(ByteStream& stream) {
 }
 
 void Desktop::play_tree(ByteStream& stream) { TreePlay(host_.tree()).play_one(stream); }
+
+void Desktop::create_control(ByteStream& stream) {
+  const HWND parent = window(stream);
+  const RECT at = place(stream);
+  const DWORD style = stream.word();  // its kind, and what it notifies
+  const wchar_t* kind = one_of(kControls, stream);
+  CreateWindowExW(one_of(kExtendedStyles, stream), kind, L"&Go", WS_CHILD | WS_VISIBLE | style,
+                  at.left, at.top, at.right - at.left, at.bottom - at.top, parent, nullptr, nullptr,
+                  nullptr);
+}
+
+void Desktop::press_dialog_key(ByteStream& stream) {
+  const HWND dialog = window(stream);
+  MSG message{window(stream), stream.flag() ? WM_KEYDOWN : WM_SYSCHAR, 0, 0, 0, {}};
+  message.wParam = message.message == WM_SYSCHAR ? 'G' : static_cast<WPARAM>(one_of(kKeys, stream));
+  IsDialogMessageW(dialog, &message);
+}
+
+void Desktop::change_scroll_bar(ByteStream& stream) {
+  const HWND target = window(stream);
+  const int bar = stream.below(4);
+  const SCROLLINFO info{sizeof(SCROLLINFO),
+                        stream.word() & 0x1Fu,
+                        stream.coordinate(),
+                        stream.coordinate(),
+                        static_cast<UINT>(stream.coordinate()),
+                        stream.coordinate(),
+                        0};
+  SetScrollInfo(target, bar, &info, stream.flag());
+  if (stream.flag()) ShowScrollBar(target, bar, stream.flag());
+}
+
+void Desktop::use_clipboard(ByteStream& stream) {
+  const HWND owner = window(stream);
+  if (!OpenClipboard(owner)) return;
+  const UINT format = stream.flag() ? CF_UNICODETEXT : CF_TEXT;
+  if (stream.flag()) EmptyClipboard();
+  if (stream.flag()) SetClipboardData(format, nullptr);  // a promise
+  if (stream.flag()) {
+    HGLOBAL text = GlobalAlloc(GHND, stream.byte() + 1u);
+    if (SetClipboardData(format, text) == nullptr) GlobalFree(text);
+  }
+  GetClipboardData(format);
+  if (stream.below(4) != 0) CloseClipboard();
+}
+
+void Desktop::copy_on_desktop(ByteStream& stream) {
+  desktop_.own().display.copy_on_desktop(stream.flag() ? "\xE6\x96\x87" : "\xFF\xE6");
+  desktop_.own().display.refuse_clipboard(stream.flag());
+}
+
+void Desktop::drop_files(ByteStream& stream) {
+  corvane::system::InputEvent event;
+  event.kind = corvane::system::InputKind::drop;
+  event.position = {stream.coordinate(), stream.coordinate()};
+  DragAcceptFiles(window(stream), stream.flag());
+  for (int count = stream.below(4); count > 0; --count)
+    event.files.emplace_back("/tmp/\xFF\xE6.png");
+  desktop_.own().display.push(event);
+}
+
+void Desktop::change_desktop_focus(ByteStream& stream) {
+  corvane::system::InputEvent event;
+  event.kind = corvane::system::InputKind::focus;
+  event.down = stream.flag();
+  desktop_.own().display.push(event);
+}
 
 void Desktop::reopen(ByteStream&) { host_.open(); }
 

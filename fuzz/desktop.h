@@ -62,6 +62,13 @@ class Desktop {
   void show_crop(ByteStream& stream);
   void change_buttons(ByteStream& stream);
   void play_tree(ByteStream& stream);
+  void create_control(ByteStream& stream);
+  void press_dialog_key(ByteStream& stream);
+  void change_scroll_bar(ByteStream& stream);
+  void use_clipboard(ByteStream& stream);
+  void copy_on_desktop(ByteStream& stream);
+  void drop_files(ByteStream& stream);
+  void change_desktop_focus(ByteStream& stream);
   void reopen(ByteStream& stream);
   void advance_clock(ByteStream& stream);
   void resize_screen(ByteStream& stream);

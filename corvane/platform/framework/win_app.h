@@ -1,8 +1,8 @@
 #pragma once
 // The application object of a user-interface thread: start, message loop, end. It may be of static
-// storage: its constructor opens nothing. What it needs of the platform, off Windows a window system
-// when the thread has none, is there from the first need on (see platform_session.h) until it ends;
-// when its thread ends first, the windows that are left are destroyed then.
+// storage: its constructor opens nothing. What it needs of the platform, off Windows a window
+// system when the thread has none, is there from the first need on (see platform_session.h) until
+// it ends; when its thread ends first, the windows that are left are destroyed then.
 #include <memory>
 
 #include "corvane/platform/framework/wnd.h"

@@ -1,5 +1,6 @@
-// A program whose application object and main window are of static storage. "nothing": it needs none
-// of them. "runs": the window ends the loop. "leaves": the window is still there when main returns.
+// A program whose application object and main window are of static storage. "nothing": it needs
+// none of them. "runs": the window ends the loop. "leaves": the window is still there when main
+// returns.
 #include <cstdlib>
 #include <string_view>
 
@@ -35,7 +36,8 @@ class CStaticApp : public corvane::CWinApp {
  public:
   bool InitInstance() override {
     m_pMainWnd = &window;
-    return window.CreateEx(0, nullptr, L"", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50, nullptr, nullptr) &&
+    return window.CreateEx(0, nullptr, L"", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50, nullptr,
+                           nullptr) &&
            window.SetTimer(1, 10, nullptr) != 0;
   }
   CMainWindow window;

@@ -90,9 +90,8 @@ std::vector<Span> spans_of_row(const std::vector<Placed>& placed, const RECT& re
 
 std::vector<Placed> touching(const std::vector<Placed>& placed, int y) {
   std::vector<Placed> result;
-  std::copy_if(placed.begin(), placed.end(), std::back_inserter(result), [y](const Placed& one) {
-    return y >= one.area.top && y < one.area.bottom;
-  });
+  std::copy_if(placed.begin(), placed.end(), std::back_inserter(result),
+               [y](const Placed& one) { return y >= one.area.top && y < one.area.bottom; });
   return result;
 }
 

@@ -31,7 +31,7 @@ struct InputEvent {
   bool repeat = false;     // key: auto-repeat
   bool makes_char = true;  // key: TranslateMessage makes the WM_CHAR (false when text follows)
   std::vector<std::string> files;  // drop: absolute paths of the file system, as bytes
-  std::wstring text;       // text: what an input method or the keyboard layout composed
+  std::wstring text;               // text: what an input method or the keyboard layout composed
 };
 
 }  // namespace corvane::system

@@ -219,8 +219,8 @@ LRESULT DispatchMessageW(const MSG* message);
 BOOL WaitMessage();
 LRESULT DefWindowProcW(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
 LRESULT CallWindowProcW(WNDPROC procedure, HWND window, UINT message, WPARAM wparam, LPARAM lparam);
-DWORD GetMessagePos();   // pointer at the message last retrieved, screen coordinates
-LONG GetMessageTime();   // and its time, milliseconds
+DWORD GetMessagePos();  // pointer at the message last retrieved, screen coordinates
+LONG GetMessageTime();  // and its time, milliseconds
 UINT RegisterWindowMessageW(LPCWSTR name);
 HHOOK SetWindowsHookExW(int kind, HOOKPROC procedure, HINSTANCE instance, DWORD thread);
 BOOL UnhookWindowsHookEx(HHOOK hook);

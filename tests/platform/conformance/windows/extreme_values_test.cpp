@@ -150,8 +150,8 @@ TEST_F(ExtremeValuesTest, TenThousandWindowsOfOneOwnerAndAsManyTimers) {
   plain.lpszClassName = L"one of many";
   ASSERT_NE(RegisterClassW(&plain), 0);
   for (UINT i = 1; i <= kMany; ++i) {
-    windows.push_back(CreateWindowExW(0, plain.lpszClassName, L"", WS_POPUP | WS_VISIBLE, 0, 0, 0, 0,
-                                      popup_, nullptr, nullptr, nullptr));
+    windows.push_back(CreateWindowExW(0, plain.lpszClassName, L"", WS_POPUP | WS_VISIBLE, 0, 0, 0,
+                                      0, popup_, nullptr, nullptr, nullptr));
     SetTimer(windows.back(), i, 100, nullptr);
   }
   EXPECT_EQ(GetTopWindow(nullptr), windows.back());

@@ -44,8 +44,8 @@ TEST_F(RelationTest, AWindowInsideOneThatItOwnsWouldBeACircle) {
 }
 
 TEST_F(RelationTest, ANewTopLevelWindowStaysBelowTheTopmostOnes) {
-  const HWND topmost = create(
-      "topmost", {.style = WS_POPUP | WS_VISIBLE, .ex_style = WS_EX_TOPMOST});
+  const HWND topmost =
+      create("topmost", {.style = WS_POPUP | WS_VISIBLE, .ex_style = WS_EX_TOPMOST});
   SetParent(child_, nullptr);
   EXPECT_EQ(GetTopWindow(nullptr), topmost);
   EXPECT_EQ(GetWindow(topmost, GW_HWNDNEXT), child_);

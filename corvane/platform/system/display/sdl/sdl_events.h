@@ -30,8 +30,8 @@ class SdlEvents {
   void window(const SDL_Event& event, std::vector<InputEvent>& events);
 
   std::vector<std::string> dropped_;  // of the drop that is arriving
-  Uint16 modifiers_ = KMOD_NONE;  // as of the last key
-  float wheel_rest_ = 0;          // what is left of fine turns, in 1/120 of a notch
+  Uint16 modifiers_ = KMOD_NONE;      // as of the last key
+  float wheel_rest_ = 0;              // what is left of fine turns, in 1/120 of a notch
 };
 
 // The least size that the native window and the desktop in it can get, pixels.

@@ -7,7 +7,8 @@ namespace corvane::system {
 // Calls the window's procedure; 0 when the handle is stale, or the nesting too deep.
 LRESULT send(HWND window, UINT message, WPARAM wparam = 0, LPARAM lparam = 0);
 
-// A message is being dispatched, until the end of the scope: what is sent meanwhile is counted anew.
+// A message is being dispatched, until the end of the scope: what is sent meanwhile is counted
+// anew.
 class DispatchScope {
  public:
   explicit DispatchScope(SendNesting& nesting);

@@ -95,8 +95,8 @@ BOOL UpdateLayeredWindow(HWND window, HDC, POINT* position, SIZE* size, HDC sour
   if (pixels != nullptr) {
     const POINT from{corvane::clamp_to_summable(std::int64_t{origin.x} + source_point->x),
                      corvane::clamp_to_summable(std::int64_t{origin.y} + source_point->y)};
-    auto content = Surface::can_hold(extent.cx, extent.cy) ? content_of(*pixels, from, extent)
-                                                           : nullptr;
+    auto content =
+        Surface::can_hold(extent.cx, extent.cy) ? content_of(*pixels, from, extent) : nullptr;
     if (content == nullptr) {
       SetLastError(ERROR_NOT_ENOUGH_MEMORY);
       return FALSE;

@@ -9,9 +9,9 @@ using namespace corvane::system;
 namespace {
 
 // Of rgstate, from its first member on; the bar itself has none.
-constexpr ScrollPart kParts[] = {ScrollPart::none, ScrollPart::line_back, ScrollPart::page_back,
-                                 ScrollPart::thumb, ScrollPart::page_forward,
-                                 ScrollPart::line_forward};
+constexpr ScrollPart kParts[] = {ScrollPart::none,         ScrollPart::line_back,
+                                 ScrollPart::page_back,    ScrollPart::thumb,
+                                 ScrollPart::page_forward, ScrollPart::line_forward};
 
 std::optional<ScrollAxis> axis_of_object(LONG object) {
   if (object == OBJID_VSCROLL) return ScrollAxis::vertical;

@@ -69,18 +69,18 @@ struct Window {
   RECT client{};
 
   // z_order.h changes these.
-  Window* parent = nullptr;    // the desktop for top-level windows
-  WindowList children;         // z-order, top first
-  WindowList::iterator place;  // among the parent's children, when there is a parent
-  HWND owner = nullptr;        // top-level windows only
-  WindowList owned;            // in no order
+  Window* parent = nullptr;          // the desktop for top-level windows
+  WindowList children;               // z-order, top first
+  WindowList::iterator place;        // among the parent's children, when there is a parent
+  HWND owner = nullptr;              // top-level windows only
+  WindowList owned;                  // in no order
   WindowList::iterator owned_place;  // among the owner's, when there is an owner
-  UINT_PTR id = 0;                // child id or menu
+  UINT_PTR id = 0;                   // child id or menu
   HINSTANCE instance = nullptr;
   std::wstring text;
   LONG_PTR user_data = 0;
   std::map<std::wstring, HANDLE> properties;  // by lower-case name
-  std::array<HICON, 2> icons{};  // ICON_SMALL, ICON_BIG; the program's
+  std::array<HICON, 2> icons{};               // ICON_SMALL, ICON_BIG; the program's
   std::vector<std::uint8_t> extra;
 
   Region update;             // to be painted, client coordinates
@@ -88,12 +88,12 @@ struct Window {
   bool needs_erase = false;
   bool redraw = true;  // WM_SETREDRAW
 
-  std::array<ScrollBarState, 2> bars;  // by ScrollAxis
-  bool bars_due = false;               // the scroll bars are to be drawn
+  std::array<ScrollBarState, 2> bars;        // by ScrollAxis
+  bool bars_due = false;                     // the scroll bars are to be drawn
   std::optional<ScrollAxis> scroll_control;  // the window is a scroll bar: its whole client area
-  bool frame_due = false;              // the whole frame is, with the scroll bars
-  bool frame_active = false;           // drawn as that of the active window
-  int pressed_box = HTNOWHERE;         // HTCLOSE and others while the user holds it down
+  bool frame_due = false;                    // the whole frame is, with the scroll bars
+  bool frame_active = false;                 // drawn as that of the active window
+  int pressed_box = HTNOWHERE;               // HTCLOSE and others while the user holds it down
 
   // While maximized or minimized: where it goes back to, in the coordinates of `frame`.
   std::optional<RECT> restored_frame;

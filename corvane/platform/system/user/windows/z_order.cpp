@@ -144,8 +144,7 @@ void insert_child(Window& parent, Window& window, Among siblings) {
   assert(window.parent == nullptr && window.owner == nullptr);
   window.parent = &parent;
   WindowList& order = parent.children;
-  window.place =
-      order.insert(siblings == Among::top ? order.begin() : order.end(), &window);
+  window.place = order.insert(siblings == Among::top ? order.begin() : order.end(), &window);
 }
 
 void detach(System& state, Window& window) {
