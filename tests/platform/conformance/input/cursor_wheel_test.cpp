@@ -58,6 +58,23 @@ TEST_F(CursorTest, WindowThatHandlesItKeepsItFromTheParents) {
   step("while captured");
 }
 
+TEST_F(CursorTest, ReleasingTheCaptureAsksTheWindowUnderThePointer) {
+  SetCapture(top_);
+  move_to(160, 160);
+  EXPECT_EQ(GetCursor(), cross_) << "not asked while the mouse is captured";
+  forget();
+  for (const bool released : {true, false}) {
+    SetCursor(cross_);
+    released ? static_cast<void>(ReleaseCapture()) : static_cast<void>(DestroyWindow(GetCapture()));
+    step("at once");
+    pump();
+    step("later");
+    EXPECT_EQ(GetCursor(), hand_);
+    SetCapture(create("gone", {.place = {0, 0, 9, 9}}));
+    settle();
+  }
+}
+
 TEST_F(CursorTest, SetCursorReturnsThePreviousOne) {
   SetCursor(cross_);
   EXPECT_EQ(SetCursor(hand_), cross_);

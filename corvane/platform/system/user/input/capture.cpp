@@ -1,5 +1,6 @@
 #include "corvane/platform/system/user/input/capture.h"
 
+#include "corvane/platform/system/user/input/input_routing.h"
 #include "corvane/platform/system/user/messages/send_message.h"
 
 namespace corvane::system {
@@ -8,6 +9,7 @@ void change_capture(System& state, HWND window) {
   HWND old = state.input.capture;
   state.input.capture = window;
   state.display->set_capture(window != nullptr);
+  if (old != nullptr && window == nullptr) push_move(state, state.input.pointer);
   if (old != nullptr) send(old, WM_CAPTURECHANGED, 0, reinterpret_cast<LPARAM>(window));
 }
 

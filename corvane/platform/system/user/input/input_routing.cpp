@@ -96,6 +96,13 @@ void push_input(System& state, const InputEvent& event) {
   }
 }
 
+void push_move(System& state, POINT point) {
+  InputEvent event;
+  event.kind = InputKind::mouse_move;
+  event.position = point;
+  push_input(state, event);
+}
+
 void poll_display(System& state) {
   std::vector<InputEvent> arrived;
   state.display->poll(arrived);

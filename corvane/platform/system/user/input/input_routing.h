@@ -7,6 +7,7 @@ namespace corvane::system {
 // Takes an event from a display or SendInput: updates the present state of keys and pointer,
 // coalesces moves, keeps the event until it is retrieved.
 void push_input(System& state, const InputEvent& event);
+void push_move(System& state, POINT point);
 // Fetches what the display has.
 void poll_display(System& state);
 // Gives the oldest event its target: sends what comes before the message (hit test, activation,

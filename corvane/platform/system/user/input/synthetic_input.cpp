@@ -16,13 +16,6 @@ POINT inside_screen(const System& state, std::int64_t x, std::int64_t y) {
           corvane::clamp_coordinate(y, 0, std::max(state.frame.height() - 1, 0))};
 }
 
-void push_move(System& state, POINT point) {
-  InputEvent event;
-  event.kind = InputKind::mouse_move;
-  event.position = point;
-  push_input(state, event);
-}
-
 void push_mouse(System& state, const MOUSEINPUT& input) {
   const POINT pointer = state.input.pointer;
   if ((input.dwFlags & MOUSEEVENTF_MOVE) != 0) {

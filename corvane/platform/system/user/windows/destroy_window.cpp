@@ -6,6 +6,7 @@
 
 #include "corvane/platform/system/user/input/activation.h"
 #include "corvane/platform/system/user/input/drop_routing.h"
+#include "corvane/platform/system/user/input/input_routing.h"
 #include "corvane/platform/system/user/messages/send_message.h"
 #include "corvane/platform/system/user/windows/show_window.h"
 #include "corvane/platform/system/user/windows/z_order.h"
@@ -102,7 +103,10 @@ void forget_input(System& state, HWND window) {
   InputState& input = state.input;
   forget_drops(input, window);
   std::erase_if(input.routed, [window](const MSG& message) { return message.hwnd == window; });
-  if (input.capture == window) state.display->set_capture(false);
+  if (input.capture == window) {
+    state.display->set_capture(false);
+    push_move(state, input.pointer);
+  }
   for (HWND* slot : {&input.capture, &input.focus, &input.active, &input.active_before,
                      &input.tracked_for_leave, &input.pointer_window, &input.last_press.window}) {
     if (*slot == window) *slot = nullptr;
