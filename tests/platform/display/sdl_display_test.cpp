@@ -390,6 +390,22 @@ TEST_F(SdlDisplayOnXTest, ExchangesTextWithTheDesktopsClipboard) {
   EXPECT_EQ(display_->clipboard_text(), "第二\nsecond");
 }
 
+TEST_F(SdlDisplayOnXTest, BringsDroppedFilesAndWhereTheyFell) {
+  tool("mousemove " + at(77, 55));
+  bool taken = false;
+  std::thread source([&] {
+    taken = XClient().drop_files(window_, "# two\r\nfile:///a%20b/%E8%A3%81.png\r\nhttp://c/d\r\n"
+                                          "file:///%FF\r\n");
+  });
+  EXPECT_TRUE(arrives(is_at(InputKind::drop, 77, 55)));
+  happens([&, end = display_->now() + 200] { return display_->now() > end; });
+  source.join();
+  EXPECT_TRUE(taken);
+  const InputEvent* const drop = find(events_, is(InputKind::drop));
+  ASSERT_NE(drop, nullptr);
+  EXPECT_EQ(drop->files, (std::vector<std::string>{"/a b/裁.png", "/\xFF"}));
+}
+
 TEST_F(SdlDisplayTest, SleepsWhileNothingHappens) {
   display_->poll(events_);
   const std::uint64_t start = display_->now();

@@ -4,6 +4,10 @@
 #include <X11/Xutil.h>
 #include <X11/extensions/Xfixes.h>
 
+#include <array>
+#include <chrono>
+#include <thread>
+
 namespace corvane::system {
 
 XClient::XClient() : display_(XOpenDisplay(nullptr)) {}
@@ -94,6 +98,55 @@ void XClient::ask_to_close(unsigned long window) const {
 void XClient::take_focus_away() const {
   XSetInputFocus(display_, None, RevertToNone, CurrentTime);
   XSync(display_, False);
+}
+
+unsigned long XClient::atom(const char* name) const { return XInternAtom(display_, name, False); }
+
+// Gives out the list until the target sends this message.
+bool XClient::drop_answered(unsigned long answer, const std::string& uri_list) const {
+  for (int left = 1000; left > 0; --left) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(XPending(display_) > 0 ? 0 : 5));
+    if (XPending(display_) == 0) continue;
+    XEvent event;
+    XNextEvent(display_, &event);
+    if (event.type == ClientMessage && event.xclient.message_type == answer) return true;
+    if (event.type != SelectionRequest) continue;
+    const XSelectionRequestEvent& asked = event.xselectionrequest;
+    XChangeProperty(display_, asked.requestor, asked.property, asked.target, 8, PropModeReplace,
+                    reinterpret_cast<const unsigned char*>(uri_list.data()),
+                    static_cast<int>(uri_list.size()));
+    XEvent given{};
+    given.xselection = {SelectionNotify, 0, True, display_, asked.requestor, asked.selection,
+                        asked.target, asked.property, asked.time};
+    XSendEvent(display_, asked.requestor, False, NoEventMask, &given);
+  }
+  return false;
+}
+
+bool XClient::drop_files(unsigned long window, const std::string& uri_list) const {
+  const ::Window root = DefaultRootWindow(display_);
+  const ::Window source = XCreateSimpleWindow(display_, root, 0, 0, 1, 1, 0, 0, 0);
+  XSetSelectionOwner(display_, atom("XdndSelection"), source, CurrentTime);
+  ::Window unused = 0;
+  int x = 0, y = 0, inner = 0;
+  unsigned keys = 0;
+  XQueryPointer(display_, root, &unused, &unused, &x, &y, &inner, &inner, &keys);
+  const auto tell = [&](const char* message, std::array<unsigned long, 4> data) {
+    XEvent event{};
+    event.xclient = {ClientMessage, 0, True, display_, window, atom(message), 32, {}};
+    event.xclient.data.l[0] = static_cast<long>(source);
+    for (std::size_t at = 0; at < data.size(); ++at)
+      event.xclient.data.l[at + 1] = static_cast<long>(data[at]);
+    XSendEvent(display_, window, False, NoEventMask, &event);
+  };
+  const auto place = static_cast<unsigned long>(x) << 16 | static_cast<unsigned long>(y);
+  tell("XdndEnter", {5ul << 24, atom("text/uri-list"), 0, 0});
+  tell("XdndPosition", {0, place, CurrentTime, atom("XdndActionCopy")});
+  const bool entered = drop_answered(atom("XdndStatus"), uri_list);
+  tell("XdndDrop", {0, CurrentTime, 0, 0});
+  const bool finished = entered && drop_answered(atom("XdndFinished"), uri_list);
+  XDestroyWindow(display_, source);
+  return finished;
 }
 
 void XClient::map_key(int key, unsigned long symbol) const {

@@ -36,11 +36,16 @@ class XClient {
   void damage(unsigned long window, std::uint32_t color) const;
   void ask_to_close(unsigned long window) const;
   void take_focus_away() const;
+  // Drops such a list of files where the pointer is. The window's program has to run meanwhile;
+  // false when it does not take the drop to its end in five seconds.
+  bool drop_files(unsigned long window, const std::string& uri_list) const;
   // Makes a key of the keyboard write another symbol.
   void map_key(int key, unsigned long symbol) const;
 
  private:
   std::string title_of(unsigned long window) const;
+  unsigned long atom(const char* name) const;
+  bool drop_answered(unsigned long answer, const std::string& uri_list) const;
   _XDisplay* display_;
 };
 

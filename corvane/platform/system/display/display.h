@@ -1,11 +1,13 @@
 #pragma once
 // What the window system needs from the outside: a screen, a clock, input and sleep.
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "corvane/platform/system/display/input_event.h"
+#include "corvane/platform/system/gdi/cursor_file.h"
 #include "corvane/platform/system/gdi/region.h"
 #include "corvane/platform/system/gdi/surface.h"
 #include "corvane/platform/system/types.h"
@@ -41,11 +43,13 @@ class Display {
   // A display whose clock moves only when told moves it to the deadline and returns; without a
   // deadline it returns false at once: nothing can ever happen.
   virtual bool wait(std::optional<std::uint64_t> deadline) = 0;
+  virtual bool clock_runs() const { return true; }  // by itself
   virtual void wake() {}  // ends a wait from any thread
   // A file descriptor that becomes readable when poll() may have something, or -1.
   virtual int event_fd() const { return -1; }
 
   virtual void set_cursor(CursorShape) {}
+  virtual void set_cursor_image(const std::shared_ptr<const CursorImage>&) {}
   virtual void set_title(const wchar_t*) {}
   virtual void set_icon(const Surface& /*pixels*/) {}
   virtual void set_capture(bool) {}  // keep receiving the mouse outside the native window

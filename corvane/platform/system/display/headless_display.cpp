@@ -61,6 +61,11 @@ void HeadlessDisplay::copy_on_desktop(const std::string& utf8) {
   push(event);
 }
 
+void HeadlessDisplay::set_cursor(CursorShape shape) {
+  cursor_ = shape;
+  cursor_image_ = nullptr;
+}
+
 void HeadlessDisplay::push(const InputEvent& event) {
   pending_.push_back(event);
   wake_.set();

@@ -17,9 +17,13 @@ class HeadlessDisplay : public Display {
   bool wait(std::optional<std::uint64_t> deadline) override;
   void wake() override { wake_.set(); }
   int event_fd() const override { return wake_.fd(); }
-  void set_cursor(CursorShape shape) override { cursor_ = shape; }
   bool has_native_frame() const override { return native_frame_; }
   void set_capture(bool captured) override { captured_ = captured; }
+  bool clock_runs() const override { return false; }
+  void set_cursor(CursorShape shape) override;
+  void set_cursor_image(const std::shared_ptr<const CursorImage>& image) override {
+    cursor_image_ = image;
+  }
   std::string clipboard_text() override { return clipboard_; }
   bool set_clipboard_text(const std::string& utf8) override;
   SIZE full_size() const override { return full_size_; }
@@ -35,6 +39,8 @@ class HeadlessDisplay : public Display {
   void refuse_clipboard(bool refuse) { refuses_clipboard_ = refuse; }
   CursorShape cursor() const { return cursor_; }
   bool captured() const { return captured_; }
+  // Null while a shape is shown.
+  const CursorImage* cursor_image() const { return cursor_image_.get(); }
   const Surface& frame() const { return frame_; }  // what was last presented
   int presents() const { return presents_; }
 
@@ -46,6 +52,7 @@ class HeadlessDisplay : public Display {
   std::uint64_t now_ = 1000;
   CursorShape cursor_ = CursorShape::arrow;
   bool captured_ = false;
+  std::shared_ptr<const CursorImage> cursor_image_;
   std::string clipboard_;
   bool refuses_clipboard_ = false;
   Surface frame_;

@@ -397,6 +397,7 @@
 #define VK_SHIFT 0x10
 #define VK_CONTROL 0x11
 #define VK_MENU 0x12
+#define VK_CAPITAL 0x14
 #define VK_ESCAPE 0x1B
 #define VK_SPACE 0x20
 #define VK_PRIOR 0x21
@@ -449,6 +450,12 @@
 #define IDC_SIZEALL (MAKEINTRESOURCEW(32646))
 #define IDC_NO (MAKEINTRESOURCEW(32648))
 #define IDC_HAND (MAKEINTRESOURCEW(32649))
+
+#define IMAGE_CURSOR 2u
+#define LR_DEFAULTCOLOR 0x0000u
+#define LR_LOADFROMFILE 0x0010u
+#define LR_DEFAULTSIZE 0x0040u
+#define LR_SHARED 0x8000u
 
 // --- System parameters and metrics
 #define SPI_GETDRAGFULLWINDOWS 0x0026u

@@ -8,6 +8,7 @@
 
 #include "corvane/platform/system/gdi/gdi.h"
 #include "corvane/platform/system/user/clipboard/clipboard.h"
+#include "corvane/platform/system/user/input/cursors.h"
 #include "corvane/platform/system/user/input/input_state.h"
 #include "corvane/platform/system/user/messages/message_queue.h"
 #include "corvane/platform/system/user/messages/timer_list.h"
@@ -53,7 +54,7 @@ struct WindowSystem::Impl {
   std::vector<Hook> hooks;
   std::size_t running_hook = 0;  // how many were called before it; the newest comes first
   SendNesting sends;
-  std::map<HCURSOR, CursorShape> cursors;
+  CursorState cursors;
 
   MessageQueue queue;
   MSG last_message{};  // that was retrieved

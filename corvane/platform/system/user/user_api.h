@@ -300,11 +300,17 @@ BOOL TrackMouseEvent(TRACKMOUSEEVENT* request);
 // Whether it gets WM_DROPFILES for what is dropped on it and its children (WS_EX_ACCEPTFILES).
 void DragAcceptFiles(HWND window, BOOL accept);
 HCURSOR LoadCursorW(HINSTANCE instance, LPCWSTR name);
+// .cur and .ani files, of whose pictures the ones nearest to 32 pixels are taken as they are. The
+// caller destroys it. Null with ERROR_FILE_NOT_FOUND and the like, or ERROR_INVALID_DATA for a file
+// that is no cursor or damaged.
 HCURSOR LoadCursorFromFileW(LPCWSTR path);
+// Cursors alone (IMAGE_CURSOR): of a file with LR_LOADFROMFILE, nearest to `width` (0: 32 pixels),
+// else as LoadCursorW.
+HANDLE LoadImageW(HINSTANCE instance, LPCWSTR name, UINT kind, int width, int height, UINT flags);
 HCURSOR SetCursor(HCURSOR cursor);  // returns the previous one
 HCURSOR GetCursor();
 BOOL GetCursorInfo(CURSORINFO* info);
-BOOL DestroyCursor(HCURSOR cursor);
+BOOL DestroyCursor(HCURSOR cursor);  // one that is shown is shown no more
 
 // --- The system
 BOOL SystemParametersInfoW(UINT action, UINT parameter, void* data, UINT flags);

@@ -101,7 +101,7 @@ std::optional<std::uint64_t> WindowSystem::process_pending(
     DispatchMessageW(&*message);
   }
   present_now(*impl_);
-  auto due = impl_->timers.next_due();
+  auto due = next_due(*impl_);
   if (!due) return std::nullopt;
   const std::uint64_t now = impl_->now();
   return *due > now ? *due - now : 0;

@@ -27,6 +27,25 @@ class QueueTest : public WindowTest {
   const HWND popup_ = settled_popup("pop", 0, 0, 50, 50);
 };
 
+TEST_F(QueueTest, PlaceTimeAndKeysAreThoseOfTheLastMessage) {
+  move_to(11, 7);
+  const LONG before = GetMessageTime();
+  advance(30);
+  send_key(VK_CAPITAL, true);
+  send_key('A', true);
+  SetCursorPos(40, 41);
+  EXPECT_EQ(GetMessagePos(), MAKELONG(11, 7));
+  EXPECT_EQ(GetKeyState(VK_CAPITAL), 0);
+  for (int keys = 0; keys < 2; ++keys) EXPECT_EQ(next(nullptr, 0, 0), WM_KEYDOWN);
+  EXPECT_EQ(GetMessageTime(), before + 30);
+  BYTE keys[256];
+  EXPECT_TRUE(GetKeyboardState(keys));
+  EXPECT_EQ(keys[VK_CAPITAL], 0x81);
+  key_up(VK_CAPITAL);
+  EXPECT_EQ(GetKeyState(VK_CAPITAL), 1);
+  EXPECT_EQ(GetMessagePos(), MAKELONG(40, 41));
+}
+
 TEST_F(QueueTest, OrderOfRetrieval) {
   SetTimer(popup_, 1, 10, nullptr);
   advance(50);

@@ -17,6 +17,41 @@ TEST_F(ScrollInfoTest, FreshBarHasARangeOfAHundredAndTheSystemsWidth) {
   }
 }
 
+TEST_F(ScrollInfoTest, TellsWhereThePartsAre) {
+  set(SIF_ALL, 99, 50, 50);
+  const auto read = [](HWND window) {
+    SCROLLBARINFO info{};
+    info.cbSize = sizeof(info);
+    EXPECT_TRUE(GetScrollBarInfo(window, OBJID_VSCROLL, &info));
+    return info;
+  };
+  const SCROLLBARINFO bar = read(window_);
+  const RECT frame = window_rect(window_);
+  EXPECT_EQ(bar.rcScrollBar.right, frame.right);
+  EXPECT_EQ(bar.rcScrollBar.left, frame.right - 17);
+  EXPECT_EQ(bar.rcScrollBar.bottom - bar.rcScrollBar.top - bar.xyThumbBottom, bar.dxyLineButton);
+  EXPECT_EQ(bar.rgstate[0], 0U);
+  EXPECT_EQ(2 * bar.xyThumbTop, bar.rcScrollBar.bottom - bar.rcScrollBar.top);
+  DWORD held = 0;
+  recorder().before_default("pop", WM_VSCROLL, [&] {
+    if (held == 0) held = read(window_).rgstate[1];
+    send_mouse(MOUSEEVENTF_LEFTUP);
+  });
+  press_at(bar.rcScrollBar.left + 5, bar.rcScrollBar.top + 5);
+  EXPECT_EQ(held, STATE_SYSTEM_PRESSED);
+  EXPECT_EQ(read(window_).rgstate[1], 0U);
+  set(SIF_RANGE | SIF_DISABLENOSCROLL, 9, 0, 0);
+  EXPECT_EQ(read(window_).rgstate[0], STATE_SYSTEM_UNAVAILABLE);
+  set(SIF_RANGE, 9, 0, 0);
+  EXPECT_EQ(read(window_).rgstate[0], STATE_SYSTEM_INVISIBLE | STATE_SYSTEM_OFFSCREEN);
+  SCROLLBARINFO info{};
+  EXPECT_FALSE(GetScrollBarInfo(window_, OBJID_VSCROLL, &info));
+  EXPECT_EQ(GetLastError(), ERROR_INVALID_PARAMETER);
+  info.cbSize = sizeof(info);
+  EXPECT_FALSE(GetScrollBarInfo(plain_, OBJID_HSCROLL, &info));
+  EXPECT_EQ(GetLastError(), ERROR_NO_SCROLLBARS);
+}
+
 TEST_F(ScrollInfoTest, SettingReturnsTheResultingPosition) {
   EXPECT_EQ(set(SIF_ALL, 600, 300, 900), 301);
   EXPECT_EQ(numbers(), "0..600 300 301 301");

@@ -3,6 +3,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 
 #include "corvane/platform/system/display/display.h"
 
@@ -12,6 +13,7 @@ namespace corvane::system {
 class SdlCursors {
  public:
   void show(CursorShape shape);
+  void show(const std::shared_ptr<const CursorImage>& image);
 
  private:
   struct Deleter {
@@ -20,7 +22,8 @@ class SdlCursors {
   using Cursor = std::unique_ptr<SDL_Cursor, Deleter>;
 
   std::map<CursorShape, Cursor> cursors_;
-  CursorShape shown_ = CursorShape::arrow;
+  std::map<std::shared_ptr<const CursorImage>, Cursor> images_;
+  std::optional<CursorShape> shown_ = CursorShape::arrow;  // nothing: an image
 };
 
 }  // namespace corvane::system

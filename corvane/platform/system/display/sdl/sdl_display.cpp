@@ -181,6 +181,10 @@ int SdlDisplay::event_fd() const { return native_->waiter->fd(); }
 
 void SdlDisplay::set_cursor(CursorShape shape) { native_->cursors.show(shape); }
 
+void SdlDisplay::set_cursor_image(const std::shared_ptr<const CursorImage>& image) {
+  native_->cursors.show(image);
+}
+
 void SdlDisplay::set_title(const wchar_t* title) {
   const std::wstring_view text = title != nullptr ? title : L"";
   char* const utf8 =

@@ -75,6 +75,7 @@ std::optional<MSG> take_timer(System& state, const MessageFilter& filter, bool r
 }
 
 std::optional<MSG> next_message(System& state, const MessageFilter& filter, bool remove) {
+  advance_cursor(state);
   present_if_late(state);
   if (auto message = take_posted(state, filter, remove)) return message;
   poll_display(state);
@@ -94,9 +95,15 @@ std::optional<MSG> retrieve(System& state, const MessageFilter& filter, bool rem
   return message;
 }
 
+std::optional<std::uint64_t> next_due(System& state) {
+  const auto timer = state.timers.next_due();
+  const auto cursor = next_cursor_step(state);
+  return timer && cursor ? std::min(*timer, *cursor) : timer ? timer : cursor;
+}
+
 bool sleep_until_work(System& state, std::optional<std::uint64_t> deadline) {
   present_now(state);
-  std::optional<std::uint64_t> wake_up = state.timers.next_due();
+  std::optional<std::uint64_t> wake_up = next_due(state);
   if (deadline) wake_up = std::min(wake_up.value_or(*deadline), *deadline);
   return state.display->wait(wake_up);
 }
