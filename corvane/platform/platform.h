@@ -17,6 +17,7 @@ using std::max;
 using std::min;
 }  // namespace Gdiplus
 #include <gdiplus.h>
+#include <imm.h>
 #include <objidl.h>
 #include <shellapi.h>
 #include <shlwapi.h>
@@ -29,5 +30,6 @@ using std::min;
 #include "corvane/platform/system/types.h"
 #include "corvane/platform/system/user/clipboard/clipboard_api.h"
 #include "corvane/platform/system/user/constants.h"
+#include "corvane/platform/system/user/input/ime_api.h"
 #include "corvane/platform/system/user/user_api.h"
 #endif

@@ -262,6 +262,19 @@ TEST_F(SdlDisplayOnXTest, BringsTextOfOtherScripts) {
   }
 }
 
+TEST_F(SdlDisplayOnXTest, ComposesAndTypesOnceWhileTextIsEdited) {
+  constexpr unsigned long dead_acute = 0xFE51;
+  server_.map_key(220, dead_acute);
+  for (const bool edits : {true, false}) {
+    display_->set_text_input(edits ? std::optional(RECT{10, 10, 11, 30}) : std::nullopt);
+    events_.clear();
+    tool("key dead_acute e x");
+    ASSERT_TRUE(arrives(is_key('X', false)));
+    EXPECT_EQ(find(events_, is_text(L"é")) != nullptr, edits);
+    EXPECT_EQ(std::count_if(events_.begin(), events_.end(), is_text(L"x")), 1);
+  }
+}
+
 TEST_F(SdlDisplayTest, TellsOfAutomaticRepeats) {
   tool("keydown x");
   EXPECT_TRUE(arrives(is(
@@ -394,8 +407,9 @@ TEST_F(SdlDisplayOnXTest, BringsDroppedFilesAndWhereTheyFell) {
   tool("mousemove " + at(77, 55));
   bool taken = false;
   std::thread source([&] {
-    taken = XClient().drop_files(window_, "# two\r\nfile:///a%20b/%E8%A3%81.png\r\nhttp://c/d\r\n"
-                                          "file:///%FF\r\n");
+    taken = XClient().drop_files(window_,
+                                 "# two\r\nfile:///a%20b/%E8%A3%81.png\r\nhttp://c/d\r\n"
+                                 "file:///%FF\r\n");
   });
   EXPECT_TRUE(arrives(is_at(InputKind::drop, 77, 55)));
   happens([&, end = display_->now() + 200] { return display_->now() > end; });
@@ -404,6 +418,19 @@ TEST_F(SdlDisplayOnXTest, BringsDroppedFilesAndWhereTheyFell) {
   const InputEvent* const drop = find(events_, is(InputKind::drop));
   ASSERT_NE(drop, nullptr);
   EXPECT_EQ(drop->files, (std::vector<std::string>{"/a b/裁.png", "/\xFF"}));
+}
+
+TEST_F(SdlDisplayOnXTest, ShowsCursorsInColourAndThenShapesAgain) {
+  tool("mousemove " + at(200, 200));
+  ASSERT_TRUE(arrives(is_at(InputKind::mouse_move, 200, 200)));
+  for (const Pixel color : {0xFF123456, 0x80FF0000}) {
+    display_->set_cursor_image(std::make_shared<CursorImage>(
+        CursorImage{{32, 32}, {31, 0}, std::vector<Pixel>(32 * 32, color)}));
+    const unsigned long shown = color >> 24 == 0xFF ? color : 0x80800000;  // premultiplied
+    EXPECT_TRUE(happens([&] { return server_.cursor() == std::vector(32 * 32, shown); }));
+  }
+  display_->set_cursor(CursorShape::arrow);
+  EXPECT_TRUE(happens([&] { return server_.cursor() != std::vector(32 * 32, 0x80800000ul); }));
 }
 
 TEST_F(SdlDisplayTest, SleepsWhileNothingHappens) {

@@ -116,8 +116,9 @@ bool XClient::drop_answered(unsigned long answer, const std::string& uri_list) c
                     reinterpret_cast<const unsigned char*>(uri_list.data()),
                     static_cast<int>(uri_list.size()));
     XEvent given{};
-    given.xselection = {SelectionNotify, 0, True, display_, asked.requestor, asked.selection,
-                        asked.target, asked.property, asked.time};
+    given.xselection = {
+        SelectionNotify, 0,         True, display_, asked.requestor, asked.selection, asked.target,
+        asked.property,  asked.time};
     XSendEvent(display_, asked.requestor, False, NoEventMask, &given);
   }
   return false;

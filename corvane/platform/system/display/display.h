@@ -44,12 +44,15 @@ class Display {
   // deadline it returns false at once: nothing can ever happen.
   virtual bool wait(std::optional<std::uint64_t> deadline) = 0;
   virtual bool clock_runs() const { return true; }  // by itself
-  virtual void wake() {}  // ends a wait from any thread
+  virtual void wake() {}                            // ends a wait from any thread
   // A file descriptor that becomes readable when poll() may have something, or -1.
   virtual int event_fd() const { return -1; }
 
   virtual void set_cursor(CursorShape) {}
   virtual void set_cursor_image(const std::shared_ptr<const CursorImage>&) {}
+  // Input methods and dead keys are at work while text is edited at this caret; off at first. Keys
+  // that write bring their text either way.
+  virtual void set_text_input(const std::optional<RECT>& /*caret*/) {}
   virtual void set_title(const wchar_t*) {}
   virtual void set_icon(const Surface& /*pixels*/) {}
   virtual void set_capture(bool) {}  // keep receiving the mouse outside the native window

@@ -28,6 +28,7 @@ class HeadlessDisplay : public Display {
   bool set_clipboard_text(const std::string& utf8) override;
   SIZE full_size() const override { return full_size_; }
   void set_full_screen(bool full) override;
+  void set_text_input(const std::optional<RECT>& caret) override { text_caret_ = caret; }
 
   // As if its native window had a frame; none has one from the start.
   void set_native_frame(bool framed) { native_frame_ = framed; }
@@ -39,6 +40,7 @@ class HeadlessDisplay : public Display {
   void refuse_clipboard(bool refuse) { refuses_clipboard_ = refuse; }
   CursorShape cursor() const { return cursor_; }
   bool captured() const { return captured_; }
+  const std::optional<RECT>& text_input() const { return text_caret_; }
   // Null while a shape is shown.
   const CursorImage* cursor_image() const { return cursor_image_.get(); }
   const Surface& frame() const { return frame_; }  // what was last presented
@@ -53,6 +55,7 @@ class HeadlessDisplay : public Display {
   CursorShape cursor_ = CursorShape::arrow;
   bool captured_ = false;
   std::shared_ptr<const CursorImage> cursor_image_;
+  std::optional<RECT> text_caret_;
   std::string clipboard_;
   bool refuses_clipboard_ = false;
   Surface frame_;

@@ -82,7 +82,8 @@ std::optional<AnimatedCursor> read_animated_cursor(std::string_view bytes) {
   if (!parts->sequence.empty() && parts->sequence.size() < 4 * count) return std::nullopt;
   AnimatedCursor cursor;
   for (std::size_t at = 0; at < count; ++at) {
-    const std::size_t icon = parts->sequence.empty() ? at : little_endian(parts->sequence, 4 * at, 4);
+    const std::size_t icon =
+        parts->sequence.empty() ? at : little_endian(parts->sequence, 4 * at, 4);
     const bool own_rate = parts->rates.size() >= 4 * (at + 1);
     const std::uint32_t duration = own_rate ? little_endian(parts->rates, 4 * at, 4) : usual;
     if (icon >= parts->icons.size()) return std::nullopt;

@@ -67,7 +67,7 @@ HDROP make_drop(const std::vector<std::string>& files, POINT point, bool outside
   if (bytes == nullptr) return nullptr;
   const DROPFILES head{kHead, point, outside_client ? TRUE : FALSE, TRUE};
   std::memcpy(bytes, &head, sizeof(head));
-  std::memcpy(bytes + kHead, texts.data(), texts.size() * sizeof(wchar_t));
+  std::copy(texts.begin(), texts.end(), reinterpret_cast<wchar_t*>(bytes + kHead));
   GlobalUnlock(memory);
   return static_cast<HDROP>(memory);
 }

@@ -3,6 +3,7 @@
 #include <cassert>
 #include <utility>
 
+#include "corvane/platform/system/user/input/text_input.h"
 #include "corvane/platform/system/user/messages/get_message.h"
 #include "corvane/platform/system/user/painting/presenting.h"
 #include "corvane/platform/system/user/system_registry.h"
@@ -100,6 +101,7 @@ std::optional<std::uint64_t> WindowSystem::process_pending(
     TranslateMessage(&*message);
     DispatchMessageW(&*message);
   }
+  update_text_input(*impl_);
   present_now(*impl_);
   auto due = next_due(*impl_);
   if (!due) return std::nullopt;

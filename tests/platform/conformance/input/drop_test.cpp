@@ -61,7 +61,8 @@ TEST_F(DropTest, GoToTheNearestWindowThatTakesFiles) {
 
 TEST_F(DropTest, EveryNameSurvives) {
   DragAcceptFiles(top_, TRUE);
-  const std::vector<std::string> names = {"/图片/裁 剪.png", "/a\\b", "/\xFF\xE5.jpg", "/\U0001F4F7"};
+  const std::vector<std::string> names = {"/图片/裁 剪.png", "/a\\b", "/\xFF\xE5.jpg",
+                                          "/\U0001F4F7"};
   EXPECT_EQ(dropped_at({200, 200}, names), "top");
   EXPECT_EQ(files_, names);
 }

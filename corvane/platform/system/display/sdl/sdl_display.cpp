@@ -185,6 +185,21 @@ void SdlDisplay::set_cursor_image(const std::shared_ptr<const CursorImage>& imag
   native_->cursors.show(image);
 }
 
+// On X11 input methods see the keys while SDL's text events are on. Elsewhere these are the
+// layout's text too, and input methods have a switch of their own.
+void SdlDisplay::set_text_input(const std::optional<RECT>& caret) {
+  native_->waiter->look_often(caret.has_value());
+  if (!caret) {
+    SDL_StopTextInput();
+    if (!is_driver("x11")) SDL_EventState(SDL_TEXTINPUT, SDL_ENABLE);
+    return;
+  }
+  const SDL_Rect place{caret->left, caret->top, std::max(caret->right - caret->left, 1),
+                       std::max(caret->bottom - caret->top, 1)};
+  SDL_SetTextInputRect(&place);
+  SDL_StartTextInput();
+}
+
 void SdlDisplay::set_title(const wchar_t* title) {
   const std::wstring_view text = title != nullptr ? title : L"";
   char* const utf8 =
@@ -250,7 +265,7 @@ bool SdlDisplay::set_clipboard_text(const std::string& utf8) {
 void SdlDisplay::show() {
   SDL_ShowWindow(native_->window.get());
   native_->presenter->shown();
-  SDL_StartTextInput();
+  set_text_input(std::nullopt);
   native_->waiter->notice_queued_events();
 }
 

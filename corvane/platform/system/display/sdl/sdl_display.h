@@ -27,6 +27,7 @@ class SdlDisplay : public Display {
 
   void set_cursor(CursorShape shape) override;
   void set_cursor_image(const std::shared_ptr<const CursorImage>& image) override;
+  void set_text_input(const std::optional<RECT>& caret) override;
   void set_title(const wchar_t* title) override;
   void set_icon(const Surface& pixels) override;
   void set_capture(bool capture) override;

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "corvane/platform/system/display/sdl/sdl_keys.h"
+#include "corvane/platform/system/display/sdl/x_key_text.h"
 
 namespace corvane::system {
 
@@ -47,8 +48,9 @@ const SdlEvents::Row SdlEvents::kRows[] = {
     {SDL_MOUSEBUTTONUP, &SdlEvents::button}, {SDL_MOUSEWHEEL, &SdlEvents::wheel},
     {SDL_KEYDOWN, &SdlEvents::key},          {SDL_KEYUP, &SdlEvents::key},
     {SDL_TEXTINPUT, &SdlEvents::text},       {SDL_WINDOWEVENT, &SdlEvents::window},
-    {SDL_DROPBEGIN, &SdlEvents::drop},       {SDL_DROPFILE, &SdlEvents::drop},
-    {SDL_DROPTEXT, &SdlEvents::drop},        {SDL_DROPCOMPLETE, &SdlEvents::drop}};
+    {SDL_SYSWMEVENT, &SdlEvents::native},    {SDL_DROPBEGIN, &SdlEvents::drop},
+    {SDL_DROPFILE, &SdlEvents::drop},        {SDL_DROPTEXT, &SdlEvents::drop},
+    {SDL_DROPCOMPLETE, &SdlEvents::drop}};
 
 void SdlEvents::translate(const SDL_Event& event, std::vector<InputEvent>& events) {
   for (const Row& row : kRows) {
@@ -86,8 +88,17 @@ void SdlEvents::key(const SDL_Event& event, std::vector<InputEvent>& events) {
   made.virtual_key = virtual_key_of(event.key.keysym);
   made.down = event.type == SDL_KEYDOWN;
   made.repeat = event.key.repeat != 0;
-  made.makes_char = !((SDL_IsTextInputActive() != 0u) && writes_text(event.key.keysym));
+  made.makes_char = !writes_text(event.key.keysym);
   if (made.virtual_key != 0) events.push_back(made);
+  InputEvent written = event_of(InputKind::text);
+  written.text = std::exchange(key_text_, {});
+  const bool brings = made.down && !commands(modifiers_) && SDL_IsTextInputActive() == SDL_FALSE;
+  if (brings && !written.text.empty()) events.push_back(written);
+}
+
+// SDL's event of the same key follows.
+void SdlEvents::native(const SDL_Event& event, std::vector<InputEvent>&) {
+  if (auto text = x_key_text(event)) key_text_ = std::move(*text);
 }
 
 void SdlEvents::text(const SDL_Event& event, std::vector<InputEvent>& events) {

@@ -25,11 +25,13 @@ class SdlEvents {
   void button(const SDL_Event& event, std::vector<InputEvent>& events);
   void wheel(const SDL_Event& event, std::vector<InputEvent>& events);
   void key(const SDL_Event& event, std::vector<InputEvent>& events);
+  void native(const SDL_Event& event, std::vector<InputEvent>& events);
   void text(const SDL_Event& event, std::vector<InputEvent>& events);
   void drop(const SDL_Event& event, std::vector<InputEvent>& events);
   void window(const SDL_Event& event, std::vector<InputEvent>& events);
 
   std::vector<std::string> dropped_;  // of the drop that is arriving
+  std::wstring key_text_;             // of the key whose event follows
   Uint16 modifiers_ = KMOD_NONE;      // as of the last key
   float wheel_rest_ = 0;              // what is left of fine turns, in 1/120 of a notch
 };

@@ -3,7 +3,11 @@
 #include <SDL_syswm.h>
 #include <poll.h>
 #include <sys/epoll.h>
+#include <sys/timerfd.h>
 #include <unistd.h>
+
+#include <algorithm>
+#include <cstdint>
 
 namespace corvane::system {
 
@@ -27,12 +31,15 @@ bool watch(int watcher, int fd) {
   return epoll_ctl(watcher, EPOLL_CTL_ADD, fd, &interest) == 0;
 }
 
-// One descriptor for both, or -1.
-int watcher_of(int connection, int wake) {
+constexpr int kTick = 40;  // milliseconds
+
+// One descriptor for all, or -1.
+int watcher_of(int connection, int wake, int ticks) {
   if (connection < 0 || wake < 0) return -1;
   const int watcher = epoll_create1(EPOLL_CLOEXEC);
   if (watcher < 0) return -1;
-  if (watch(watcher, connection) && watch(watcher, wake)) return watcher;
+  const bool watches = watch(watcher, connection) && watch(watcher, wake);
+  if (watches && (ticks < 0 || watch(watcher, ticks))) return watcher;
   close(watcher);
   return -1;
 }
@@ -45,14 +52,31 @@ bool has_events() {
 }  // namespace
 
 SdlWaiter::SdlWaiter(SDL_Window* window)
-    : watched_(watcher_of(connection_of(window), wake_.fd())) {}
+    : ticks_(timerfd_create(CLOCK_MONOTONIC, TFD_NONBLOCK | TFD_CLOEXEC)),
+      watched_(watcher_of(connection_of(window), wake_.fd(), ticks_)) {}
 
 SdlWaiter::~SdlWaiter() {
   if (watched_ >= 0) close(watched_);
+  if (ticks_ >= 0) close(ticks_);
+}
+
+void SdlWaiter::clear_wake() {
+  std::uint64_t ticks = 0;
+  wake_.clear();
+  if (often_ && read(ticks_, &ticks, sizeof(ticks)) < 0) return;  // none since
+}
+
+void SdlWaiter::look_often(bool often) {
+  if (often_ == often || ticks_ < 0) return;
+  often_ = often;
+  const timespec period{0, often ? kTick * 1'000'000 : 0};
+  const itimerspec timer{period, period};
+  timerfd_settime(ticks_, 0, &timer, nullptr);
 }
 
 void SdlWaiter::wait(std::optional<int> milliseconds) {
   if (has_events()) return;
+  if (often_) milliseconds = std::min(milliseconds.value_or(kTick), kTick);
   if (watched_ >= 0) {
     pollfd watched{watched_, POLLIN, 0};
     poll(&watched, 1, milliseconds.value_or(-1));

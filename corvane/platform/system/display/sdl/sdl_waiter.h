@@ -19,15 +19,20 @@ class SdlWaiter {
 
   void wait(std::optional<int> milliseconds);  // nothing: for ever
   void wake();                                 // from any thread
-  void clear_wake() { wake_.clear(); }
+  void clear_wake();
   // To be called after a round trip to the server, which may have read events that the descriptor
   // no longer tells of.
   void notice_queued_events();
+  // Input methods answer over a connection that nobody can watch: while text is edited the wait
+  // ends some twenty-five times a second.
+  void look_often(bool often);
   int fd() const { return watched_; }  // -1: there is nothing to watch
 
  private:
   WakeEvent wake_;
-  int watched_;  // readable: input or a wake
+  int ticks_;  // a timer's descriptor; -1: there is none
+  bool often_ = false;
+  int watched_;  // readable: input, a wake or a tick
 };
 
 }  // namespace corvane::system

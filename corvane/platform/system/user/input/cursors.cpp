@@ -106,7 +106,8 @@ HCURSOR LoadCursorW(HINSTANCE, LPCWSTR name) {
 }
 
 HCURSOR LoadCursorFromFileW(LPCWSTR path) {
-  return static_cast<HCURSOR>(LoadImageW(nullptr, path, IMAGE_CURSOR, 0, 0, LR_LOADFROMFILE | LR_DEFAULTSIZE));
+  return static_cast<HCURSOR>(
+      LoadImageW(nullptr, path, IMAGE_CURSOR, 0, 0, LR_LOADFROMFILE | LR_DEFAULTSIZE));
 }
 
 HANDLE LoadImageW(HINSTANCE instance, LPCWSTR name, UINT kind, int width, int, UINT flags) {

@@ -16,7 +16,7 @@ namespace corvane::system {
 struct CursorState {
   std::map<HCURSOR, CursorShape> shapes;
   std::map<HCURSOR, std::vector<CursorStep>> loaded;
-  std::uint64_t shown_since = 0;  // milliseconds
+  std::uint64_t shown_since = 0;             // milliseconds
   std::shared_ptr<const CursorImage> image;  // on the screen; null: a shape
 };
 

@@ -3,6 +3,7 @@
 // input that waits to be retrieved.
 #include <array>
 #include <deque>
+#include <optional>
 #include <vector>
 
 #include "corvane/platform/system/display/input_event.h"
@@ -29,6 +30,7 @@ struct InputState {
   LastPress last_press;
   int menu_key = 0;  // Alt or F10 went down, and nothing since
 
+  std::optional<RECT> text_caret;  // that the display knows of, screen coordinates
   HWND capture = nullptr;
   HWND focus = nullptr;
   HWND active = nullptr;

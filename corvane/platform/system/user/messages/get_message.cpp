@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "corvane/platform/system/user/input/input_routing.h"
+#include "corvane/platform/system/user/input/text_input.h"
 #include "corvane/platform/system/user/painting/painting.h"
 #include "corvane/platform/system/user/painting/presenting.h"
 
@@ -76,6 +77,7 @@ std::optional<MSG> take_timer(System& state, const MessageFilter& filter, bool r
 
 std::optional<MSG> next_message(System& state, const MessageFilter& filter, bool remove) {
   advance_cursor(state);
+  update_text_input(state);
   present_if_late(state);
   if (auto message = take_posted(state, filter, remove)) return message;
   poll_display(state);
@@ -102,6 +104,7 @@ std::optional<std::uint64_t> next_due(System& state) {
 }
 
 bool sleep_until_work(System& state, std::optional<std::uint64_t> deadline) {
+  update_text_input(state);
   present_now(state);
   std::optional<std::uint64_t> wake_up = next_due(state);
   if (deadline) wake_up = std::min(wake_up.value_or(*deadline), *deadline);

@@ -83,6 +83,9 @@ struct Window {
   std::array<HICON, 2> icons{};               // ICON_SMALL, ICON_BIG; the program's
   std::vector<std::uint8_t> extra;
 
+  std::optional<RECT> text_caret;  // edits text there, client coordinates
+  bool input_method_off = false;   // whatever that says
+
   Region update;             // to be painted, client coordinates
   bool needs_paint = false;  // a WM_PAINT is due (also with an empty region)
   bool needs_erase = false;

@@ -1,0 +1,14 @@
+#pragma once
+#include <SDL.h>
+
+#include <optional>
+#include <string>
+
+namespace corvane::system {
+
+// What a press of a key writes by the keyboard's layout, Shift, the locks and AltGr, from X's own
+// event (SDL_SYSWMEVENT): while no text is edited SDL gives none. Empty for keys that write
+// nothing, dead keys among them; nothing for other events.
+std::optional<std::wstring> x_key_text(const SDL_Event& event);
+
+}  // namespace corvane::system
