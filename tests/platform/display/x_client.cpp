@@ -70,8 +70,8 @@ std::uint32_t XClient::pixel(unsigned long window, int x, int y) const {
 std::vector<unsigned long> XClient::cursor() const {
   XFixesCursorImage* const image = XFixesGetCursorImage(display_);
   if (!image) return {};
-  const std::vector<unsigned long> pixels(image->pixels,
-                                          image->pixels + image->width * image->height);
+  std::vector<unsigned long> pixels(image->pixels, image->pixels + image->width * image->height);
+  for (unsigned long& pixel : pixels) pixel &= 0xFFFFFFFF;  // of what is wider nothing is said
   XFree(image);
   return pixels;
 }

@@ -121,7 +121,9 @@ std::unique_ptr<SdlDisplay> SdlDisplay::open(SIZE size) {
   native->clipboard.start(native->window.get());
   native->waiter = std::make_unique<SdlWaiter>(native->window.get());
   native->full_screen.emplace(native->window.get());
-  return std::unique_ptr<SdlDisplay>(new SdlDisplay(std::move(native), real));
+  std::unique_ptr<SdlDisplay> display(new SdlDisplay(std::move(native), real));
+  display->set_text_input(std::nullopt);  // SDL begins with it
+  return display;
 }
 
 SdlDisplay::SdlDisplay(std::unique_ptr<Native> native, SIZE size)
@@ -162,6 +164,7 @@ void SdlDisplay::poll(std::vector<InputEvent>& events) {
       native_->presenter->resized();
     }
   }
+  native_->events.finish(events);
 }
 
 bool SdlDisplay::wait(std::optional<std::uint64_t> deadline) {
@@ -265,7 +268,6 @@ bool SdlDisplay::set_clipboard_text(const std::string& utf8) {
 void SdlDisplay::show() {
   SDL_ShowWindow(native_->window.get());
   native_->presenter->shown();
-  set_text_input(std::nullopt);
   native_->waiter->notice_queued_events();
 }
 

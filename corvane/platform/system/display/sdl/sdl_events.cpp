@@ -90,15 +90,24 @@ void SdlEvents::key(const SDL_Event& event, std::vector<InputEvent>& events) {
   made.repeat = event.key.repeat != 0;
   made.makes_char = !writes_text(event.key.keysym);
   if (made.virtual_key != 0) events.push_back(made);
-  InputEvent written = event_of(InputKind::text);
-  written.text = std::exchange(key_text_, {});
-  const bool brings = made.down && !commands(modifiers_) && SDL_IsTextInputActive() == SDL_FALSE;
-  if (brings && !written.text.empty()) events.push_back(written);
+  if (made.down) finish(events);
 }
 
-// SDL's event of the same key follows.
-void SdlEvents::native(const SDL_Event& event, std::vector<InputEvent>&) {
-  if (auto text = x_key_text(event)) key_text_ = std::move(*text);
+// SDL's event of the same key follows, if SDL knows the key.
+void SdlEvents::native(const SDL_Event& event, std::vector<InputEvent>& events) {
+  auto text = x_key_text(event);
+  if (!text) return;
+  finish(events);
+  key_text_ = std::move(*text);
+}
+
+void SdlEvents::finish(std::vector<InputEvent>& events) {
+  InputEvent written = event_of(InputKind::text);
+  written.text = std::exchange(key_text_, {});
+  const bool counts = !commands(static_cast<Uint16>(SDL_GetModState()));
+  if (counts && !written.text.empty() && SDL_IsTextInputActive() == SDL_FALSE) {
+    events.push_back(written);
+  }
 }
 
 void SdlEvents::text(const SDL_Event& event, std::vector<InputEvent>& events) {

@@ -12,6 +12,8 @@ namespace corvane::system {
 class SdlEvents {
  public:
   void translate(const SDL_Event& event, std::vector<InputEvent>& events);
+  // To be called when there are no more events for now.
+  void finish(std::vector<InputEvent>& events);
 
  private:
   using Handler = void (SdlEvents::*)(const SDL_Event&, std::vector<InputEvent>&);
