@@ -20,10 +20,10 @@ if(NOT WIN32)
       compositor/compositor.h
       display/display.h display/headless_display.h display/input_event.h display/open_display.h
       display/wake_event.h
-      gdi/gdi.h gdi/gdi_api.h gdi/gdiplus.h gdi/image_encoder.h gdi/region.h gdi/surface.h
-      shell/shell_api.h
+      gdi/cursor_file.h gdi/gdi.h gdi/gdi_api.h gdi/gdiplus.h gdi/image_encoder.h gdi/region.h gdi/surface.h
+      shell/drop_api.h shell/memory_api.h shell/shell_api.h
       types.h
-      user/constants.h user/user_api.h user/window_system.h)
+      user/clipboard/clipboard_api.h user/constants.h user/input/ime_api.h user/user_api.h user/window_system.h)
     cmake_path(GET header PARENT_PATH folder)
     install(FILES corvane/platform/system/${header}
       DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/corvane/platform/system/${folder})

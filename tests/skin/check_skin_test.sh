@@ -44,10 +44,10 @@ ui_control.xml|s/padding-left="38"/padding-left="80"/|16: the caption
 ui_control.xml|0,/height="40"/s//height=40/|16: the value of height stands without
 ui_language.xml|s/<list id="100">/<list id="4">/|12: a second <list> with id 4
 ui_language.xml|0,/ text="[^"]*"/s///|5: text is missing in <caption>
-ui_language.xml|0,/font="1"/s//font="7"/|5: there is no font 7
+ui_language.xml|0,/font="1"/s//font="70"/|5: there is no font 70
 ui_logfont.xml|s/size="14"/size="big"/|4: size="big"
 ui_logfont.xml|s/黑体/Nonesuch/|4: the face Nonesuch
-ui_logfont.xml|s/<\/fonts>//|6: the file ends too early
+ui_logfont.xml|s/<\/fonts>//|13: the file ends too early
 TABLE
 fresh && rm "$folder/ui_logfont.xml" && expect 1 "ui_logfont.xml: the file is missing"
 fresh && echo broken >"$folder/image/panel_bg.png" &&
