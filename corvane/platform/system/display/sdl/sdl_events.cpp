@@ -104,10 +104,7 @@ void SdlEvents::native(const SDL_Event& event, std::vector<InputEvent>& events) 
 void SdlEvents::finish(std::vector<InputEvent>& events) {
   InputEvent written = event_of(InputKind::text);
   written.text = std::exchange(key_text_, {});
-  const bool counts = !commands(static_cast<Uint16>(SDL_GetModState()));
-  if (counts && !written.text.empty() && SDL_IsTextInputActive() == SDL_FALSE) {
-    events.push_back(written);
-  }
+  if (!written.text.empty() && SDL_IsTextInputActive() == SDL_FALSE) events.push_back(written);
 }
 
 void SdlEvents::text(const SDL_Event& event, std::vector<InputEvent>& events) {

@@ -12,6 +12,10 @@ std::optional<std::wstring> x_key_text(const SDL_Event& event) {
   }
   XEvent x = event.syswm.msg->msg.x11.event;
   if (x.type != KeyPress) return std::nullopt;
+  constexpr unsigned kAlt = Mod1Mask;
+  constexpr unsigned kAltGr = Mod5Mask;
+  const bool commands = (x.xkey.state & kAltGr) == 0 && (x.xkey.state & (ControlMask | kAlt)) != 0;
+  if (commands) return std::wstring();
   KeySym symbol = NoSymbol;
   char unused[8];
   XLookupString(&x.xkey, unused, sizeof(unused), &symbol, nullptr);
