@@ -54,7 +54,6 @@ TEST_F(DropTest, GoToTheNearestWindowThatTakesFiles) {
   DragAcceptFiles(child_, TRUE);
   EXPECT_EQ(dropped_at({140, 140}), "child");
   EXPECT_EQ(dropped_at({200, 200}), "top") << "its parent takes none";
-  EXPECT_EQ(dropped_at({550, 150}), "") << "other takes none";
   DragAcceptFiles(child_, FALSE);
   EXPECT_EQ(dropped_at({140, 140}), "top");
 }
@@ -85,7 +84,6 @@ TEST_F(DropTest, ListsAreCutAndForeignMemoryIsNone) {
   bytes[0] = 120;
   EXPECT_EQ(DragQueryFileW(drop, 0xFFFFFFFF, nullptr, 0), 0U) << "begins behind the end";
   DragFinish(drop);
-  EXPECT_EQ(DragQueryFileW(reinterpret_cast<HDROP>(top_), 0xFFFFFFFF, nullptr, 0), 0U);
 }
 
 }  // namespace

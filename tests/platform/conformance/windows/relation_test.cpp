@@ -96,28 +96,5 @@ TEST_F(RelationTest, CreationHookSeesTheWindowBeforeItsFirstMessage) {
   EXPECT_EQ(hook_calls.size(), 2U);
 }
 
-TEST_F(RelationTest, WindowsAreFoundListedAndHoldProperties) {
-  const HWND first = create("first", {});
-  const HWND second = create("second", {});
-  wchar_t name[100];
-  ASSERT_GT(GetClassNameW(first, name, 100), 0);
-  SetWindowTextW(first, L"First");
-  EXPECT_EQ(FindWindowW(name, nullptr), second) << "the upper one";
-  EXPECT_EQ(FindWindowW(nullptr, L"first"), first);
-  EXPECT_EQ(FindWindowW(L"no such class", nullptr), nullptr);
-  std::vector<HWND> listed;
-  const auto list = [](HWND window, LPARAM all) -> BOOL {
-    reinterpret_cast<std::vector<HWND>*>(all)->push_back(window);
-    return TRUE;
-  };
-  EXPECT_TRUE(EnumWindows(list, reinterpret_cast<LPARAM>(&listed)));
-  EXPECT_EQ(std::vector<HWND>(listed.begin(), listed.begin() + 2),
-            (std::vector<HWND>{second, first}));
-  EXPECT_TRUE(SetPropW(first, L"Corvane", second));
-  EXPECT_EQ(GetPropW(first, L"corvane"), second);
-  EXPECT_EQ(RemovePropW(first, L"CORVANE"), second);
-  EXPECT_EQ(RemovePropW(first, L"Corvane"), nullptr);
-}
-
 }  // namespace
 }  // namespace corvane::conformance
