@@ -327,6 +327,7 @@ TEST_F(SdlDisplayOnXTest, MovesWindowAndPointer) {
   EXPECT_TRUE(arrives(is_at(InputKind::mouse_move, 77, 66)));
   tool("mousedown 1");
   tool("mousemove_relative -- 30 -7");
+  EXPECT_TRUE(display_->has_native_frame());
   EXPECT_TRUE(display_->drag_native_window({77, 66}));
   EXPECT_TRUE(happens([&] {
     const XClient::Place now = server_.place(window_);

@@ -6,6 +6,8 @@
 namespace corvane::conformance {
 namespace {
 
+using test::is_rect;
+
 class FrameMeasureTest : public WindowTest {
  protected:
   HWND framed(const std::string& name, DWORD style, DWORD ex_style = 0) {
@@ -22,7 +24,9 @@ class FrameMeasureTest : public WindowTest {
     return {client.left - outer.left, client.top - outer.top, outer.right - client.right,
             outer.bottom - client.bottom};
   }
-  static RECT even(int side, int caption = 0) { return {side, side + caption, side, side}; }
+  static DWORD style_of(HWND window) {
+    return static_cast<DWORD>(GetWindowLongW(window, GWL_STYLE));
+  }
   static DWORD ex_style_of(HWND window) {
     return static_cast<DWORD>(GetWindowLongW(window, GWL_EXSTYLE));
   }
@@ -30,48 +34,26 @@ class FrameMeasureTest : public WindowTest {
   const HWND popup_ = settled_popup("pop", 100, 100, 500, 400);
 };
 
-struct Measured {
-  DWORD style;
-  DWORD ex_style;
-  RECT margins;
-  DWORD ex_style_got;
-};
-
-TEST_F(FrameMeasureTest, FrameIsMeasuredAsTheMetricsAndAdjustWindowRectSay) {
-  const int sizing = GetSystemMetrics(SM_CXSIZEFRAME);
-  const int fixed = GetSystemMetrics(SM_CYFIXEDFRAME);
-  const int line = GetSystemMetrics(SM_CXBORDER);
-  const int edge = GetSystemMetrics(SM_CYEDGE);
-  const int caption = GetSystemMetrics(SM_CYCAPTION);
-  const int small = GetSystemMetrics(SM_CYSMCAPTION);
-  for (const Measured& each :
-       std::vector<Measured>{{WS_OVERLAPPEDWINDOW, 0, {4, 23, 4, 4}, WS_EX_WINDOWEDGE},
-                             {WS_OVERLAPPEDWINDOW, 0, even(sizing, caption), WS_EX_WINDOWEDGE},
-                             {WS_CHILD | WS_CAPTION, 0, even(fixed, caption), WS_EX_WINDOWEDGE},
-                             {WS_POPUP | WS_CAPTION, WS_EX_TOOLWINDOW, even(fixed, small), 0x180},
-                             {WS_POPUP | WS_THICKFRAME, 0, even(edge + line), WS_EX_WINDOWEDGE},
-                             {WS_POPUP | WS_DLGFRAME, 0, even(fixed), WS_EX_WINDOWEDGE},
-                             {WS_CHILD, WS_EX_DLGMODALFRAME, even(fixed), 0x101},
-                             {WS_CHILD | WS_BORDER, 0, even(line), 0},
-                             {WS_CHILD | WS_BORDER, WS_EX_CLIENTEDGE, even(line + edge), 0x200},
-                             {WS_CHILD, WS_EX_STATICEDGE, even(line), 0x20000},
-                             {WS_CHILD, WS_EX_CLIENTEDGE, even(edge), 0x200},
-                             {WS_POPUP, WS_EX_WINDOWEDGE, even(0), 0}}) {
-    const HWND window = framed("framed", each.style, each.ex_style);
-    EXPECT_EQ(text_of(margins(window)), text_of(each.margins)) << std::hex << each.style;
-    EXPECT_EQ(ex_style_of(window), each.ex_style_got) << std::hex << each.style;
-    RECT around{10, 10, 20, 20};
-    EXPECT_NE(AdjustWindowRectEx(&around, each.style, FALSE, each.ex_style), 0);
-    EXPECT_EQ(
-        text_of(RECT{10 - around.left, 10 - around.top, around.right - 20, around.bottom - 20}),
-        text_of(each.margins));
+TEST_F(FrameMeasureTest, FrameIsMeasuredAsAdjustWindowRectSays) {
+  const auto hexadecimal = [](const std::string& field) {
+    return static_cast<DWORD>(std::stoul(field, nullptr, 16));
+  };
+  for (const auto& row : test::golden_rows("tests/platform/conformance/frames/frame_margins.txt")) {
+    const DWORD ex_style = hexadecimal(row.at(1));
+    const RECT expected = test::rect_of(row.at(2));
+    const HWND window = framed("framed", hexadecimal(row.at(0)), ex_style);
+    EXPECT_THAT(margins(window), test::same_rect(expected)) << row.at(4);
+    EXPECT_EQ(ex_style_of(window), hexadecimal(row.at(3))) << row.at(4);
+    RECT around{};
+    EXPECT_NE(AdjustWindowRectEx(&around, style_of(window), FALSE, ex_style), 0);
+    EXPECT_THAT(around, is_rect(-expected.left, -expected.top, expected.right, expected.bottom));
     DestroyWindow(window);
   }
   EXPECT_EQ(AdjustWindowRect(nullptr, WS_CAPTION, FALSE), FALSE);
-}
-
-TEST_F(FrameMeasureTest, WindowThatIsNeitherPopupNorChildHasACaption) {
-  EXPECT_EQ(text_of(margins(framed("plain", WS_OVERLAPPED))), "3,22,3,3");
+  const std::pair<int, int> metrics[] = {
+      {SM_CXSIZEFRAME, 4}, {SM_CYFIXEDFRAME, 3}, {SM_CXBORDER, 1},     {SM_CYEDGE, 2},
+      {SM_CYCAPTION, 19},  {SM_CYSMCAPTION, 16}, {SM_CXMINTRACK, 112}, {SM_CYMIN, 27}};
+  for (const auto& [index, value] : metrics) EXPECT_EQ(GetSystemMetrics(index), value) << index;
 }
 
 TEST_F(FrameMeasureTest, ChangedStyleIsMeasuredWhenTheFrameIsSaidToHaveChanged) {
@@ -102,7 +84,7 @@ TEST_F(FrameMeasureTest, ScrollBarsAndChildrenLieWithinTheFrame) {
       create("child", {.parent = window, .style = WS_CHILD | WS_VISIBLE, .place = {7, 8, 30, 30}});
   pump();
   EXPECT_EQ(text_of(margins(window)), "5,24,22,5");
-  EXPECT_THAT(window_rect(child), test::is_rect(152, 182, 182, 212));
+  EXPECT_THAT(window_rect(child), is_rect(152, 182, 182, 212));
   EXPECT_EQ(SendMessageW(window, WM_NCHITTEST, 0, MAKELPARAM(518, 300)), HTVSCROLL);
   EXPECT_EQ(SendMessageW(window, WM_NCHITTEST, 0, MAKELPARAM(535, 300)), HTBORDER);
   EXPECT_EQ(pressed_at(152, 182), "child");
@@ -138,9 +120,9 @@ TEST_F(FrameMeasureTest, WindowThatFillsTheScreenHasNoFrameInsideAFramedNativeWi
   EXPECT_EQ(text_of(margins(main)), "0,0,0,0");
   own().display.resize({900, 700});
   pump();
-  EXPECT_THAT(client_rect(main), test::is_rect(0, 0, 900, 700));
+  EXPECT_THAT(client_rect(main), is_rect(0, 0, 900, 700));
   ShowWindow(main, SW_MAXIMIZE);
-  EXPECT_THAT(window_rect(main), test::is_rect(0, 0, 900, 700));
+  EXPECT_THAT(window_rect(main), is_rect(0, 0, 900, 700));
   ShowWindow(main, SW_RESTORE);
   SetWindowPos(main, nullptr, 5, 5, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
   EXPECT_EQ(text_of(margins(main)), "4,23,4,4") << "as it does not fill it";

@@ -84,6 +84,21 @@ TEST_F(FrameMouseTest, SidesStopAtTheSmallestSize) {
   forget();
 }
 
+// The native window's capture goes on outside of it.
+TEST_F(FrameMouseTest, PointerBeyondTheScreenDragsNoFurtherThanItsEdge) {
+  move_to(kCaption);
+  send_mouse(MOUSEEVENTF_LEFTDOWN);
+  system::InputEvent event;
+  event.position = {-5000, 9000};
+  own().display.push(event);
+  event.kind = system::InputKind::mouse_button;
+  event.button = VK_LBUTTON;
+  own().display.push(event);
+  pump();
+  EXPECT_THAT(window_rect(window_), test::is_rect(-100, 789, 300, 1089));
+  forget();
+}
+
 TEST_F(FrameMouseTest, BoxesActWhenTheyAreReleasedOnThem) {
   recorder().on("framed", WM_CLOSE, [](const Message&) -> std::optional<LRESULT> { return 0; });
   drag(kClose, {300, 300});
@@ -179,7 +194,8 @@ TEST_F(FrameMouseTest, MinimizedWindowIsACaptionAndTakesItsOwnedWindowsAlong) {
   forget();
 }
 
-TEST_F(FrameMouseTest, HandlersMayEndTheWindowInTheMiddle) {
+TEST_F(FrameMouseTest, HandlersMayEndTheWindowAndTheDesktopHasNoFrame) {
+  EXPECT_EQ(DefWindowProcW(GetDesktopWindow(), WM_SYSCOMMAND, SC_MOVE | HTCAPTION, 0), 0);
   for (const UINT message : {WM_ENTERSIZEMOVE, WM_SIZING, WM_GETMINMAXINFO, WM_SIZE}) {
     const HWND each =
         create("each", {.style = WS_OVERLAPPEDWINDOW | WS_VISIBLE, .place = {700, 100, 200, 200}});

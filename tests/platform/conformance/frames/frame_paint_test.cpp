@@ -58,12 +58,13 @@ TEST_F(FramePaintTest, EdgesAndLines) {
                                         .ex_style = each.ex_style,
                                         .brush = CreateSolidBrush(kRed)});
     pump();
-    for (int depth = 0; depth < static_cast<int>(each.from_outside.size()); ++depth) {
-      const COLORREF color = each.from_outside[static_cast<std::size_t>(depth)];
-      EXPECT_EQ(pixel(114 + depth, 160), color) << each.style << ' ' << depth;
-      EXPECT_EQ(pixel(140, 143 + depth), color) << each.style << ' ' << depth;
-      EXPECT_EQ(pixel(173 - depth, 160), color) << each.style << ' ' << depth;
-      EXPECT_EQ(pixel(140, 182 - depth), color) << each.style << ' ' << depth;
+    int depth = 0;
+    for (const COLORREF color : each.from_outside) {
+      for (const POINT point : {POINT{114 + depth, 160}, POINT{140, 143 + depth},
+                                POINT{173 - depth, 160}, POINT{140, 182 - depth}}) {
+        EXPECT_EQ(pixel(point), color) << each.style << ' ' << text_of(point);
+      }
+      ++depth;
     }
     DestroyWindow(child);
   }

@@ -28,7 +28,8 @@ LRESULT default_set_text(const SentMessage& sent) {
   auto* text = reinterpret_cast<LPCWSTR>(sent.lparam);
   found->text = text == nullptr ? L"" : text;
   if (names_the_program(*found)) system()->display->set_title(found->text.c_str());
-  if (!IsRectEmpty(&frame_layout(*found).caption())) paint_frame(*found);
+  const FrameLayout layout = frame_layout(*found);
+  if (!IsRectEmpty(&layout.caption())) paint_frame(*found);
   return TRUE;
 }
 

@@ -13,7 +13,7 @@ constexpr int kTextGap = 4;                    // between the caption's text and
 
 bool has_caption(DWORD style) { return (style & WS_CAPTION) == WS_CAPTION; }
 
-// What is left of a window that is minimised: a caption whose boxes bring it back.
+// What is left of a window that is minimized: a caption whose boxes bring it back.
 DWORD style_seen(DWORD style) {
   constexpr DWORD kOthers = WS_THICKFRAME | WS_VSCROLL | WS_HSCROLL;
   return (style & WS_MINIMIZE) == 0 ? style : (style & ~kOthers) | WS_CAPTION;

@@ -75,6 +75,10 @@ void show_owned_windows(HWND owner) {
   }
 }
 
+void remember_normal_frame(Window& window) {
+  if ((window.style & kStates) == 0) window.restored_frame = window.frame;
+}
+
 bool usable(const Window* window, DWORD state_style) {
   return window != nullptr && window->parent != nullptr && (window->style & state_style) == 0;
 }
@@ -85,7 +89,7 @@ bool maximize(HWND window) {
   Window* found = find(window);
   if (!usable(found, WS_MAXIMIZE)) return found != nullptr;
   const bool was_minimized = (found->style & WS_MINIMIZE) != 0;
-  if (!found->restored_frame) found->restored_frame = found->frame;
+  remember_normal_frame(*found);
   const MINMAXINFO limits = ask_limits(window);
   if (find(window) == nullptr) return false;
   const POINT corner = limits.ptMaxPosition;
@@ -102,7 +106,7 @@ bool minimize(HWND window) {
   Window* found = find(window);
   if (!usable(found, WS_MINIMIZE)) return found != nullptr;
   found->maximized_before = (found->style & WS_MAXIMIZE) != 0;
-  if (!found->restored_frame) found->restored_frame = found->frame;
+  remember_normal_frame(*found);
   hide_owned_windows(window);
   found = find(window);
   return found != nullptr && change_state(window, WS_MINIMIZE, minimized_frame(*found));
