@@ -12,6 +12,7 @@
 #include "corvane/platform/controls/list_tab.h"
 #include "corvane/platform/controls/picture_ex.h"
 #include "corvane/platform/controls/ui_ctrl_mgr.h"
+#include "corvane/platform/framework/window_watch.h"
 #include "corvane/platform/images/gdi_image.h"
 
 namespace corvane {
@@ -113,21 +114,27 @@ void CXmlListMgr::AddListTabBtn(CListTab& strip, int id) const {
 
 void CXmlListMgr::LoadListBar(CListBar& bar, CRect& rect, CWnd* parent, int id) const {
   rect.SetRectEmpty();
+  // A parent that hears of the bar, or of its buttons, may end it.
+  const WindowWatch creation(bar);
   bar.Create(nullptr, L"listBar", WS_CHILD | WS_TABSTOP, rect, parent, static_cast<UINT>(id));
+  if (creation.object_gone() || bar.GetSafeHwnd() == nullptr) return;
+  const WindowWatch watch(bar);
   const _MYCONTROL* const control = GetCtrl(id);
   if (control == nullptr) return;
   rect = control->rect;
   const CString backward_path = image_folder() + control->backward_image;
   bar.CreateForwardBtn(image_folder() + control->forward_image);
-  bar.CreateBackwardBtn(backward_path);
-  bar.ShowWindow(SW_SHOW);
+  if (!watch.window_gone()) bar.CreateBackwardBtn(backward_path);
+  if (!watch.window_gone()) bar.ShowWindow(SW_SHOW);
 }
 
 void CXmlListMgr::LoadGifStatic(CPictureEx& picture, CRect& rect, CWnd* parent, int id) const {
   rect.SetRectEmpty();
+  const WindowWatch creation(picture);
   picture.CreateStatic(L"gif", WS_CHILD | SS_BLACKRECT, rect, parent, static_cast<UINT>(id));
+  if (creation.object_gone() || picture.GetSafeHwnd() == nullptr) return;
   const _MYCONTROL* const control = GetCtrl(id);
-  if (control == nullptr || picture.GetSafeHwnd() == nullptr) return;
+  if (control == nullptr) return;
   picture.Load(image_folder() + control->image);
   rect = control->rect;
   picture.ShowWindow(SW_SHOW);

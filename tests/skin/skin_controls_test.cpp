@@ -248,6 +248,40 @@ class ForgetfulParent : public CWnd {
   CXmlListMgr& skin_;
 };
 
+// A parent that does something when it hears of the third, say, new window below it.
+class HearingParent : public CWnd {
+ public:
+  void at_child(int number, std::function<void()> action) {
+    left_ = number;
+    action_ = std::move(action);
+  }
+
+ protected:
+  LRESULT WindowProc(UINT message, WPARAM wparam, LPARAM lparam) override {
+    if (message == WM_PARENTNOTIFY && LOWORD(wparam) == WM_CREATE && --left_ == 0) action_();
+    return CWnd::WindowProc(message, wparam, lparam);
+  }
+
+ private:
+  int left_ = 0;
+  std::function<void()> action_;
+};
+
+TEST_F(SkinControls, TheParentMayEndWhatItHearsOf) {
+  HearingParent parent;
+  ASSERT_TRUE(parent.Create(nullptr, L"", WS_VISIBLE, CRect(0, 0, 200, 200), host_.get(), 7));
+  for (const int heard : {1, 2, 3}) {
+    auto bar = std::make_unique<CListBar>();
+    parent.at_child(heard, [&bar] { bar.reset(); });
+    skin_.LoadListBar(*bar, rect_, &parent, 1);
+    EXPECT_EQ(bar, nullptr) << heard;
+  }
+  auto picture = std::make_unique<CPictureEx>();
+  parent.at_child(1, [&picture] { picture.reset(); });
+  skin_.LoadGifStatic(*picture, rect_, &parent, 1);
+  EXPECT_EQ(picture, nullptr);
+}
+
 TEST_F(SkinControls, TheListsMayBeReleasedWhileAControlIsCreated) {
   ForgetfulParent parent(skin_);
   ASSERT_TRUE(parent.Create(nullptr, L"", WS_VISIBLE, CRect(0, 0, 200, 200), host_.get(), 7));

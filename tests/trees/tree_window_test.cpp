@@ -345,7 +345,7 @@ TEST_F(TreeWindowTest, ResizingRemakesThePicture) {
   } sizes[] = {{200, 50, TRUE, 11}, {300, 440, TRUE, 0}, {340, 440, FALSE, 0}};
   for (const auto& each : sizes) {
     tree_.MoveWindow(10, 20, each.width, each.height, each.erases);
-    repaint();
+    desktop_.pump();
     EXPECT_EQ(tree_.GetScrollLimit(SB_VERT), each.limit);
     expect_rows({{0, TestSkin::expanded_glyph, TestSkin::folder, L"Lib"},
                  {1, TestSkin::collapsed_glyph, TestSkin::folder, L"a"}});

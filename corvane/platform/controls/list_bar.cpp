@@ -1,5 +1,7 @@
 #include "corvane/platform/controls/list_bar.h"
 
+#include "corvane/platform/framework/window_watch.h"
+
 namespace corvane {
 
 const MessageMap* CListBar::GetMessageMap() const {
@@ -23,19 +25,23 @@ int CListBar::create_btn(CGdiBtnEx& button, UINT id, const CString& image_path) 
   image.Load(image_path);
   const CRect rect(0, 0, image.GetWidth(), image.GetHeight());
   button.SetSkin(skin);
-  if (!button.Create(nullptr, L"", WS_CHILD | WS_VISIBLE, rect, this, id)) return 0;
+  // A parent that hears of the button may end the bar.
+  const WindowWatch watch(*this);
+  const bool created = button.Create(nullptr, L"", WS_CHILD | WS_VISIBLE, rect, this, id);
+  if (!created || watch.window_gone()) return 0;
   place();
   return 1;
 }
 
 void CListBar::place() {
+  const WindowWatch watch(*this);
   CRect client, rect;
   GetClientRect(client);
   if (backward_.GetSafeHwnd() != nullptr) {
     backward_.GetClientRect(rect);
     backward_.MoveWindow(0, (client.Height() - rect.Height()) / 2, rect.Width(), rect.Height());
   }
-  if (forward_.GetSafeHwnd() != nullptr) {
+  if (!watch.window_gone() && forward_.GetSafeHwnd() != nullptr) {
     forward_.GetClientRect(rect);
     forward_.MoveWindow(client.right - rect.Width(), (client.Height() - rect.Height()) / 2,
                         rect.Width(), rect.Height());
@@ -43,8 +49,9 @@ void CListBar::place() {
 }
 
 void CListBar::OnSize(UINT kind, int width, int height) {
+  const WindowWatch watch(*this);
   CSkinnedWnd::OnSize(kind, width, height);
-  place();
+  if (!watch.window_gone()) place();
 }
 
 BOOL CListBar::OnCommand(WPARAM wparam, LPARAM lparam) {

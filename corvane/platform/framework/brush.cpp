@@ -5,7 +5,7 @@
 namespace corvane {
 
 bool CBrush::CreateSolidBrush(COLORREF color) {
-  OpenPlatformSession();
+  open_platform_session();
   DeleteObject();
   return Attach(::CreateSolidBrush(color));
 }

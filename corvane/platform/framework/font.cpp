@@ -6,7 +6,7 @@ namespace corvane {
 
 bool CFont::CreateFontIndirectW(const LOGFONTW* description) {
   if (description == nullptr) return false;
-  OpenPlatformSession();
+  open_platform_session();
   DeleteObject();
   return Attach(::CreateFontIndirectW(description));
 }

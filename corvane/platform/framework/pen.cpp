@@ -5,7 +5,7 @@
 namespace corvane {
 
 bool CPen::CreatePen(int style, int width, COLORREF color) {
-  OpenPlatformSession();
+  open_platform_session();
   DeleteObject();
   return Attach(::CreatePen(style, width, color));
 }

@@ -22,6 +22,6 @@ class PlatformSession {
 // thread ends; nothing when it has one. RunApp, PumpMessages, and whatever makes window classes,
 // windows, fonts, pens, brushes or images call it; only who calls the platform's own functions
 // before any of these has to. False: the thread has no application object, or is ending.
-bool OpenPlatformSession();
+bool open_platform_session();
 
 }  // namespace corvane

@@ -48,7 +48,7 @@ struct SessionEnd {
   }
 };
 
-bool OpenPlatformSession() {
+bool open_platform_session() {
   CWinApp* keeper = live_app;
   if (keeper == nullptr || thread_is_ending) return false;
   while (keeper->previous_ != nullptr) keeper = keeper->previous_;
@@ -70,7 +70,7 @@ int CWinApp::ExitInstance() { return exit_code_; }
 bool CWinApp::OnIdle(LONG) { return false; }
 
 int CWinApp::Run() {
-  OpenPlatformSession();
+  open_platform_session();
   MSG message{};
   for (;;) {
     LONG idle_count = 0;
@@ -109,7 +109,7 @@ bool PreTranslateInput(MSG* message) {
 }
 
 bool PumpMessages() {
-  OpenPlatformSession();
+  open_platform_session();
   MSG message{};
   for (int i = 0; i < kMaxMessagesPerTurn && ::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE);
        ++i) {
@@ -120,7 +120,7 @@ bool PumpMessages() {
 }
 
 int RunApp(CWinApp& app) {
-  OpenPlatformSession();
+  open_platform_session();
   return app.InitInstance() ? app.Run() : app.ExitInstance();
 }
 

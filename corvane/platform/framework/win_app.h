@@ -34,7 +34,7 @@ class CWinApp {
   CWnd* m_pMainWnd = nullptr;  // borrowed; its destruction ends the loop
 
  private:
-  friend bool OpenPlatformSession();
+  friend bool open_platform_session();
   friend struct SessionEnd;
 
   std::unique_ptr<PlatformSession> session_;

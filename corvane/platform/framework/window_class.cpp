@@ -9,7 +9,7 @@ namespace corvane {
 
 const wchar_t* AfxRegisterWndClass(UINT class_style, HCURSOR cursor, HBRUSH background,
                                    HICON icon) {
-  OpenPlatformSession();
+  open_platform_session();
   CString name;
   name.Format(L"Corvane:%x:%p:%p:%p", class_style, static_cast<const void*>(cursor),
               static_cast<const void*>(background), static_cast<const void*>(icon));

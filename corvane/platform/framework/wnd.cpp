@@ -63,7 +63,7 @@ bool CWnd::CreateEx(DWORD ex_style, LPCWSTR class_name, LPCWSTR window_name, DWO
 bool CWnd::CreateEx(DWORD ex_style, LPCWSTR class_name, LPCWSTR window_name, DWORD style, int x,
                     int y, int width, int height, HWND parent, HMENU id_or_menu, LPVOID parameter) {
   if (m_hWnd != nullptr) return false;
-  OpenPlatformSession();
+  open_platform_session();
   if (class_name == nullptr) {
     class_name = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursorW(nullptr, IDC_ARROW),
                                      static_cast<HBRUSH>(::GetStockObject(NULL_BRUSH)));

@@ -33,7 +33,7 @@ std::optional<ImageFormat> format_named(const std::wstring& path) {
 }  // namespace
 
 int CGdiImage::Load(const wchar_t* path) {
-  OpenPlatformSession();
+  open_platform_session();
   image_ = path != nullptr ? decoded(path) : nullptr;
   return image_ ? 1 : 0;
 }

@@ -1,6 +1,7 @@
 #include "corvane/trees/model/tree_model.h"
 
 #include <algorithm>
+#include <cassert>
 #include <string>
 #include <vector>
 
@@ -49,6 +50,7 @@ _NODE* TreeModel::start_over(std::wstring_view name) {
 }
 
 _NODE& TreeModel::append_child(std::wstring_view name, _NODE& parent) {
+  assert(child_named(name, parent) == nullptr && "siblings have different names");
   _NODE& child = parent.children_.emplace_back();
   child.name_ = std::wstring(name);
   child.level_ = parent.level_ + 1;

@@ -147,6 +147,13 @@ void CTreeCtrlEx2::OnDestroy() {
   images_.release();
 }
 
+// A smaller window uncovers nothing to paint, but the rows and the bar depend on its size.
+void CTreeCtrlEx2::OnSize(UINT kind, int width, int height) {
+  const WindowWatch watch(*this);
+  CWnd::OnSize(kind, width, height);
+  if (!watch.window_gone()) Invalidate(FALSE);
+}
+
 BOOL CTreeCtrlEx2::OnEraseBkgnd(CDC* dc) {
   buffer_.fit(*this, dc);
   return TRUE;

@@ -100,13 +100,13 @@ class CTreeCtrlEx2 : public LibraryWindow<CWnd> {
   void OnDestroy();
   void OnPaint();
   BOOL OnEraseBkgnd(CDC* dc);
+  void OnSize(UINT kind, int width, int height);
   void OnVScroll(UINT code, UINT position, CScrollBar* bar);
   BOOL OnMouseWheel(UINT flags, short distance, CPoint screen_point);
   void OnLButtonUp(UINT flags, CPoint point);
   void OnLButtonDblClk(UINT flags, CPoint point);
   using CWnd::OnLButtonDown;
   using CWnd::OnMouseMove;
-  using CWnd::OnSize;
 
  private:
   const WindowDescription& description() const override;

@@ -1,6 +1,7 @@
 #include "corvane/trees/shared/circle_guard.h"
 
 #include <algorithm>
+#include <cassert>
 #include <string>
 
 #include "corvane/trees/shared/folder_path.h"
@@ -30,6 +31,7 @@ void CircleGuard::enter(const FolderIdentity& folder, FolderKind kind) {
 }
 
 void CircleGuard::leave() {
+  assert(!entered_.empty() && "leaves what it entered");
   if (entered_.back().kind == FolderKind::link) --links_entered_;
   entered_.pop_back();
 }

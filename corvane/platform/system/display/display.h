@@ -45,7 +45,7 @@ class Display {
   virtual bool wait(std::optional<std::uint64_t> deadline) = 0;
   virtual bool clock_runs() const { return true; }  // by itself
   virtual void wake() {}                            // ends a wait from any thread
-  // A file descriptor that becomes readable when poll() may have something, or -1.
+  // A file descriptor that becomes readable when poll() may have something, or -1: there is none.
   virtual int event_fd() const { return -1; }
 
   virtual void set_cursor(CursorShape) {}

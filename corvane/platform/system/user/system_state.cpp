@@ -108,6 +108,10 @@ MSG make_message(const System& state, HWND window, UINT number, WPARAM wparam, L
   return {window, number, wparam, lparam, static_cast<DWORD>(state.now()), state.input.pointer};
 }
 
+LPARAM packed(POINT point) {
+  return MAKELPARAM(static_cast<WORD>(point.x), static_cast<WORD>(point.y));
+}
+
 std::wstring lower_case(std::wstring_view text) {
   std::wstring result(text);
   for (wchar_t& letter : result) {

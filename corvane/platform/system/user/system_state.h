@@ -99,6 +99,8 @@ RECT client_on_screen(const Window& window);
 
 // A message of now, at the pointer's present position.
 MSG make_message(const System& state, HWND window, UINT number, WPARAM wparam, LPARAM lparam);
+// As messages carry a point: its halves are 16 bits wide.
+LPARAM packed(POINT point);
 std::wstring lower_case(std::wstring_view text);
 
 }  // namespace corvane::system

@@ -36,7 +36,9 @@ class WindowSystem {
   // corvane::PreTranslateInput.
   std::optional<std::uint64_t> process_pending(bool* quit = nullptr,
                                                const std::function<bool(MSG*)>& filter = {});
-  // Becomes readable when there is work: input, or a message posted from another thread.
+  // Becomes readable when there is work: input, or a message posted from another thread. -1 where
+  // the desktop gives no such descriptor (neither X11 nor Wayland): process_pending is to be called
+  // every few milliseconds then. On Wayland a key that is held repeats only while it is called.
   int event_fd() const;
 
   // Composes what is damaged and shows it on the display.

@@ -109,6 +109,21 @@ TEST_F(DragTest, WindowThatFillsTheScreenStaysAndFollowsItsSize) {
        }});
 }
 
+TEST_F(DragTest, WhatIsDrawnIsShownWhileMessagesKeepComing) {
+  int left = 100;
+  recorder().before_default("pop", WM_USER, [&] {
+    own().display.advance(20);
+    draw(popup_, {0, 0, 10, 10}, left % 2 == 0 ? kRed : kBlack);
+    if (--left > 0) PostMessageW(popup_, WM_USER, 0, 0);
+  });
+  const int before = own().display.presents();
+  drag("", {[&] {
+         PostMessageW(popup_, WM_USER, 0, 0);
+         button_up();
+       }});
+  EXPECT_GE(own().display.presents(), before + 99);
+}
+
 TEST_F(DragTest, PressOnACaptionDragsToo) {
   recorder().answer("pop", WM_NCHITTEST, HTCAPTION);
   script_ = {move_pointer(125, 118), button_up};

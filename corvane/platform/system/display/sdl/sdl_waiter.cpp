@@ -5,6 +5,7 @@
 #include <sys/epoll.h>
 #include <sys/timerfd.h>
 #include <unistd.h>
+#include <wayland-client.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -13,15 +14,21 @@ namespace corvane::system {
 
 namespace {
 
-int connection_of(SDL_Window* window) {
-#ifdef SDL_VIDEO_DRIVER_X11
-  SDL_SysWMinfo info;
+SDL_SysWMinfo native(SDL_Window* window) {
+  SDL_SysWMinfo info{};
   SDL_VERSION(&info.version);
-  if (SDL_GetWindowWMInfo(window, &info) && info.subsystem == SDL_SYSWM_X11) {
-    return ConnectionNumber(info.info.x11.display);
-  }
+  if (!SDL_GetWindowWMInfo(window, &info)) info.subsystem = SDL_SYSWM_UNKNOWN;
+  return info;
+}
+
+int connection_of(SDL_Window* window) {
+  [[maybe_unused]] const SDL_SysWMinfo info = native(window);
+#ifdef SDL_VIDEO_DRIVER_X11
+  if (info.subsystem == SDL_SYSWM_X11) return ConnectionNumber(info.info.x11.display);
 #endif
-  (void)window;
+#ifdef SDL_VIDEO_DRIVER_WAYLAND
+  if (info.subsystem == SDL_SYSWM_WAYLAND) return wl_display_get_fd(info.info.wl.display);
+#endif
   return -1;
 }
 
@@ -52,8 +59,11 @@ bool has_events() {
 }  // namespace
 
 SdlWaiter::SdlWaiter(SDL_Window* window)
-    : ticks_(timerfd_create(CLOCK_MONOTONIC, TFD_NONBLOCK | TFD_CLOEXEC)),
-      watched_(watcher_of(connection_of(window), wake_.fd(), ticks_)) {}
+    : sleeps_on_it_(native(window).subsystem == SDL_SYSWM_X11),
+      ticks_(timerfd_create(CLOCK_MONOTONIC, TFD_NONBLOCK | TFD_CLOEXEC)),
+      watched_(watcher_of(connection_of(window), wake_.fd(), ticks_)) {
+  sleeps_on_it_ = sleeps_on_it_ && watched_ >= 0;
+}
 
 SdlWaiter::~SdlWaiter() {
   if (watched_ >= 0) close(watched_);
@@ -77,7 +87,7 @@ void SdlWaiter::look_often(bool often) {
 void SdlWaiter::wait(std::optional<int> milliseconds) {
   if (has_events()) return;
   if (often_) milliseconds = std::min(milliseconds.value_or(kTick), kTick);
-  if (watched_ >= 0) {
+  if (sleeps_on_it_) {
     pollfd watched{watched_, POLLIN, 0};
     poll(&watched, 1, milliseconds.value_or(-1));
   } else if (milliseconds) {
@@ -89,7 +99,7 @@ void SdlWaiter::wait(std::optional<int> milliseconds) {
 
 void SdlWaiter::wake() {
   wake_.set();
-  if (watched_ >= 0) return;
+  if (sleeps_on_it_) return;
   SDL_Event event{};
   event.type = SDL_USEREVENT;
   SDL_PushEvent(&event);

@@ -8,8 +8,8 @@
 namespace corvane::system {
 
 // Sleeps until SDL has an event, or a call from another thread. Under X11 it watches the connection
-// to the server, which also gives hosts a descriptor to watch; elsewhere SDL does the waiting,
-// which looks around every millisecond with drivers that cannot sleep.
+// to the server; elsewhere SDL does the waiting, which looks around every millisecond with drivers
+// that cannot sleep. Hosts get the connection to watch from X11 and from Wayland.
 class SdlWaiter {
  public:
   explicit SdlWaiter(SDL_Window* window);
@@ -30,7 +30,8 @@ class SdlWaiter {
 
  private:
   WakeEvent wake_;
-  int ticks_;  // a timer's descriptor; -1: there is none
+  bool sleeps_on_it_;  // Wayland's repeated keys are SDL's own work, which only its waiting does
+  int ticks_;          // a timer's descriptor; -1: there is none
   bool often_ = false;
   int watched_;  // readable: input, a wake or a tick
 };

@@ -1,5 +1,6 @@
 #include "corvane/platform/system/user/input/activation.h"
 
+#include <cassert>
 #include <utility>
 
 #include "corvane/platform/system/user/messages/send_message.h"
@@ -17,8 +18,9 @@ void deactivate(HWND old, HWND next) {
 }
 
 bool may_be_active(const Window& window) {
-  return (window.style & WS_VISIBLE) != 0 && (window.style & WS_DISABLED) == 0 &&
-         (window.ex_style & WS_EX_NOACTIVATE) == 0 && !window.destroying;
+  return is_top_level(window) && (window.style & WS_VISIBLE) != 0 &&
+         (window.style & WS_DISABLED) == 0 && (window.ex_style & WS_EX_NOACTIVATE) == 0 &&
+         !window.destroying;
 }
 
 // No window of the program is active from now on.
@@ -45,6 +47,7 @@ void activate(HWND window, UINT how) {
   if (state == nullptr || state->input.active == window) return;
   Window* target = state->find(window);
   if (window != nullptr && target == nullptr) return;
+  assert(target == nullptr || is_top_level(*target));
   HWND old = state->input.active;
   state->input.active = window;
   if (target != nullptr) raise(*state, *target);

@@ -77,14 +77,16 @@ using namespace corvane::system;
 namespace {
 
 struct SystemCursor {
-  int id;
+  LPCWSTR name;
   CursorShape shape;
 };
-constexpr SystemCursor kSystemCursors[] = {
-    {32512, CursorShape::arrow},   {32513, CursorShape::ibeam},     {32514, CursorShape::wait},
-    {32515, CursorShape::cross},   {32642, CursorShape::size_nwse}, {32643, CursorShape::size_nesw},
-    {32644, CursorShape::size_we}, {32645, CursorShape::size_ns},   {32646, CursorShape::size_all},
-    {32648, CursorShape::no},      {32649, CursorShape::hand},
+const SystemCursor kSystemCursors[] = {
+    {IDC_ARROW, CursorShape::arrow},        {IDC_IBEAM, CursorShape::ibeam},
+    {IDC_WAIT, CursorShape::wait},          {IDC_CROSS, CursorShape::cross},
+    {IDC_SIZENWSE, CursorShape::size_nwse}, {IDC_SIZENESW, CursorShape::size_nesw},
+    {IDC_SIZEWE, CursorShape::size_we},     {IDC_SIZENS, CursorShape::size_ns},
+    {IDC_SIZEALL, CursorShape::size_all},   {IDC_NO, CursorShape::no},
+    {IDC_HAND, CursorShape::hand},
 };
 
 }  // namespace
@@ -92,9 +94,8 @@ constexpr SystemCursor kSystemCursors[] = {
 HCURSOR LoadCursorW(HINSTANCE, LPCWSTR name) {
   System* state = corvane::system::system();
   if (state == nullptr || !IS_INTRESOURCE(name)) return nullptr;
-  auto id = static_cast<int>(reinterpret_cast<ULONG_PTR>(name));
   for (const SystemCursor& row : kSystemCursors) {
-    if (row.id != id) continue;
+    if (row.name != name) continue;
     for (const auto& [handle, shape] : state->cursors.shapes) {
       if (shape == row.shape) return handle;
     }

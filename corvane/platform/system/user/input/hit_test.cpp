@@ -28,10 +28,6 @@ void collect(const Window& window, POINT point, std::vector<HWND>& candidates) {
   candidates.push_back(window.handle);
 }
 
-LPARAM packed(POINT point) {
-  return MAKELPARAM(static_cast<WORD>(point.x), static_cast<WORD>(point.y));
-}
-
 Hit ask(const std::vector<HWND>& candidates, POINT point) {
   for (HWND window : candidates) {
     if (find(window) == nullptr) continue;

@@ -12,7 +12,6 @@ namespace corvane::system {
 namespace {
 
 constexpr std::uint64_t kDoubleClickTime = 500;
-constexpr int kDoubleClickBox = 4;  // pixels, whole width
 
 struct ButtonMessages {
   int button;
@@ -40,10 +39,6 @@ UINT double_click_of(int button) {
     if (row.button == button) return row.double_click;
   }
   return WM_NULL;
-}
-
-LPARAM packed(POINT point) {
-  return MAKELPARAM(static_cast<WORD>(point.x), static_cast<WORD>(point.y));
 }
 
 LPARAM in_client(HWND window, POINT screen_point) {
@@ -79,10 +74,11 @@ WPARAM mouse_keys(const System& state) {
 // client area it does so in windows of every class.
 bool completes_double_click(System& state, HWND window, int hit_code, const InputEvent& event) {
   LastPress& last = state.input.last_press;
+  const SIZE box{GetSystemMetrics(SM_CXDOUBLECLK), GetSystemMetrics(SM_CYDOUBLECLK)};
   const bool second = last.window == window && last.button == event.button &&
                       state.now() - last.time <= kDoubleClickTime &&
-                      std::abs(event.position.x - last.position.x) <= kDoubleClickBox / 2 &&
-                      std::abs(event.position.y - last.position.y) <= kDoubleClickBox / 2;
+                      std::abs(event.position.x - last.position.x) <= box.cx / 2 &&
+                      std::abs(event.position.y - last.position.y) <= box.cy / 2;
   if (second && (hit_code != HTCLIENT || takes_double_clicks(window))) {
     last = LastPress{};
     return true;

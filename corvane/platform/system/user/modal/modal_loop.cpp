@@ -4,6 +4,7 @@
 
 #include "corvane/platform/system/user/input/input_routing.h"
 #include "corvane/platform/system/user/messages/get_message.h"
+#include "corvane/platform/system/user/painting/presenting.h"
 
 namespace corvane::system {
 
@@ -14,6 +15,7 @@ void ModalLoop::run_turns() {
 
 // In the order of retrieve(), but an event comes to the loop and not to a window.
 ModalLoop::Turn ModalLoop::take_turn() {
+  present_if_late(state_);
   if (const auto message = take_posted(state_, {}, true)) {
     TranslateMessage(&*message);
     DispatchMessageW(&*message);

@@ -2,29 +2,10 @@
 
 #include <sstream>
 
+#include "corvane/platform/system/gdi/text_utf8.h"
+
 namespace corvane::system {
 namespace {
-
-void append_utf8(std::string& out, std::wstring_view text) {
-  for (const wchar_t letter : text) {
-    auto code = static_cast<std::uint32_t>(letter);
-    if (code < 0x80) {
-      out += static_cast<char>(code);
-    } else if (code < 0x800) {
-      out += static_cast<char>(0xC0 | (code >> 6));
-      out += static_cast<char>(0x80 | (code & 0x3F));
-    } else if (code < 0x10000) {
-      out += static_cast<char>(0xE0 | (code >> 12));
-      out += static_cast<char>(0x80 | ((code >> 6) & 0x3F));
-      out += static_cast<char>(0x80 | (code & 0x3F));
-    } else {
-      out += static_cast<char>(0xF0 | ((code >> 18) & 0x07));
-      out += static_cast<char>(0x80 | ((code >> 12) & 0x3F));
-      out += static_cast<char>(0x80 | ((code >> 6) & 0x3F));
-      out += static_cast<char>(0x80 | (code & 0x3F));
-    }
-  }
-}
 
 void describe(const System& state, const Window& window, int depth, std::string& out) {
   const RECT frame = frame_on_screen(window);
@@ -32,9 +13,9 @@ void describe(const System& state, const Window& window, int depth, std::string&
   line << " (" << frame.left << ',' << frame.top << ")-(" << frame.right << ',' << frame.bottom
        << ')';
   out.append(static_cast<std::size_t>(depth) * 2, ' ');
-  append_utf8(out, window.window_class->name);
+  out += to_utf8(window.window_class->name);
   out += " \"";
-  append_utf8(out, window.text);
+  out += to_utf8(window.text);
   out += '"';
   if (window.is_child()) out += " id=" + std::to_string(static_cast<int>(window.id));
   out += line.str();

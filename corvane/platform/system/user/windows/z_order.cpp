@@ -66,6 +66,7 @@ const Window* above(const Window& window) {
 
 std::vector<const Window*> all_above(const std::vector<Window*>& group) {
   std::vector<const Window*> result;
+  result.reserve(group.size());
   for (const Window* member : group) result.push_back(above(*member));
   return result;
 }
