@@ -1,5 +1,8 @@
 #pragma once
 // Pictures -> files. One implementation for Windows, one for all others.
+#include <cstdint>
+#include <vector>
+
 #include "corvane/platform/platform.h"
 
 namespace corvane {
@@ -11,5 +14,9 @@ enum class ImageFormat { png, jpeg };
 // cannot be written.
 bool save_image_part(Gdiplus::Image& image, const RECT& part, const wchar_t* path,
                      ImageFormat format);
+
+// A part of the picture, in its pixels, as the bytes of a PNG file; empty when the part is or when
+// memory is short. Any thread.
+std::vector<std::uint8_t> encode_image_part(Gdiplus::Image& image, const RECT& part);
 
 }  // namespace corvane

@@ -26,6 +26,7 @@ bool find_encoder(const wchar_t* mime_type, CLSID& encoder) {
 bool draw_part(Gdiplus::Bitmap& copy, Gdiplus::Image& image, const RECT& part, ImageFormat format) {
   Gdiplus::Graphics graphics(&copy);
   if (format == ImageFormat::jpeg) graphics.Clear(Gdiplus::Color(255, 255, 255));
+  if (format == ImageFormat::png) graphics.SetCompositingMode(Gdiplus::CompositingModeSourceCopy);
   graphics.SetInterpolationMode(Gdiplus::InterpolationModeNearestNeighbor);
   graphics.SetPixelOffsetMode(Gdiplus::PixelOffsetModeHalf);
   const int width = part.right - part.left;
@@ -35,6 +36,32 @@ bool draw_part(Gdiplus::Bitmap& copy, Gdiplus::Image& image, const RECT& part, I
 }
 
 }  // namespace
+
+std::vector<std::uint8_t> encode_image_part(Gdiplus::Image& image, const RECT& part) {
+  const RECT whole{0, 0, static_cast<LONG>(image.GetWidth()), static_cast<LONG>(image.GetHeight())};
+  RECT inside{};
+  CLSID encoder{};
+  if (!::IntersectRect(&inside, &part, &whole) || !find_encoder(L"image/png", encoder)) return {};
+  Gdiplus::Bitmap copy(inside.right - inside.left, inside.bottom - inside.top,
+                       PixelFormat32bppARGB);
+  IStream* stream = nullptr;
+  if (copy.GetLastStatus() != Gdiplus::Ok || !draw_part(copy, image, inside, ImageFormat::png) ||
+      ::CreateStreamOnHGlobal(nullptr, TRUE, &stream) != S_OK) {
+    return {};
+  }
+  std::vector<std::uint8_t> bytes;
+  HGLOBAL memory = nullptr;
+  STATSTG facts{};
+  if (copy.Save(stream, &encoder, nullptr) == Gdiplus::Ok &&
+      stream->Stat(&facts, STATFLAG_NONAME) == S_OK &&
+      ::GetHGlobalFromStream(stream, &memory) == S_OK) {
+    const auto* const first = static_cast<const std::uint8_t*>(::GlobalLock(memory));
+    bytes.assign(first, first + facts.cbSize.QuadPart);
+    ::GlobalUnlock(memory);
+  }
+  stream->Release();
+  return bytes;
+}
 
 bool save_image_part(Gdiplus::Image& image, const RECT& part, const wchar_t* path,
                      ImageFormat format) {

@@ -3,12 +3,14 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cstring>
 #include <limits>
 #include <random>
 #include <tuple>
 #include <vector>
 
 #include "corvane/platform/system/gdi/gdiplus.h"
+#include "corvane/platform/system/gdi/image_encoder.h"
 #include "corvane/platform/system/gdi/reduced_image.h"
 #include "corvane/platform/system/shell/wide_path.h"
 #include "tests/platform/gdi/gdi_fixture.h"
@@ -163,7 +165,7 @@ TEST_F(GdiImages, HeadersThatClaimTooMuchAreRefusedBeforeTheMemoryIsTaken) {
   rusage before{};
   getrusage(RUSAGE_SELF, &before);
   for (const Bytes& bytes : {png(30000, 30000), png(100000, 10), png(0x7FFFFFFF, 0x7FFFFFFF),
-                             png(0, 5), png(10001, 10000), bmp, jpeg, gif}) {
+                             png(0, 5), png(25601, 10000), bmp, jpeg, gif}) {
     Image image(write("liar", bytes).c_str());
     EXPECT_EQ(image.GetLastStatus(), InvalidParameter);
     EXPECT_EQ(image.GetWidth(), 0u);
@@ -314,6 +316,32 @@ TEST_F(GdiImages, APictureThatReachesBeyondTheSurfaceLooksAsOneThatDoesNot) {
     EXPECT_NEAR(seen(x, y) >> 8 & 0xFF, (y + 30.5) * 200 / 90, 2) << y;
   }
   EXPECT_EQ(seen(90, 10), kWhite);
+}
+
+TEST_F(GdiImages, APartKeepsTheFilesOwnBytesWhereItIsNearlyClearToo) {
+  GdkPixbuf* const drawn = gdk_pixbuf_new(GDK_COLORSPACE_RGB, TRUE, 8, 64, 16);
+  guchar* const bytes = gdk_pixbuf_get_pixels(drawn);
+  std::mt19937 noise;
+  for (int at = 0; at < 64 * 16 * 4; ++at) {
+    bytes[at] = static_cast<guchar>(at % 4 == 3 ? at / 16 % 256 : noise());
+  }
+  gchar* file = nullptr;
+  gsize size = 0;
+  ASSERT_TRUE(gdk_pixbuf_save_to_buffer(drawn, &file, &size, "png", nullptr, nullptr));
+  const Image image(write("clear.png", Bytes(file, size)).c_str());
+  g_free(file);
+  const std::vector<std::uint8_t> part = encode_png(image, {3, 2, 61, 15});
+  write("part.png", Bytes(part.begin(), part.end()));
+  GdkPixbuf* const saved = gdk_pixbuf_new_from_file((folder / "part.png").c_str(), nullptr);
+  ASSERT_NE(saved, nullptr);
+  ASSERT_EQ(gdk_pixbuf_get_width(saved), 58);
+  for (int y = 0; y < 13; ++y) {
+    EXPECT_EQ(std::memcmp(gdk_pixbuf_get_pixels(saved) + y * gdk_pixbuf_get_rowstride(saved),
+                          bytes + (y + 2) * gdk_pixbuf_get_rowstride(drawn) + 3 * 4, 58 * 4),
+              0);
+  }
+  g_object_unref(saved);
+  g_object_unref(drawn);
 }
 
 TEST_F(GdiImages, PartsOfAPicture) {

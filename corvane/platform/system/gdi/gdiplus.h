@@ -6,9 +6,12 @@
 #include "corvane/platform/system/gdi/gdi_api.h"
 #include "corvane/platform/system/types.h"
 
+struct _GdkPixbuf;
+
 namespace corvane::system {
 class Surface;
 class ImageCache;
+struct DecodedImage;
 }  // namespace corvane::system
 
 namespace corvane_system::Gdiplus {
@@ -71,7 +74,7 @@ class Color {
 };
 
 // A decoded picture (JPEG, PNG, BMP, GIF ...). A file that cannot be decoded gives an image of
-// width 0 whose status is InvalidParameter. Pictures above 100 megapixels are refused.
+// width 0 whose status is InvalidParameter. Pictures above 256 megapixels are refused.
 class Image {
  public:
   explicit Image(const WCHAR* path, BOOL embedded_color_management = FALSE);
@@ -86,14 +89,17 @@ class Image {
 
   // The premultiplied pixels, null when nothing was decoded. Shared with clones; never modified.
   const std::shared_ptr<const corvane::system::Surface>& pixels() const { return pixels_; }
+  // The same as they stand in the file; null for what is opaque, and for what came from memory.
+  const std::shared_ptr<_GdkPixbuf>& source() const { return source_; }
   // What drawing keeps for the next time; null when pixels() is.
   corvane::system::ImageCache* cache() const { return cache_.get(); }
 
  protected:
   Image() = default;
-  void take_pixels(std::shared_ptr<const corvane::system::Surface> pixels, bool opaque);
+  void take_pixels(corvane::system::DecodedImage decoded);
 
   std::shared_ptr<const corvane::system::Surface> pixels_;
+  std::shared_ptr<_GdkPixbuf> source_;
   std::shared_ptr<corvane::system::ImageCache> cache_;  // shared with clones
   mutable Status status_ = Ok;
 };
@@ -104,7 +110,7 @@ class Bitmap : public Image {
   explicit Bitmap(const WCHAR* path, BOOL embedded_color_management = FALSE)
       : Image(path, embedded_color_management) {}
   // A new icon with these pixels; the caller frees it with DestroyIcon.
-  Status GetHICON(HICON* icon) const;
+  Status GetHICON(HICON* icon);
 };
 #define PixelFormat32bppARGB 0x26200Au
 

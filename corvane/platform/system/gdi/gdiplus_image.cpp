@@ -19,16 +19,18 @@ Image::Image(const WCHAR* path, BOOL) {
     const std::string file = file_system_path(path);
     std::optional<DecodedImage> decoded;
     if (!file.empty()) decoded = decode_image_file(file);
-    if (decoded) take_pixels(std::move(decoded->pixels), decoded->opaque);
+    if (decoded) take_pixels(std::move(*decoded));
     return true;
   });
 }
 
 Image::~Image() = default;
 
-void Image::take_pixels(std::shared_ptr<const Surface> pixels, bool opaque) {
-  cache_ = std::make_shared<ImageCache>(opaque);
-  pixels_ = std::move(pixels);
+void Image::take_pixels(DecodedImage decoded) {
+  cache_ = std::make_shared<ImageCache>(decoded.opaque);
+  pixels_ = std::move(decoded.pixels);
+  source_ = std::move(decoded.source);
+  if (is_large_picture(*pixels_)) cache_->halved(pixels_, 1, 1);
   status_ = Ok;
 }
 
@@ -39,6 +41,7 @@ Image* Image::FromFile(const WCHAR* path, BOOL embedded_color_management) {
 Image* Image::Clone() const {
   Image* clone = new Image;
   clone->pixels_ = pixels_;
+  clone->source_ = source_;
   clone->cache_ = cache_;
   clone->status_ = pixels_ ? Ok : InvalidParameter;
   return clone;
@@ -48,7 +51,7 @@ UINT Image::GetWidth() const { return pixels_ ? static_cast<UINT>(pixels_->width
 UINT Image::GetHeight() const { return pixels_ ? static_cast<UINT>(pixels_->height()) : 0; }
 Status Image::GetLastStatus() const { return std::exchange(status_, Ok); }
 
-Status Bitmap::GetHICON(HICON* icon) const {
+Status Bitmap::GetHICON(HICON* icon) {
   Gdi::Impl* tables = pixels_ != nullptr && icon != nullptr ? current_tables() : nullptr;
   if (tables == nullptr) return status_ = InvalidParameter;
   *icon = tables->objects.insert_as<HICON>({.kind = IconObject{pixels_}});
@@ -65,12 +68,11 @@ Bitmap::Bitmap(INT width, INT height, INT stride, DWORD format, BYTE* scan0) {
   if (scan0 != nullptr && bytes_per_row < std::int64_t{width} * 4) return;
   softly(false, [&] {
     if (scan0) {
-      DecodedImage copy = premultiplied_copy(scan0, width, height, stride);
-      take_pixels(std::move(copy.pixels), copy.opaque);
+      take_pixels(premultiplied_copy(scan0, width, height, stride));
     } else {
       auto blank = std::make_shared<Surface>(width, height);
       blank->pixels();
-      take_pixels(std::move(blank), false);
+      take_pixels({std::move(blank), false, nullptr});
     }
     return true;
   });

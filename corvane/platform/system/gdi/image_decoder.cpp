@@ -51,15 +51,17 @@ DecodedImage converted(const GdkPixbuf* picture) {
     }
     opaque = opaque && (!has_alpha || is_opaque(to, width));
   }
-  return {std::move(pixels), opaque};
+  return {std::move(pixels), opaque, nullptr};
 }
 
 }  // namespace
 
 std::optional<DecodedImage> decode_image_file(const std::string& path) {
-  const Pixbuf picture = load_pixbuf(path, [](int, int) { return SIZE{}; }, {});
+  Pixbuf picture = load_pixbuf(path, [](int, int) { return SIZE{}; }, {});
   if (!picture) return std::nullopt;
-  return converted(picture.get());
+  DecodedImage decoded = converted(picture.get());
+  if (!decoded.opaque) decoded.source = std::move(picture);
+  return decoded;
 }
 
 DecodedImage premultiplied_copy(const unsigned char* first_row, int width, int height,
@@ -75,7 +77,7 @@ DecodedImage premultiplied_copy(const unsigned char* first_row, int width, int h
       to[x] = premultiplied((to[x] >> 16) & 0xFF, (to[x] >> 8) & 0xFF, to[x] & 0xFF, to[x] >> 24);
     }
   }
-  return {std::move(pixels), opaque};
+  return {std::move(pixels), opaque, nullptr};
 }
 
 }  // namespace corvane::system

@@ -3,6 +3,7 @@
 #include <gdk-pixbuf/gdk-pixbuf.h>
 
 #include <memory>
+#include <new>
 
 namespace corvane::system {
 namespace {
@@ -60,15 +61,21 @@ PixbufPointer copy_part(const Surface& surface, const RECT& part, Format format)
 
 std::vector<std::uint8_t> file_of(GdkPixbuf* pixbuf, const char* type, const char* option,
                                   const char* value) {
-  gchar* bytes = nullptr;
-  gsize size = 0;
+  std::vector<std::uint8_t> bytes;
+  const GdkPixbufSaveFunc append = [](const gchar* more, gsize size, GError**, gpointer to) {
+    auto& all = *static_cast<std::vector<std::uint8_t>*>(to);
+    try {
+      all.insert(all.end(), more, more + size);
+    } catch (const std::bad_alloc&) {
+      return FALSE;
+    }
+    return TRUE;
+  };
   if (pixbuf == nullptr ||
-      !gdk_pixbuf_save_to_buffer(pixbuf, &bytes, &size, type, nullptr, option, value, nullptr)) {
+      !gdk_pixbuf_save_to_callback(pixbuf, append, &bytes, type, nullptr, option, value, nullptr)) {
     return {};
   }
-  std::vector<std::uint8_t> result(bytes, bytes + size);
-  g_free(bytes);
-  return result;
+  return bytes;
 }
 
 }  // namespace
@@ -76,6 +83,19 @@ std::vector<std::uint8_t> file_of(GdkPixbuf* pixbuf, const char* type, const cha
 std::vector<std::uint8_t> encode_png(const Surface& surface, const RECT& part, Opacity opacity) {
   const Format format = opacity == Opacity::pixel_alpha ? Format::rgba : Format::rgb;
   return file_of(copy_part(surface, part, format).get(), "png", "compression", "3");
+}
+
+std::vector<std::uint8_t> encode_png(const corvane_system::Gdiplus::Image& image,
+                                     const RECT& part) {
+  if (image.pixels() == nullptr) return {};
+  if (image.source() == nullptr) return encode_png(*image.pixels(), part, Opacity::pixel_alpha);
+  RECT inside{};
+  const RECT whole = image.pixels()->rect();
+  if (!IntersectRect(&inside, &part, &whole)) return {};
+  const PixbufPointer view(gdk_pixbuf_new_subpixbuf(image.source().get(), inside.left, inside.top,
+                                                    inside.right - inside.left,
+                                                    inside.bottom - inside.top));
+  return file_of(view.get(), "png", "compression", "3");
 }
 
 std::vector<std::uint8_t> encode_jpeg(const Surface& surface, const RECT& part) {

@@ -39,7 +39,7 @@ bool contains(const RECT& outer, const RECT& inner) {
 Source shrunk(const Image& image, const RECT& part, int width, int height) {
   const Source whole = source_of(image, part);
   if (width >= whole.width() && height >= whole.height()) return whole;
-  auto copy = image.cache()->shrunk(*image.pixels(), part, std::min(width, whole.width()),
+  auto copy = image.cache()->shrunk(image.pixels(), part, std::min(width, whole.width()),
                                     std::min(height, whole.height()));
   const RECT all = copy->rect();
   return {std::move(copy), all, whole.opaque};

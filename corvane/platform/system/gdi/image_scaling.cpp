@@ -10,6 +10,7 @@ namespace {
 
 constexpr std::size_t kKeptCopies = 4;
 constexpr long kKeptPixels = 16'000'000;
+constexpr std::int64_t kLargePicture = 32'000'000;  // pixels
 
 // The source positions that one target position covers: `count` from `first` on, the ones between
 // the two ends with weight kWhole.
@@ -110,8 +111,12 @@ std::shared_ptr<Surface> shrunk_by_area(const Surface& picture, const RECT& part
   return shrunk;
 }
 
-std::shared_ptr<const Surface> ImageCache::shrunk(const Surface& picture, const RECT& part,
-                                                  int width, int height) {
+bool is_large_picture(const Surface& picture) {
+  return std::int64_t{picture.width()} * picture.height() > kLargePicture;
+}
+
+std::shared_ptr<const Surface> ImageCache::shrunk(const std::shared_ptr<const Surface>& picture,
+                                                  const RECT& part, int width, int height) {
   const std::lock_guard<std::mutex> guard(lock_);
   for (auto copy = copies_.begin(); copy != copies_.end(); ++copy) {
     if (!same(copy->part, part) || copy->pixels->width() != width ||
@@ -121,7 +126,13 @@ std::shared_ptr<const Surface> ImageCache::shrunk(const Surface& picture, const 
     copies_.splice(copies_.begin(), copies_, copy);
     return copies_.front().pixels;
   }
-  copies_.push_front({part, shrunk_by_area(picture, part, width, height)});
+  const RECT all = picture->rect();
+  if (is_large_picture(*picture) && EqualRect(&part, &all) != 0) {
+    const std::shared_ptr<const Surface> half = smallest_half(picture, width, height);
+    copies_.push_front({part, shrunk_by_area(*half, half->rect(), width, height)});
+  } else {
+    copies_.push_front({part, shrunk_by_area(*picture, part, width, height)});
+  }
   drop_oldest();
   return copies_.front().pixels;
 }
@@ -129,6 +140,11 @@ std::shared_ptr<const Surface> ImageCache::shrunk(const Surface& picture, const 
 std::shared_ptr<const Surface> ImageCache::halved(const std::shared_ptr<const Surface>& picture,
                                                   int width, int height) {
   const std::lock_guard<std::mutex> guard(lock_);
+  return smallest_half(picture, width, height);
+}
+
+std::shared_ptr<const Surface> ImageCache::smallest_half(
+    const std::shared_ptr<const Surface>& picture, int width, int height) {
   std::shared_ptr<const Surface> smallest = picture;
   for (std::size_t times = 0;; ++times) {
     const int half_width = smallest->width() / 2;

@@ -14,6 +14,10 @@ namespace corvane::system {
 std::shared_ptr<Surface> shrunk_by_area(const Surface& picture, const RECT& part, int width,
                                         int height);
 
+// One that cannot be averaged within a frame: its halves are made with it, and shrunk copies are
+// made from them.
+bool is_large_picture(const Surface& picture);
+
 // What drawing a picture keeps for the next time. Thread-safe; belongs to one picture.
 class ImageCache {
  public:
@@ -21,8 +25,8 @@ class ImageCache {
 
   bool opaque() const { return opaque_; }  // every alpha byte of the picture is 255
   // As shrunk_by_area; the copies made last are kept.
-  std::shared_ptr<const Surface> shrunk(const Surface& picture, const RECT& part, int width,
-                                        int height);
+  std::shared_ptr<const Surface> shrunk(const std::shared_ptr<const Surface>& picture,
+                                        const RECT& part, int width, int height);
   // The whole picture, halved as often as its sides stay at least that long. All halves are kept: a
   // third of the picture's size.
   std::shared_ptr<const Surface> halved(const std::shared_ptr<const Surface>& picture, int width,
@@ -33,6 +37,8 @@ class ImageCache {
     RECT part;
     std::shared_ptr<const Surface> pixels;
   };
+  std::shared_ptr<const Surface> smallest_half(const std::shared_ptr<const Surface>& picture,
+                                               int width, int height);
   void drop_oldest();
 
   bool opaque_;

@@ -65,8 +65,9 @@ void resize_screen(System& state, SIZE size) {
   state.frame.resize(size.cx, size.cy);
   std::vector<HWND> filling;
   for (const Window* top : state.desktop->children) {
-    const bool fills = EqualRect(&top->frame, &old) || EqualRect(&top->frame, &state.work_area);
-    if (fills) filling.push_back(top->handle);
+    if (EqualRect(&top->frame, &old) || EqualRect(&top->frame, &state.work_area)) {
+      filling.push_back(top->handle);
+    }
   }
   if (!state.full_screen) state.work_area = now;
   for (HWND window : filling) MoveWindow(window, 0, 0, size.cx, size.cy, TRUE);
