@@ -6,8 +6,8 @@ namespace {
 constexpr LONG kEdge = 3;  // pixels
 
 bool brings(bool shown, const RECT& part, bool at_edge, POINT pointer) {
-  if (!shown) return at_edge && !IsRectEmpty(&part);
-  return at_edge || PtInRect(&part, pointer);
+  if (!shown) return at_edge && IsRectEmpty(&part) == FALSE;
+  return at_edge || PtInRect(&part, pointer) != FALSE;
 }
 
 }  // namespace

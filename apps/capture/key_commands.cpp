@@ -11,7 +11,7 @@ struct Binding {
   KeyCommand command;
 };
 
-constexpr std::array<Binding, 24> kBindings = {{
+constexpr std::array<Binding, 26> kBindings = {{
     {{VK_ESCAPE, false, false}, KeyCommand::cancel},
     {{VK_RIGHT, false, false}, KeyCommand::next_picture},
     {{VK_LEFT, false, false}, KeyCommand::previous_picture},
@@ -21,6 +21,8 @@ constexpr std::array<Binding, 24> kBindings = {{
     {{VK_LEFT, false, true}, KeyCommand::close_folder},
     {{'O', true, false}, KeyCommand::open_picture},
     {{'S', true, false}, KeyCommand::save},
+    {{'A', true, false}, KeyCommand::select_all},
+    {{'C', true, false}, KeyCommand::copy},
     {{VK_F11, false, false}, KeyCommand::full_screen},
     // With Shift on many keyboards; with Control as in browsers.
     {{VK_OEM_PLUS, false, true}, KeyCommand::zoom_in},

@@ -16,6 +16,8 @@ enum class KeyCommand {
   close_folder,
   open_picture,
   save,
+  select_all,  // of the recognised text
+  copy,
   full_screen,  // there and back
   zoom_in,
   zoom_out,

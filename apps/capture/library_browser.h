@@ -28,7 +28,8 @@ class CLibraryBrowser {
   corvane::CString Refresh();
   // Marks the picture as the opened one and selects its folder when that lies in the library.
   void MarkOpened(const std::wstring& path);
-  void MarkUnreadable(const std::wstring& path) { reached_ = path; }
+  // The neighbours are this one's from now on.
+  void MarkReached(const std::wstring& path) { reached_ = path; }
   void ScrollToNew(const std::wstring& name) { strip_.ScrollToNew(name); }
   // The picture of the current folder that is `step` further than the last one that was opened or
   // could not be; empty: none.
@@ -45,7 +46,7 @@ class CLibraryBrowser {
   CLibraryPane pane_;
   CPictureStrip strip_;
   std::wstring opened_;   // path
-  std::wstring reached_;  // path, opened or unreadable
+  std::wstring reached_;  // path: opened, being opened, or unreadable
 };
 
 }  // namespace capture

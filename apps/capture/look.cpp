@@ -14,16 +14,17 @@ using namespace corvane;
 constexpr int kList = 102;
 constexpr int kFontHeight = 17;  // pixels
 
-constexpr std::array<COLORREF, 8> kOwnShades = {
-    RGB(0x14, 0x1A, 0x20), RGB(0x1E, 0x26, 0x30), RGB(0x3A, 0x46, 0x54), RGB(0x2C, 0x37, 0x44),
-    RGB(0xE8, 0xEE, 0xF4), RGB(0x93, 0xA1, 0xB0), RGB(0x21, 0xC4, 0x6B), RGB(0x5B, 0x69, 0x79)};
+constexpr std::array<COLORREF, 9> kOwnShades = {
+    RGB(0x14, 0x1A, 0x20), RGB(0x1E, 0x26, 0x30), RGB(0x3A, 0x46, 0x54),
+    RGB(0x2C, 0x37, 0x44), RGB(0xE8, 0xEE, 0xF4), RGB(0x93, 0xA1, 0xB0),
+    RGB(0x21, 0xC4, 0x6B), RGB(0x5B, 0x69, 0x79), RGB(0x1F, 0x5F, 0x8B)};
 
 constexpr std::array<SIZE, 5> kOwnSizes = {{{0, 40}, {0, 52}, {0, 40}, {640, 560}, {720, 480}}};
 
-constexpr std::array<const wchar_t*, 37> kOwnTexts = {
+constexpr std::array<const wchar_t*, 38> kOwnTexts = {
     L"Library",
     L"Library (reading…)",
-    L"{1} pictures",
+    L"{1}",
     L"There are no pictures in the library yet",
     L"Put pictures into its folders, or press Open to choose one",
     L"Reading the library…",
@@ -57,7 +58,8 @@ constexpr std::array<const wchar_t*, 37> kOwnTexts = {
     L"cannot be shown",
     L"Open",
     L"..",
-    L"Copied"};
+    L"Copied",
+    L"Opening…"};
 
 template <class Id>
 std::size_t index_of(Id id, Id first) {

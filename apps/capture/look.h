@@ -10,7 +10,17 @@
 namespace capture {
 
 // Ids of controls whose text colour counts.
-enum class Shade { stage = 1, panel, edge, hovered_row, text, quiet_text, accent, scroll_mark };
+enum class Shade {
+  stage = 1,
+  panel,
+  edge,
+  hovered_row,
+  text,
+  quiet_text,
+  accent,
+  scroll_mark,
+  selection
+};
 
 // Ids of controls whose width and height count.
 enum class Measure { library_title = 20, box_title, box_row, open_box, recognition_box };
@@ -54,6 +64,7 @@ enum class Text {
   open,
   folder_above,
   copied,
+  opening,
 };
 
 class CLook {

@@ -1,6 +1,9 @@
 #include "apps/capture/main_window.h"
 
 #include <cerrno>
+#include <cstdint>
+#include <filesystem>
+#include <system_error>
 
 #include "apps/capture/capture_messages.h"
 #include "apps/capture/picture_folder.h"
@@ -13,7 +16,8 @@ namespace {
 
 using namespace corvane;
 
-constexpr SIZE kMinReadableSize{8, 8};  // pixels of the picture
+constexpr SIZE kMinReadableSize{8, 8};                // pixels of the picture
+constexpr std::uintmax_t kOpenedAtOnce = 512 * 1024;  // bytes; larger ones take longer than a frame
 
 CString name_for_user(const std::wstring& path) { return CString(name_of(path).c_str()); }
 
@@ -176,14 +180,36 @@ void CMainWindow::show_picture(std::shared_ptr<const CPicture> picture) {
   const SIZE size = picture_->size();
   CString title;
   title.Format(L" — %d × %d — Corvane", size.cx, size.cy);
-  CWnd::SetWindowTextW(wide(picture_->name()) + title);
+  CWnd::SetWindowTextW(name_for_user(wide_path_of(picture_->path())) + title);
   browser_.MarkOpened(wide_path_of(picture_->path()));
 }
 
 void CMainWindow::open_path(const std::wstring& path) {
-  std::shared_ptr<const CPicture> picture = CPicture::Open(native_path(path).string());
+  ++opened_last_;
+  std::error_code error;
+  const auto bytes = std::filesystem::file_size(native_path(path), error);
+  if (!error && bytes > kOpenedAtOnce) return open_later(path);
+  show_opened(path, CPicture::Open(native_path(path).string()));
+}
+
+void CMainWindow::open_later(const std::wstring& path) {
+  view_.ShowBusy(look_.text(Text::opening));
+  browser_.MarkReached(path);
+  const int count = opened_last_;
+  work_->Begin([this, path, count](const std::stop_token& stop) -> CBackgroundWork::Finish {
+    if (stop.stop_requested() || count != opened_last_) return {};
+    std::shared_ptr<const CPicture> picture = CPicture::Open(native_path(path).string());
+    return [this, path, count, picture = std::move(picture)] {
+      if (count != opened_last_) return;
+      view_.ShowNotice({});
+      show_opened(path, picture);
+    };
+  });
+}
+
+void CMainWindow::show_opened(const std::wstring& path, std::shared_ptr<const CPicture> picture) {
   if (picture == nullptr) {
-    browser_.MarkUnreadable(path);
+    browser_.MarkReached(path);
     view_.ShowNotice(look_.text(Text::cannot_open, {name_for_user(path)}));
     return;
   }

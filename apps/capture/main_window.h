@@ -2,6 +2,7 @@
 // The program's window: a toolbar, below it the picture library at the left and its pictures at the
 // bottom, the opened picture between them, a crop over it, and the boxes for recognised text and
 // for opening another picture.
+#include <atomic>
 #include <functional>
 #include <memory>
 #include <string>
@@ -48,6 +49,8 @@ class CMainWindow : public corvane::CWnd {
   const std::wstring& last_saved() const { return last_saved_; }  // full wide path
   bool recognising() const { return saving() || recognition_.Running(); }
   bool loading() const { return library_work_ != nullptr && library_work_->Busy(); }
+  bool opening() const { return saving(); }
+  const CRecognitionPanel& recognition() const { return recognition_; }
   bool full_screen() const { return full_screen_.active(); }
   bool saving() const { return work_ != nullptr && work_->Busy(); }
 
@@ -73,6 +76,7 @@ class CMainWindow : public corvane::CWnd {
   void perform(KeyCommand command);
   void zoom(KeyCommand command);
   void change_zoom(const std::function<void()>& change);
+  void copy_recognised();
   void toggle_full_screen();
   void show_parts(const ShownParts& parts);
   void reveal_at(POINT screen_point);
@@ -92,6 +96,8 @@ class CMainWindow : public corvane::CWnd {
 
   void show_picture(std::shared_ptr<const CPicture> picture);
   void open_path(const std::wstring& path);
+  void open_later(const std::wstring& path);
+  void show_opened(const std::wstring& path, std::shared_ptr<const CPicture> picture);
   void open_neighbour(int step);
   void refresh_library();
   void start_crop(CropMode mode);
@@ -126,8 +132,9 @@ class CMainWindow : public corvane::CWnd {
   int library_width_ = 0;  // as the user dragged it; 0: as the window gives it
   CRecognitionPanel recognition_{look_};
   COpenPanel open_panel_{look_};
-  int wheel_rest_ = 0;         // of a notch, turned with Control
-  bool keyboard_led_ = false;  // the keyboard, not the mouse, chose what has the focus
+  int wheel_rest_ = 0;                // of a notch, turned with Control
+  std::atomic<int> opened_last_ = 0;  // counts: only the last one that was asked for is shown
+  bool keyboard_led_ = false;         // the keyboard, not the mouse, chose what has the focus
   // Made with the window; saving does not wait for a library to be read.
   std::unique_ptr<CBackgroundWork> library_work_;
   std::unique_ptr<CBackgroundWork> work_;

@@ -28,9 +28,9 @@ BOOL CMainWindow::PreTranslateMessage(MSG* message) {
 
 bool CMainWindow::take_wheel(const MSG& message) {
   const RECT stage = stage_on_screen();
-  const bool on_picture = ::PtInRect(&stage, message.pt) && !open_panel_.IsWindowVisible() &&
-                          !recognition_.IsWindowVisible();
-  if ((LOWORD(message.wParam) & MK_CONTROL) == 0 || !on_picture) return false;
+  const bool behind_box = (open_panel_.IsWindowVisible() | recognition_.IsWindowVisible()) != FALSE;
+  if ((LOWORD(message.wParam) & MK_CONTROL) == 0 || behind_box) return false;
+  if (!::PtInRect(&stage, message.pt)) return false;
   wheel_rest_ += static_cast<short>(HIWORD(message.wParam));
   const int steps = wheel_rest_ / WHEEL_DELTA;
   wheel_rest_ -= steps * WHEEL_DELTA;
@@ -58,6 +58,12 @@ void CMainWindow::zoom(KeyCommand command) {
       view_.ZoomBy(command == KeyCommand::zoom_in ? 1 : -1, view_.Middle());
     }
   });
+}
+
+void CMainWindow::copy_recognised() {
+  if (recognition_.IsWindowVisible() && recognition_.CopyText()) {
+    view_.ShowNotice(look_.text(Text::copied));
+  }
 }
 
 void CMainWindow::toggle_full_screen() {
@@ -105,6 +111,11 @@ void CMainWindow::perform(KeyCommand command) {
       if (!crop_.IsWindowVisible()) open_neighbour(step);  // what is framed is not lost by a key
       return;
     }
+    case KeyCommand::select_all:
+      if (recognition_.IsWindowVisible()) recognition_.SelectAll();
+      return;
+    case KeyCommand::copy:
+      return copy_recognised();
     case KeyCommand::full_screen:
       return toggle_full_screen();
     case KeyCommand::zoom_in:

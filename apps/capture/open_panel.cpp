@@ -44,8 +44,8 @@ void COpenPanel::ListFolder(const std::wstring& folder, const std::wstring& curr
   folder_ = folder;
   entries_.clear();
   const std::wstring above = folder_of(folder);
-  if (!above.empty())
-    entries_.push_back({above, look().text(Text::folder_above).AsStdString(), true});
+  const std::wstring label = look().text(Text::folder_above).AsStdString();
+  if (!above.empty()) entries_.push_back({above, label, true});
   FolderEntries found = read_folder(folder).value_or(FolderEntries{});
   std::vector<std::wstring> folders;
   std::merge(found.folders.begin(), found.folders.end(), found.links.begin(), found.links.end(),

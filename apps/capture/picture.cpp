@@ -1,11 +1,10 @@
 #include "apps/capture/picture.h"
 
 #include <filesystem>
-#include <new>
 #include <system_error>
 
-#include "corvane/platform/system/gdi/image_encoder.h"
-#include "corvane/platform/system/shell/wide_path.h"
+#include "corvane/platform/base_services/system_paths.h"
+#include "corvane/platform/images/image_saving.h"
 
 namespace capture {
 namespace {
@@ -16,27 +15,21 @@ namespace fs = std::filesystem;
 
 std::unique_ptr<CPicture> CPicture::Open(const std::string& path) {
   std::error_code error;
-  const std::string absolute = fs::absolute(path, error).lexically_normal();
+  const std::string absolute = fs::absolute(path, error).lexically_normal().string();
   if (error) return nullptr;
-  auto image = std::make_unique<Gdiplus::Image>(corvane::system::wide_path(absolute).c_str());
+  auto image = std::make_unique<Gdiplus::Image>(corvane::wide_path_of(absolute).c_str());
   if (image->GetWidth() == 0 || image->GetHeight() == 0) return nullptr;
   return std::unique_ptr<CPicture>(new CPicture(absolute, std::move(image)));
 }
 
-std::string CPicture::name() const { return fs::path(path_).filename(); }
+std::string CPicture::name() const { return fs::path(path_).filename().string(); }
 
 SIZE CPicture::size() const {
   return {static_cast<LONG>(image_->GetWidth()), static_cast<LONG>(image_->GetHeight())};
 }
 
 std::vector<std::uint8_t> CPicture::EncodePart(const RECT& part) const {
-  if (image_->pixels() == nullptr) return {};
-  try {
-    return corvane::system::encode_png(*image_->pixels(), part,
-                                       corvane::system::Opacity::pixel_alpha);
-  } catch (const std::bad_alloc&) {
-    return {};
-  }
+  return corvane::encode_image_part(*image_, part);
 }
 
 }  // namespace capture

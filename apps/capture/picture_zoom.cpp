@@ -77,7 +77,7 @@ void CPictureZoom::keep_inside(const RECT& area) {
 }
 
 RECT CPictureZoom::Shown(const RECT& area) const {
-  const bool fits = !zoomed() || IsRectEmpty(&area) || scale_ <= fitting_scale(area);
+  const bool fits = !zoomed() || IsRectEmpty(&area) != FALSE || scale_ <= fitting_scale(area);
   if (fits) return corvane::fit_picture(picture_, area);
   CPictureZoom inside = *this;  // the area may have changed
   inside.keep_inside(area);

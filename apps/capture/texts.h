@@ -6,7 +6,7 @@
 
 namespace capture {
 
-// UTF-8 bytes (or a byte path's name) as a wide text.
+// UTF-8 bytes as a wide text; of others each as one character.
 corvane::CString wide(const std::string& utf8);
 
 }  // namespace capture

@@ -3,6 +3,10 @@
 
 #include <sys/stat.h>
 
+#include <algorithm>
+#include <cstdlib>
+#include <random>
+
 namespace capture {
 namespace {
 
@@ -226,6 +230,56 @@ TEST_F(LibraryWindow, AKeySavesWhatIsFramed) {
   Press({VK_CONTROL, 'S'});
   WaitForSaving();
   EXPECT_EQ(window_.last_saved(), Path(L"\\page_1.png"));
+}
+
+TEST_F(LibraryWindow, WhatStandsInTheTextBoxIsSelectedAndCopied) {
+  const std::string path = std::getenv("PATH");
+  setenv("PATH", "", 1);  // nothing is installed: the box says what is to be
+  Start();
+  ClickButton(ToolbarButton::text);
+  const CRect picture = PictureOnScreen();
+  desktop_.drag(picture.TopLeft(), picture.CenterPoint());
+  desktop_.click(window_.CropButtonOnScreen(CropCommand::read).CenterPoint());
+  WaitForSaving();
+  setenv("PATH", path.c_str(), 1);
+  const auto copied = [&](const std::vector<int>& keys) {
+    Press(keys);
+    Press({VK_CONTROL, 'C'});
+    std::wstring text;
+    EXPECT_TRUE(::OpenClipboard(window_));
+    if (const HANDLE data = ::GetClipboardData(CF_UNICODETEXT)) {
+      text = static_cast<const wchar_t*>(::GlobalLock(data));
+    }
+    ::CloseClipboard();
+    return text;
+  };
+  const std::wstring all = copied({});
+  EXPECT_NE(all.find(L"\r\nsudo apt install tesseract-ocr"), std::wstring::npos);
+  CRect box;
+  window_.recognition().GetWindowRect(box);
+  desktop_.drag({box.left + 22, box.top + 60}, {box.left + 150, box.top + 60});
+  const std::wstring some = copied({});
+  EXPECT_GT(some.size(), 2u);
+  EXPECT_LT(some.size(), 20u);
+  EXPECT_TRUE(all.starts_with(some));
+  desktop_.click(CellInStrip(0));  // opens its picture, which closes the box
+  EXPECT_EQ(copied({VK_CONTROL, 'A'}), some) << "nothing else is copied then";
+}
+
+TEST_F(LibraryWindow, KeysGoOnWhileLargePicturesAreOpened) {
+  std::mt19937 noise;
+  for (const char* const name : {"1.png", "2.png"}) {
+    corvane::system::Surface surface(700, 400);
+    std::generate_n(surface.pixels(), 700 * 400, [&] { return noise() | 0xFF000000u; });
+    WritePng(library_ / "二月" / name, surface);
+  }
+  Start();
+  desktop_.click(RowOf(L"\\二月"));
+  desktop_.key(VK_RIGHT);  // which one is shown meanwhile depends on how quickly they are read
+  desktop_.key(VK_RIGHT);
+  WaitForSaving();
+  EXPECT_EQ(Opened(), "2.png");
+  EXPECT_EQ(Notice(), "");
 }
 
 // It lists the folder above, those inside and the pictures; what is open is marked.

@@ -9,7 +9,7 @@
 namespace capture {
 namespace {
 
-constexpr Text kLast = Text::copied;
+constexpr Text kLast = Text::opening;
 
 std::string Narrow(const CString& text) { return native_path(text.AsStdString()).string(); }
 

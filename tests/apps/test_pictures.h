@@ -15,14 +15,18 @@ inline corvane::system::Pixel TestPixel(int x, int y) {
   return 0xFF000000u | (red << 16) | (green << 8) | blue;
 }
 
+inline void WritePng(const std::string& path, const corvane::system::Surface& surface) {
+  auto png = corvane::system::encode_png(surface, surface.rect());
+  std::ofstream file(path, std::ios::binary);
+  file.write(reinterpret_cast<const char*>(png.data()), static_cast<std::streamsize>(png.size()));
+}
+
 inline void WriteTestPicture(const std::string& path, int width, int height) {
   corvane::system::Surface surface(width, height);
   for (int y = 0; y < height; ++y) {
     for (int x = 0; x < width; ++x) surface.row(y)[x] = TestPixel(x, y);
   }
-  auto png = corvane::system::encode_png(surface, surface.rect());
-  std::ofstream file(path, std::ios::binary);
-  file.write(reinterpret_cast<const char*>(png.data()), static_cast<std::streamsize>(png.size()));
+  WritePng(path, surface);
 }
 
 }  // namespace capture

@@ -36,6 +36,7 @@ inline constexpr ExpectedControl kLook[] = {{1, "the colour behind the picture"}
                                             {6, "the colour of text of less weight"},
                                             {7, "the colour of what is chosen"},
                                             {8, "the colour of scroll marks"},
+                                            {9, "the colour behind selected text"},
                                             {20, "the height of a title"},
                                             {21, "the height of a box's title"},
                                             {22, "the height of a row in a box"},
