@@ -62,7 +62,7 @@ void CMainWindow::zoom(KeyCommand command) {
 
 void CMainWindow::copy_recognised() {
   if (recognition_.IsWindowVisible() && recognition_.CopyText()) {
-    view_.ShowNotice(look_.text(Text::copied));
+    recognition_.SetTitle(look_.text(Text::copied));  // the box covers where notices are
   }
 }
 
