@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "apps/capture/capture_app.h"
 #include "apps/capture/launch.h"
 #include "apps/capture/main_window.h"
 #include "apps/capture/scripted_session.h"
@@ -13,12 +14,12 @@ namespace {
 
 constexpr int kUsageError = 2;
 
-class CCaptureApp : public corvane::CWinApp {
+class CProgram : public capture::CCaptureApp {
  public:
-  explicit CCaptureApp(capture::Beginning beginning) : beginning_(std::move(beginning)) {}
+  explicit CProgram(capture::Beginning beginning) : beginning_(std::move(beginning)) {}
 
   bool InitInstance() override {
-    m_pMainWnd = &window_;
+    SetMainWindow(&window_);
     opened_ = window_.Open(std::move(beginning_));
     return opened_;
   }
@@ -57,7 +58,7 @@ int main(int count, char** values) {
   // Somebody is to see it, unless the environment says otherwise.
   if (arguments.script_folder.empty()) setenv("CORVANE_DISPLAY", "sdl", 0);
 #endif
-  CCaptureApp app(std::move(launch.beginning));
+  CProgram app(std::move(launch.beginning));
   if (arguments.script_folder.empty()) return corvane::RunApp(app);
   if (!app.InitInstance()) return 1;
   return capture::play_scripted_session(app.window(), arguments.script_folder);

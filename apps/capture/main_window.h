@@ -54,6 +54,8 @@ class CMainWindow : public corvane::CWnd {
   bool full_screen() const { return full_screen_.active(); }
   bool saving() const { return work_ != nullptr && work_->Busy(); }
 
+  bool ClickFocusedButton();  // false: no button has the focus
+
  protected:
   const corvane::MessageMap* GetMessageMap() const override;
   BOOL OnEraseBkgnd(corvane::CDC* dc);

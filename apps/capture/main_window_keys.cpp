@@ -98,6 +98,16 @@ bool CMainWindow::take_key(UINT key) {
   return true;
 }
 
+bool CMainWindow::ClickFocusedButton() {
+  const std::vector<HWND> parts = parts_for_keys();
+  const HWND focus = ::GetFocus();
+  if (std::find(parts.begin() + 1, parts.end(), focus) == parts.end()) return false;
+  const auto id = static_cast<WORD>(::GetDlgCtrlID(focus));
+  ::SendMessageW(::GetParent(focus), WM_COMMAND, MAKEWPARAM(id, BN_CLICKED),
+                 reinterpret_cast<LPARAM>(focus));
+  return true;
+}
+
 void CMainWindow::perform(KeyCommand command) {
   const std::vector<HWND> parts = parts_for_keys();
   const bool on_button = std::find(parts.begin() + 1, parts.end(), ::GetFocus()) != parts.end();

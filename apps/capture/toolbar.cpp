@@ -62,12 +62,4 @@ std::vector<HWND> CToolbar::Buttons() const {
   return windows;
 }
 
-BOOL CToolbar::Layer::PreTranslateMessage(MSG* message) {
-  const bool enter = message->message == WM_KEYDOWN && message->wParam == VK_RETURN;
-  if (!enter || message->hwnd == m_hWnd) return CWindowLayer::PreTranslateMessage(message);
-  const auto id = static_cast<DWORD_PTR>(::GetDlgCtrlID(message->hwnd));
-  SendMessageW(WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), reinterpret_cast<LPARAM>(message->hwnd));
-  return TRUE;
-}
-
 }  // namespace capture

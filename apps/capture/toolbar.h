@@ -23,17 +23,11 @@ class CToolbar {
   std::vector<HWND> Buttons() const;
 
  private:
-  // Enter clicks the button that has the focus.
-  class Layer : public corvane::CWindowLayer {
-   public:
-    BOOL PreTranslateMessage(MSG* message) override;
-  };
-
   std::vector<corvane::CRect> natural_;  // the buttons' places in the skin
   corvane::CXmlListMgr skin_;  // this and the background outlive the layer, which borrows them
   corvane::CGdiImage background_;
   int height_ = 0;
-  Layer layer_;
+  corvane::CWindowLayer layer_;
 };
 
 }  // namespace capture

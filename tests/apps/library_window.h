@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "apps/capture/capture_app.h"
 #include "apps/capture/launch.h"
 #include "apps/capture/main_window.h"
 #include "corvane/platform/base_services/installation.h"
@@ -47,7 +48,7 @@ class LibraryWindow : public testing::Test {
   void Start(const std::string& picture = {}) {
     Launch launch = prepare_launch({library_, picture, {}, {}, true});
     ASSERT_EQ(launch.error, "");
-    desktop_.app().m_pMainWnd = &window_;
+    app_.SetMainWindow(&window_);
     ASSERT_TRUE(window_.Open(std::move(launch.beginning)));
     do {
       desktop_.pump();
@@ -109,6 +110,7 @@ class LibraryWindow : public testing::Test {
   TemporaryFolder folder_;
   std::filesystem::path library_ = folder_ / "图库";
   corvane::test::AppDesktop desktop_;
+  CCaptureApp app_;
   CMainWindow window_;
 };
 

@@ -230,6 +230,12 @@ TEST_F(LibraryWindow, AKeySavesWhatIsFramed) {
   Press({VK_CONTROL, 'S'});
   WaitForSaving();
   EXPECT_EQ(window_.last_saved(), Path(L"\\page_1.png"));
+  ClickButton(ToolbarButton::crop);
+  desktop_.drag(picture.TopLeft(), picture.CenterPoint());
+  for (int count = 0; count < 4; ++count) Press({VK_SHIFT, VK_TAB});  // the bar's first button
+  desktop_.key(VK_RETURN);
+  WaitForSaving();
+  EXPECT_EQ(window_.last_saved(), Path(L"\\page_2.png"));
 }
 
 TEST_F(LibraryWindow, WhatStandsInTheTextBoxIsSelectedAndCopied) {

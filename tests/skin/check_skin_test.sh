@@ -45,6 +45,9 @@ ui_control.xml|0,/height="40"/s//height=40/|16: the value of height stands witho
 ui_language.xml|s/<list id="100">/<list id="4">/|12: a second <list> with id 4
 ui_language.xml|0,/ text="[^"]*"/s///|5: text is missing in <caption>
 ui_language.xml|0,/font="1"/s//font="70"/|5: there is no font 70
+ui_language.en.xml|s/<caption id="2".*"Cancel".*//| caption 2 of list 4 is missing
+ui_language.en.xml|0,/text="Redo"/s//text="Draw another rectangle"/|5: the caption Draw another
+ui_language.en.xml|0,/font="1"/s//font="70"/|5: there is no font 70
 ui_logfont.xml|s/size="14"/size="big"/|4: size="big"
 ui_logfont.xml|s/黑体/Nonesuch/|4: the face Nonesuch
 ui_logfont.xml|s/<\/fonts>//|13: the file ends too early

@@ -42,6 +42,21 @@ void for_each_line(const std::list<Record*>& records, const std::vector<int>& li
   for (const Record* const record : records) visit(*record, line == lines.end() ? 0 : *line++);
 }
 
+// The files with the captions of other languages, as ui_language.en.xml.
+std::set<std::wstring> other_languages(const CString& folder) {
+  const std::wstring begin = L"ui_language.";
+  const std::wstring end = L".xml";
+  std::set<std::wstring> found;
+  std::error_code error;
+  for (const auto& entry :
+       std::filesystem::directory_iterator(native_path(folder.AsStdString()), error)) {
+    const std::wstring name = wide_from_utf8(entry.path().filename().string()).value_or(L"");
+    const bool longer = name.size() > begin.size() + end.size();
+    if (longer && name.starts_with(begin) && name.ends_with(end)) found.insert(name);
+  }
+  return found;
+}
+
 }  // namespace
 
 SkinCheck::SkinCheck(CString folder) : folder_(std::move(folder)) {}
@@ -59,31 +74,66 @@ void SkinCheck::run(bool with_capture_program) {
   read();
   check_fonts();
   for (const auto& [id, list] : lists_) check_list(list);
-  if (!has_controls_) return;
-  for (const ExpectedList& expected : kLibraryLists) check_expected(expected);
-  if (!with_capture_program) return;
-  for (const ExpectedList& expected : kCaptureLists) check_expected(expected);
+  if (has_controls_) {
+    for (const ExpectedList& expected : kLibraryLists) check_expected(expected);
+  }
+  if (has_controls_ && with_capture_program) {
+    for (const ExpectedList& expected : kCaptureLists) check_expected(expected);
+  }
+  for (const std::wstring& file : other_languages(folder_)) check_language(CString(file));
 }
 
 void SkinCheck::read() {
   CControlMgr controls;
-  CLanguageMgr captions;
   CLogfontMgr fonts;
   has_controls_ = controls.Load(path_of(kControls).c_str()) != 0;
-  captions.Load(path_of(kCaptions).c_str());
   fonts.Load(path_of(kFonts).c_str());
   for (const int id : controls.ListIds()) {
     List& list = lists_[id];
     controls.ReadControl(list.records.controls, id, nullptr);
     list.control_lines = controls.Lines(id);
   }
+  read_captions(kCaptions);
+  fonts.ReadLogfont(fonts_.fonts);
+  font_lines_ = fonts.Lines();
+}
+
+void SkinCheck::read_captions(const CString& file) {
+  for (auto& [id, list] : lists_) {
+    list.records.release_captions();
+    list.caption_lines.clear();
+  }
+  CLanguageMgr captions;
+  captions_ = file;
+  captions.Load(path_of(file).c_str());
   for (const int id : captions.ListIds()) {
     List& list = lists_[id];
     captions.ReadLanguage(list.records.captions, id);
     list.caption_lines = captions.Lines(id);
   }
-  fonts.ReadLogfont(fonts_.fonts);
-  font_lines_ = fonts.Lines();
+}
+
+void SkinCheck::check_language(const CString& file) {
+  std::set<std::pair<int, int>> wanted;  // lists and captions
+  for (const auto& [id, list] : lists_) {
+    for (const _MYLANGUAGE* const caption : list.records.captions) wanted.emplace(id, caption->id);
+  }
+  read_captions(file);
+  for (const auto& [list, caption] : wanted) {
+    if (lists_[list].records.caption(caption) != nullptr) continue;
+    tell(file, 0, L"caption " + text(caption) + L" of list " + text(list) + L" is missing",
+         L"translate it from ui_language.xml");
+  }
+  for (const auto& [id, list] : lists_) {
+    check_captions(list);
+    for (const _MYCONTROL* const control : list.records.controls) {
+      const SkinnedControl skin = list.records.joined(control->id);
+      for_each_line(list.records.captions, list.caption_lines,
+                    [&](const _MYLANGUAGE& each, int line) {
+                      if (&each == skin.caption) check_caption_width(skin, file, line);
+                    });
+    }
+  }
 }
 
 void SkinCheck::check_fonts() {
@@ -135,7 +185,7 @@ void SkinCheck::check_list(const List& list) {
 void SkinCheck::check_captions(const List& list) {
   for_each_line(list.records.captions, list.caption_lines, [&](const _MYLANGUAGE& each, int line) {
     if (each.font_id == 0 || font(each.font_id) != nullptr) return;
-    tell(kCaptions, line, L"there is no font " + text(each.font_id) + L" for this caption",
+    tell(captions_, line, L"there is no font " + text(each.font_id) + L" for this caption",
          L"add it to ui_logfont.xml, or name another; the default font is shown");
   });
 }
@@ -161,7 +211,7 @@ void SkinCheck::check_control(const List& list, const _MYCONTROL& control, int l
     return;
   }
   skin.font = font(skin.caption->font_id);
-  check_caption_width(skin, line);
+  check_caption_width(skin, kControls, line);
 }
 
 void SkinCheck::check_picture(const CString& name, int line) {
@@ -179,7 +229,7 @@ void SkinCheck::check_picture(const CString& name, int line) {
   }
 }
 
-void SkinCheck::check_caption_width(const SkinnedControl& skin, int line) {
+void SkinCheck::check_caption_width(const SkinnedControl& skin, const CString& file, int line) {
   const CRect rect(skin.control->rect);
   if (rect.IsRectEmpty()) return;
   ButtonSkin look;
@@ -187,7 +237,7 @@ void SkinCheck::check_caption_width(const SkinnedControl& skin, int line) {
   const int place = rect.Width() - skin.control->padding_left - skin.control->padding_right;
   const int width = width_of(skin.caption->text, look.font);
   if (width <= place) return;
-  tell(kControls, line,
+  tell(file, line,
        L"the caption " + skin.caption->text.AsStdString() + L" is " + text(width) +
            L" pixels wide, its place in control " + text(skin.control->id) + L" only " +
            text(place),

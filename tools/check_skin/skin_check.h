@@ -2,6 +2,7 @@
 // Looks a skin through for what would be missing or wrong on the screen.
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -32,6 +33,9 @@ class SkinCheck {
   };
 
   void read();
+  void read_captions(const corvane::CString& file);
+  // The captions of another language, each against those that were read and its place.
+  void check_language(const corvane::CString& file);
   void check_fonts();
   void check_expected(const ExpectedList& expected);
   void check_inside(const List& list, const ExpectedList& expected);
@@ -39,12 +43,14 @@ class SkinCheck {
   void check_captions(const List& list);
   void check_control(const List& list, const corvane::_MYCONTROL& control, int line);
   void check_picture(const corvane::CString& name, int line);
-  void check_caption_width(const corvane::SkinnedControl& skin, int line);
+  void check_caption_width(const corvane::SkinnedControl& skin, const corvane::CString& file,
+                           int line);
   const corvane::_MYFONT* font(int id) const { return fonts_.font(id); }
   std::string path_of(const wchar_t* file) const;
   void tell(const wchar_t* file, int line, const std::wstring& what, const wchar_t* to_do) const;
 
   corvane::CString folder_;
+  corvane::CString captions_;  // the file of the captions in the lists
   std::map<int, List> lists_;
   corvane::SkinLists fonts_;
   std::vector<int> font_lines_;
