@@ -20,6 +20,8 @@ bool CToolbar::Open(CWnd* parent) {
   CRect place;
   skin_.LoadGdiImage(background_, place, kBackground);
   height_ = place.Height() > 0 ? place.Height() : kOwnHeight;
+  layer_.DelAllBtn();  // of a window that was there before
+  natural_.clear();
   layer_.SetXmlListMgr(&skin_);
   layer_.SetBgImage(background_.GetImage(), CRect());
   for (const ToolbarButton button : kButtons) layer_.AddBtn(static_cast<int>(button));

@@ -83,7 +83,10 @@ LRESULT StaticControl::on_set_image(WPARAM kind, LPARAM image) {
   BITMAP facts{};
   const bool known = bitmap_ != nullptr && GetObjectW(bitmap_, sizeof(facts), &facts) != 0;
   if (known && (style() & SS_CENTERIMAGE) == 0) {
-    SetWindowPos(window(), nullptr, 0, 0, facts.bmWidth, facts.bmHeight,
+    RECT frame{0, 0, facts.bmWidth, facts.bmHeight};
+    AdjustWindowRectEx(&frame, style(), FALSE,
+                       static_cast<DWORD>(GetWindowLongW(window(), GWL_EXSTYLE)));
+    SetWindowPos(window(), nullptr, 0, 0, frame.right - frame.left, frame.bottom - frame.top,
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
   }
   redraw();

@@ -77,6 +77,11 @@ TEST_F(DialogKeysTest, EnterPressesTheDefaultButtonAndEscapeCancels) {
   EXPECT_EQ(told(), "2:0 ");
   key(VK_ESCAPE);
   EXPECT_EQ(told(), "2:0 ");
+  SetFocus(check_);
+  drag(middle_of(ok_), {450, 350});  // a press, but no click
+  EXPECT_EQ(code(cancel_), 0x2020);
+  key(VK_RETURN);
+  EXPECT_EQ(told(), "1:0 ");
   EnableWindow(cancel_, FALSE);
   key(VK_ESCAPE);
   EXPECT_EQ(told(), "");
@@ -88,9 +93,10 @@ TEST_F(DialogKeysTest, EnterPressesTheDefaultButtonAndEscapeCancels) {
   SetFocus(check_);
   key(VK_RETURN);
   EXPECT_EQ(told(), "1:0 ");  // IDOK
-  recorder().answer("dialog", DM_GETDEFID, MAKELONG(6, DC_HASDEFID));
+  recorder().answer("dialog", DM_GETDEFID, MAKELONG(1, DC_HASDEFID));
+  EnableWindow(ok_, FALSE);
   key(VK_RETURN);
-  EXPECT_EQ(told(), "6:0 ");
+  EXPECT_EQ(told(), "");
 }
 
 TEST_F(DialogKeysTest, MnemonicsChooseAControlAndItsLabelTheNextOne) {
@@ -111,6 +117,17 @@ TEST_F(DialogKeysTest, MnemonicsChooseAControlAndItsLabelTheNextOne) {
       EXPECT_EQ(told(), letter.told);
     }
   }
+  HWND second = add_button(L"&Leave too", WS_TABSTOP, 5);
+  add(L"STATIC", L"&X", SS_NOPREFIX, {150, 60, 250, 90});
+  create("editor", {.parent = dialog_, .style = WS_CHILD | WS_VISIBLE});
+  SetWindowTextW(window("editor"), L"a&x");
+  for (HWND wanted : {cancel_, second, cancel_}) {
+    key('L');
+    EXPECT_EQ(GetFocus(), wanted);
+  }
+  key('X');
+  EXPECT_EQ(GetFocus(), cancel_);
+  EXPECT_EQ(told(), "");
 }
 
 TEST_F(DialogKeysTest, ControlsMayWantTheirKeys) {

@@ -51,7 +51,7 @@ TEST_F(StaticTest, DrawsItsShapeTextOrBitmap) {
 }
 
 TEST_F(StaticTest, ShowsABitmapAtItsSize) {
-  HWND control = add(L"STATIC", nullptr, SS_BITMAP, {10, 10, 20, 20});
+  HWND control = add(L"STATIC", nullptr, SS_BITMAP | WS_BORDER, {9, 9, 20, 20});
   const BITMAPINFO info{{sizeof(BITMAPINFOHEADER), 30, -20, 1, 32, BI_RGB, 0, 0, 0, 0, 0}, {}};
   void* bits = nullptr;
   HBITMAP bitmap = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);

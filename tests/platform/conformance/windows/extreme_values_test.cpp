@@ -101,7 +101,7 @@ TEST_F(ExtremeValuesTest, ChainsOfParentsAndOfOwnersEndAtFiftyWherever) {
         MapWindowPoints(first, last, &point, 1);
         ReleaseDC(last, GetDC(last));
       }
-      MoveWindow(last, 1 - at, at, 50, 50, TRUE);
+      MoveWindow(last, -(at + 1), at, 50, 50, TRUE);
       EXPECT_GT(window_rect(last).right, window_rect(last).left);
       move_to(150, 150);
       EXPECT_EQ(create("51", {.parent = last, .style = style}), nullptr);

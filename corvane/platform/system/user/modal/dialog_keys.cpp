@@ -87,17 +87,16 @@ void on_enter(HWND dialog) {
   const bool focused_default =
       IsChild(dialog, focus) != FALSE && (dialog_code(focus) & DLGC_DEFPUSHBUTTON) != 0;
   HWND button = focused_default ? focus : nullptr;
+  int id = button != nullptr ? GetDlgCtrlID(button) : IDOK;
   const auto answer = static_cast<DWORD>(SendMessageW(dialog, DM_GETDEFID, 0, 0));
   if (button == nullptr && HIWORD(answer) == DC_HASDEFID) {
-    command(dialog, LOWORD(answer), GetDlgItem(dialog, LOWORD(answer)));
-    return;
+    id = LOWORD(answer);
+    button = GetDlgItem(dialog, id);
+  } else if (button == nullptr) {
+    button = default_button(dialog);
+    if (button != nullptr) id = GetDlgCtrlID(button);
   }
-  if (button == nullptr) button = default_button(dialog);
-  if (button == nullptr) {
-    command(dialog, IDOK, nullptr);
-  } else if (IsWindowEnabled(button)) {
-    command(dialog, GetDlgCtrlID(button), button);
-  }
+  if (button == nullptr || IsWindowEnabled(button)) command(dialog, id, button);
 }
 
 void on_escape(HWND dialog) {
@@ -130,28 +129,45 @@ bool on_key(HWND dialog, const MSG& message) {
   }
 }
 
+// Only texts that are drawn with a mark under the letter count.
 bool has_mnemonic(HWND control, wchar_t letter) {
+  const UINT code = dialog_code(control);
   const Window* found = find(control);
   if (found == nullptr || (found->style & WS_VISIBLE) == 0 || (found->style & WS_DISABLED) != 0) {
     return false;
   }
+  if ((code & (DLGC_BUTTON | DLGC_STATIC)) == 0) return false;
+  if ((code & DLGC_STATIC) != 0 && (found->style & SS_NOPREFIX) != 0) return false;
   const PrefixedText text = without_prefixes(found->text);
   if (text.underlined < 0) return false;
   const auto mark = static_cast<wint_t>(text.text[static_cast<std::size_t>(text.underlined)]);
   return std::towlower(mark) == std::towlower(static_cast<wint_t>(letter));
 }
 
-// True: a control has this letter in its text behind an &, and was chosen.
+// True: a control has this letter in its text behind an &, and was chosen. Of several the next one
+// gets the focus, and is not clicked.
 bool on_mnemonic(HWND dialog, wchar_t letter) {
-  HWND control = first_below(dialog, [letter](HWND child) { return has_mnemonic(child, letter); });
-  if (control == nullptr) return false;
+  std::vector<HWND> marked;
+  bool focus_passed = false;
+  std::optional<std::size_t> next;  // the first one behind the focus
+  first_below(dialog, [&](HWND child) {
+    if (has_mnemonic(child, letter)) {
+      if (focus_passed && !next) next = marked.size();
+      marked.push_back(child);
+    }
+    focus_passed = focus_passed || child == GetFocus();
+    return false;
+  });
+  if (marked.empty()) return false;
+  HWND control = marked[next.value_or(0)];
   const UINT code = dialog_code(control);
   if ((code & DLGC_STATIC) != 0) {
     focus_control(dialog, GetNextDlgTabItem(dialog, control, FALSE));
     return true;
   }
   focus_control(dialog, control);
-  if ((code & DLGC_BUTTON) != 0 && IsWindow(control)) SendMessageW(control, BM_CLICK, 0, 0);
+  const bool clicked = (code & DLGC_BUTTON) != 0 && marked.size() == 1;
+  if (clicked && IsWindow(control)) SendMessageW(control, BM_CLICK, 0, 0);
   return true;
 }
 
@@ -184,6 +200,9 @@ BOOL IsDialogMessageW(HWND dialog, LPMSG message) {
   if (handled(dialog, *message)) return TRUE;
   TranslateMessage(message);
   DispatchMessageW(message);
+  const bool press = message->message == WM_LBUTTONDOWN || message->message == WM_LBUTTONDBLCLK;
+  HWND focus = GetFocus();
+  if (press && IsChild(dialog, focus) != FALSE) hand_default_to(dialog, focus);
   return TRUE;
 }
 
