@@ -93,6 +93,34 @@ TEST_F(ClipboardTest, TextIsThereInEveryForm) {
   EXPECT_FALSE(IsClipboardFormatAvailable(CF_UNICODETEXT)) << "made when it is closed";
   EXPECT_TRUE(CloseClipboard());
   EXPECT_EQ(pasted(), L"abc");
+  EXPECT_TRUE(OpenClipboard(main_));
+  HANDLE const made = GetClipboardData(CF_UNICODETEXT);
+  expect_error(ERROR_INVALID_HANDLE, SetClipboardData(CF_OEMTEXT, made) == nullptr);
+  EXPECT_EQ(SetClipboardData(CF_UNICODETEXT, made), made);
+  EXPECT_EQ(GlobalSize(made), 4 * sizeof(wchar_t)) << "is the clipboard's as before";
+}
+
+TEST_F(ClipboardTest, HandlersMayThrowAndDestroyWindows) {
+  const std::function<void()> handlers[] = {[] { throw 1; }, [&] { DestroyWindow(other_); }};
+  for (const auto& handler : handlers) {
+    HWND const child = settled_child("child", other_, 0, 0, 9, 9);
+    recorder().before_default("main", WM_RENDERFORMAT, handler);
+    copy(main_, L"before");
+    EXPECT_TRUE(OpenClipboard(child));
+    SetClipboardData(CF_UNICODETEXT, nullptr);
+    try {
+      DestroyWindow(child);
+    } catch (int) {
+    }
+    EXPECT_FALSE(IsWindow(child));
+    expect_error(ERROR_CLIPBOARD_NOT_OPEN, SetClipboardData(CF_TEXT, nullptr) == nullptr);
+  }
+  HWND const opener = create("opener", {});
+  recorder().before_default("main", WM_DESTROYCLIPBOARD, [&] { DestroyWindow(opener); });
+  own().display.copy_on_desktop("news");
+  pump();
+  EXPECT_FALSE(OpenClipboard(opener));
+  EXPECT_TRUE(OpenClipboard(main_));
 }
 
 TEST_F(ClipboardTest, TheDesktopsTextIsExchanged) {

@@ -62,6 +62,19 @@ void remove_made_formats(ClipboardState& clipboard) {
   std::erase_if(clipboard.entries, [](const auto& entry) { return entry.made_from != 0; });
 }
 
+namespace {
+
+void ask_to_render(ClipboardState& clipboard, UINT format) {
+  struct Rendering {
+    bool& flag;
+    ~Rendering() { flag = false; }
+  };
+  const Rendering rendering{clipboard.rendering = true};
+  send(clipboard.owner, WM_RENDERFORMAT, format, 0);
+}
+
+}  // namespace
+
 HANDLE clipboard_memory(System& state, UINT format) {
   ClipboardState& clipboard = state.clipboard;
   ClipboardEntry* found = clipboard.find(format);
@@ -76,9 +89,7 @@ HANDLE clipboard_memory(System& state, UINT format) {
     if (found != nullptr) found->memory = {format, made};
     return made;
   }
-  clipboard.rendering = true;
-  send(clipboard.owner, WM_RENDERFORMAT, format, 0);
-  clipboard.rendering = false;
+  ask_to_render(clipboard, format);
   found = clipboard.find(format);
   return found != nullptr ? found->memory.handle() : nullptr;
 }
@@ -146,7 +157,9 @@ void forget_clipboard_window(System& state, HWND window) {
              clipboard.find(entry.made_from) == nullptr;
     });
   }
-  if (clipboard.open && clipboard.opener == window) CloseClipboard();
+  if (!clipboard.open || clipboard.opener != window) return;
+  clipboard.opener = nullptr;  // whoever changes it meanwhile must not make the window its owner
+  CloseClipboard();
 }
 
 }  // namespace corvane::system

@@ -29,6 +29,24 @@ bool is_memory_format(UINT format) {
   return format != CF_BITMAP && !(format >= CF_PRIVATEFIRST && format <= CF_GDIOBJLAST);
 }
 
+// Closes it at the end of the scope, also when an owner throws instead of keeping its promise.
+struct Closing {
+  ClipboardState& clipboard;
+  ~Closing() {
+    clipboard.changed = false;
+    clipboard.open = false;
+    clipboard.opener = nullptr;
+  }
+};
+
+// The entry that owns this memory already, or null.
+ClipboardEntry* entry_with(ClipboardState& clipboard, HANDLE memory) {
+  const auto found = std::ranges::find_if(clipboard.entries, [memory](const auto& entry) {
+    return entry.memory.handle() == memory && is_memory_format(entry.memory.format());
+  });
+  return found != clipboard.entries.end() ? &*found : nullptr;
+}
+
 HANDLE refused(DWORD error) {
   SetLastError(error);
   return nullptr;
@@ -37,9 +55,9 @@ HANDLE refused(DWORD error) {
 }  // namespace
 
 BOOL OpenClipboard(HWND window) {
-  if (window != nullptr && checked(window) == nullptr) return FALSE;
   System* const state = current_clipboard();
-  if (state == nullptr) return FALSE;
+  // Only now: the former owner, which hears that it lost the clipboard, may destroy the window.
+  if (state == nullptr || (window != nullptr && checked(window) == nullptr)) return FALSE;
   ClipboardState& clipboard = state->clipboard;
   if (clipboard.open && clipboard.opener != window) {
     SetLastError(ERROR_ACCESS_DENIED);
@@ -54,14 +72,11 @@ BOOL CloseClipboard() {
   System* const state = open_clipboard();
   if (state == nullptr) return FALSE;
   ClipboardState& clipboard = state->clipboard;
-  if (clipboard.changed) {
-    add_made_formats(clipboard);
-    give_text_to_desktop(*state);
-    tell_listeners(*state);
-  }
-  clipboard.changed = false;
-  clipboard.open = false;
-  clipboard.opener = nullptr;
+  const Closing closing{clipboard};
+  if (!clipboard.changed) return TRUE;
+  add_made_formats(clipboard);
+  tell_listeners(*state);
+  give_text_to_desktop(*state);
   return TRUE;
 }
 
@@ -88,6 +103,10 @@ HANDLE SetClipboardData(UINT format, HANDLE memory) {
   }
   const bool checks = !promise && is_memory_format(format);
   if (checks && GlobalFlags(memory) == GMEM_INVALID_HANDLE) return refused(ERROR_INVALID_HANDLE);
+  if (ClipboardEntry* const owned = checks ? entry_with(clipboard, memory) : nullptr) {
+    if (owned->memory.format() != format) return refused(ERROR_INVALID_HANDLE);
+    owned->made_from = 0;
+  }
   if (!clipboard.rendering) {
     remove_made_formats(clipboard);
     note_change(clipboard);

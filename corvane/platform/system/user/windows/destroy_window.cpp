@@ -113,6 +113,19 @@ void forget_input(System& state, HWND window) {
   }
 }
 
+// Sends nothing.
+void forget_record(System& state, HWND window) {
+  for (HWND child : living_children_of(window)) forget_record(state, child);
+  Window* found = state.find(window);
+  assert(found->children.empty());
+  if (shown_on_screen(*found)) state.frame_damage.unite(frame_on_screen(*found));
+  state.timers.remove_window(window);
+  state.queue.remove_window(window);
+  forget_input(state, window);
+  unlink(state, *found);
+  state.windows.erase(window);
+}
+
 }  // namespace
 
 void finish_destruction(HWND window) {
@@ -124,17 +137,12 @@ void finish_destruction(HWND window) {
 
 void forget_window(HWND window) {
   System& state = *system();
-  Window* found = state.find(window);
-  if (found == nullptr) return;
-  for (HWND child : living_children_of(window)) forget_window(child);
-  assert(found->children.empty());
-  if (shown_on_screen(*found)) state.frame_damage.unite(frame_on_screen(*found));
-  state.timers.remove_window(window);
-  state.queue.remove_window(window);
-  forget_input(state, window);
-  forget_clipboard_window(state, window);
-  unlink(state, *found);
-  state.windows.erase(window);
+  Steps steps;
+  for (HWND child : living_children_of(window)) steps.run([child] { forget_window(child); });
+  // The owner of a promise that is wanted now may throw, or end this window.
+  steps.run([&] { forget_clipboard_window(state, window); });
+  if (state.find(window) != nullptr) forget_record(state, window);
+  steps.rethrow();
 }
 
 }  // namespace corvane::system

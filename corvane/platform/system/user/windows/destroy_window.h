@@ -5,8 +5,9 @@ namespace corvane::system {
 
 // WM_NCDESTROY and then forget_window, also when the handler throws.
 void finish_destruction(HWND window);
-// Removes the record with its timers, messages, focus, capture; sends nothing. Children that a
-// handler left behind go with it.
+// Removes the record with its timers, messages, focus, capture. Sends nothing but what closing the
+// clipboard does, and is complete also when that throws. Children that a handler left behind go
+// with it.
 void forget_window(HWND window);
 
 }  // namespace corvane::system
