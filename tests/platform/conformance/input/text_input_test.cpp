@@ -33,6 +33,8 @@ TEST_F(TextInputTest, IsOnWhileAWindowThatEditsTextHasTheFocus) {
   CANDIDATEFORM form{0, CFS_EXCLUDE, {}, {4, 6, 6, 20}};
   EXPECT_TRUE(ImmSetCandidateWindow(ImmGetContext(child_), &form));
   EXPECT_EQ(caret(), (Sides{234, 136, 236, 150}));
+  edit_at(child_, {INT_MAX - 230, INT_MAX});
+  EXPECT_EQ(caret(), (Sides{INT_MAX, INT_MAX, INT_MAX, INT_MAX}));
   SetFocus(top_);
   EXPECT_EQ(caret(), Sides());
   SetFocus(child_);

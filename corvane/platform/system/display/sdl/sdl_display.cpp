@@ -8,6 +8,7 @@
 #include <cstring>
 #include <string_view>
 
+#include "corvane/platform/geometry.h"
 #include "corvane/platform/system/display/sdl/clipboard_watch.h"
 #include "corvane/platform/system/display/sdl/presenter.h"
 #include "corvane/platform/system/display/sdl/sdl_cursors.h"
@@ -197,8 +198,8 @@ void SdlDisplay::set_text_input(const std::optional<RECT>& caret) {
     if (!is_driver("x11")) SDL_EventState(SDL_TEXTINPUT, SDL_ENABLE);
     return;
   }
-  const SDL_Rect place{caret->left, caret->top, std::max(caret->right - caret->left, 1),
-                       std::max(caret->bottom - caret->top, 1)};
+  const SDL_Rect place{caret->left, caret->top, std::max(clamp_coordinate(width_of(*caret)), 1),
+                       std::max(clamp_coordinate(height_of(*caret)), 1)};
   SDL_SetTextInputRect(&place);
   SDL_StartTextInput();
 }

@@ -1,5 +1,6 @@
 #include "corvane/platform/system/user/input/text_input.h"
 
+#include "corvane/platform/geometry.h"
 #include "corvane/platform/system/user/input/ime_api.h"
 
 namespace corvane::system {
@@ -9,10 +10,11 @@ namespace {
 std::optional<RECT> wanted_caret(System& state) {
   const Window* const focus = state.find(state.input.focus);
   if (focus == nullptr || focus->input_method_off || !focus->text_caret) return std::nullopt;
-  RECT caret = *focus->text_caret;
+  const RECT& caret = *focus->text_caret;
   const POINT origin = client_origin(*focus);
-  OffsetRect(&caret, origin.x, origin.y);
-  return caret;
+  const auto moved = [](std::int64_t side, int by) { return clamp_coordinate(side + by); };
+  return RECT{moved(caret.left, origin.x), moved(caret.top, origin.y), moved(caret.right, origin.x),
+              moved(caret.bottom, origin.y)};
 }
 
 bool same(const std::optional<RECT>& a, const std::optional<RECT>& b) {
@@ -49,7 +51,10 @@ BOOL place_caret(HIMC context, RECT caret) {
   return TRUE;
 }
 
-RECT point_caret(POINT point) { return {point.x, point.y, point.x + 1, point.y + 1}; }
+RECT point_caret(POINT point) {
+  return {point.x, point.y, corvane::clamp_coordinate(std::int64_t{point.x} + 1),
+          corvane::clamp_coordinate(std::int64_t{point.y} + 1)};
+}
 
 }  // namespace
 
