@@ -167,7 +167,19 @@ TEST_F(FrameMouseTest, MaximizedWindowIsNeitherDraggedNorSized) {
   own().display.resize({900, 700});
   pump();
   EXPECT_THAT(window_rect(window_), test::is_rect(-4, -4, 904, 704)) << "it follows the screen";
+  POINT largest{400, 300};
+  recorder().on("framed", WM_GETMINMAXINFO, [&](const Message& sent) -> std::optional<LRESULT> {
+    reinterpret_cast<MINMAXINFO*>(sent.lparam)->ptMaxSize = largest;
+    return 0;
+  });
+  own().display.resize({1000, 800});
+  pump();
+  EXPECT_THAT(window_rect(window_), test::is_rect(-4, -4, 396, 296)) << "as large as it may be";
   ShowWindow(window_, SW_SHOWNORMAL);
+  EXPECT_THAT(window_rect(window_), test::is_rect(100, 100, 500, 400));
+  largest = {32767, 32767};
+  ShowWindow(window_, SW_MAXIMIZE);
+  EXPECT_EQ(IsZoomed(window_), 0) << "no memory can hold it";
   EXPECT_THAT(window_rect(window_), test::is_rect(100, 100, 500, 400));
   forget();
 }
@@ -181,6 +193,12 @@ TEST_F(FrameMouseTest, MinimizedWindowIsACaptionAndTakesItsOwnedWindowsAlong) {
   EXPECT_EQ(IsWindowVisible(owned), 0);
   const HWND second = create("second", {.style = WS_OVERLAPPEDWINDOW | WS_MINIMIZE | WS_VISIBLE});
   EXPECT_THAT(window_rect(second), test::is_rect(160, 775, 320, 800));
+  own().display.resize({170, 600});
+  pump();
+  EXPECT_THAT(window_rect(window_), test::is_rect(0, 575, 160, 600));
+  EXPECT_THAT(window_rect(second), test::is_rect(0, 550, 160, 575)) << "one above the other";
+  own().display.resize({1280, 800});
+  pump();
   DestroyWindow(second);
   forget();
   double_click(30, 790);

@@ -15,34 +15,78 @@ namespace {
 
 constexpr DWORD kStates = WS_MAXIMIZE | WS_MINIMIZE;
 
-bool overlaps(const RECT& a, const RECT& b) {
-  RECT common{};
-  return IntersectRect(&common, &a, &b) != 0;
-}
+// The places at the foot of the screen or the parent, from the left and then upwards.
+class MinimizedPlaces {
+ public:
+  explicit MinimizedPlaces(const RECT& area)
+      : bottom_(area.bottom), columns_(std::max<int>(1, area.right / kMinimizedWidth)) {}
 
-// The first free place at the foot of the screen or the parent, from the left and then upwards.
-RECT minimized_frame(const Window& window) {
-  const RECT area = window.parent->client_area();
-  const int columns = std::max<int>(1, area.right / kMinimizedWidth);
-  for (int place = 0;; ++place) {
-    const int left = place % columns * kMinimizedWidth;
-    const int bottom = area.bottom - place / columns * kMinimizedHeight;
-    const RECT frame{left, bottom - kMinimizedHeight, left + kMinimizedWidth, bottom};
-    const auto& siblings = window.parent->children;
-    const bool taken = std::ranges::any_of(siblings, [&](const Window* other) {
-      return other != &window && (other->style & WS_MINIMIZE) != 0 && overlaps(other->frame, frame);
-    });
-    if (!taken) return frame;
+  RECT frame_at(int place) const {
+    const int left = place % columns_ * kMinimizedWidth;
+    const int bottom = bottom_ - place / columns_ * kMinimizedHeight;
+    return {left, bottom - kMinimizedHeight, left + kMinimizedWidth, bottom};
   }
+
+  // Marks those of the first ones that the frame touches.
+  void take(const RECT& frame, std::vector<bool>& taken) const {
+    const int first_row = std::max(0, bottom_ - frame.bottom) / kMinimizedHeight;
+    const int first_column = std::max<int>(0, frame.left) / kMinimizedWidth;
+    const int count = static_cast<int>(taken.size());
+    for (int row = first_row; row < count && bottom_ - row * kMinimizedHeight > frame.top; ++row) {
+      for (int column = first_column; column < columns_; ++column) {
+        const std::int64_t place = std::int64_t{row} * columns_ + column;
+        if (column * kMinimizedWidth >= frame.right || place >= count) break;
+        taken[static_cast<std::size_t>(place)] = true;
+      }
+    }
+  }
+
+ private:
+  int bottom_;
+  int columns_;
+};
+
+// The first free place.
+RECT minimized_frame(const Window& window) {
+  const auto& siblings = window.parent->children;
+  const MinimizedPlaces places(window.parent->client_area());
+  std::vector<bool> taken(4 * siblings.size());  // a caption touches four places at most
+  for (const Window* other : siblings) {
+    const bool counts = other != &window && (other->style & WS_MINIMIZE) != 0;
+    if (counts) places.take(other->frame, taken);
+  }
+  const auto free = std::ranges::find(taken, false);
+  return places.frame_at(static_cast<int>(free - taken.begin()));
 }
 
-// The style is changed first: the window measures and draws itself as what it becomes.
+// The style is changed first: the window measures and draws itself as what it becomes. It stays
+// what it was where no surface can hold the new frame. False: the window is gone.
 bool change_state(HWND window, DWORD state_style, const RECT& frame) {
   Window* found = find(window);
+  const DWORD before = found->style & kStates;
   found->style = (found->style & ~kStates) | state_style;
-  SetWindowPos(window, nullptr, frame.left, frame.top, frame.right - frame.left,
-               frame.bottom - frame.top, SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
-  return find(window) != nullptr;
+  const BOOL changed =
+      SetWindowPos(window, nullptr, frame.left, frame.top, frame.right - frame.left,
+                   frame.bottom - frame.top, SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+  found = find(window);
+  if (found != nullptr && changed == FALSE) found->style = (found->style & ~kStates) | before;
+  return found != nullptr;
+}
+
+// Unless the handlers of others have changed its state meanwhile.
+void move_if(HWND window, DWORD state_style, const RECT& frame) {
+  const Window* found = find(window);
+  if (found == nullptr || (found->style & state_style) == 0) return;
+  MoveWindow(window, frame.left, frame.top, frame.right - frame.left, frame.bottom - frame.top,
+             TRUE);
+}
+
+// Where its limits have it maximized. The window may be gone afterwards.
+RECT ask_maximized_frame(HWND window) {
+  const MINMAXINFO limits = ask_limits(window);
+  const int left = window_coordinate(limits.ptMaxPosition.x);
+  const int top = window_coordinate(limits.ptMaxPosition.y);
+  return {left, top, left + window_size(limits.ptMaxSize.x), top + window_size(limits.ptMaxSize.y)};
 }
 
 std::vector<HWND> owned_windows(HWND owner) {
@@ -90,15 +134,9 @@ bool maximize(HWND window) {
   if (!usable(found, WS_MAXIMIZE)) return found != nullptr;
   const bool was_minimized = (found->style & WS_MINIMIZE) != 0;
   remember_normal_frame(*found);
-  const MINMAXINFO limits = ask_limits(window);
-  if (find(window) == nullptr) return false;
-  const POINT corner = limits.ptMaxPosition;
-  const int left = window_coordinate(corner.x);
-  const int top = window_coordinate(corner.y);
-  const RECT frame{left, top, left + window_size(limits.ptMaxSize.x),
-                   top + window_size(limits.ptMaxSize.y)};
-  if (!change_state(window, WS_MAXIMIZE, frame)) return false;
-  if (was_minimized) show_owned_windows(window);
+  const RECT frame = ask_maximized_frame(window);
+  if (find(window) == nullptr || !change_state(window, WS_MAXIMIZE, frame)) return false;
+  if (was_minimized && IsZoomed(window) != FALSE) show_owned_windows(window);
   return find(window) != nullptr;
 }
 
@@ -130,14 +168,22 @@ bool restore_to_normal(HWND window) {
 }
 
 void fit_to_screen(System& state) {
-  for (const HWND handle : children_of(*state.desktop)) {
-    const Window* found = state.find(handle);
-    if (found == nullptr || (found->style & kStates) == 0) continue;
-    const bool maximized = (found->style & WS_MAXIMIZE) != 0;
-    const RECT frame = maximized ? maximized_frame(*found) : minimized_frame(*found);
-    MoveWindow(handle, frame.left, frame.top, frame.right - frame.left, frame.bottom - frame.top,
-               TRUE);
+  std::vector<const Window*> minimized;
+  std::vector<HWND> maximized;
+  for (const Window* child : state.desktop->children) {
+    if ((child->style & WS_MINIMIZE) != 0) minimized.push_back(child);
+    if ((child->style & kStates) == WS_MAXIMIZE) maximized.push_back(child->handle);
   }
+  // In the order in which they stand.
+  std::ranges::stable_sort(minimized, [](const Window* a, const Window* b) {
+    return std::pair(-a->frame.bottom, a->frame.left) < std::pair(-b->frame.bottom, b->frame.left);
+  });
+  std::vector<HWND> handles;
+  for (const Window* each : minimized) handles.push_back(each->handle);
+  const MinimizedPlaces places(state.desktop->client_area());
+  int place = 0;
+  for (const HWND handle : handles) move_if(handle, WS_MINIMIZE, places.frame_at(place++));
+  for (const HWND handle : maximized) move_if(handle, WS_MAXIMIZE, ask_maximized_frame(handle));
 }
 
 WPARAM size_kind(const Window& window) {

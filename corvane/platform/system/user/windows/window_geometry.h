@@ -5,7 +5,7 @@
 
 namespace corvane::system {
 
-inline constexpr int kMaxWindowSize = 32767;  // a surface can hold it
+inline constexpr int kMaxWindowSize = 32767;  // of one side; both as large no surface can hold
 
 // Positions and sizes that are out of bounds are cut, so that sums of them stay in 32 bits.
 constexpr int window_coordinate(int value) {
