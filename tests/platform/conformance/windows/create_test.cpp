@@ -32,8 +32,11 @@ TEST_F(CreateWindowTest, CreationDataIsWhatTheCallerGave) {
       return std::nullopt;
     });
   }
-  create("child", plan);
+  DestroyWindow(create("child", plan));
   EXPECT_EQ(seen, 2);
+  recorder().on("child", WM_CREATE, [](const Message&) -> std::optional<LRESULT> { throw 1; });
+  EXPECT_THROW(create("child", plan), int);
+  EXPECT_EQ(GetWindow(parent, GW_CHILD), nullptr) << "nobody has its handle";
 }
 
 TEST_F(CreateWindowTest, RefusedWithNullAndTheError) {

@@ -154,6 +154,16 @@ bool bring_to_life(HWND window, CREATESTRUCTW& create) {
   return find(window) != nullptr;
 }
 
+// What a handler throws leaves no window behind: nobody has got its handle.
+bool bring_to_life_or_discard(HWND window, CREATESTRUCTW& create) {
+  try {
+    return bring_to_life(window, create);
+  } catch (...) {
+    discard(window);
+    throw;
+  }
+}
+
 }  // namespace
 
 HWND CreateWindowExW(DWORD ex_style, LPCWSTR class_name, LPCWSTR window_name, DWORD style, int x,
@@ -173,7 +183,7 @@ HWND CreateWindowExW(DWORD ex_style, LPCWSTR class_name, LPCWSTR window_name, DW
     if (find(window) != nullptr) forget_window(window);
     return nullptr;
   }
-  if (find(window) == nullptr || !bring_to_life(window, create)) return nullptr;
+  if (find(window) == nullptr || !bring_to_life_or_discard(window, create)) return nullptr;
   if ((style & WS_CHILD) != 0) {
     const WPARAM what = MAKEWPARAM(WM_CREATE, static_cast<DWORD_PTR>(GetDlgCtrlID(window)));
     notify_parents(window, what, [window](HWND) { return reinterpret_cast<LPARAM>(window); });
