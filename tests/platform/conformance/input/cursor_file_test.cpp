@@ -98,6 +98,17 @@ TEST_F(CursorFileTest, AnimationsMoveWithTheClock) {
     EXPECT_EQ(color(), expected) << passed;
   }
   EXPECT_EQ(own().display.cursor_image()->hotspot.y, 4);
+  HWND const dragged = settled_popup("dragged", 0, 0, 9, 9);
+  recorder().before_default("dragged", WM_ENTERSIZEMOVE, [&] {
+    advance(100);
+    PostMessageW(dragged, WM_USER, 0, 0);
+  });
+  recorder().before_default("dragged", WM_USER, [&] {
+    EXPECT_EQ(color(), 0xFFFF0000U) << "in a drag too";
+    send_mouse(MOUSEEVENTF_LEFTUP);
+  });
+  SendMessageW(dragged, WM_SYSCOMMAND, SC_MOVE | HTCAPTION, 0);
+  forget();
 }
 
 TEST_F(CursorFileTest, DamagedFilesAreNone) {

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "corvane/platform/system/user/input/cursors.h"
 #include "corvane/platform/system/user/input/input_routing.h"
 #include "corvane/platform/system/user/messages/get_message.h"
 #include "corvane/platform/system/user/painting/presenting.h"
@@ -15,8 +16,10 @@ void ModalLoop::run_turns() {
 
 // In the order of retrieve(), but an event comes to the loop and not to a window.
 ModalLoop::Turn ModalLoop::take_turn() {
+  advance_cursor(state_);
   present_if_late(state_);
   if (const auto message = take_posted(state_, {}, true)) {
+    state_.last_message = *message;
     TranslateMessage(&*message);
     DispatchMessageW(&*message);
     return Turn::more;
@@ -25,12 +28,14 @@ ModalLoop::Turn ModalLoop::take_turn() {
   if (!state_.input.events.empty()) {
     const InputEvent event = std::move(state_.input.events.front());
     state_.input.events.pop_front();
+    state_.last_message = make_message(state_, nullptr, WM_NULL, 0, 0);
     return on_input(event);
   }
   if (state_.queue.take_quit(false)) return Turn::last;
   auto message = take_paint(state_, {});
   if (!message) message = take_timer(state_, {}, true);
   if (!message) return on_idle();
+  state_.last_message = *message;
   DispatchMessageW(&*message);
   return Turn::more;
 }
