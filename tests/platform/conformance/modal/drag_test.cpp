@@ -56,13 +56,22 @@ class DragTest : public WindowTest {
 };
 
 TEST_F(DragTest, MovesByThePointersTravelUntilTheRelease) {
-  drag("release without a move", {button_up});
-  drag("moves", {move_pointer(130, 115),
+  drag("release without a move", {[] {
+         send_key(VK_CONTROL, true);
+         button_up();
+       }});
+  EXPECT_LT(GetKeyState(VK_CONTROL), 0);
+  drag("moves", {[] {
+                   send_key(VK_CONTROL, false);
+                   SetCursorPos(130, 115);
+                 },
                  [&] {
                    EXPECT_EQ(GetCapture(), popup_);
+                   EXPECT_EQ(GetMessagePos(), DWORD(MAKELONG(130, 115)));
                    SetCursorPos(110, 120);
                  },
                  button_up});
+  EXPECT_GE(GetKeyState(VK_CONTROL), 0) << "let go in the drag";
 }
 
 TEST_F(DragTest, MovingHandlerMayChangeTheRectangle) {
@@ -72,6 +81,14 @@ TEST_F(DragTest, MovingHandlerMayChangeTheRectangle) {
     return TRUE;
   });
   drag("", {move_pointer(130, 115), button_up});
+  MoveWindow(popup_, 100, 100, 100, 80, TRUE);
+  settle();
+  recorder().on("pop", WM_MOVING, [&](const Message& sent) -> std::optional<LRESULT> {
+    *reinterpret_cast<RECT*>(sent.lparam) = {INT_MIN, 200, INT_MAX, 280};
+    next_action();
+    return TRUE;
+  });
+  drag("as wide as can be", {move_pointer(130, 115), button_up});
 }
 
 TEST_F(DragTest, ObservedKeysEndItAndTheReleaseIsDelivered) {

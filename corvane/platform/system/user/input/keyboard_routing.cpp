@@ -27,11 +27,16 @@ LPARAM key_lparam(const System& state, const InputEvent& event, bool was_down) {
 
 }  // namespace
 
-void route_key(System& state, const InputEvent& event) {
-  auto slot = static_cast<std::size_t>(event.virtual_key & 0xFF);
+bool remember_key(System& state, const InputEvent& event) {
+  const auto slot = static_cast<std::size_t>(event.virtual_key & 0xFF);
   const bool was_down = state.input.keys_retrieved[slot];
   state.input.keys_retrieved[slot] = event.down;
   if (event.down && !was_down) state.input.keys_toggled[slot] = !state.input.keys_toggled[slot];
+  return was_down;
+}
+
+void route_key(System& state, const InputEvent& event) {
+  const bool was_down = remember_key(state, event);
   const bool menu_key = event.virtual_key == VK_MENU || event.virtual_key == VK_F10;
   // Alt that was held for another key goes up like any key.
   const bool held_for_another = !event.down && event.virtual_key == VK_MENU &&

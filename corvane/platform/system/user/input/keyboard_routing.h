@@ -4,6 +4,8 @@
 
 namespace corvane::system {
 
+// What is remembered of a key as if a window had got it; whether it was down before.
+bool remember_key(System& state, const InputEvent& event);
 void route_key(System& state, const InputEvent& event);
 void route_text(System& state, const InputEvent& event);
 

@@ -1,6 +1,7 @@
 #include "corvane/platform/system/user/modal/capture_loop.h"
 
 #include "corvane/platform/system/user/input/input_routing.h"
+#include "corvane/platform/system/user/input/keyboard_routing.h"
 
 namespace corvane::system {
 
@@ -20,7 +21,10 @@ ModalLoop::Turn CaptureLoop::cancel() {
 }
 
 ModalLoop::Turn CaptureLoop::on_keyboard(const InputEvent& event) {
-  if (event.kind == InputKind::key && event.down && event.virtual_key == VK_ESCAPE) return cancel();
+  if (event.kind == InputKind::key && event.down && event.virtual_key == VK_ESCAPE) {
+    remember_key(state_, event);
+    return cancel();
+  }
   route_event(state_, event);
   return Turn::more;
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "corvane/platform/geometry.h"
+#include "corvane/platform/system/user/input/keyboard_routing.h"
 #include "corvane/platform/system/user/messages/send_message.h"
 #include "corvane/platform/system/user/windows/size_limits.h"
 
@@ -32,6 +33,7 @@ POINT FrameDrag::travel_to(POINT pointer) const {
 }
 
 ModalLoop::Turn FrameDrag::on_keyboard(const InputEvent& event) {
+  if (event.kind == InputKind::key) remember_key(state_, event);
   if (event.kind != InputKind::key || !event.down) return Turn::more;
   if (event.virtual_key == VK_ESCAPE) {
     if (may_go_back()) place(start_frame_);
@@ -52,8 +54,8 @@ void FrameDrag::propose(RECT frame, UINT message, WPARAM wparam) {
 
 void FrameDrag::place(const RECT& frame) {
   if (held_window() == nullptr) return;
-  SetWindowPos(window_, nullptr, frame.left, frame.top, frame.right - frame.left,
-               frame.bottom - frame.top, SWP_NOZORDER | SWP_NOACTIVATE);
+  SetWindowPos(window_, nullptr, frame.left, frame.top, clamp_coordinate(width_of(frame)),
+               clamp_coordinate(height_of(frame)), SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 }  // namespace corvane::system
