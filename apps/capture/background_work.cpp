@@ -37,6 +37,15 @@ void CBackgroundWork::FinishDone() {
   }
 }
 
+void CBackgroundWork::FinishWithin(std::chrono::milliseconds time) {
+  {
+    std::unique_lock guard(lock_);
+    const auto all = static_cast<std::size_t>(unfinished_);
+    one_is_done_.wait_for(guard, time, [&] { return done_.size() == all; });
+  }
+  FinishDone();
+}
+
 void CBackgroundWork::run() {
   std::unique_lock guard(lock_);
   for (;;) {
@@ -48,6 +57,7 @@ void CBackgroundWork::run() {
     Finish finish = work(stop_.get_token());
     guard.lock();
     done_.push_back(std::move(finish));
+    one_is_done_.notify_one();
     ready_();
   }
 }

@@ -1,6 +1,7 @@
 #pragma once
 // Work that takes longer than a frame: done by a thread of its own, one piece after the other, and
 // finished on the user-interface thread.
+#include <chrono>
 #include <condition_variable>
 #include <deque>
 #include <functional>
@@ -10,6 +11,8 @@
 #include <vector>
 
 namespace capture {
+
+constexpr std::chrono::milliseconds kFrame(16);  // what keeps the user waiting no longer than this
 
 class CBackgroundWork {
  public:
@@ -28,6 +31,8 @@ class CBackgroundWork {
 
   void Begin(Work work);
   void FinishDone();
+  // Waits until all that was begun is done, at most that long, and finishes what is.
+  void FinishWithin(std::chrono::milliseconds time);
   bool Busy() const { return unfinished_ > 0; }
 
  private:
@@ -37,6 +42,7 @@ class CBackgroundWork {
   int unfinished_ = 0;  // user-interface thread only
   std::mutex lock_;     // guards all that follows
   std::condition_variable changed_;
+  std::condition_variable one_is_done_;
   std::deque<Work> waiting_;
   std::vector<Finish> done_;
   std::stop_source stop_;

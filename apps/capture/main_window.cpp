@@ -1,9 +1,6 @@
 #include "apps/capture/main_window.h"
 
 #include <cerrno>
-#include <cstdint>
-#include <filesystem>
-#include <system_error>
 
 #include "apps/capture/capture_messages.h"
 #include "apps/capture/picture_folder.h"
@@ -16,8 +13,7 @@ namespace {
 
 using namespace corvane;
 
-constexpr SIZE kMinReadableSize{8, 8};                // pixels of the picture
-constexpr std::uintmax_t kOpenedAtOnce = 512 * 1024;  // bytes; larger ones take longer than a frame
+constexpr SIZE kMinReadableSize{8, 8};  // pixels of the picture
 
 CString name_for_user(const std::wstring& path) { return CString(name_of(path).c_str()); }
 
@@ -185,26 +181,25 @@ void CMainWindow::show_picture(std::shared_ptr<const CPicture> picture) {
 }
 
 void CMainWindow::open_path(const std::wstring& path) {
-  ++opened_last_;
-  std::error_code error;
-  const auto bytes = std::filesystem::file_size(native_path(path), error);
-  if (!error && bytes > kOpenedAtOnce) return open_later(path);
-  show_opened(path, CPicture::Open(native_path(path).string()));
-}
-
-void CMainWindow::open_later(const std::wstring& path) {
-  view_.ShowBusy(look_.text(Text::opening));
-  browser_.MarkReached(path);
-  const int count = opened_last_;
+  const int count = ++opened_last_;
   work_->Begin([this, path, count](const std::stop_token& stop) -> CBackgroundWork::Finish {
     if (stop.stop_requested() || count != opened_last_) return {};
     std::shared_ptr<const CPicture> picture = CPicture::Open(native_path(path).string());
     return [this, path, count, picture = std::move(picture)] {
       if (count != opened_last_) return;
-      view_.ShowNotice({});
+      if (told_opening_) view_.ShowNotice({});
+      told_opening_ = false;
       show_opened(path, picture);
     };
   });
+  work_->FinishWithin(kFrame);  // most pictures are: no notice flickers
+  if (work_->Busy()) tell_opening(path);
+}
+
+void CMainWindow::tell_opening(const std::wstring& path) {
+  told_opening_ = true;
+  view_.ShowBusy(look_.text(Text::opening));
+  browser_.MarkReached(path);
 }
 
 void CMainWindow::show_opened(const std::wstring& path, std::shared_ptr<const CPicture> picture) {

@@ -49,7 +49,7 @@ class CMainWindow : public corvane::CWnd {
   const std::wstring& last_saved() const { return last_saved_; }  // full wide path
   bool recognising() const { return saving() || recognition_.Running(); }
   bool loading() const { return library_work_ != nullptr && library_work_->Busy(); }
-  bool opening() const { return saving(); }
+  bool opening() const { return saving() || open_panel_.Listing(); }
   const CRecognitionPanel& recognition() const { return recognition_; }
   bool full_screen() const { return full_screen_.active(); }
   bool saving() const { return work_ != nullptr && work_->Busy(); }
@@ -98,7 +98,7 @@ class CMainWindow : public corvane::CWnd {
 
   void show_picture(std::shared_ptr<const CPicture> picture);
   void open_path(const std::wstring& path);
-  void open_later(const std::wstring& path);
+  void tell_opening(const std::wstring& path);
   void show_opened(const std::wstring& path, std::shared_ptr<const CPicture> picture);
   void open_neighbour(int step);
   void refresh_library();
@@ -136,6 +136,7 @@ class CMainWindow : public corvane::CWnd {
   COpenPanel open_panel_{look_};
   int wheel_rest_ = 0;                // of a notch, turned with Control
   std::atomic<int> opened_last_ = 0;  // counts: only the last one that was asked for is shown
+  bool told_opening_ = false;         // the notice says so
   bool keyboard_led_ = false;         // the keyboard, not the mouse, chose what has the focus
   // Made with the window; saving does not wait for a library to be read.
   std::unique_ptr<CBackgroundWork> library_work_;

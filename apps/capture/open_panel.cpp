@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 #include "apps/capture/capture_messages.h"
 #include "apps/capture/fill.h"
@@ -33,33 +34,67 @@ void draw_icon(HDC dc, const RECT& row, bool folder, const CLook& look) {
 }  // namespace
 
 const MessageMap* COpenPanel::GetMessageMap() const {
-  static constexpr auto kMessages = MessageTable(On<WM_MOUSEMOVE>(&COpenPanel::OnMouseMove),
-                                                 On<WM_LBUTTONUP>(&COpenPanel::OnLButtonUp),
-                                                 On<WM_KEYDOWN>(&COpenPanel::OnKeyDown));
+  static constexpr auto kMessages = MessageTable(
+      On<WM_MOUSEMOVE>(&COpenPanel::OnMouseMove), On<WM_LBUTTONDOWN>(&COpenPanel::OnLButtonDown),
+      On<WM_LBUTTONUP>(&COpenPanel::OnLButtonUp), OnMessage<WM_WORK_DONE>(&COpenPanel::OnWorkDone),
+      On<WM_KEYDOWN>(&COpenPanel::OnKeyDown));
   static const MessageMap map = kMessages.extending(CPanel::GetMessageMap());
   return &map;
 }
 
 void COpenPanel::ListFolder(const std::wstring& folder, const std::wstring& current) {
   folder_ = folder;
-  entries_.clear();
+  Entries first;
   const std::wstring above = folder_of(folder);
-  const std::wstring label = look().text(Text::folder_above).AsStdString();
-  if (!above.empty()) entries_.push_back({above, label, true});
+  if (!above.empty()) first.push_back({above, look().text(Text::folder_above).AsStdString(), true});
+  begin_listing(first, current);
+  SetTitle(name_of(folder).c_str());
+  work_->FinishWithin(kFrame);
+  if (!work_->Busy()) return;
+  first.push_back({{}, look().text(Text::opening).AsStdString(), true});
+  show(std::move(first), current);
+}
+
+void COpenPanel::begin_listing(const Entries& first, const std::wstring& current) {
+  if (work_ == nullptr) {
+    work_ = std::make_unique<CBackgroundWork>(
+        [window = m_hWnd] { ::PostMessageW(window, WM_WORK_DONE, 0, 0); });
+  }
+  const int count = ++listed_last_;
+  work_->Begin([this, count, entries = first, folder = folder_,
+                current](const std::stop_token& stop) mutable -> CBackgroundWork::Finish {
+    if (stop.stop_requested() || count != listed_last_) return {};
+    read_into(entries, folder);
+    return [this, count, entries = std::move(entries), current]() mutable {
+      if (count == listed_last_) show(std::move(entries), current);
+    };
+  });
+}
+
+void COpenPanel::read_into(Entries& entries, const std::wstring& folder) {
   FolderEntries found = read_folder(folder).value_or(FolderEntries{});
   std::vector<std::wstring> folders;
   std::merge(found.folders.begin(), found.folders.end(), found.links.begin(), found.links.end(),
              std::back_inserter(folders), stands_before);
-  for (const std::wstring& name : folders) entries_.push_back({path_in(folder, name), name, true});
+  for (const std::wstring& name : folders) entries.push_back({path_in(folder, name), name, true});
   for (const std::wstring& name : found.pictures) {
-    entries_.push_back({path_in(folder, name), name, false});
+    entries.push_back({path_in(folder, name), name, false});
   }
+}
+
+void COpenPanel::show(Entries entries, const std::wstring& current) {
+  entries_ = std::move(entries);
   const auto here = std::find_if(entries_.begin(), entries_.end(),
                                  [&](const Entry& entry) { return entry.path == current; });
   marked_ = here == entries_.end() ? -1 : static_cast<int>(here - entries_.begin());
-  SetTitle(name_of(folder).c_str());
+  pressed_ = -1;
   ScrollTo(0);
   show_marked();
+}
+
+LRESULT COpenPanel::OnWorkDone(WPARAM, LPARAM) {
+  work_->FinishDone();
+  return 0;
 }
 
 void COpenPanel::show_marked() {
@@ -84,7 +119,7 @@ void COpenPanel::DrawContent(HDC dc, const RECT& content) {
 
 void COpenPanel::draw_entry(HDC dc, const Entry& entry, const RECT& row, bool marked) {
   if (marked) fill_with(dc, row, look().color(Shade::hovered_row));
-  draw_icon(dc, row, entry.folder, look());
+  if (!entry.path.empty()) draw_icon(dc, row, entry.folder, look());
   const LOGFONTW font = look().font(Text::folder_above);
   const CRect text(row.left + kIconWidth, row.top, row.right - 8, row.bottom);
   CGdiDC().DrawTextW(dc, entry.label.c_str(), &font, text, look().argb(Shade::text),
@@ -108,11 +143,18 @@ void COpenPanel::mark(int index) {
 
 void COpenPanel::OnMouseMove(UINT, CPoint point) { mark(entry_at(point)); }
 
-void COpenPanel::OnLButtonUp(UINT, CPoint point) { open_entry(entry_at(point)); }
+void COpenPanel::OnLButtonDown(UINT, CPoint point) { pressed_ = entry_at(point); }
+
+// The second press of a double click is none: it was meant for what the first one has opened.
+void COpenPanel::OnLButtonUp(UINT, CPoint point) {
+  const int pressed = std::exchange(pressed_, -1);
+  if (entry_at(point) == pressed) open_entry(pressed);
+}
 
 void COpenPanel::open_entry(int index) {
   if (index < 0) return;
   const Entry entry = entries_[static_cast<std::size_t>(index)];
+  if (entry.path.empty()) return;
   if (entry.folder) {
     const std::wstring came_from = folder_;  // which listing replaces
     ListFolder(entry.path, came_from);

@@ -101,6 +101,7 @@ class Session {
     frame("the wheel moves the tree");
     if (window_.browser().strip().names().empty()) return;
     click(picture_in_strip(0));
+    wait_while([this] { return window_.opening(); });
     frame("a click on a picture opens it");
     click_toolbar(ToolbarButton::crop);
     const CRect picture = shown_picture();

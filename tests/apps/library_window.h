@@ -73,7 +73,8 @@ class LibraryWindow : public testing::Test {
     Strip().ClientToScreen(rect);
     return rect.CenterPoint();
   }
-  CRect PictureOnScreen() const {
+  CRect PictureOnScreen() {
+    WaitForSaving();
     CRect picture(window_.view().ShownRect());
     window_.view().ClientToScreen(picture);
     return picture;
@@ -90,11 +91,18 @@ class LibraryWindow : public testing::Test {
     WaitForSaving();
   }
   void WaitForSaving() {
-    while (window_.saving() && desktop_.wait_for_post(10000)) desktop_.pump();
+    while (window_.opening() && desktop_.wait_for_post(10000)) desktop_.pump();
   }
   void Press(const std::vector<int>& keys) {
     for (const int key : keys) desktop_.key_down(key);
     for (const int key : keys) desktop_.key_up(key);
+  }
+  void ManyPictures(int count) {
+    WriteTestPicture(library_ / "二月/0.png", 200, 100);
+    for (int i = 1; i < count; ++i) {
+      std::filesystem::create_hard_link(library_ / "二月/0.png",
+                                        library_ / "二月" / (std::to_string(i) + ".png"));
+    }
   }
   // Null when it is no picture or never comes.
   Thumbnail WaitForThumbnail(const std::wstring& name) {
@@ -104,8 +112,14 @@ class LibraryWindow : public testing::Test {
     } while (desktop_.wait_for_post(10000));
     return nullptr;
   }
-  std::string Notice() const { return native_path(window_.view().notice().AsStdString()).string(); }
-  std::string Opened() const { return window_.picture() ? window_.picture()->name() : ""; }
+  std::string Notice() {
+    WaitForSaving();
+    return native_path(window_.view().notice().AsStdString()).string();
+  }
+  std::string Opened() {
+    WaitForSaving();
+    return window_.picture() ? window_.picture()->name() : "";
+  }
 
   TemporaryFolder folder_;
   std::filesystem::path library_ = folder_ / "图库";
