@@ -17,9 +17,14 @@ bool may_break(wchar_t before, wchar_t after) {
 std::size_t CTextLines::end_of_line(std::size_t first, std::size_t end, int width,
                                     const Measure& measure) const {
   const auto fits = [&](std::size_t last) { return measure(part({first, last})) <= width; };
-  if (fits(end)) return end;
   std::size_t most = first + 1;  // at least one character
-  for (std::size_t beyond = end; most + 1 < beyond;) {
+  std::size_t beyond = most;     // that is not measured whole, however long the rest is
+  for (std::size_t step = 1; beyond < end && fits(beyond); step *= 2) {
+    most = beyond;
+    beyond = std::min(beyond + step, end);
+  }
+  if (beyond == end && fits(end)) return end;
+  while (most + 1 < beyond) {
     const std::size_t middle = most + (beyond - most) / 2;
     (fits(middle) ? most : beyond) = middle;
   }

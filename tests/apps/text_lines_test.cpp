@@ -29,6 +29,17 @@ TEST(TextLines, BreaksWhereALineMayEnd) {
   }
 }
 
+TEST(TextLines, AVeryLongLineIsMeasuredOnlyAsFarAsItFits) {
+  std::size_t measured = 0;
+  CTextLines lines;
+  lines.LayOut(std::wstring(100000, L'x'), 500, [&](std::wstring_view text) {
+    measured += text.size();
+    return TenEach(text);
+  });
+  EXPECT_EQ(lines.lines().size(), 2000u);
+  EXPECT_LT(measured, 2000u * 1000);
+}
+
 TEST(TextLines, TheMouseSelectsForwardsAndBackwards) {
   CTextLines lines;
   lines.LayOut(L"one two\nthree", 50, TenEach);  // "one ", "two", "three"
