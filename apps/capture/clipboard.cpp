@@ -9,7 +9,7 @@ namespace {
 std::wstring with_platform_line_ends(std::wstring_view text) {
   std::wstring result;
   for (const wchar_t character : text) {
-    if (character == L'\n') result += L'\r';
+    if (character == L'\n' && !result.ends_with(L'\r')) result += L'\r';
     result += character;
   }
   return result;
