@@ -23,6 +23,7 @@ const MessageMap* CPictureView::GetMessageMap() const {
   static constexpr auto kMessages = MessageTable(
       On<WM_ERASEBKGND>(&CPictureView::OnEraseBkgnd), On<WM_PAINT>(&CPictureView::OnPaint),
       On<WM_TIMER>(&CPictureView::OnTimer), On<WM_LBUTTONDOWN>(&CPictureView::OnLButtonDown),
+      On<WM_LBUTTONDBLCLK>(&CPictureView::OnLButtonDown),
       On<WM_MOUSEMOVE>(&CPictureView::OnMouseMove), On<WM_LBUTTONUP>(&CPictureView::OnLButtonUp),
       On<WM_CAPTURECHANGED>(&CPictureView::OnCaptureChanged),
       On<WM_SETCURSOR>(&CPictureView::OnSetCursor));

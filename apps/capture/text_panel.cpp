@@ -51,7 +51,8 @@ class CTextPanel::FontInUse {
 
 const MessageMap* CTextPanel::GetMessageMap() const {
   static constexpr auto kMessages = MessageTable(
-      On<WM_LBUTTONDOWN>(&CTextPanel::OnLButtonDown), On<WM_MOUSEMOVE>(&CTextPanel::OnMouseMove),
+      On<WM_LBUTTONDOWN>(&CTextPanel::OnLButtonDown),
+      On<WM_LBUTTONDBLCLK>(&CTextPanel::OnLButtonDown), On<WM_MOUSEMOVE>(&CTextPanel::OnMouseMove),
       On<WM_LBUTTONUP>(&CTextPanel::OnLButtonUp),
       On<WM_CAPTURECHANGED>(&CTextPanel::OnCaptureChanged),
       On<WM_SETCURSOR>(&CTextPanel::OnSetCursor));
