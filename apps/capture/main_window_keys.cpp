@@ -69,7 +69,7 @@ void CMainWindow::copy_recognised() {
 void CMainWindow::toggle_full_screen() {
   full_screen_.Toggle(m_hWnd);
   const bool all = !full_screen();
-  if (!all) SetFocus();
+  if (!all && ::GetActiveWindow() == m_hWnd) SetFocus();
   show_parts({all, all, all});
   layout();  // the size may be the same
 }
@@ -93,7 +93,8 @@ bool CMainWindow::take_key(UINT key) {
   const std::optional<KeyCommand> command = key_command(press);
   // A box that has the focus has arrows of its own.
   const bool main_is_active = ::GetActiveWindow() == m_hWnd || crop_.IsWindowVisible() != FALSE;
-  if (!command || (!main_is_active && !press.control)) return false;
+  const bool for_all = press.control || command == KeyCommand::full_screen;
+  if (!command || (!main_is_active && !for_all)) return false;
   perform(*command);
   return true;
 }

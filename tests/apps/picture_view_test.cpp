@@ -38,6 +38,7 @@ TEST_F(PictureView, KeysAndWheelZoomDraggingMovesAndACropCutsWhatIsSeen) {
   desktop_.key_up(VK_CONTROL);
   EXPECT_EQ(PictureOnScreen().Width(), 4 * fitted.Width());
   EXPECT_EQ(PictureOnScreen().TopLeft(), CPoint(pointer.x - 1000, pointer.y - 600));
+  desktop_.click({700, 300});
   desktop_.drag({700, 300}, {660, 280});
   EXPECT_EQ(PictureOnScreen().TopLeft(), CPoint(pointer.x - 1040, pointer.y - 620));
   ClickButton(ToolbarButton::crop);
@@ -100,6 +101,7 @@ TEST_F(LibraryWindow, FullScreenOnAScreenThatIsFilledAlreadyHidesTheParts) {
     desktop_.key(VK_F11);
     EXPECT_EQ(window_.browser().pane().IsWindowVisible() == FALSE, full);
     EXPECT_EQ(PictureOnScreen() != before, full);
+    if (full) Press({VK_CONTROL, 'O'});  // the second time a box is in front
   }
 }
 
