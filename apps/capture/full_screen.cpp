@@ -10,6 +10,14 @@ bool brings(bool shown, const RECT& part, bool at_edge, POINT pointer) {
   return at_edge || PtInRect(&part, pointer) != FALSE;
 }
 
+// Empty when it is not known.
+RECT monitor_of(HWND window) {
+  MONITORINFO monitor{};
+  monitor.cbSize = sizeof(monitor);
+  GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
+  return monitor.rcMonitor;
+}
+
 }  // namespace
 
 ShownParts parts_at(const ShownParts& now, const WindowLayout& layout, SIZE client, POINT pointer) {
@@ -24,15 +32,22 @@ ShownParts parts_at(const ShownParts& now, const WindowLayout& layout, SIZE clie
 void CFullScreen::Toggle(HWND window) {
   RECT target = former_;
   if (!active_) {
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof(monitor);
     GetWindowRect(window, &former_);
-    if (!GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor)) return;
-    target = monitor.rcMonitor;
+    target = monitor_of(window);
+    if (IsRectEmpty(&target)) return;
   }
   active_ = !active_;
   SetWindowPos(window, nullptr, target.left, target.top, target.right - target.left,
                target.bottom - target.top, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+bool CFullScreen::TakenFrom(HWND window) {
+  RECT now{};
+  GetWindowRect(window, &now);
+  const RECT monitor = monitor_of(window);
+  if (!active_ || IsIconic(window) || EqualRect(&now, &monitor)) return false;
+  active_ = false;
+  return true;
 }
 
 }  // namespace capture

@@ -21,6 +21,9 @@ class CFullScreen {
   bool active() const { return active_; }
   // Makes the window fill its monitor, or puts it back where it was.
   void Toggle(HWND window);
+  // True when something else, as the desktop can, has given the window another size meanwhile:
+  // then it is over.
+  bool TakenFrom(HWND window);
 
  private:
   bool active_ = false;

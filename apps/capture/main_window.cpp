@@ -106,6 +106,7 @@ BOOL CMainWindow::OnEraseBkgnd(CDC*) { return TRUE; }
 
 void CMainWindow::OnSize(UINT kind, int width, int height) {
   CWnd::OnSize(kind, width, height);
+  if (full_screen_.TakenFrom(m_hWnd)) show_parts({true, true, true});
   if (crop_.GetSafeHwnd() != nullptr) layout();
 }
 

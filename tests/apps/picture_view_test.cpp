@@ -94,6 +94,20 @@ TEST_F(PictureView, FullScreenShowsThePictureAloneAndThePartsAtTheEdges) {
   EXPECT_TRUE(Sees(pane) && Sees(Strip()));
 }
 
+TEST_F(PictureView, TheDesktopMayEndFullScreen) {
+  Start();
+  desktop_.move_to(640, 400);
+  for (int round = 0; round < 2; ++round) {
+    desktop_.key(VK_F11);
+    desktop_.pump();
+    EXPECT_FALSE(Sees(Strip()));
+    desktop_.own().display.resize({1280, 800});
+    desktop_.pump();
+    EXPECT_EQ(Place(), CRect(0, 0, 1280, 800));
+    EXPECT_TRUE(Sees(Strip()) && !window_.full_screen());
+  }
+}
+
 TEST_F(LibraryWindow, FullScreenOnAScreenThatIsFilledAlreadyHidesTheParts) {
   Start();
   const CRect before = PictureOnScreen();
