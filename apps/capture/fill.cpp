@@ -14,4 +14,16 @@ void frame_with(HDC dc, const RECT& rect, COLORREF color) {
   DeleteObject(brush);
 }
 
+RECT draw_text(HDC dc, const corvane::CString& text, RECT rect, const LOGFONTW& font,
+               COLORREF color, UINT format) {
+  const HFONT handle = CreateFontIndirectW(&font);
+  const HGDIOBJ former = SelectObject(dc, handle);
+  SetTextColor(dc, color);
+  SetBkMode(dc, TRANSPARENT);
+  DrawTextW(dc, text, text.GetLength(), &rect, format | DT_NOPREFIX | DT_END_ELLIPSIS);
+  SelectObject(dc, former);
+  DeleteObject(handle);
+  return rect;
+}
+
 }  // namespace capture

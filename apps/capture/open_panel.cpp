@@ -8,7 +8,6 @@
 #include "apps/capture/fill.h"
 #include "apps/capture/picture_folder.h"
 #include "apps/capture/sorted_listing.h"
-#include "corvane/platform/drawing/gdi_dc.h"
 
 namespace capture {
 namespace {
@@ -122,8 +121,8 @@ void COpenPanel::draw_entry(HDC dc, const Entry& entry, const RECT& row, bool ma
   if (!entry.path.empty()) draw_icon(dc, row, entry.folder, look());
   const LOGFONTW font = look().font(Text::folder_above);
   const CRect text(row.left + kIconWidth, row.top, row.right - 8, row.bottom);
-  CGdiDC().DrawTextW(dc, entry.label.c_str(), &font, text, look().argb(Shade::text),
-                     DT_VCENTER | DT_SINGLELINE);
+  draw_text(dc, entry.label.c_str(), text, font, look().color(Shade::text),
+            DT_VCENTER | DT_SINGLELINE);
 }
 
 int COpenPanel::ContentHeight(int) { return static_cast<int>(entries_.size()) * row_height(); }

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "apps/capture/fill.h"
-#include "corvane/platform/drawing/gdi_dc.h"
 
 namespace capture {
 namespace {
@@ -114,7 +113,7 @@ void CPanel::draw_frame(HDC dc) {
   frame_with(dc, client, look_.color(Shade::edge));
   const CRect title(kPadding, 0, close_rect_.left, title_height());
   const LOGFONTW font = look_.font(Text::recognition);
-  CGdiDC().DrawTextW(dc, title_, &font, title, look_.argb(Shade::text), DT_VCENTER | DT_SINGLELINE);
+  draw_text(dc, title_, title, font, look_.color(Shade::text), DT_VCENTER | DT_SINGLELINE);
 }
 
 void CPanel::draw_scroll_mark(HDC dc, const RECT& content) {

@@ -15,7 +15,8 @@ constexpr UINT kNoticeTime = 4000;  // milliseconds
 constexpr int kMargin = 16;
 constexpr int kNoticePadding = 18;
 constexpr int kNoticeSpace = 10;  // above and below its lines
-constexpr int kEmptyLineDistance = 36;
+constexpr int kEmptyLineSpace = 15;
+constexpr UINT kLines = DT_CENTER | DT_WORDBREAK;
 
 }  // namespace
 
@@ -124,25 +125,25 @@ void CPictureView::SetEmptyText(const CString& text, const CString& more) {
 }
 
 void CPictureView::draw_empty_stage(HDC dc, const RECT& client) const {
-  constexpr UINT kFormat = DT_CENTER | DT_VCENTER | DT_SINGLELINE;
   const LOGFONTW large = look_.font(Text::no_pictures);
-  CRect first(client);
-  first.bottom -= kEmptyLineDistance;
-  CGdiDC().DrawTextW(dc, empty_text_, &large, first, look_.argb(Shade::text), kFormat);
   const LOGFONTW small = look_.font(Text::how_to_begin);
-  CRect second(client);
-  second.top += kEmptyLineDistance;
-  CGdiDC().DrawTextW(dc, more_empty_text_, &small, second, look_.argb(Shade::quiet_text), kFormat);
+  CRect first(client);
+  first.DeflateRect(kMargin, 0);
+  CRect second(first);
+  const CRect needed(
+      draw_text(dc, empty_text_, CRect(0, 0, first.Width(), 0), large, 0, kLines | DT_CALCRECT));
+  const int middle = first.CenterPoint().y;
+  first.top = middle - needed.Height() - kEmptyLineSpace / 2;
+  second.top = middle + kEmptyLineSpace / 2;
+  draw_text(dc, empty_text_, first, large, look_.color(Shade::text), kLines);
+  draw_text(dc, more_empty_text_, second, small, look_.color(Shade::quiet_text), kLines);
 }
 
 void CPictureView::draw_notice(HDC dc, const RECT& client) const {
-  constexpr UINT kLines = DT_CENTER | DT_WORDBREAK | DT_NOPREFIX;
   const LOGFONTW font = look_.font(Text::saved);
-  const HFONT handle = ::CreateFontIndirectW(&font);
-  const HGDIOBJ former = ::SelectObject(dc, handle);
   const int most = client.right - 2 * kMargin - 2 * kNoticePadding;
-  CRect text(0, 0, std::max(most, 1), 0);
-  ::DrawTextW(dc, notice_, notice_.GetLength(), text, kLines | DT_CALCRECT);
+  CRect text(
+      draw_text(dc, notice_, CRect(0, 0, std::max(most, 1), 0), font, 0, kLines | DT_CALCRECT));
   CRect box(0, 0, std::min<int>(text.Width(), most) + 2 * kNoticePadding,
             text.Height() + 2 * kNoticeSpace);
   box.OffsetRect((client.right - box.Width()) / 2, client.bottom - 2 * kMargin - box.Height());
@@ -151,11 +152,7 @@ void CPictureView::draw_notice(HDC dc, const RECT& client) const {
   fill_with(dc, CRect(box.left, box.top, box.left + 4, box.bottom), look_.color(Shade::accent));
   text = box;
   text.DeflateRect(kNoticePadding, kNoticeSpace);
-  ::SetTextColor(dc, look_.color(Shade::text));
-  ::SetBkMode(dc, TRANSPARENT);
-  ::DrawTextW(dc, notice_, notice_.GetLength(), text, kLines | DT_END_ELLIPSIS);
-  ::SelectObject(dc, former);
-  ::DeleteObject(handle);
+  draw_text(dc, notice_, text, font, look_.color(Shade::text), kLines);
 }
 
 void CPictureView::OnTimer(UINT_PTR id) {

@@ -184,6 +184,13 @@ TEST_F(LibraryWindow, WithoutPicturesItSaysSoAndEveryButtonIsHarmless) {
   }
   desktop_.key(VK_ESCAPE);
   EXPECT_FALSE(window_.crop().IsWindowVisible());
+  window_.MoveWindow(0, 0, 560, 600);
+  desktop_.pump();
+  CRect edge;
+  window_.view().GetWindowRect(edge);
+  edge.right = edge.left + 16;
+  const auto is_text = [](COLORREF color) { return color != RGB(0x14, 0x1A, 0x20); };
+  EXPECT_EQ(desktop_.frame().count(edge, is_text), 0) << "the lines break";
   WriteTestPicture(library_ / "new.png", 100, 100);
   ClickButton(ToolbarButton::next);
   EXPECT_EQ(Opened(), "new.png");
