@@ -13,6 +13,8 @@ using namespace corvane;
 
 constexpr int kList = 102;
 constexpr int kFontHeight = 17;  // pixels
+constexpr LONG kHighestRow = 200;
+constexpr LONG kLargestBox = 10000;
 
 constexpr std::array<COLORREF, 9> kOwnShades = {
     RGB(0x14, 0x1A, 0x20), RGB(0x1E, 0x26, 0x30), RGB(0x3A, 0x46, 0x54),
@@ -21,7 +23,7 @@ constexpr std::array<COLORREF, 9> kOwnShades = {
 
 constexpr std::array<SIZE, 5> kOwnSizes = {{{0, 40}, {0, 52}, {0, 40}, {640, 560}, {720, 480}}};
 
-constexpr std::array<const wchar_t*, 38> kOwnTexts = {
+constexpr std::array<const wchar_t*, 39> kOwnTexts = {
     L"Library",
     L"Library (reading…)",
     L"{1}",
@@ -59,7 +61,8 @@ constexpr std::array<const wchar_t*, 38> kOwnTexts = {
     L"Open",
     L"..",
     L"Copied",
-    L"Opening…"};
+    L"Opening…",
+    L"the system reports error {1}"};
 
 template <class Id>
 std::size_t index_of(Id id, Id first) {
@@ -100,8 +103,10 @@ DWORD CLook::argb(Shade shade) const {
 
 SIZE CLook::size(Measure measure) const {
   const CRect rect = skin_.GetBgRect(static_cast<int>(measure));
-  if (rect.Height() > 0) return {rect.Width(), rect.Height()};
-  return kOwnSizes[index_of(measure, Measure::library_title)];
+  const SIZE own = kOwnSizes[index_of(measure, Measure::library_title)];
+  const LONG highest = own.cx > 0 ? kLargestBox : kHighestRow;
+  const bool usable = rect.Height() > 0 && rect.Height() <= highest && rect.Width() <= kLargestBox;
+  return usable && (own.cx == 0 || rect.Width() > 0) ? SIZE{rect.Width(), rect.Height()} : own;
 }
 
 CString CLook::text(Text text) const {

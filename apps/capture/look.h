@@ -65,6 +65,7 @@ enum class Text {
   folder_above,
   copied,
   opening,
+  other_error,
 };
 
 class CLook {

@@ -1,9 +1,7 @@
 #include "apps/capture/picture_saving.h"
 
 #include <cerrno>
-#include <cstring>
 
-#include "apps/capture/texts.h"
 #include "corvane/platform/system/shell/new_file.h"
 #include "corvane/platform/system/shell/wide_path.h"
 
@@ -48,11 +46,13 @@ corvane::CString save_error_text(int error, const CLook& look) {
     case EPERM:
     case EROFS:
       return look.text(Text::no_permission);
+    case ENOMEM:
+      return look.text(Text::memory_short);
     case ENOENT:
     case ENOTDIR:
       return look.text(Text::folder_missing);
     default:
-      return wide(std::strerror(error));
+      return look.text(Text::other_error, {std::to_wstring(error).c_str()});
   }
 }
 

@@ -9,7 +9,7 @@
 namespace capture {
 namespace {
 
-constexpr Text kLast = Text::opening;
+constexpr Text kLast = Text::other_error;
 
 std::string Narrow(const CString& text) { return native_path(text.AsStdString()).string(); }
 
@@ -34,6 +34,15 @@ class Look : public LibraryWindow {
       std::snprintf(color, sizeof(color), "#%06X", ++light);
       controls = std::regex_replace(controls, std::regex(dark), color);
     }
+    const std::pair<const char*, const char*> sizes[] = {
+        {"id=\"20\" height=\"40\"", "id=\"20\" height=\"64\""},
+        {"id=\"21\" height=\"52\"", "id=\"21\" height=\"60\""},
+        {"id=\"22\" height=\"40\"", "id=\"22\" height=\"50\""},
+        {"width=\"640\" height=\"560\"", "width=\"600\" height=\"400\""},
+        {"width=\"720\" height=\"480\"", "width=\"700\" height=\"300\""}};
+    for (const auto& [from, to] : sizes) {
+      controls = std::regex_replace(controls, std::regex(from), to);
+    }
     std::ofstream(skin / "ui_control.xml") << controls;
     WriteTestPicture(skin / "image" / "toolbar_bg.png", 64, 76);
     SetSkinFolder(wide_path_of(skin));
@@ -49,8 +58,14 @@ class Look : public LibraryWindow {
     });
   }
 
-  static constexpr const char* kDark[] = {"#141A20", "#1E2630", "#3A4654", "#2C3744",
-                                          "#E8EEF4", "#93A1B0", "#21C46B", "#5B6979"};
+  static CRect PlaceOf(const CWnd& window) {
+    CRect place;
+    window.GetWindowRect(place);
+    return place;
+  }
+
+  static constexpr const char* kDark[] = {"#141A20", "#1E2630", "#3A4654", "#2C3744", "#E8EEF4",
+                                          "#93A1B0", "#21C46B", "#5B6979", "#1F5F8B"};
 };
 
 TEST_F(Look, ALightSkinIsLightEverywhere) {
@@ -65,6 +80,19 @@ TEST_F(Look, ALightSkinIsLightEverywhere) {
   ClickButton(ToolbarButton::open);
   desktop_.move_to(640, 300);
   EXPECT_EQ(DarkPixels(), 0) << "the box with folders";
+  EXPECT_EQ(PlaceOf(Tree()).top - PlaceOf(window_.browser().pane()).top, 64 + 1) << "and an edge";
+  CRect box;
+  ::GetWindowRect(::GetActiveWindow(), &box);
+  EXPECT_EQ(box.Size(), CSize(600, 400));
+  for (const int row : {1, 2}) desktop_.click({box.left + 200, box.top + 60 + row * 50 + 2});
+  EXPECT_EQ(Opened(), "a.png");
+  ClickButton(ToolbarButton::text);
+  desktop_.drag(PictureOnScreen().TopLeft(), PictureOnScreen().CenterPoint());
+  desktop_.click(window_.CropButtonOnScreen(CropCommand::read).CenterPoint());
+  WaitForSaving();
+  Press({VK_CONTROL, 'A'});
+  EXPECT_EQ(PlaceOf(window_.recognition()).Size(), CSize(700, 300));
+  EXPECT_EQ(DarkPixels(), 0) << "the box with selected text";
 }
 
 TEST_F(Look, EveryTextIsInBothLanguagesOfTheDefaultSkin) {
@@ -83,6 +111,7 @@ TEST_F(Look, EveryTextIsInBothLanguagesOfTheDefaultSkin) {
         << id;
   }
   EXPECT_EQ(Narrow(english.text(Text::saved, {L"{2}", L"b"})), "Saved in “{2}”: b");
+  EXPECT_EQ(save_error_text(EIO, chinese), L"系统报告错误 5");
   for (const wchar_t* const none : {L"xx", L"", L"../en", L"en.xml/"}) {
     SetSkinLanguage(none);
     EXPECT_EQ(CaptionFile(), L"ui_language.xml") << none;

@@ -48,6 +48,14 @@ ui_language.xml|0,/font="1"/s//font="70"/|5: there is no font 70
 ui_language.en.xml|s/<caption id="2".*"Cancel".*//| caption 2 of list 4 is missing
 ui_language.en.xml|0,/text="Redo"/s//text="Draw another rectangle"/|5: the caption Draw another
 ui_language.en.xml|0,/font="1"/s//font="70"/|5: there is no font 70
+ui_language.en.xml|s/{1}\. {2}/{2}/|41: caption 20 of list 102 has other marks
+ui_language.xml|s/<list id="102">/<list id="112">/| list 102 is missing or empty: what
+ui_language.xml|s/<caption id="37".*//| caption 37 of list 102 is missing
+ui_language.xml|s/{1}。{2}/{3}/|41: caption 20 of list 102 has other marks
+ui_control.xml|s/<control id="5" text-color="#E8EEF4"/<control id="5"/|71: control 5 of list 102 has no colour
+ui_control.xml|s/<control id="23" width="640"/<control id="23"/|79: control 23 of list 102 has no size
+ui_control.xml|s/<control id="20" height="40"/<control id="20"/|76: control 20 of list 102 has no size
+ui_control.xml|s/<control id="20" height="40"/<control id="20" height="30000"/|76: control 20 of list 102 has no
 ui_logfont.xml|s/size="14"/size="big"/|4: size="big"
 ui_logfont.xml|s/黑体/Nonesuch/|4: the face Nonesuch
 ui_logfont.xml|s/<\/fonts>//|13: the file ends too early

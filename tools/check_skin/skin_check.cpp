@@ -71,6 +71,7 @@ void SkinCheck::tell(const wchar_t* file, int line, const std::wstring& what,
 }
 
 void SkinCheck::run(bool with_capture_program) {
+  with_capture_program_ = with_capture_program;
   read();
   check_fonts();
   for (const auto& [id, list] : lists_) check_list(list);
@@ -79,6 +80,7 @@ void SkinCheck::run(bool with_capture_program) {
   }
   if (has_controls_ && with_capture_program) {
     for (const ExpectedList& expected : kCaptureLists) check_expected(expected);
+    check_look();
   }
   for (const std::wstring& file : other_languages(folder_)) check_language(CString(file));
 }
@@ -124,6 +126,7 @@ void SkinCheck::check_language(const CString& file) {
     tell(file, 0, L"caption " + text(caption) + L" of list " + text(list) + L" is missing",
          L"translate it from ui_language.xml");
   }
+  if (with_capture_program_) check_marks();
   for (const auto& [id, list] : lists_) {
     check_captions(list);
     for (const _MYCONTROL* const control : list.records.controls) {

@@ -37,6 +37,9 @@ class SkinCheck {
   // The captions of another language, each against those that were read and its place.
   void check_language(const corvane::CString& file);
   void check_fonts();
+  void check_look();   // of the capture program
+  void check_texts();  // which it says, in the captions that were read
+  void check_marks();  // in them
   void check_expected(const ExpectedList& expected);
   void check_inside(const List& list, const ExpectedList& expected);
   void check_list(const List& list);
@@ -55,6 +58,7 @@ class SkinCheck {
   corvane::SkinLists fonts_;
   std::vector<int> font_lines_;
   bool has_controls_ = false;
+  bool with_capture_program_ = false;
 };
 
 }  // namespace check_skin
