@@ -179,6 +179,7 @@ void fit_to_screen(System& state) {
     return std::pair(-a->frame.bottom, a->frame.left) < std::pair(-b->frame.bottom, b->frame.left);
   });
   std::vector<HWND> handles;
+  handles.reserve(minimized.size());
   for (const Window* each : minimized) handles.push_back(each->handle);
   const MinimizedPlaces places(state.desktop->client_area());
   int place = 0;
