@@ -22,18 +22,6 @@ constexpr int kDotMargin = 4;
 constexpr int kGroupIndent = 9;
 constexpr int kFocusInset = 3;
 
-void fill(HDC dc, const RECT& rect, COLORREF color) {
-  HBRUSH brush = CreateSolidBrush(color);
-  FillRect(dc, &rect, brush);
-  DeleteObject(brush);
-}
-
-void frame(HDC dc, const RECT& rect, COLORREF color) {
-  HBRUSH brush = CreateSolidBrush(color);
-  FrameRect(dc, &rect, brush);
-  DeleteObject(brush);
-}
-
 RECT inset(RECT rect, int by) {
   InflateRect(&rect, -by, -by);
   return rect;
@@ -70,9 +58,9 @@ RECT draw_text(HDC dc, const RECT& area, const ButtonLook& look, UINT align) {
 void paint_push(HDC dc, const RECT& area, const ButtonLook& look) {
   const bool is_default = (look.style & BS_TYPEMASK) == BS_DEFPUSHBUTTON;
   const bool marked = look.enabled && (is_default || look.focused);
-  fill(dc, area, look.pushed ? kFacePushed : kFace);
-  frame(dc, area, !look.enabled ? kEdgeDisabled : marked ? kAccent : kEdge);
-  if (look.focused) frame(dc, inset(area, kFocusInset), mixed(kFace, kAccent, 0.4));
+  fill_rect(dc, area, look.pushed ? kFacePushed : kFace);
+  frame_rect(dc, area, !look.enabled ? kEdgeDisabled : marked ? kAccent : kEdge);
+  if (look.focused) frame_rect(dc, inset(area, kFocusInset), mixed(kFace, kAccent, 0.4));
   draw_text(dc, inset(area, kFocusInset + 1), look, alignment(look.style, DT_CENTER));
 }
 
@@ -90,10 +78,10 @@ void paint_box(HDC dc, const RECT& box, const ButtonLook& look) {
   const bool filled = look.check != BST_UNCHECKED;
   const COLORREF accent = look.enabled ? kAccent : kEdge;
   const COLORREF empty = look.pushed ? kFacePushed : kFace;
-  fill(dc, box, filled ? accent : empty);
-  frame(dc, box, filled || look.focused ? accent : kEdge);
+  fill_rect(dc, box, filled ? accent : empty);
+  frame_rect(dc, box, filled || look.focused ? accent : kEdge);
   if (look.check == BST_CHECKED) draw_tick(dc, box, kFace);
-  if (look.check == BST_INDETERMINATE) fill(dc, inset(box, kDotMargin), kFace);
+  if (look.check == BST_INDETERMINATE) fill_rect(dc, inset(box, kDotMargin), kFace);
 }
 
 void paint_circle(HDC dc, const RECT& box, const ButtonLook& look) {
@@ -124,14 +112,14 @@ void paint_marked(HDC dc, const RECT& area, const ButtonLook& look, ButtonKind k
   RECT place = draw_text(dc, rest, look, alignment(look.style, DT_LEFT));
   if (!look.focused || look.text.empty()) return;
   InflateRect(&place, 2, 1);
-  frame(dc, place, mixed(kFace, kAccent, 0.4));
+  frame_rect(dc, place, mixed(kFace, kAccent, 0.4));
 }
 
 void paint_group(HDC dc, const RECT& area, const ButtonLook& look) {
   SIZE size{};
   GetTextExtentPoint32W(dc, L"x", 1, &size);
   const RECT edge{area.left, area.top + size.cy / 2, area.right, area.bottom};
-  frame(dc, edge, kGroupEdge);
+  frame_rect(dc, edge, kGroupEdge);
   if (look.text.empty()) return;
   const int length = static_cast<int>(look.text.size());
   RECT place{};

@@ -5,6 +5,18 @@
 
 namespace corvane::system {
 
+void fill_rect(HDC dc, const RECT& rect, COLORREF color) {
+  HBRUSH brush = CreateSolidBrush(color);
+  FillRect(dc, &rect, brush);
+  DeleteObject(brush);
+}
+
+void frame_rect(HDC dc, const RECT& rect, COLORREF color) {
+  HBRUSH brush = CreateSolidBrush(color);
+  FrameRect(dc, &rect, brush);
+  DeleteObject(brush);
+}
+
 COLORREF mixed(COLORREF under, COLORREF over, double share) {
   auto channel = [&](int shift) {
     const double low = (under >> shift) & 0xFF;

@@ -1,9 +1,12 @@
 #pragma once
-// Round shapes with soft edges, which the system's own parts of windows are drawn with. Each mixes
-// its colour with the one that it is known to lie on.
+// Rectangles, and round shapes with soft edges, which the system's own parts of windows are drawn
+// with. A round one mixes its colour with the one that it is known to lie on.
 #include "corvane/platform/system/gdi/gdi_api.h"
 
 namespace corvane::system {
+
+void fill_rect(HDC dc, const RECT& rect, COLORREF color);
+void frame_rect(HDC dc, const RECT& rect, COLORREF color);  // one pixel wide, inside
 
 // A share of 0 is all `under`, 1 all `over`.
 COLORREF mixed(COLORREF under, COLORREF over, double share);

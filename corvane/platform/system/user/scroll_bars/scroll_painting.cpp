@@ -33,9 +33,7 @@ class BarPainter {
                     ? RECT{across.begin, along.begin, across.end, along.end}
                     : RECT{along.begin, across.begin, along.end, across.end};
     OffsetRect(&rect, bar_.left, bar_.top);
-    HBRUSH brush = CreateSolidBrush(color);
-    FillRect(dc_, &rect, brush);
-    DeleteObject(brush);
+    fill_rect(dc_, rect, color);
   }
   void fill(ScrollSpan along, COLORREF color) const { fill(along, {0, thickness()}, color); }
 
@@ -95,12 +93,6 @@ COLORREF thumb_color(const Window& window, const ScrollBarState& bar) {
   return has_focus ? kThumbFocused : kThumb;
 }
 
-void fill_corner(HDC dc, const RECT& corner) {
-  HBRUSH brush = CreateSolidBrush(kTrack);
-  FillRect(dc, &corner, brush);
-  DeleteObject(brush);
-}
-
 }  // namespace
 
 void draw_bar(const Window& window, ScrollAxis axis, HDC dc, const RECT& rect) {
@@ -134,7 +126,7 @@ void paint_bars(Window& window) {
   if (dc == nullptr) return;
   RECT corner = bar_corner(window);
   OffsetRect(&corner, client.x, client.y);
-  fill_corner(dc, corner);
+  fill_rect(dc, corner, kTrack);
   system()->gdi.close_dc(dc);
 }
 
